@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include "claims/core/claim_record.h"
+
+namespace claims {
+
+/// What the claim form shows at this moment, for the screens that print, compute and list.
+class ClaimOnDisplay {
+ public:
+  virtual ~ClaimOnDisplay() = default;
+  /// All columns as they stand on the screen.
+  virtual ClaimRecord record() const = 0;
+  /// Names of the unbound check boxes that are set: Check13, Check7, Check8 ...
+  virtual QSet<QString> checks() const = 0;
+  /// Runs the trimming of the form's texts with its message and red captions.
+  virtual void trimForPrint() = 0;
+  /// Window handle for the report engine.
+  virtual quintptr window() const = 0;
+};
+
+/// Run-wide values of the claim screens, one copy.
+struct ClaimsState {
+  ClaimOnDisplay* display = nullptr;  ///< the open claim form, nullptr where none is open
+  QString claimCheck;                 ///< "" or "break": the mark of the last check
+  int previewKind = 0;                ///< 1..6: the fee preview that is open
+  int printKind = 0;                  ///< PrintKind: 1 acupuncture button, 2 massage button
+  ClaimRecord newClaim;               ///< patient's values for 新規レセプト, by claim column name
+};
+
+}  // namespace claims

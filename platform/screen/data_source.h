@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+#include "platform/store/record_set.h"
+
+namespace screen {
+
+class Screen;
+
+/// A screen's data source: a record set whose current row the bound controls show. Faults are told by the
+/// data-control message; the row stays.
+class DataSource {
+ public:
+  explicit DataSource(Screen& screen, int number) : m_screen(screen), m_number(number) {}
+
+  /// Opens the table of the file; on a fault tells it and stays closed (the screen still works).
+  bool open(const QString& path, const QString& table);
+  bool isOpen() const { return m_rows.isOpen(); }
+  store::RecordSet& rows() { return m_rows; }
+  const store::RecordSet& rows() const { return m_rows; }
+  /// Puts another set (a filtered or sorted copy) in the place of the present one and shows its row.
+  void assign(store::RecordSet rows);
+
+  /// Shows the current row in the bound controls (and moves the grid).
+  void show();
+  /// True when a bound control differs from what show() put there, or a row is being added.
+  bool pending() const;
+  /// Writes the pending controls into the row (Edit, Update). False: a fault was told, the row stays.
+  bool write();
+  /// Starts a new row: bound controls go blank. False: told.
+  bool addNew();
+  /// Deletes the current row and shows the neighbour. False: told.
+  bool remove();
+  /// Drops pending edits: an open AddNew is lost, the controls show the row again.
+  void drop();
+
+  // Moves of the record buttons and F1 to F4: pending edits are written first when `writesOnMove`.
+  void moveFirst();
+  void movePrevious();
+  void moveNext();
+  void moveLast();
+  /// Whether moving away writes pending edits (bound screens do; the claim form does not).
+  bool writesOnMove = true;
+
+  /// "ﾚｺｰﾄﾞ: " and the position plus one.
+  QString positionText() const;
+
+ private:
+  void move(void (store::RecordSet::*step)());
+  Screen& m_screen;
+  int m_number;
+  store::RecordSet m_rows;
+};
+
+}  // namespace screen

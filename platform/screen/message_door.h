@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+class QWidget;
+
+namespace voice {
+class VoiceGuide;
+}
+
+namespace screen {
+
+enum class Buttons { Ok, OkCancel, YesNo };
+enum class Icon { None, Information, Question, Exclamation, Stop };
+
+/// Title of a message whose text gives none.
+inline constexpr char16_t kProgramTitle[] = u"治療台帳";
+inline constexpr char16_t kNotFoundTitle[] = u"Not found";
+inline constexpr char16_t kNotFoundText[] = u"該当がありません。";
+inline constexpr char16_t kDataControlText[] = u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :";
+
+/// The one door for messages and questions: spoken, then shown, then remembered. Buttons are named as the
+/// texts say (OK, キャンセル, はい, いいえ), never by the toolkit's language.
+class MessageDoor {
+ public:
+  explicit MessageDoor(voice::VoiceGuide& voice) : m_voice(voice) {}
+  virtual ~MessageDoor() = default;
+
+  /// A message with an OK button.
+  void tell(const QString& text, const QString& title = QString(), Icon icon = Icon::None);
+  /// A question; true for OK or はい. Escape and the close box are the refusal.
+  bool ask(const QString& text, Buttons buttons = Buttons::OkCancel, const QString& title = QString(),
+           Icon icon = Icon::Question);
+  /// A fault of the engine behind the data-control label.
+  void tellDataFault(const QString& engineText);
+
+  /// Tests: answers for the coming questions, in order. With a queue (even an empty one after
+  /// answerFromQueue()) nothing is shown; an unanswered question is refused.
+  void answerFromQueue(const QList<bool>& answers = {});
+  /// Every text told or asked so far, newest last.
+  const QStringList& texts() const { return m_texts; }
+  const QStringList& titles() const { return m_titles; }
+  void forget();
+  /// The window that messages stand before.
+  void setParent(QWidget* window) { m_parent = window; }
+
+ private:
+  bool show(const QString& text, Buttons buttons, const QString& title, Icon icon);
+  voice::VoiceGuide& m_voice;
+  QWidget* m_parent = nullptr;
+  QStringList m_texts, m_titles;
+  QList<bool> m_answers;
+  bool m_queued = false;
+};
+
+}  // namespace screen

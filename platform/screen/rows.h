@@ -1,0 +1,270 @@
+#pragma once
+
+#include <span>
+#include <type_traits>
+#include <utility>
+#include <variant>
+
+// The rows that a screen is declared with. Leaving out a row's name, caption, binding or action does not
+// compile: these types have no default constructor and refuse empty text at compile time.
+
+namespace screen {
+
+class Screen;
+
+/// Text that is never empty.
+class Words {
+ public:
+  consteval Words(const char16_t* text) : m_text(text) {
+    if (text == nullptr || text[0] == u'\0') throw "a row needs a text here";
+  }
+  constexpr const char16_t* get() const { return m_text; }
+
+ private:
+  const char16_t* m_text;
+};
+
+/// objectName of a control: {u"txtFields", 4} is "txtFields(4)", {u"cmdUpdate"} is "cmdUpdate".
+class ControlName {
+ public:
+  consteval ControlName(const char16_t* name) : m_family(name), m_index(-1) { refuseEmpty(); }
+  consteval ControlName(const char16_t* family, int index) : m_family(family), m_index(index) { refuseEmpty(); }
+  constexpr const char16_t* family() const { return m_family; }
+  constexpr int index() const { return m_index; }
+
+ private:
+  consteval void refuseEmpty() const {
+    if (m_family == nullptr || m_family[0] == u'\0') throw "a control needs a name";
+  }
+  const char16_t* m_family;
+  int m_index;
+};
+
+/// The column a control is bound to: Column{u"氏名"}, or Column{u"a1", 2} for the screen's second source.
+struct Column {
+  const char16_t* name;
+  int source;
+  consteval Column(const char16_t* columnName, int sourceNumber = 1) : name(columnName), source(sourceNumber) {
+    if (columnName == nullptr || columnName[0] == u'\0') throw "a bound control needs a column";
+  }
+};
+
+/// No column, on purpose; the reason is for the reader.
+struct Unbound {
+  const char16_t* reason;
+  consteval Unbound(const char16_t* why) : reason(why) {
+    if (why == nullptr || why[0] == u'\0') throw "say why the control is not bound";
+  }
+};
+
+class Binding {
+ public:
+  consteval Binding(Column column) : m_column(column.name), m_source(column.source) {}
+  consteval Binding(Unbound) : m_column(nullptr), m_source(0) {}
+  constexpr bool bound() const { return m_column != nullptr; }
+  constexpr const char16_t* column() const { return m_column; }
+  constexpr int source() const { return m_source; }
+
+ private:
+  const char16_t* m_column;
+  int m_source;
+};
+
+/// A handler: the screen and the index of the control in its family (-1: no family).
+using Handler = void (*)(Screen&, int);
+
+namespace detail {
+template <class T>
+struct MethodClass;
+template <class C>
+struct MethodClass<void (C::*)()> {
+  using Type = C;
+};
+template <class C>
+struct MethodClass<void (C::*)(int)> {
+  using Type = C;
+};
+template <auto Method>
+void thunk(Screen& screen, int index) {
+  using Type = typename MethodClass<decltype(Method)>::Type;
+  if constexpr (std::is_invocable_v<decltype(Method), Type&, int>)
+    (static_cast<Type&>(screen).*Method)(index);
+  else
+    (static_cast<Type&>(screen).*Method)();
+}
+}  // namespace detail
+
+/// An action that a row must have: .run = run<&PatientScreen::store>. The method takes nothing or the
+/// control's index.
+class Run {
+ public:
+  consteval explicit Run(Handler handler) : m_handler(handler) {
+    if (handler == nullptr) throw "a command needs an action";
+  }
+  constexpr Handler handler() const { return m_handler; }
+
+ private:
+  Handler m_handler;
+};
+template <auto Method>
+inline constexpr Run run{&detail::thunk<Method>};
+
+/// An optional handler: .onEnter = call<&PatientScreen::refreshAge>.
+template <auto Method>
+inline constexpr Handler call = &detail::thunk<Method>;
+
+/// A text field, of one line or more. `lines` above 1 makes a memo.
+struct TextField {
+  ControlName name;
+  Words caption;  ///< as on the screen, colon included; spoken and accessible name
+  Binding bind;
+  int limit = 255;                 ///< characters that can be typed
+  int width = 20;                  ///< characters shown, a hint for the layout
+  int lines = 1;
+  bool readOnly = false;
+  const char16_t* say = nullptr;   ///< spoken on focus instead of caption and value
+  const char16_t* tip = nullptr;   ///< accessible description
+  Handler onEnter = nullptr;       ///< Enter or Return in the field
+  Handler onLeave = nullptr;       ///< focus leaves; may call keepFocus()
+  Handler onEdit = nullptr;        ///< the user changed the text
+};
+
+/// A family of like text fields: names family(first) .. family(first+count-1); "%1" in caption and column
+/// stands for 1, 2, ... (`number` + n).
+struct TextRun {
+  ControlName name;  ///< {u"txtFields", 60}: family and first index
+  int count;
+  Words caption;     ///< u"%1日 治療内容"
+  Binding bind;      ///< Column{u"治療内容%1"}
+  int limit = 255;
+  int width = 4;
+  int perLine = 7;   ///< fields beside each other
+  bool readOnly = false;
+  int number = 1;    ///< what %1 is for the first field
+  const char16_t* tip = nullptr;
+  Handler onEnter = nullptr;
+  Handler onLeave = nullptr;
+  Handler onEdit = nullptr;
+};
+
+/// A list to choose from; editable: the text may also be typed.
+struct Combo {
+  ControlName name;
+  Words caption;
+  Binding bind;
+  std::span<const char16_t* const> items = {};  ///< fixed items; further ones by setItems()
+  bool editable = false;
+  int limit = 255;
+  int width = 16;
+  const char16_t* say = nullptr;
+  const char16_t* tip = nullptr;
+  Handler onEdit = nullptr;   ///< chosen or typed by the user
+  Handler onLeave = nullptr;
+};
+
+/// A tick. Bound to a yes/no column it stores -1/0, to a text column the two texts.
+struct Check {
+  ControlName name;
+  Words caption;
+  Binding bind;
+  const char16_t* on = u"-1";
+  const char16_t* off = u"0";
+  const char16_t* tip = nullptr;
+  const char16_t* group = nullptr;  ///< word put before the accessible name where the caption alone is not enough
+  bool marksDirty = false;          ///< sets the screen's check flag (checkChanged) when the user changes it
+  Handler onToggle = nullptr;
+};
+
+/// One button of a group of option buttons.
+struct Choice {
+  ControlName name;
+  Words caption;
+  const char16_t* value;  ///< stored text when chosen
+};
+
+/// Option buttons of which one is chosen. The accessible name of each carries the group's caption.
+struct Options {
+  ControlName name;  ///< the frame, e.g. {u"Frame1"}
+  Words caption;
+  Binding bind;
+  std::span<const Choice> choices;
+  const char16_t* tip = nullptr;
+  bool marksDirty = false;
+  Handler onChoose = nullptr;
+};
+
+/// A button and, where `under` is given, its menu twin of the same action.
+struct Command {
+  ControlName name;
+  Words caption;
+  Run run;
+  const char16_t* menu = nullptr;     ///< objectName of the twin: u"Men_FU"
+  const char16_t* under = nullptr;    ///< menu it stands under: u"ファイル(&F)"
+  const char16_t* menuCaption = nullptr;  ///< where it differs from the button's
+  const char16_t* key = nullptr;      ///< key sequence, e.g. u"F1"
+  const char16_t* say = nullptr;      ///< sentence of its own on focus
+  const char16_t* tip = nullptr;
+  bool standard = false;              ///< Enter anywhere that no field takes runs it
+};
+
+/// A menu entry without a button.
+struct Entry {
+  ControlName name;
+  const char16_t* under;
+  Words caption;
+  Run run;
+  const char16_t* key = nullptr;
+};
+
+/// A text on the screen that takes no focus. `spoken`: part of the heading that is spoken on load.
+struct Note {
+  ControlName name;
+  Words caption;
+  bool spoken = false;
+};
+
+/// Structure. A page of the tab strip, a titled group with fields in columns, a row of commands.
+struct Page {
+  Words caption;
+};
+struct Group {
+  ControlName name;
+  Words caption;
+  int columns = 2;
+};
+struct EndGroup {};
+struct Bar {};
+struct EndBar {};
+
+/// A column of a grid.
+struct GridColumn {
+  const char16_t* column;
+  const char16_t* caption;
+};
+
+/// A grid over a source's record set: real item view, lazy, cells reachable by arrow keys and spoken as
+/// column caption, separator, value.
+struct Grid {
+  ControlName name;
+  Words caption;
+  int source;
+  std::span<const GridColumn> columns;
+  Handler onActivate = nullptr;  ///< Enter or double click on a row
+  Handler onMove = nullptr;      ///< current row changed
+};
+
+using Row = std::variant<TextField, TextRun, Combo, Check, Options, Command, Entry, Note, Page, Group, EndGroup,
+                         Bar, EndBar, Grid>;
+using Rows = std::span<const Row>;
+
+/// A screen as it is declared: names, rows, and what it says when it opens.
+struct ScreenRow {
+  Words name;      ///< screen name, its objectName: 治療台帳4
+  Words caption;   ///< window title
+  Rows rows;
+  int sources = 0;                     ///< number of data sources
+  const char16_t* heading = nullptr;   ///< spoken when it opens, before the notes marked as spoken
+  bool functionKeys = false;           ///< F1 to F4 are first, previous, next, last of source 1
+};
+
+}  // namespace screen

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QString>
+#include <memory>
+#include <vector>
+
+#include "platform/screen/data_source.h"
+#include "platform/screen/message_door.h"
+#include "platform/screen/navigator.h"
+#include "platform/screen/rows.h"
+#include "platform/voice/voice_guide.h"
+
+namespace screen {
+
+/// What every screen is handed: voice, messages, the way to other screens.
+struct Services {
+  voice::VoiceGuide& voice;
+  MessageDoor& messages;
+  Navigator& navigator;
+};
+
+/// Base of all screens. The constructor builds the widgets from the declared rows; nothing else makes
+/// widgets. Controls are addressed by their objectName ("txtFields(4)").
+class Screen : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  Screen(const ScreenRow& declaration, Services& services);
+  ~Screen() override;
+
+  const ScreenRow& declaration() const { return m_declaration; }
+
+  // Life. The navigator calls these.
+  virtual void onLoad() {}                    ///< once after building, before the first show: sources, lists
+  virtual void opened(const Request&) {}      ///< at every show() through the navigator
+  virtual void onActivate() {}                ///< each time the window becomes the active one
+  virtual bool onCloseBox() { return true; }  ///< the window's own close box; false: stays open
+  virtual void onClosed() {}                  ///< after it closed
+
+  // Values of controls.
+  QString text(const QString& control) const;
+  /// Sets a text as the program does (no onEdit, no dirty mark).
+  void setText(const QString& control, const QString& text);
+  bool checked(const QString& control) const;
+  void setChecked(const QString& control, bool on);
+  /// The stored value of the chosen option of a group ("" where none is chosen), and choosing by value.
+  QString chosen(const QString& group) const;
+  void choose(const QString& group, const QString& value);
+  QStringList items(const QString& combo) const;
+  void setItems(const QString& combo, const QStringList& items);
+
+  // Looks.
+  void setShown(const QString& control, bool shown);   ///< with its label
+  bool isControlShown(const QString& control) const;   ///< as set, whether or not the window shows
+  void setEnabledControl(const QString& control, bool enabled);
+  void setCaption(const QString& control, const QString& caption);  ///< label, accessible name and speech
+  QString caption(const QString& control) const;
+  void setTip(const QString& control, const QString& tip);
+  void setCaptionRed(const QString& control, bool red);
+  bool isCaptionRed(const QString& control) const;
+  void focusOn(const QString& control);
+  QString focused() const;                              ///< objectName of the control with the focus
+  void showPage(const QString& caption);
+  /// In an onLeave handler: the focus goes back to the control being left.
+  void keepFocus();
+
+  /// Does what the button or the menu entry does.
+  void trigger(const QString& command);
+
+  // Dirty mark of checks and options declared with marksDirty (checkChanged).
+  bool checkChanged() const { return m_checkChanged; }
+  void clearCheckChanged() { m_checkChanged = false; }
+
+  DataSource& source(int number = 1) { return *m_sources.at(static_cast<size_t>(number - 1)); }
+  const DataSource& source(int number = 1) const { return *m_sources.at(static_cast<size_t>(number - 1)); }
+
+  Services& services() { return m_services; }
+  voice::VoiceGuide& voice() { return m_services.voice; }
+  MessageDoor& messages() { return m_services.messages; }
+  Navigator& navigator() { return m_services.navigator; }
+
+  /// Speaks heading and spoken notes; called once a load, after the first focus.
+  void speakOpening();
+  /// What speakOpening() says; screens with their own sentence override it.
+  virtual QStringList openingTexts() const;
+  /// Moves of the record buttons; screens with checks before a move override them.
+  virtual void goFirst() { source().moveFirst(); }
+  virtual void goPrevious() { source().movePrevious(); }
+  virtual void goNext() { source().moveNext(); }
+  virtual void goLast() { source().moveLast(); }
+  /// After a source showed another row (position captions, month-dependent captions ...).
+  virtual void rowShown(int /*sourceNumber*/) {}
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  friend class Builder;
+  friend class DataSource;
+  struct Parts;
+  const ScreenRow& m_declaration;
+  Services& m_services;
+  std::vector<std::unique_ptr<DataSource>> m_sources;
+  std::unique_ptr<Parts> m_parts;
+  bool m_checkChanged = false;
+};
+
+}  // namespace screen

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <memory>
+
+#include "platform/text/result.h"
+
+namespace store {
+
+using text::Done;
+using text::Fault;
+using text::Result;
+
+class Database;
+
+/// A place in a record set that stays valid while rows come and go: the row's ID.
+using Bookmark = qint64;
+inline constexpr Bookmark kNoBookmark = -1;
+
+/// One column's value. All values travel as text: a null QString is NULL in the file, yes/no is "-1"
+/// or "0", a number its decimal digits.
+using Value = QString;
+
+/// The rows of one table as a screen walks them: one current row, moved by the calls below.
+///
+/// The set holds the IDs of its rows in order; a row is read when it becomes current, so that a list of
+/// a hundred thousand rows never reads the table whole. A filtered or sorted set is a copy made by
+/// openRecordset(); the original is not changed.
+///
+/// A row that another computer changed between edit() (or the reading of the row) and update() is
+/// refused with the engine's text, and the row buffer is kept. Text longer than its column holds is
+/// refused likewise, never cut.
+class RecordSet {
+ public:
+  RecordSet();
+  ~RecordSet();
+  RecordSet(RecordSet&&) noexcept;
+  RecordSet& operator=(RecordSet&&) noexcept;
+
+  /// Opens a bare table name as a whole row set in ID order.
+  static Result<RecordSet> open(std::shared_ptr<Database> database, const QString& table);
+
+  bool isOpen() const;
+  QString table() const;
+  std::shared_ptr<Database> database() const;
+
+  int recordCount() const;
+  bool bof() const;
+  bool eof() const;
+  /// Position of the current row counted from 0; -1 where there is none.
+  int absolutePosition() const;
+  void setAbsolutePosition(int position);
+
+  void moveFirst();
+  void moveLast();
+  void moveNext();
+  void movePrevious();
+
+  Bookmark bookmark() const;
+  void setBookmark(Bookmark bookmark);
+  /// The row that the last update() wrote.
+  Bookmark lastModified() const;
+
+  /// The current row's value (of the row buffer while editing). A column that the table lacks reads null.
+  Value value(const QString& column) const;
+  /// The value of any row of the set by position, for lists; the current row does not move.
+  Value valueAt(int position, const QString& column) const;
+
+  Done addNew();
+  Done edit();
+  bool editing() const;
+  bool adding() const;
+  /// Sets a column of the row buffer. Refuses an unknown column.
+  Done setValue(const QString& column, const Value& value);
+  /// Writes the row buffer. The current row stays where it was (moving to the new row is the caller's:
+  /// setBookmark(lastModified())).
+  Done update();
+  void cancelUpdate();
+  /// Deletes the current row; the set then stands before the next one, as after movePrevious().
+  Done remove();
+
+  /// Criteria of the closed query subset, for openRecordset(); blank: all rows. May end in "order by ID".
+  void setFilter(const QString& criteria);
+  /// "<column> ASC", "<column> DESC", or a comma-separated list of such.
+  void setSort(const QString& order);
+  /// The filtered and sorted copy; a wrong criteria text gives the engine's error text.
+  Result<RecordSet> openRecordset() const;
+
+  Done findFirst(const QString& criteria);
+  Done findNext(const QString& criteria);
+  bool noMatch() const;
+
+  /// Reads the set again from the file, keeping filter, sort and, where it still stands, the row.
+  Done refresh();
+
+ private:
+  struct State;
+  std::unique_ptr<State> m_state;
+};
+
+}  // namespace store
