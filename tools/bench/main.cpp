@@ -1,0 +1,43 @@
+// bench: workloads for measuring. One line a figure: name, value, unit.
+
+#include <QCoreApplication>
+#include <cstdio>
+
+#include "tools/bench/commands.h"
+
+namespace bench {
+
+void figure(const char* name, double value, const char* unit) {
+  std::printf("%s %.6g %s\n", name, value, unit);
+  std::fflush(stdout);
+}
+
+namespace {
+
+struct CommandRow {
+  const char* name;
+  int (*run)(const QStringList&);
+};
+
+constexpr CommandRow kCommands[] = {
+    {"print", print}, {"jobs", jobs},           {"make", make}, {"find", find},
+    {"list", list},   {"recompute", recompute}, {"pair", pair}, {"settings", settings},
+};
+
+}  // namespace
+}  // namespace bench
+
+int main(int argc, char** argv) {
+  QCoreApplication application(argc, argv);
+  QStringList arguments = QCoreApplication::arguments().mid(1);
+  if (!arguments.isEmpty()) {
+    const QString word = arguments.takeFirst();
+    for (const bench::CommandRow& row : bench::kCommands) {
+      if (word == QLatin1String(row.name)) return row.run(arguments);
+    }
+  }
+  std::fputs("usage: bench print N OUT.pdf | jobs N DIR | make DIR PATIENTS VISITS CLAIMS | find DIR | list DIR |\n"
+             "       recompute DIR N | pair make|store|check DIR [STAMP] | settings make|store|check DIR [STAMP]\n",
+             stderr);
+  return 2;
+}
