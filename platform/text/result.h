@@ -24,6 +24,7 @@ class [[nodiscard]] Result {
   T& value() { return std::get<T>(m_content); }
   const T& value() const { return std::get<T>(m_content); }
   T* operator->() { return &value(); }
+  const T* operator->() const { return &value(); }
   T& operator*() { return value(); }
   const T& operator*() const { return value(); }
   const Fault& fault() const { return std::get<Fault>(m_content); }

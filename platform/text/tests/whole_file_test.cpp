@@ -1,0 +1,40 @@
+#include "platform/text/whole_file.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+using namespace text;
+
+TEST(WholeFile, ReplacesTheOldContentsAndLeavesNothingBeside) {
+  QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("見本.txt"));
+  ASSERT_TRUE(writeWholeFile(path, "first and long"));
+  ASSERT_TRUE(writeWholeFile(path, "second"));
+  EXPECT_EQ(*readWholeFile(path), "second");
+  EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden),
+            QStringList{QStringLiteral("見本.txt")});
+}
+
+TEST(WholeFile, AFaultNamesTheFileAndTheOldContentsStay) {
+  QTemporaryDir folder;
+  const QString lost = folder.filePath("none/qv.dat");
+  EXPECT_TRUE(writeWholeFile(lost, "x").fault().message.startsWith(lost));
+  EXPECT_TRUE(readWholeFile(lost).fault().message.startsWith(lost));
+}
+
+TEST(WholeFile, PermissionsStayAndLinksAreFollowed) {
+  QTemporaryDir folder;
+  const QString path = folder.filePath("real"), link = folder.filePath("link");
+  ASSERT_TRUE(writeWholeFile(path, "a"));
+  ASSERT_TRUE(QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner));
+  ASSERT_TRUE(QFile::link(path, link));
+  ASSERT_TRUE(writeWholeFile(link, "b"));
+  EXPECT_TRUE(QFileInfo(link).isSymLink());
+  EXPECT_EQ(*readWholeFile(path), "b");
+  EXPECT_FALSE(QFileInfo(path).permission(QFileDevice::ReadOther));
+}
