@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QString>
+#include <array>
 
 namespace claims {
 
@@ -22,12 +23,30 @@ class ClaimRecord {
   bool blank(const QString& column) const { return get(column).isEmpty(); }
 
   /// 治療内容1..31 and 往療距離1..31.
-  QString code(int day) const { return get(QStringLiteral("治療内容") + QString::number(day)); }
-  QString visit(int day) const { return get(QStringLiteral("往療距離") + QString::number(day)); }
+  QString code(int day) const { return get(codeColumn(day)); }
+  QString visit(int day) const { return get(visitColumn(day)); }
+
+  /// The column names of a day (1..31), built once for the run.
+  static const QString& codeColumn(int day) {
+    static const auto names = dayColumns(QStringLiteral("治療内容"));
+    return names.at(static_cast<size_t>(day));
+  }
+  static const QString& visitColumn(int day) {
+    static const auto names = dayColumns(QStringLiteral("往療距離"));
+    return names.at(static_cast<size_t>(day));
+  }
 
   const QHash<QString, QString>& columns() const { return m_columns; }
+  /// Room for the given number of columns.
+  void reserve(int columns) { m_columns.reserve(columns); }
 
  private:
+  static std::array<QString, 32> dayColumns(const QString& stem) {
+    std::array<QString, 32> names;
+    for (int day = 1; day <= 31; ++day) names[static_cast<size_t>(day)] = stem + QString::number(day);
+    return names;
+  }
+
   QHash<QString, QString> m_columns;
 };
 

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <span>
+
+#include "claims/core/amounts.h"
+#include "claims/core/area_boxes.h"
+#include "claims/core/claim_record.h"
+
+namespace claims {
+
+/// What the rules of the store need from outside.
+struct StoreContext {
+  const frame::EraDates& era;
+  const FeeFiles& files;
+  FeeSource& fees;
+};
+
+/// A claim as 登録 writes it.
+struct StoredClaim {
+  ClaimRecord claim;
+  QStringList written;                     ///< columns that the store writes itself, beside what was typed
+  ClaimAmounts amounts;
+  std::optional<text::Fault> calculation;  ///< the engine's fault where no amounts could be computed
+};
+
+/// The rule part of 登録, from the blank ふりがな to the record of the amounts: keys, derived kinds, 負担割合,
+/// 保険順位, summary code, cleared and computed columns of both halves. The checks, trimming and questions
+/// come before it and are the form's.
+///
+/// `boxes`: the boxes 施術回数 as they stand on the form, where the user may have corrected them. Without
+/// them the claim's own d3 to d11 are kept, and counted anew where all are blank.
+StoredClaim storeClaim(const ClaimRecord& claim, const StoreContext& context,
+                       const std::optional<AreaBoxes>& boxes = std::nullopt);
+
+/// The columns of the first half that the calculation clears before it writes.
+std::span<const char16_t* const> calculatedColumns();
+/// The eight of the second half.
+std::span<const char16_t* const> calculatedColumnsSecond();
+
+}  // namespace claims

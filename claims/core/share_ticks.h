@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+#include <array>
+
+#include "claims/core/claim_record.h"
+
+namespace claims {
+
+/// One tick of the form's right-hand box: its word in 負担割合 and the name of its check box.
+struct ShareTick {
+  const char16_t* word;
+  const char16_t* column;
+};
+
+/// In the order in which 負担割合 joins them. 三歳未満 is the older word for 就学前 and stays in the text.
+inline constexpr std::array<ShareTick, 6> kShareTicks = {{{u"本人", u"本人"},
+                                                          {u"三歳未満", u"就学前"},
+                                                          {u"家族", u"家族"},
+                                                          {u"高齢9", u"高齢9"},
+                                                          {u"高齢8", u"高齢8"},
+                                                          {u"高齢7", u"高齢7"}}};
+
+/// The ticks by the order of kShareTicks.
+using ShareTicks = std::array<bool, 6>;
+
+/// "本人,高齢8,": each word with its comma; blank without ticks.
+QString shareTicksText(const ShareTicks& ticks);
+ShareTicks shareTicksOf(const QString& text);
+/// The ticks of a claim: its tick values where it carries any, else the text of 負担割合.
+ShareTicks shareTicksOf(const ClaimRecord& claim);
+
+}  // namespace claims
