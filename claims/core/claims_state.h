@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "claims/core/claim_record.h"
+#include "claims/core/print_chooser.h"
 
 namespace claims {
 
@@ -20,6 +21,8 @@ class ClaimOnDisplay {
   virtual void trimForPrint() = 0;
   /// Window handle for the report engine.
   virtual quintptr window() const = 0;
+  /// Puts a text into the form's field of a column, as the helper windows do; it is kept by 登録 only.
+  virtual void put(const QString& column, const QString& text) { Q_UNUSED(column) Q_UNUSED(text) }
 };
 
 /// Run-wide values of the claim screens, one copy.
@@ -28,6 +31,8 @@ struct ClaimsState {
   QString claimCheck;                 ///< "" or "break": the mark of the last check
   int previewKind = 0;                ///< 1..6: the fee preview that is open
   int printKind = 0;                  ///< PrintKind: 1 acupuncture button, 2 massage button
+  PrintScreenChooser choosePrintScreen;  ///< of printing, set at start
+  PrinterSetup printerSetup;             ///< the printer's dialog, set at start
   ClaimRecord newClaim;               ///< patient's values for 新規レセプト, by claim column name
 };
 
