@@ -16,7 +16,8 @@ struct ProfileField {
   const char16_t* claimColumn;
 };
 
-/// All fields in the order of the screen 登録.
+/// All fields in the order of the screen 登録. A tick or a choice stands with the control that sets it:
+/// 63 is "on" with あマ含む, 17 is "4" with its option and else "3", 89 is "5" with its option and else "6".
 std::span<const ProfileField> profileFields();
 
 /// ClinicProfile: what the program knows of the practice itself, one value per slot.

@@ -21,11 +21,11 @@ struct EraParts {
 
 /// Today as the menus use it.
 struct TodayParts {
-  QString eraYear;     ///< "令和1年"; blank where the platform's own answer already serves
+  QString eraYear;     ///< "令和1年"; of an earlier era where today lies in one
   QString month;       ///< "5"
   QString day;         ///< "25"
   QString eraDate;     ///< today in the platform's era form
-  QString reiwaDate;   ///< today in the "令和n年m月d日" form
+  QString reiwaDate;   ///< today in the "令和n年m月d日" form; the platform's form outside the table
 };
 
 /// The one implementation of the era operations. The texts that dates are kept as are told with each
@@ -34,10 +34,11 @@ class EraDates {
  public:
   EraDates(EraCapability capability, const text::Clock& clock) : m_capability(capability), m_clock(clock) {}
 
-  /// The platform's date test and reading: western ("2019/5/25", "2019-5-25", with or without zeros), era
-  /// ("令和6年10月1日", 元 too), under the capability (令和 is unknown to a platform without it).
+  /// The platform's date test and reading (date_reader.h tells every accepted form), under the capability:
+  /// 令和 is unknown to a platform without it.
   std::optional<QDate> platformDate(const QString& text) const;
-  /// The platform's formatter for "ggge年m月d日".
+  /// The platform's formatter for "ggge年m月d日". The first year is 1, never 元. A platform without 令和 goes
+  /// on counting 平成. Before 明治 there is no era: "1867年1月1日".
   QString formatEra(QDate date) const;
   /// FormatEra: a text that the date test accepts, in "ggge年m月d日".
   std::optional<QString> formatEra(const QString& text) const;
@@ -45,9 +46,14 @@ class EraDates {
   TodayParts todayEraParts() const;
   /// The main menu's own copy, whose list runs one place on: there 平成32年 becomes 令和3年.
   TodayParts todayEraPartsMenu() const;
-  /// ParseEraDate: shorthand (R1/5/1, r01/5/1) or 令和 text to "yyyy/m/d".
+  /// ParseEraDate: shorthand (R1/5/1, r01/5/1; 令和1 to 20) or 令和 text (any year, by its characters) to
+  /// "yyyy/m/d". A day that does not exist cannot be read. A month's text means its first day.
   std::optional<QString> parseEraDate(const QString& text) const;
+  /// WesternToReiwa: "2019/" to "2038/" or a shorthand to "令和n年m月d日". The year alone decides: 1 January
+  /// of 2019 is 令和1年 here.
   std::optional<QString> westernToReiwa(const QString& text) const;
+  /// HeiseiToReiwa: a day that the platform formats as 平成31年 to 平成50年 as 令和1年 to 20年, by the era year
+  /// alone; earlier eras are left (nullopt).
   std::optional<QString> heiseiToReiwa(QDate date) const;
   bool isAfterReiwaCutover(QDate date, QDate cutover) const { return date >= cutover; }
   /// Completed years by the yyyymmdd arithmetic with halves to the even neighbour.
@@ -64,7 +70,8 @@ class EraDates {
   std::optional<QDate> anyDate(const QString& text) const;
   /// claimMonthToDate: an era month ("令和6年10月") as the first of that month.
   std::optional<QDate> claimMonthToDate(const QString& month) const;
-  /// Era, year, month and day of any accepted text, for the boxes of the forms.
+  /// Era, year, month and day of any accepted text, for the boxes of the forms: as written where the text
+  /// names an era (平成31年5月1日 stays 平成 31), by the day where it is western.
   std::optional<EraParts> parts(const QString& text) const;
   static EraParts partsOf(QDate date);
 
@@ -72,6 +79,9 @@ class EraDates {
   const text::Clock& clock() const { return m_clock; }
 
  private:
+  /// Today by the table of 平成31年 on; `doubledRow` is how many rows its second test is written once more.
+  TodayParts today(int doubledRow) const;
+
   EraCapability m_capability;
   const text::Clock& m_clock;
 };

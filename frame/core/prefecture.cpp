@@ -1,0 +1,40 @@
+#include "frame/core/prefecture.h"
+
+#include <array>
+
+#include "platform/text/whole_file.h"
+#include "platform/text/width.h"
+
+namespace frame {
+namespace {
+
+constexpr std::array kEditions = {
+    u"北海道版", u"青森県版", u"岩手県版", u"宮城県版", u"秋田県版", u"山形県版",   u"福島県版", u"茨城県版",
+    u"栃木県版", u"群馬県版", u"埼玉県版", u"千葉県版", u"東京都版", u"神奈川県版", u"新潟県版", u"富山県版",
+    u"石川県版", u"福井県版", u"山梨県版", u"長野県版", u"岐阜県版", u"静岡県版",   u"愛知県版", u"三重県版",
+    u"滋賀県版", u"京都府版", u"大阪府版", u"兵庫県版", u"奈良県版", u"和歌山県版", u"鳥取県版", u"島根県版",
+    u"岡山県版", u"広島県版", u"山口県版", u"徳島県版", u"香川県版", u"愛媛県版",   u"高知県版", u"福岡県版",
+    u"佐賀県版", u"長崎県版", u"熊本県版", u"大分県版", u"宮崎県版", u"鹿児島県版", u"沖縄県版"};
+static_assert(kEditions.size() == 47);
+
+}  // namespace
+
+std::optional<QString> prefectureEdition(const QString& code) {
+  bool isNumber = false;
+  const uint number = code.toUInt(&isNumber);
+  if (!isNumber || code.size() != 2 || number < 1 || number > kEditions.size()) return std::nullopt;
+  return QString::fromUtf16(kEditions[number - 1]);
+}
+
+QString readPrefectureCode(const QString& programFolder) {
+  const auto bytes = text::readWholeFile(programFolder + u'/' + QString::fromUtf16(kPrefectureFile));
+  if (!bytes) return QString();
+  const QString code = text::asciiDigits(QString::fromUtf8(*bytes)).trimmed();
+  bool isNumber = false;
+  code.toUInt(&isNumber);
+  return isNumber && code.size() <= 2 ? twoDigitPrefecture(code) : QString();
+}
+
+QString twoDigitPrefecture(const QString& text) { return text.size() == 1 ? u'0' + text : text; }
+
+}  // namespace frame

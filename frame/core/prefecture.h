@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+namespace frame {
+
+/// PrefectureEdition: "北海道版" for "01" to "沖縄県版" for "47", in the national order; nothing for any
+/// other code.
+std::optional<QString> prefectureEdition(const QString& code);
+
+/// The installation record of the prefecture: the code in the text file beside the program. Blank where
+/// the file is missing or holds no code of one or two digits.
+QString readPrefectureCode(const QString& programFolder);
+
+/// A code as it is kept: a text of one character gets a "0" put before it.
+QString twoDigitPrefecture(const QString& text);
+
+/// Name of the installation record.
+inline constexpr char16_t kPrefectureFile[] = u"prefecture.txt";
+
+}  // namespace frame
