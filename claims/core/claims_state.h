@@ -33,7 +33,7 @@ struct ClaimsState {
   int printKind = 0;                  ///< PrintKind: 1 acupuncture button, 2 massage button
   PrintScreenChooser choosePrintScreen;  ///< of printing, set at start
   PrinterSetup printerSetup;             ///< the printer's dialog, set at start
-  ClaimRecord newClaim;               ///< patient's values for 新規レセプト, by claim column name
+  ClaimRecord newClaim;               ///< the patient's columns (of table 臨床QV) that 新規レセプト was opened with
 };
 
 }  // namespace claims

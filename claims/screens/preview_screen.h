@@ -1,0 +1,31 @@
+#pragma once
+
+#include "claims/core/claims_state.h"
+#include "frame/core/run_state.h"
+#include "platform/screen/screen.h"
+
+namespace claims {
+
+/// The six fee previews of 施術料金計算, one class under six names: each line of the claim's money is a field
+/// that Tab speaks, then the total, the share and the amount claimed. Nothing is written.
+class PreviewScreen : public screen::Screen {
+ public:
+  PreviewScreen(const screen::ScreenRow& declaration, screen::Services& services, frame::RunState& run,
+                ClaimsState& state);
+
+  void opened(const screen::Request& request) override;
+  void onClosed() override;
+  void finish();
+  void openShareTable();
+
+ private:
+  void showLine(int index, const QString& caption, const QString& value);
+
+  frame::RunState& m_run;
+  ClaimsState& m_state;
+};
+
+/// The six declared screens, in the order of their previewKind 1 to 6.
+std::span<const screen::ScreenRow> previewScreens();
+
+}  // namespace claims
