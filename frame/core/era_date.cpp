@@ -158,8 +158,8 @@ std::optional<QDate> EraDates::anyDate(const QString& text) const {
 }
 
 std::optional<QDate> EraDates::claimMonthToDate(const QString& month) const {
-  if (const auto date = anyDate(month + QStringLiteral("1日"))) return date;
-  const auto date = anyDate(month);
+  auto date = anyDate(month + QStringLiteral("1日"));
+  if (!date) date = anyDate(month);
   return date ? std::optional(QDate(date->year(), date->month(), 1)) : std::nullopt;
 }
 

@@ -68,7 +68,8 @@ class EraDates {
   bool isDateOk(const QString& text) const;
   /// Any accepted form as a date: the date test, else the program's own conversion.
   std::optional<QDate> anyDate(const QString& text) const;
-  /// claimMonthToDate: an era month ("令和6年10月") as the first of that month.
+  /// claimMonthToDate: an era month ("令和6年10月") as the first of that month. Any other text that the date
+  /// test of the claim checks lets pass serves by its month, so that no claim is left without amounts.
   std::optional<QDate> claimMonthToDate(const QString& month) const;
   /// Era, year, month and day of any accepted text, for the boxes of the forms: as written where the text
   /// names an era (平成31年5月1日 stays 平成 31), by the day where it is western.

@@ -1,5 +1,6 @@
 #include "frame/core/prefecture.h"
 
+#include <algorithm>
 #include <array>
 
 #include "platform/text/whole_file.h"
@@ -17,12 +18,16 @@ constexpr std::array kEditions = {
     u"佐賀県版", u"長崎県版", u"熊本県版", u"大分県版", u"宮崎県版", u"鹿児島県版", u"沖縄県版"};
 static_assert(kEditions.size() == 47);
 
+bool isDigits(const QString& text) {
+  return std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
 }  // namespace
 
 std::optional<QString> prefectureEdition(const QString& code) {
-  bool isNumber = false;
-  const uint number = code.toUInt(&isNumber);
-  if (!isNumber || code.size() != 2 || number < 1 || number > kEditions.size()) return std::nullopt;
+  if (code.size() != 2 || !isDigits(code)) return std::nullopt;
+  const uint number = code.toUInt();
+  if (number < 1 || number > kEditions.size()) return std::nullopt;
   return QString::fromUtf16(kEditions[number - 1]);
 }
 
@@ -30,9 +35,7 @@ QString readPrefectureCode(const QString& programFolder) {
   const auto bytes = text::readWholeFile(programFolder + u'/' + QString::fromUtf16(kPrefectureFile));
   if (!bytes) return QString();
   const QString code = text::asciiDigits(QString::fromUtf8(*bytes)).trimmed();
-  bool isNumber = false;
-  code.toUInt(&isNumber);
-  return isNumber && code.size() <= 2 ? twoDigitPrefecture(code) : QString();
+  return isDigits(code) && code.size() <= 2 ? twoDigitPrefecture(code) : QString();
 }
 
 QString twoDigitPrefecture(const QString& text) { return text.size() == 1 ? u'0' + text : text; }

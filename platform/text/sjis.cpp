@@ -1,6 +1,7 @@
 #include "platform/text/sjis.h"
 
 #include <unicode/ucnv.h>
+#include <unicode/ucnv_cb.h>
 
 #include <QList>
 #include <memory>
@@ -13,12 +14,22 @@ struct Closer {
 };
 using Converter = std::unique_ptr<UConverter, Closer>;
 
+/// Bytes that are no character become U+FFFD each; the library would put a control character for some.
+void replaceBrokenBytes(const void*, UConverterToUnicodeArgs* arguments, const char*, int32_t,
+                        UConverterCallbackReason reason, UErrorCode* status) {
+  if (reason > UCNV_IRREGULAR) return;
+  constexpr UChar kReplacement = 0xFFFD;
+  *status = U_ZERO_ERROR;
+  ucnv_cbToUWriteUChars(arguments, &kReplacement, 1, 0, status);
+}
+
 /// A converter that stops at what it cannot map instead of replacing it.
 Converter openConverter() {
   UErrorCode status = U_ZERO_ERROR;
   Converter converter(ucnv_open("windows-31j", &status));
   if (!converter) return nullptr;
   ucnv_setFromUCallBack(converter.get(), UCNV_FROM_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
+  ucnv_setToUCallBack(converter.get(), replaceBrokenBytes, nullptr, nullptr, nullptr, &status);
   return converter;
 }
 
