@@ -1,0 +1,53 @@
+#include "platform/report/document_sink.h"
+
+#include "platform/report/file_printer.h"
+#include "platform/report/spooler.h"
+
+#include <QSaveFile>
+
+namespace report {
+
+namespace {
+
+/// The spooler, and the file printer behind it for a document that it does not take.
+class SpoolerOrFile final : public DocumentSink {
+ public:
+  SpoolerOrFile(const PrinterChoice& choice, const QString& folder) : m_spooler(choice), m_file(folder) {}
+
+  bool open(const QString& title) override {
+    m_title = title;
+    return m_spooler.open(title) || m_file.open(title);
+  }
+  bool take(const QByteArray& pdf) override {
+    if (m_spooler.take(pdf)) return true;
+    return m_file.open(m_title) && m_file.take(pdf);
+  }
+
+ private:
+  QString m_title;
+  Spooler m_spooler;
+  FilePrinter m_file;
+};
+
+}  // namespace
+
+OpenSink printerSinks(const QString& programFolder) {
+  return [programFolder](const PrinterChoice& choice) -> std::unique_ptr<DocumentSink> {
+    PrinterChoice resolved = choice;
+    if (resolved.printer.isEmpty()) resolved.printer = defaultPrinter();
+    if (resolved.printer == kFilePrinter) return std::make_unique<FilePrinter>(programFolder);
+    return std::make_unique<SpoolerOrFile>(resolved, programFolder);
+  };
+}
+
+bool FileSink::open(const QString&) {
+  QSaveFile file(m_path);
+  return file.open(QIODevice::WriteOnly);
+}
+
+bool FileSink::take(const QByteArray& pdf) {
+  QSaveFile file(m_path);
+  return file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.commit();
+}
+
+}  // namespace report

@@ -1,0 +1,127 @@
+#include "platform/report/spooler.h"
+
+#include "platform/report/form.h"
+
+#include <cups/cups.h>
+
+namespace report {
+
+namespace {
+
+/// The printers that the print service names, freed at the end.
+class Destinations {
+ public:
+  Destinations() : m_count(cupsGetDests2(CUPS_HTTP_DEFAULT, &m_all)) {}
+  ~Destinations() { cupsFreeDests(m_count, m_all); }
+  Destinations(const Destinations&) = delete;
+  Destinations& operator=(const Destinations&) = delete;
+
+  std::span<cups_dest_t> all() const { return {m_all, size_t(m_count)}; }
+  cups_dest_t* find(const QString& name) const {
+    return cupsGetDest(name.toUtf8().constData(), nullptr, m_count, m_all);
+  }
+
+ private:
+  cups_dest_t* m_all = nullptr;
+  int m_count = 0;
+};
+
+using DestInfo = std::unique_ptr<cups_dinfo_t, decltype([](cups_dinfo_t* info) { cupsFreeDestInfo(info); })>;
+
+DestInfo infoOf(cups_dest_t* dest) { return DestInfo(cupsCopyDestInfo(CUPS_HTTP_DEFAULT, dest)); }
+
+class Options {
+ public:
+  ~Options() { cupsFreeOptions(m_count, m_all); }
+  void add(const char* name, const QString& value) {
+    m_count = cupsAddOption(name, value.toUtf8().constData(), m_count, &m_all);
+  }
+  int count() const { return m_count; }
+  cups_option_t* all() const { return m_all; }
+
+ private:
+  cups_option_t* m_all = nullptr;
+  int m_count = 0;
+};
+
+void addChoice(Options& options, const PrinterChoice& choice) {
+  if (choice.copies > 1) options.add(CUPS_COPIES, QString::number(choice.copies));
+  if (!choice.media.isEmpty()) options.add(CUPS_MEDIA, choice.media);
+  if (choice.sides != Sides::AsPrinter) {
+    const char* sides[] = {"", CUPS_SIDES_ONE_SIDED, CUPS_SIDES_TWO_SIDED_PORTRAIT, CUPS_SIDES_TWO_SIDED_LANDSCAPE};
+    options.add(CUPS_SIDES, QString::fromLatin1(sides[int(choice.sides)]));
+  }
+  if (choice.orientation == Orientation::Portrait) options.add(CUPS_ORIENTATION, QStringLiteral(CUPS_ORIENTATION_PORTRAIT));
+  if (choice.orientation == Orientation::Landscape) options.add(CUPS_ORIENTATION, QStringLiteral(CUPS_ORIENTATION_LANDSCAPE));
+}
+
+}  // namespace
+
+std::vector<PrinterEntry> listPrinters() {
+  std::vector<PrinterEntry> printers;
+  const Destinations destinations;
+  for (const cups_dest_t& dest : destinations.all()) {
+    if (dest.instance) continue;
+    const char* info = cupsGetOption("printer-info", dest.num_options, dest.options);
+    printers.push_back({QString::fromUtf8(dest.name), QString::fromUtf8(info ? info : dest.name), dest.is_default != 0});
+  }
+  const bool chosen = std::any_of(printers.begin(), printers.end(), [](const PrinterEntry& p) { return p.isDefault; });
+  printers.push_back({kFilePrinter, QStringLiteral("PDFファイル（フォルダ 印刷）"), printers.empty() && !chosen});
+  return printers;
+}
+
+QString defaultPrinter() {
+  const std::vector<PrinterEntry> printers = listPrinters();
+  for (const PrinterEntry& printer : printers)
+    if (printer.isDefault) return printer.name;
+  return printers.front().name;
+}
+
+std::vector<MediaSize> listMedia(const QString& printer) {
+  std::vector<MediaSize> sizes;
+  const Destinations destinations;
+  cups_dest_t* dest = printer == kFilePrinter ? nullptr : destinations.find(printer);
+  if (dest) {
+    const DestInfo info = infoOf(dest);
+    const int count = info ? cupsGetDestMediaCount(CUPS_HTTP_DEFAULT, dest, info.get(), 0) : 0;
+    for (int i = 0; i < count; ++i) {
+      cups_size_t size;
+      if (!cupsGetDestMediaByIndex(CUPS_HTTP_DEFAULT, dest, info.get(), i, 0, &size)) continue;
+      const char* caption = cupsLocalizeDestMedia(CUPS_HTTP_DEFAULT, dest, info.get(), 0, &size);
+      sizes.push_back({QString::fromUtf8(size.media), QString::fromUtf8(caption ? caption : size.media)});
+    }
+  }
+  if (sizes.empty())
+    for (const Paper& paper : papers()) sizes.push_back({paper.media, paper.word});
+  return sizes;
+}
+
+bool Spooler::open(const QString& title) {
+  m_title = title;
+  return Destinations().find(m_choice.printer) != nullptr;
+}
+
+bool Spooler::take(const QByteArray& pdf) {
+  const Destinations destinations;
+  cups_dest_t* dest = destinations.find(m_choice.printer);
+  if (!dest) return false;
+  const DestInfo info = infoOf(dest);
+  if (!info) return false;
+  Options options;
+  addChoice(options, m_choice);
+  const QByteArray title = m_title.toUtf8();
+  int job = 0;
+  if (cupsCreateDestJob(CUPS_HTTP_DEFAULT, dest, info.get(), &job, title.constData(), options.count(), options.all()) >
+      IPP_STATUS_OK_EVENTS_COMPLETE)
+    return false;
+  const auto started = cupsStartDestDocument(CUPS_HTTP_DEFAULT, dest, info.get(), job, title.constData(), CUPS_FORMAT_PDF,
+                                             options.count(), options.all(), 1);
+  bool sent = started == HTTP_STATUS_CONTINUE &&
+              cupsWriteRequestData(CUPS_HTTP_DEFAULT, pdf.constData(), size_t(pdf.size())) == HTTP_STATUS_CONTINUE;
+  if (started == HTTP_STATUS_CONTINUE)
+    sent = cupsFinishDestDocument(CUPS_HTTP_DEFAULT, dest, info.get()) <= IPP_STATUS_OK_EVENTS_COMPLETE && sent;
+  if (!sent) cupsCancelDestJob(CUPS_HTTP_DEFAULT, dest, job);
+  return sent;
+}
+
+}  // namespace report
