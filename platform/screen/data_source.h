@@ -41,6 +41,9 @@ class DataSource {
   void movePrevious();
   void moveNext();
   void moveLast();
+  /// Makes the row at the position (from 0) current, as the other moves do. False: pending edits were
+  /// refused and the row stays.
+  bool moveTo(int position);
   /// Whether moving away writes pending edits (bound screens do; the claim form does not).
   bool writesOnMove = true;
 
@@ -49,6 +52,11 @@ class DataSource {
 
  private:
   void move(void (store::RecordSet::*step)());
+  /// Writes or drops what is pending before the row changes. False: refused.
+  bool leaveRow();
+  void stayInside();
+  bool told(const store::Done& done);
+  store::Done setChangedColumns();
   Screen& m_screen;
   int m_number;
   store::RecordSet m_rows;

@@ -3,6 +3,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <memory>
 
 class QWidget;
 
@@ -11,6 +12,8 @@ class VoiceGuide;
 }
 
 namespace screen {
+
+class OpeningHold;
 
 enum class Buttons { Ok, OkCancel, YesNo };
 enum class Icon { None, Information, Question, Exclamation, Stop };
@@ -25,8 +28,8 @@ inline constexpr char16_t kDataControlText[] = u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙ
 /// texts say (OK, キャンセル, はい, いいえ), never by the toolkit's language.
 class MessageDoor {
  public:
-  explicit MessageDoor(voice::VoiceGuide& voice) : m_voice(voice) {}
-  virtual ~MessageDoor() = default;
+  explicit MessageDoor(voice::VoiceGuide& voice);
+  virtual ~MessageDoor();
 
   /// A message with an OK button.
   void tell(const QString& text, const QString& title = QString(), Icon icon = Icon::None);
@@ -53,6 +56,7 @@ class MessageDoor {
   QStringList m_texts, m_titles;
   QList<bool> m_answers;
   bool m_queued = false;
+  std::unique_ptr<OpeningHold> m_hold;
 };
 
 }  // namespace screen

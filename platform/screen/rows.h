@@ -28,7 +28,9 @@ class Words {
 class ControlName {
  public:
   consteval ControlName(const char16_t* name) : m_family(name), m_index(-1) { refuseEmpty(); }
-  consteval ControlName(const char16_t* family, int index) : m_family(family), m_index(index) { refuseEmpty(); }
+  consteval ControlName(const char16_t* family, int index) : m_family(family), m_index(index) {
+    refuseEmpty();
+  }
   constexpr const char16_t* family() const { return m_family; }
   constexpr int index() const { return m_index; }
 
@@ -44,7 +46,8 @@ class ControlName {
 struct Column {
   const char16_t* name;
   int source;
-  consteval Column(const char16_t* columnName, int sourceNumber = 1) : name(columnName), source(sourceNumber) {
+  consteval Column(const char16_t* columnName, int sourceNumber = 1)
+      : name(columnName), source(sourceNumber) {
     if (columnName == nullptr || columnName[0] == u'\0') throw "a bound control needs a column";
   }
 };
@@ -118,15 +121,15 @@ struct TextField {
   ControlName name;
   Words caption;  ///< as on the screen, colon included; spoken and accessible name
   Binding bind;
-  int limit = 255;                 ///< characters that can be typed
-  int width = 20;                  ///< characters shown, a hint for the layout
+  int limit = 255;  ///< characters that can be typed
+  int width = 20;   ///< characters shown, a hint for the layout
   int lines = 1;
   bool readOnly = false;
-  const char16_t* say = nullptr;   ///< spoken on focus instead of caption and value
-  const char16_t* tip = nullptr;   ///< accessible description
-  Handler onEnter = nullptr;       ///< Enter or Return in the field
-  Handler onLeave = nullptr;       ///< focus leaves; may call keepFocus()
-  Handler onEdit = nullptr;        ///< the user changed the text
+  const char16_t* say = nullptr;  ///< spoken on focus instead of caption and value
+  const char16_t* tip = nullptr;  ///< accessible description
+  Handler onEnter = nullptr;      ///< Enter or Return in the field
+  Handler onLeave = nullptr;      ///< focus leaves; may call keepFocus()
+  Handler onEdit = nullptr;       ///< the user changed the text
 };
 
 /// A family of like text fields: names family(first) .. family(first+count-1); "%1" in caption and column
@@ -134,13 +137,13 @@ struct TextField {
 struct TextRun {
   ControlName name;  ///< {u"txtFields", 60}: family and first index
   int count;
-  Words caption;     ///< u"%1日 治療内容"
-  Binding bind;      ///< Column{u"治療内容%1"}
+  Words caption;  ///< u"%1日 治療内容"
+  Binding bind;   ///< Column{u"治療内容%1"}
   int limit = 255;
   int width = 4;
-  int perLine = 7;   ///< fields beside each other
+  int perLine = 7;  ///< fields beside each other
   bool readOnly = false;
-  int number = 1;    ///< what %1 is for the first field
+  int number = 1;  ///< what %1 is for the first field
   const char16_t* tip = nullptr;
   Handler onEnter = nullptr;
   Handler onLeave = nullptr;
@@ -158,7 +161,7 @@ struct Combo {
   int width = 16;
   const char16_t* say = nullptr;
   const char16_t* tip = nullptr;
-  Handler onEdit = nullptr;   ///< chosen or typed by the user
+  Handler onEdit = nullptr;  ///< chosen or typed by the user
   Handler onLeave = nullptr;
 };
 
@@ -170,8 +173,9 @@ struct Check {
   const char16_t* on = u"-1";
   const char16_t* off = u"0";
   const char16_t* tip = nullptr;
-  const char16_t* group = nullptr;  ///< word put before the accessible name where the caption alone is not enough
-  bool marksDirty = false;          ///< sets the screen's check flag (checkChanged) when the user changes it
+  const char16_t* group =
+      nullptr;              ///< word put before the accessible name where the caption alone is not enough
+  bool marksDirty = false;  ///< sets the screen's check flag (checkChanged) when the user changes it
   Handler onToggle = nullptr;
 };
 
@@ -198,13 +202,13 @@ struct Command {
   ControlName name;
   Words caption;
   Run run;
-  const char16_t* menu = nullptr;     ///< objectName of the twin: u"Men_FU"
-  const char16_t* under = nullptr;    ///< menu it stands under: u"ファイル(&F)"
+  const char16_t* menu = nullptr;         ///< objectName of the twin: u"Men_FU"
+  const char16_t* under = nullptr;        ///< menu it stands under: u"ファイル(&F)"
   const char16_t* menuCaption = nullptr;  ///< where it differs from the button's
-  const char16_t* key = nullptr;      ///< key sequence, e.g. u"F1"
-  const char16_t* say = nullptr;      ///< sentence of its own on focus
+  const char16_t* key = nullptr;          ///< key sequence, e.g. u"F1"
+  const char16_t* say = nullptr;          ///< sentence of its own on focus
   const char16_t* tip = nullptr;
-  bool standard = false;              ///< Enter anywhere that no field takes runs it
+  bool standard = false;  ///< Enter anywhere that no field takes runs it
 };
 
 /// A menu entry without a button.
@@ -227,6 +231,8 @@ struct Note {
 struct Page {
   Words caption;
 };
+/// Ends the pages: what follows stands under the tab strip.
+struct EndPages {};
 struct Group {
   ControlName name;
   Words caption;
@@ -253,18 +259,18 @@ struct Grid {
   Handler onMove = nullptr;      ///< current row changed
 };
 
-using Row = std::variant<TextField, TextRun, Combo, Check, Options, Command, Entry, Note, Page, Group, EndGroup,
-                         Bar, EndBar, Grid>;
+using Row = std::variant<TextField, TextRun, Combo, Check, Options, Command, Entry, Note, Page, EndPages,
+                         Group, EndGroup, Bar, EndBar, Grid>;
 using Rows = std::span<const Row>;
 
 /// A screen as it is declared: names, rows, and what it says when it opens.
 struct ScreenRow {
-  Words name;      ///< screen name, its objectName: 治療台帳4
-  Words caption;   ///< window title
+  Words name;     ///< screen name, its objectName: 治療台帳4
+  Words caption;  ///< window title
   Rows rows;
-  int sources = 0;                     ///< number of data sources
-  const char16_t* heading = nullptr;   ///< spoken when it opens, before the notes marked as spoken
-  bool functionKeys = false;           ///< F1 to F4 are first, previous, next, last of source 1
+  int sources = 0;                    ///< number of data sources
+  const char16_t* heading = nullptr;  ///< spoken when it opens, before the notes marked as spoken
+  bool functionKeys = false;          ///< F1 to F4 are first, previous, next, last of source 1
 };
 
 }  // namespace screen

@@ -11,13 +11,18 @@
 #include "platform/screen/rows.h"
 #include "platform/voice/voice_guide.h"
 
+namespace shell {
+class Desktop;
+}
+
 namespace screen {
 
-/// What every screen is handed: voice, messages, the way to other screens.
+/// What every screen is handed: voice, messages, the way to other screens, the desktop around the program.
 struct Services {
   voice::VoiceGuide& voice;
   MessageDoor& messages;
   Navigator& navigator;
+  shell::Desktop* desktop = nullptr;  ///< viewer, pickers, clipboard
 };
 
 /// Base of all screens. The constructor builds the widgets from the declared rows; nothing else makes
@@ -37,6 +42,8 @@ class Screen : public QMainWindow {
   virtual void onActivate() {}                ///< each time the window becomes the active one
   virtual bool onCloseBox() { return true; }  ///< the window's own close box; false: stays open
   virtual void onClosed() {}                  ///< after it closed
+  /// Closes without asking onCloseBox(); leave handlers do not run any more.
+  void closeNow();
 
   // Values of controls.
   QString text(const QString& control) const;
@@ -51,8 +58,8 @@ class Screen : public QMainWindow {
   void setItems(const QString& combo, const QStringList& items);
 
   // Looks.
-  void setShown(const QString& control, bool shown);   ///< with its label
-  bool isControlShown(const QString& control) const;   ///< as set, whether or not the window shows
+  void setShown(const QString& control, bool shown);  ///< with its label
+  bool isControlShown(const QString& control) const;  ///< as set, whether or not the window shows
   void setEnabledControl(const QString& control, bool enabled);
   void setCaption(const QString& control, const QString& caption);  ///< label, accessible name and speech
   QString caption(const QString& control) const;
@@ -60,17 +67,25 @@ class Screen : public QMainWindow {
   void setCaptionRed(const QString& control, bool red);
   bool isCaptionRed(const QString& control) const;
   void focusOn(const QString& control);
-  QString focused() const;                              ///< objectName of the control with the focus
+  QString focused() const;  ///< objectName of the control with the focus
   void showPage(const QString& caption);
   /// In an onLeave handler: the focus goes back to the control being left.
   void keepFocus();
 
-  /// Does what the button or the menu entry does.
+  /// Moves the focus to the next control in tab order.
+  void focusNext() { focusNextPrevChild(true); }
+
+  /// Does what the button or the menu entry does; nothing where it is disabled.
   void trigger(const QString& command);
+  /// Runs a command's action (the builder's buttons and entries come here).
+  void runCommand(const QString& name, Handler action, int index);
+  /// objectName of the command whose action is running, "" outside of one.
+  QString runningCommand() const;
 
   // Dirty mark of checks and options declared with marksDirty (checkChanged).
   bool checkChanged() const { return m_checkChanged; }
   void clearCheckChanged() { m_checkChanged = false; }
+  void markCheckChanged() { m_checkChanged = true; }
 
   DataSource& source(int number = 1) { return *m_sources.at(static_cast<size_t>(number - 1)); }
   const DataSource& source(int number = 1) const { return *m_sources.at(static_cast<size_t>(number - 1)); }
@@ -80,9 +95,13 @@ class Screen : public QMainWindow {
   MessageDoor& messages() { return m_services.messages; }
   Navigator& navigator() { return m_services.navigator; }
 
-  /// Speaks heading and spoken notes; called once a load, after the first focus.
+  /// Speaks heading and spoken notes, once a load, at the first show; the first focus waits behind it. What
+  /// onLoad() and opened() say through the navigator is heard before it.
   void speakOpening();
-  /// What speakOpening() says; screens with their own sentence override it.
+  /// Before loading: the speech of the screen before is cut, what is said from now on waits its turn.
+  void prepareOpening();
+  /// What speakOpening() says: the heading (where none is declared the caption) and the spoken notes.
+  /// Screens with their own sentence override it; an empty list says nothing.
   virtual QStringList openingTexts() const;
   /// Moves of the record buttons; screens with checks before a move override them.
   virtual void goFirst() { source().moveFirst(); }
@@ -100,6 +119,9 @@ class Screen : public QMainWindow {
  private:
   friend class Builder;
   friend class DataSource;
+  void fitToDesk();
+  void focusFirst();
+  void finishClosing();
   struct Parts;
   const ScreenRow& m_declaration;
   Services& m_services;

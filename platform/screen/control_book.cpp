@@ -1,0 +1,39 @@
+#include "platform/screen/control_book.h"
+
+#include <QtWidgets/QtWidgets>
+
+#include "platform/screen/control_grid.h"
+
+namespace screen {
+
+void ControlBook::enter(std::unique_ptr<Control> control) {
+  m_byName.insert(control->name(), control.get());
+  m_controls.push_back(std::move(control));
+}
+
+void ControlBook::addWidgets(Control& control) {
+  for (const QWidget* widget : control.focusWidgets()) m_byWidget.insert(widget, &control);
+}
+
+Control* ControlBook::find(const QString& name) const {
+  Control* control = m_byName.value(name);
+  if (!control) qWarning("no control %s on this screen", qUtf8Printable(name));
+  return control;
+}
+
+std::vector<Control*> ControlBook::boundTo(int source) const {
+  std::vector<Control*> bound;
+  for (const auto& control : m_controls)
+    if (control->source() == source) bound.push_back(control.get());
+  return bound;
+}
+
+std::vector<GridControl*> ControlBook::gridsOf(int source) const {
+  std::vector<GridControl*> grids;
+  for (const auto& control : m_controls)
+    if (auto* grid = dynamic_cast<GridControl*>(control.get()); grid && grid->sourceNumber() == source)
+      grids.push_back(grid);
+  return grids;
+}
+
+}  // namespace screen

@@ -1,0 +1,64 @@
+#include "platform/screen/focus_watch.h"
+
+#include <QtWidgets/QtWidgets>
+
+#include "platform/screen/control_book.h"
+#include "platform/screen/control_frame.h"
+#include "platform/screen/screen.h"
+#include "platform/screen/scroll_pane.h"
+
+namespace screen {
+
+FocusWatch::FocusWatch(Screen& screen, ControlBook& book) : m_screen(screen), m_book(book) {
+  // After both focus events: a message that a leave handler shows finds the focus settled.
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, QWidget* now) { changed(old, now); });
+}
+
+void FocusWatch::watch(const Control& control) {
+  for (QWidget* widget : control.focusWidgets()) widget->installEventFilter(this);
+}
+
+void FocusWatch::changed(QWidget* old, QWidget* now) {
+  Control* to = m_book.of(now);
+  if (m_ended || !to) return;
+  Control* from = m_book.of(old);
+  if (from && from != to && !m_returning && sendsBack(*from, old)) return;
+  if (QApplication::focusWidget() != now) return;  // the leave handler moved it on
+  bringIntoView(now);
+  const bool fromOwnList = old && old->window() != &m_screen && old->window()->parentWidget() == now;
+  if (!fromOwnList) to->speak(m_screen.voice(), now);
+}
+
+bool FocusWatch::sendsBack(Control& left, QWidget* widget) {
+  m_keep = false;
+  left.leave();
+  if (!std::exchange(m_keep, false) || m_ended) return false;
+  if (TabsControl* tabs = m_book.tabs()) tabs->showPageOf(widget);
+  // The control that had the focus for a moment is not being left by the user.
+  const bool before = std::exchange(m_returning, true);
+  widget->setFocus(Qt::OtherFocusReason);
+  m_returning = before;
+  return true;
+}
+
+bool FocusWatch::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return false;
+  const auto* key = static_cast<QKeyEvent*>(event);
+  const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+  if (!isEnter || (key->modifiers() & ~Qt::KeypadModifier)) return false;
+  Control* control = m_book.of(qobject_cast<QWidget*>(watched));
+  if (!control) return false;
+  return (key->isAutoRepeat() && !control->keepsEnter()) || enter(*control);
+}
+
+bool FocusWatch::enter(Control& control) {
+  if (control.keepsEnter()) return false;
+  if (control.enter()) return true;
+  if (CommandControl* standard = m_book.standard())
+    standard->run();
+  else
+    m_screen.focusNext();
+  return true;
+}
+
+}  // namespace screen

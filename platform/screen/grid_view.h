@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QTableView>
+
+namespace screen {
+
+/// A table whose cells are walked with the arrow keys; Tab leaves it. Typing does not search in it: that
+/// would read every row of the table.
+class GridView : public QTableView {
+ public:
+  explicit GridView(QWidget* parent);
+  void keyboardSearch(const QString&) override {}
+  /// Gives each column room for its caption and for what the first rows hold.
+  void fitColumns();
+};
+
+}  // namespace screen

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class QGridLayout;
+class QHBoxLayout;
+class QLabel;
+class QVBoxLayout;
+class QWidget;
+
+namespace screen {
+
+/// Width of a field for so many characters of the present font.
+void fitWidth(QWidget* field, int characters);
+void fitMemo(QWidget* field, int characters, int lines);
+/// Room that one line of controls may take: a window of 1280 pixels less its margins.
+inline constexpr int kLineRoom = 1200;
+
+/// Fields beside each other in columns of label and field; a wide one has a line of its own. Nothing is
+/// placed by pixels: all sizes follow the font.
+class Shelf {
+ public:
+  Shelf(QWidget* host, int columns);
+
+  void addField(QLabel* label, QWidget* field);
+  /// A control with its caption in itself (tick, button, text).
+  void addSingle(QWidget* widget);
+  /// A field that takes the rest of the line beside its label.
+  void addWideField(QLabel* label, QWidget* field);
+  void addWide(QWidget* widget, bool grows = false);
+  /// Pushes everything up where nothing grows.
+  void close();
+  QWidget* host() const { return m_host; }
+
+ private:
+  void newLine();
+  QWidget* m_host;
+  QGridLayout* m_grid;
+  int m_columns;
+  int m_line = 0;
+  int m_at = 0;
+  bool m_grows = false;
+};
+
+/// Controls in a row that wraps where the line is full.
+class Flow {
+ public:
+  explicit Flow(QWidget* host);
+  void add(QWidget* widget);
+  QWidget* host() const { return m_host; }
+
+ private:
+  QWidget* m_host;
+  QVBoxLayout* m_lines;
+  QHBoxLayout* m_line = nullptr;
+  int m_at = 0;
+  int m_used = 0;
+};
+
+/// A family of fields, each under its label, so many in a line.
+class Family {
+ public:
+  Family(QWidget* host, int perLine);
+  void add(QLabel* label, QWidget* field);
+
+ private:
+  QGridLayout* m_grid;
+  int m_perLine;
+  int m_count = 0;
+};
+
+}  // namespace screen

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QPointer>
+
+#include "platform/screen/control_book.h"
+#include "platform/screen/focus_watch.h"
+#include "platform/screen/opening_hold.h"
+#include "platform/screen/screen.h"
+
+namespace screen {
+
+/// What a screen is made of, behind its header.
+struct Screen::Parts {
+  Parts(Screen& screen, Services& services) : focus(screen, book), opening(services.voice) {}
+
+  ControlBook book;
+  FocusWatch focus;
+  OpeningHold opening;
+  QString running;  ///< objectName of the command whose action runs
+  bool openingSaid = false;
+  bool closed = false;
+};
+
+}  // namespace screen
