@@ -9,8 +9,14 @@ struct sqlite3;
 
 namespace store {
 
-/// One database file. Several files may be joined for one transaction (PairTransaction).
-/// Opening never makes a file: a missing, empty, alien, damaged or read-only one is told by name.
+class Engine;
+
+/// One database file; both claim files are joined for one transaction by PairStore.
+///
+/// Opening never makes a file and writes nothing: a missing, empty, alien or damaged one is told by name, and
+/// so is a real file of the office database that these files replace. A file without write permission opens
+/// for reading and tells its name when something is to be written to it. Opening a path again in the same
+/// thread gives the same Database, as long as one is held.
 class Database : public std::enable_shared_from_this<Database> {
  public:
   /// Opens the file at the path. The fault's text names the file.
@@ -19,12 +25,18 @@ class Database : public std::enable_shared_from_this<Database> {
 
   QString path() const;
   sqlite3* handle() const;
+  /// Schemas, statements and memory copies of this file; for the rooms of the store.
+  Engine& engine() const { return *m_engine; }
 
  private:
   explicit Database(QString path, sqlite3* handle);
   QString m_path;
   sqlite3* m_handle;
+  std::unique_ptr<Engine> m_engine;
 };
+
+/// The checks of opening by the file's first bytes alone: missing, empty, alien, a real office database.
+Done checkFile(const QString& path);
 
 /// Makes a fresh file at the path with all tables and columns that the catalogue lists for the file
 /// name. Refuses to touch an existing file.

@@ -1,0 +1,41 @@
+#include "platform/store/collation.h"
+
+#include <unicode/ucol.h>
+
+#include <memory>
+
+namespace store {
+namespace {
+
+const UCollator* japanese() {
+  static const std::unique_ptr<UCollator, decltype(&ucol_close)> collator = [] {
+    UErrorCode status = U_ZERO_ERROR;
+    return std::unique_ptr<UCollator, decltype(&ucol_close)>(ucol_open("ja", &status), &ucol_close);
+  }();
+  return collator.get();
+}
+
+}  // namespace
+
+int compareJapanese(QStringView a, QStringView b) {
+  return ucol_strcoll(japanese(), a.utf16(), static_cast<int32_t>(a.size()), b.utf16(),
+                      static_cast<int32_t>(b.size()));
+}
+
+QByteArray japaneseSortKey(QStringView text) {
+  QByteArray key(32 + static_cast<int>(text.size()) * 6, Qt::Uninitialized);
+  const auto fill = [&] {
+    return ucol_getSortKey(japanese(), text.utf16(), static_cast<int32_t>(text.size()),
+                           reinterpret_cast<uint8_t*>(key.data()), static_cast<int32_t>(key.size()));
+  };
+  const int32_t needed = fill();
+  if (needed > key.size()) {
+    key.resize(needed);
+    fill();
+  }
+  key.truncate(needed);
+  key.squeeze();
+  return key;
+}
+
+}  // namespace store

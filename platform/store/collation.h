@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringView>
+
+namespace store {
+
+/// Japanese order: kana in the order of the syllabary, kanji in that of the national character set.
+/// 本人 comes behind 長男, 妻 and 家族, so that a descending order begins with it.
+int compareJapanese(QStringView a, QStringView b);
+/// Bytes that compare as the texts do.
+QByteArray japaneseSortKey(QStringView text);
+
+}  // namespace store

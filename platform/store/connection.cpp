@@ -1,0 +1,193 @@
+#include "platform/store/connection.h"
+
+#include <optional>
+
+#include "platform/store/engine.h"
+#include "platform/store/scanner.h"
+#include "platform/store/selection.h"
+
+namespace store {
+namespace {
+
+constexpr QStringView kProvider = u"provider=Microsoft.jet.OLEDB.4.0;";
+constexpr QStringView kDataSource = u"data source=";
+
+Fault closed() { return {QStringLiteral("接続が閉じているため、実行できません。")}; }
+
+/// "UPDATE <table> SET <column> = <value>, ... WHERE ID = <n>"; without WHERE every row is written.
+Done runUpdate(Engine& engine, Scanner& scanner) {
+  const QString table = scanner.takeName();
+  if (!scanner.takeWord(u"set")) return scanner.fault();
+  QHash<QString, Value> columns;
+  do {
+    const QString column = scanner.takeName();
+    if (column.isEmpty() || !scanner.takeMark(u"=")) return scanner.fault();
+    Result<QString> value = scanner.takeValue();
+    if (!value) return value.fault();
+    columns.insert(column, *value);
+  } while (scanner.takeMark(u","));
+  if (!scanner.takeWord(u"where") && !scanner.atEnd()) return scanner.fault();
+  const Result<Criteria> criteria = parseCriteria(scanner.takeRest(), Wildcard::Statement);
+  if (!criteria) return criteria.fault();
+
+  const Result<std::shared_ptr<const TableSchema>> schema = engine.schema(table);
+  if (!schema) return schema.fault();
+  const TableFile file(engine.statements(), QStringLiteral("main"), *schema);
+  const Result<RowValues> values = file.accept(columns);
+  if (!values) return values.fault();
+  const Result<std::vector<qint64>> rows = selectRows(engine, table, {&*criteria, 1});
+  if (!rows) return rows.fault();
+  quint32 before = 0;
+  const Done done = engine.write([&]() -> Done {
+    before = engine.changeCounter();
+    for (const qint64 id : *rows)
+      if (const Done written = file.update(id, *values); !written) return written;
+    return {};
+  });
+  if (!done) return done;
+  for (const qint64 id : *rows) engine.rowWritten(table, id, before);
+  return {};
+}
+
+/// "ALTER TABLE <table> ADD COLUMN <name> <type>", the growth of a file of an older version.
+Done runAlter(Engine& engine, Scanner& scanner) {
+  const auto word = [&](QStringView expected) { return scanner.takeWord(expected); };
+  const QString table = word(u"table") ? scanner.takeName() : QString();
+  if (table.isEmpty() || !word(u"add") || !word(u"column")) return scanner.fault();
+  const QString column = scanner.takeName();
+  const QString type = scanner.takeRest().remove(u' ').toUpper();
+  const QStringList types = {QStringLiteral("TEXT(255)"), QStringLiteral("TEXT"), QStringLiteral("INTEGER"),
+                             QStringLiteral("YESNO")};
+  if (column.isEmpty() || !types.contains(type)) return scanner.fault();
+  const Result<std::shared_ptr<const TableSchema>> schema = engine.schema(table);
+  if (!schema) return schema.fault();
+  if ((*schema)->find(column) >= 0)
+    return Fault{QStringLiteral("項目「%1」は、テーブル「%2」にすでにあります。").arg(column, table)};
+  const QString sql = QStringLiteral("ALTER TABLE ") + quotedName((*schema)->table()) +
+                      QStringLiteral(" ADD COLUMN ") + quotedName(column) + QLatin1Char(' ') + type;
+  engine.statements().clear();
+  const Done done = store::execute(engine.handle(), engine.path(), sql);
+  engine.forget();
+  return done;
+}
+
+}  // namespace
+
+Done Connection::open(const QString& text) {
+  close();
+  QString rest = text;
+  if (rest.startsWith(kProvider, Qt::CaseInsensitive)) rest.remove(0, kProvider.size());
+  rest = rest.trimmed();
+  if (!rest.startsWith(kDataSource, Qt::CaseInsensitive))
+    return Fault{QStringLiteral("接続の指定「%1」に誤りがあります。").arg(text)};
+  rest.remove(0, kDataSource.size());
+  if (rest.endsWith(u';')) rest.chop(1);
+  Result<std::shared_ptr<Database>> opened = Database::open(rest.trimmed());
+  if (!opened) return opened.fault();
+  m_database = *opened;
+  return {};
+}
+
+void Connection::close() { m_database.reset(); }
+
+Done Connection::execute(const QString& statement) {
+  if (!m_database) return closed();
+  Scanner scanner(statement);
+  if (scanner.takeWord(u"update")) return runUpdate(m_database->engine(), scanner);
+  if (scanner.takeWord(u"alter")) return runAlter(m_database->engine(), scanner);
+  return scanner.fault();
+}
+
+Result<bool> Connection::hasColumn(const QString& table, const QString& column) {
+  if (!m_database) return closed();
+  const Result<std::shared_ptr<const TableSchema>> schema = m_database->engine().schema(table);
+  if (!schema) return schema.fault();
+  return (*schema)->find(column) >= 0;
+}
+
+struct Cursor::State {
+  std::shared_ptr<Database> database;
+  std::optional<TableFile> file;
+  QVector<int> columns;
+  std::vector<qint64> ids;
+  size_t at = 0;
+  Row row;
+
+  /// Reads the row at hand, going past rows that were deleted since.
+  void readRow() {
+    for (row.clear(); at < ids.size(); ++at) {
+      if (Result<Row> read = file->read(ids[at], columns); read && !read->isEmpty()) {
+        row = std::move(*read);
+        return;
+      }
+    }
+  }
+};
+
+Cursor::Cursor() = default;
+Cursor::~Cursor() = default;
+Cursor::Cursor(Cursor&&) noexcept = default;
+Cursor& Cursor::operator=(Cursor&&) noexcept = default;
+
+Result<Cursor> Cursor::open(Connection& connection, const QString& source) {
+  if (!connection.database()) return closed();
+  Engine& engine = connection.database()->engine();
+  Scanner scanner(source);
+  if (!scanner.takeWord(u"select")) return scanner.fault();
+  QStringList names;
+  do {
+    if (scanner.takeMark(u"*")) continue;
+    names += scanner.takeName();
+    if (names.back().isEmpty()) return scanner.fault();
+  } while (scanner.takeMark(u","));
+  if (!scanner.takeWord(u"from")) return scanner.fault();
+  const QString table = scanner.takeName();
+  scanner.takeWord(u"where");
+  const Result<Criteria> criteria = parseCriteria(scanner.takeRest(), Wildcard::Statement);
+  if (!criteria) return criteria.fault();
+
+  const Result<std::shared_ptr<const TableSchema>> schema = engine.schema(table);
+  if (!schema) return schema.fault();
+  auto state = std::make_unique<State>();
+  state->database = connection.database();
+  state->file.emplace(engine.statements(), QStringLiteral("main"), *schema);
+  for (const QString& name : names.isEmpty() ? (*schema)->names() : names) {
+    const int column = (*schema)->find(name);
+    if (column < 0) return unknownColumn(name, table);
+    state->columns += column;
+  }
+  Result<std::vector<qint64>> rows = selectRows(engine, table, {&*criteria, 1});
+  if (!rows) return rows.fault();
+  state->ids = std::move(*rows);
+  state->readRow();
+  Cursor cursor;
+  cursor.m_state = std::move(state);
+  return cursor;
+}
+
+bool Cursor::eof() const { return !m_state || m_state->at >= m_state->ids.size(); }
+
+void Cursor::moveNext() {
+  if (eof()) return;
+  ++m_state->at;
+  m_state->readRow();
+}
+
+Value Cursor::value(const QString& column) const {
+  if (eof()) return {};
+  const qsizetype place = m_state->columns.indexOf(m_state->file->schema().find(column));
+  return place < 0 || m_state->row.isEmpty() ? Value() : m_state->row[place];
+}
+
+QStringList Cursor::columns() const {
+  QStringList names;
+  if (m_state)
+    for (const int column : m_state->columns) names += m_state->file->schema().name(column);
+  return names;
+}
+
+void Cursor::close() { m_state.reset(); }
+
+QString connectionString(const QString& path) { return kProvider.toString() + kDataSource.toString() + path; }
+
+}  // namespace store

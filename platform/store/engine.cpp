@@ -1,0 +1,89 @@
+#include "platform/store/engine.h"
+
+namespace store {
+
+Result<std::shared_ptr<const TableSchema>> Engine::schema(const QString& table) {
+  Result<Statement*> version = m_statements.get(QStringLiteral("PRAGMA schema_version"));
+  if (!version) return version.fault();
+  if (const Result<bool> row = (*version)->step(); !row) return row.fault();
+  const qint64 now = (*version)->number(0);
+  (*version)->rewind();
+  if (now != m_schemaVersion) {  // another program may have added columns
+    forget();
+    m_schemaVersion = now;
+  }
+  if (const auto kept = m_schemas.constFind(table); kept != m_schemas.constEnd()) return *kept;
+  Result<TableSchema> read = readSchema(handle(), path(), QStringLiteral("main"), table);
+  if (!read) return read.fault();
+  auto made = std::make_shared<const TableSchema>(std::move(*read));
+  m_schemas.insert(table, made);
+  return made;
+}
+
+void Engine::forget() {
+  m_schemas.clear();
+  m_copies.clear();
+  m_statements.clear();
+  m_schemaVersion = -1;
+  ++m_writes;
+}
+
+quint32 Engine::changeCounter() const {
+  sqlite3_file* file = nullptr;
+  if (sqlite3_file_control(handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK || !file ||
+      !file->pMethods)
+    return 0;
+  constexpr int kCounterOffset = 24;  // in the file's header, most significant byte first
+  unsigned char bytes[4] = {};
+  if (file->pMethods->xRead(file, bytes, sizeof bytes, kCounterOffset) != SQLITE_OK) return 0;
+  return quint32(bytes[0]) << 24 | quint32(bytes[1]) << 16 | quint32(bytes[2]) << 8 | quint32(bytes[3]);
+}
+
+bool Engine::copiesAreTrue() { return !m_copies.empty() && m_copiesCounter == changeCounter(); }
+
+Result<TableCopy*> Engine::copy(const QString& table, const QVector<int>& searched,
+                                const QVector<int>& sorted) {
+  const Result<std::shared_ptr<const TableSchema>> known = schema(table);
+  if (!known) return known.fault();
+  for (int attempt = 0;; ++attempt) {
+    if (!copiesAreTrue()) {
+      m_copies.clear();
+      m_copiesCounter = changeCounter();
+    }
+    const auto [place, made] = m_copies.try_emplace(
+        table.toStdU16String(), TableFile(m_statements, QStringLiteral("main"), *known));
+    if (const Done loaded = place->second.load(m_statements, searched, sorted); !loaded)
+      return loaded.fault();
+    constexpr int kAttempts = 3;
+    if (copiesAreTrue() || attempt == kAttempts) return &place->second;
+  }
+}
+
+Done Engine::write(const std::function<Done()>& work) {
+  Transaction transaction(handle(), path());
+  if (const Done begun = transaction.begin(); !begun) return begun;
+  if (const Done done = work(); !done) return done;
+  return transaction.commit();
+}
+
+void Engine::noteOwnWrite(quint32 before) {
+  ++m_writes;
+  if (m_copiesCounter == before)
+    m_copiesCounter = before + 1;
+  else if (m_copiesCounter != before + 1)
+    m_copies.clear();
+}
+
+void Engine::rowWritten(const QString& table, qint64 id, quint32 before) {
+  noteOwnWrite(before);
+  const auto place = m_copies.find(table.toStdU16String());
+  if (place != m_copies.end() && !place->second.rowWritten(id)) m_copies.clear();
+}
+
+void Engine::rowRemoved(const QString& table, qint64 id, quint32 before) {
+  noteOwnWrite(before);
+  const auto place = m_copies.find(table.toStdU16String());
+  if (place != m_copies.end()) place->second.rowRemoved(id);
+}
+
+}  // namespace store

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <unordered_map>
+
+#include "platform/store/table_copy.h"
+
+namespace store {
+
+/// What a Database keeps beside its handle: schemas, prepared statements and memory copies of columns, all
+/// of the file as it stands now. Record sets on one path share it.
+class Engine {
+ public:
+  Engine(sqlite3* handle, QString path) : m_statements(handle, std::move(path)) {}
+
+  sqlite3* handle() const { return m_statements.handle(); }
+  const QString& path() const { return m_statements.path(); }
+  StatementCache& statements() { return m_statements; }
+
+  Result<std::shared_ptr<const TableSchema>> schema(const QString& table);
+
+  /// The memory copy of a table, with these columns loaded and true to the file as it is now.
+  Result<TableCopy*> copy(const QString& table, const QVector<int>& searched, const QVector<int>& sorted);
+
+  /// Runs the work in one transaction that holds the write lock; a fault rolls it back.
+  Done write(const std::function<Done()>& work);
+  /// Tells of a row that this program wrote or removed inside a transaction that began at the counter
+  /// `before`, whoever's handle it was.
+  void rowWritten(const QString& table, qint64 id, quint32 before);
+  void rowRemoved(const QString& table, qint64 id, quint32 before);
+  /// Forgets schemas and copies, after a change of the columns.
+  void forget();
+
+  /// The file's own count of its transactions, 0 where it cannot be read.
+  quint32 changeCounter() const;
+  /// Counts this program's own writes; a record set that read under another number reads again.
+  quint64 writes() const { return m_writes; }
+
+ private:
+  bool copiesAreTrue();
+  void noteOwnWrite(quint32 before);
+
+  StatementCache m_statements;
+  QHash<QString, std::shared_ptr<const TableSchema>> m_schemas;
+  qint64 m_schemaVersion = -1;
+  std::unordered_map<std::u16string, TableCopy> m_copies;
+  quint32 m_copiesCounter = 0;  ///< the file's counter that the copies stand for
+  quint64 m_writes = 0;
+};
+
+}  // namespace store

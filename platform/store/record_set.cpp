@@ -1,0 +1,330 @@
+#include "platform/store/record_set.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "platform/store/database.h"
+#include "platform/store/row_pages.h"
+#include "platform/store/selection.h"
+
+namespace store {
+namespace {
+
+enum class Buffer { None, Editing, Adding };
+
+Fault noCurrentRow() { return {QStringLiteral("カレントレコードがありません。")}; }
+
+}  // namespace
+
+struct RecordSet::State {
+  std::shared_ptr<Database> database;
+  std::optional<TableFile> file;
+
+  std::vector<Criteria> filters;  ///< what this set was made with, all of which hold
+  Order order;
+  QString nextFilter;  ///< for the copy that openRecordset() makes
+  QString nextSort;
+
+  std::vector<qint64> ids;
+  int position = -1;
+  Bookmark lastModified = kNoBookmark;
+  bool noMatch = false;
+
+  mutable RowPages pages;
+  mutable Row current;  ///< the current row as it was read
+  mutable qint64 currentId = kNoBookmark;
+  mutable quint64 currentWrites = 0;
+
+  Buffer buffer = Buffer::None;
+  Row seen;  ///< the row as it stood when editing began
+  QHash<int, Value> changes;
+
+  Engine& engine() const { return database->engine(); }
+  const TableSchema& schema() const { return file->schema(); }
+  int count() const { return static_cast<int>(ids.size()); }
+  bool onRow() const { return position >= 0 && position < count(); }
+  qint64 id() const { return onRow() ? ids[static_cast<size_t>(position)] : kNoBookmark; }
+
+  const Row& row() const;
+  void endEditing();
+  void moveTo(int place);
+  Done load();
+  Done find(const QString& criteria, int from);
+  Result<RowValues> bufferedValues() const;
+  Done write(const std::function<Result<qint64>()>& work);
+  Result<qint64> writeEdited(const RowValues& values);
+};
+
+/// The current row. It is read again when this program wrote to the file since, unless it is being edited.
+const Row& RecordSet::State::row() const {
+  const quint64 writes = engine().writes();
+  if (currentId == id() && (currentWrites == writes || buffer == Buffer::Editing)) return current;
+  currentId = id();
+  currentWrites = writes;
+  current.clear();
+  if (currentId == kNoBookmark) return current;
+  if (Result<Row> read = file->read(currentId)) current = std::move(*read);
+  return current;
+}
+
+void RecordSet::State::endEditing() {
+  buffer = Buffer::None;
+  changes.clear();
+  seen.clear();
+}
+
+void RecordSet::State::moveTo(int place) {
+  endEditing();
+  position = place;
+}
+
+Done RecordSet::State::load() {
+  Result<std::shared_ptr<const TableSchema>> known = engine().schema(schema().table());
+  if (!known) return known.fault();
+  if (*known != file->sharedSchema()) file.emplace(engine().statements(), QStringLiteral("main"), *known);
+  Result<std::vector<qint64>> found = selectRows(engine(), schema().table(), filters, order);
+  if (!found) return found.fault();
+  ids = std::move(*found);
+  pages.clear();
+  currentId = kNoBookmark;
+  position = ids.empty() ? -1 : 0;
+  return {};
+}
+
+Done RecordSet::State::find(const QString& criteria, int from) {
+  endEditing();
+  noMatch = true;
+  const Result<Criteria> parsed = parseCriteria(criteria);
+  if (!parsed) return parsed.fault();
+  const Order byId{{QStringLiteral("ID"), false}};
+  const Result<std::vector<qint64>> hits = selectRows(engine(), schema().table(), {&*parsed, 1}, byId);
+  if (!hits) return hits.fault();
+  for (int place = from; place < count(); ++place) {
+    if (!std::binary_search(hits->begin(), hits->end(), ids[static_cast<size_t>(place)])) continue;
+    position = place;
+    noMatch = false;
+    break;
+  }
+  return {};
+}
+
+Result<RowValues> RecordSet::State::bufferedValues() const {
+  RowValues values;
+  for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+    Result<Value> value = columnValue(schema(), change.key(), change.value());
+    if (!value) return value.fault();
+    values.append({change.key(), *value});
+  }
+  std::sort(values.begin(), values.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+  return values;
+}
+
+/// Runs the work, which gives the ID that it wrote, in one transaction and takes note of it.
+Done RecordSet::State::write(const std::function<Result<qint64>()>& work) {
+  quint32 before = 0;
+  qint64 written = kNoBookmark;
+  const Done done = engine().write([&]() -> Done {
+    before = engine().changeCounter();
+    const Result<qint64> wrote = work();
+    if (!wrote) return wrote.fault();
+    written = *wrote;
+    return {};
+  });
+  if (!done) return done;
+  engine().rowWritten(schema().table(), written, before);
+  lastModified = written;
+  return {};
+}
+
+Result<qint64> RecordSet::State::writeEdited(const RowValues& values) {
+  const Result<Row> now = file->read(id());
+  if (!now) return now.fault();
+  if (now->isEmpty()) return rowIsGone();
+  if (*now != seen) return changedMeanwhile();
+  if (const Done done = file->update(id(), values); !done) return done.fault();
+  return id();
+}
+
+RecordSet::RecordSet() : m_state(std::make_unique<State>()) {}
+RecordSet::~RecordSet() = default;
+RecordSet::RecordSet(RecordSet&&) noexcept = default;
+RecordSet& RecordSet::operator=(RecordSet&&) noexcept = default;
+
+Result<RecordSet> RecordSet::open(std::shared_ptr<Database> database, const QString& table) {
+  Result<std::shared_ptr<const TableSchema>> known = database->engine().schema(table);
+  if (!known) return known.fault();
+  RecordSet set;
+  set.m_state->file.emplace(database->engine().statements(), QStringLiteral("main"), *known);
+  set.m_state->database = std::move(database);
+  if (const Done loaded = set.m_state->load(); !loaded) return loaded.fault();
+  return set;
+}
+
+bool RecordSet::isOpen() const { return m_state && m_state->database; }
+QString RecordSet::table() const { return isOpen() ? m_state->schema().table() : QString(); }
+std::shared_ptr<Database> RecordSet::database() const { return m_state ? m_state->database : nullptr; }
+
+int RecordSet::recordCount() const { return m_state->count(); }
+bool RecordSet::bof() const { return m_state->position < 0; }
+bool RecordSet::eof() const { return m_state->ids.empty() || m_state->position >= m_state->count(); }
+int RecordSet::absolutePosition() const { return m_state->onRow() ? m_state->position : -1; }
+
+void RecordSet::setAbsolutePosition(int position) {
+  if (position >= 0 && position < m_state->count()) m_state->moveTo(position);
+}
+
+void RecordSet::moveFirst() {
+  if (m_state->count() > 0) m_state->moveTo(0);
+}
+void RecordSet::moveLast() {
+  if (m_state->count() > 0) m_state->moveTo(m_state->count() - 1);
+}
+void RecordSet::moveNext() {
+  if (!eof()) m_state->moveTo(m_state->position + 1);
+}
+void RecordSet::movePrevious() {
+  if (!bof()) m_state->moveTo(m_state->position - 1);
+}
+
+Bookmark RecordSet::bookmark() const { return m_state->id(); }
+
+void RecordSet::setBookmark(Bookmark bookmark) {
+  const std::vector<qint64>& ids = m_state->ids;
+  const auto place = std::find(ids.begin(), ids.end(), bookmark);
+  if (place != ids.end()) m_state->moveTo(static_cast<int>(place - ids.begin()));
+}
+
+Bookmark RecordSet::lastModified() const { return m_state->lastModified; }
+
+Value RecordSet::value(const QString& column) const {
+  if (!isOpen()) return {};
+  const int index = m_state->schema().find(column);
+  if (index < 0) return {};
+  if (const auto change = m_state->changes.constFind(index); change != m_state->changes.constEnd())
+    return *change;
+  if (m_state->buffer == Buffer::Adding)
+    return m_state->schema().type(index) == ColumnType::YesNo ? QStringLiteral("0") : Value();
+  const Row& row = m_state->row();
+  return row.isEmpty() ? Value() : row[index];
+}
+
+Value RecordSet::valueAt(int position, const QString& column) const {
+  if (!isOpen() || position < 0 || position >= m_state->count()) return {};
+  const int index = m_state->schema().find(column);
+  if (index < 0) return {};
+  return m_state->pages.value(m_state->engine(), *m_state->file, m_state->ids, position, index);
+}
+
+Done RecordSet::addNew() {
+  if (!isOpen()) return noCurrentRow();
+  m_state->endEditing();
+  m_state->buffer = Buffer::Adding;
+  return {};
+}
+
+Done RecordSet::edit() {
+  if (!isOpen() || !m_state->onRow()) return noCurrentRow();
+  m_state->endEditing();
+  const Row& row = m_state->row();
+  if (row.isEmpty()) return rowIsGone();
+  m_state->seen = row;
+  m_state->buffer = Buffer::Editing;
+  return {};
+}
+
+bool RecordSet::editing() const { return m_state->buffer == Buffer::Editing; }
+bool RecordSet::adding() const { return m_state->buffer == Buffer::Adding; }
+
+Done RecordSet::setValue(const QString& column, const Value& value) {
+  if (m_state->buffer == Buffer::None)
+    return Fault{QStringLiteral("追加または編集を始めていないため、項目「%1」を変更できません。").arg(column)};
+  const int index = m_state->schema().find(column);
+  if (index < 0) return unknownColumn(column, table());
+  const bool key = m_state->schema().type(index) == ColumnType::Counter;
+  if (key && editing() && value != m_state->seen[index])
+    return Fault{QStringLiteral("項目「%1」は、変更できません。").arg(column)};
+  if (!(key && editing())) m_state->changes.insert(index, value);
+  return {};
+}
+
+Done RecordSet::update() {
+  State& state = *m_state;
+  if (state.buffer == Buffer::None)
+    return Fault{QStringLiteral("追加または編集を始めていないため、登録できません。")};
+  const Result<RowValues> values = state.bufferedValues();
+  if (!values) return values.fault();
+  const bool adds = adding();
+  const Done done = state.write([&]() -> Result<qint64> {
+    return adds ? state.file->insert(*values) : state.writeEdited(*values);
+  });
+  if (!done) return done;
+  if (adds) state.ids.push_back(state.lastModified);
+  state.endEditing();
+  return {};
+}
+
+void RecordSet::cancelUpdate() {
+  m_state->endEditing();
+  m_state->currentId = kNoBookmark;
+}
+
+Done RecordSet::remove() {
+  State& state = *m_state;
+  if (!isOpen() || !state.onRow()) return noCurrentRow();
+  state.endEditing();
+  const qint64 id = state.id();
+  quint32 before = 0;
+  const Done done = state.engine().write([&] {
+    before = state.engine().changeCounter();
+    return state.file->remove(id);
+  });
+  if (!done) return done;
+  state.engine().rowRemoved(table(), id, before);
+  state.ids.erase(state.ids.begin() + state.position);
+  state.moveTo(state.position - 1);
+  return {};
+}
+
+void RecordSet::setFilter(const QString& criteria) { m_state->nextFilter = criteria; }
+void RecordSet::setSort(const QString& order) { m_state->nextSort = order; }
+
+Result<RecordSet> RecordSet::openRecordset() const {
+  if (!isOpen()) return noCurrentRow();
+  RecordSet copy;
+  State& made = *copy.m_state;
+  made.database = m_state->database;
+  made.file = m_state->file;
+  made.filters = m_state->filters;
+  Result<Criteria> filter = parseCriteria(m_state->nextFilter);
+  if (!filter) return filter.fault();
+  Result<Order> order = parseOrder(m_state->nextSort);
+  if (!order) return order.fault();
+  made.order = !order->empty() ? *order : !filter->order.empty() ? filter->order : m_state->order;
+  made.filters.push_back(std::move(*filter));
+  if (const Done loaded = made.load(); !loaded) return loaded.fault();
+  return copy;
+}
+
+Done RecordSet::findFirst(const QString& criteria) {
+  if (!isOpen()) return noCurrentRow();
+  return m_state->find(criteria, 0);
+}
+
+Done RecordSet::findNext(const QString& criteria) {
+  if (!isOpen()) return noCurrentRow();
+  return m_state->find(criteria, m_state->position + 1);
+}
+
+bool RecordSet::noMatch() const { return m_state->noMatch; }
+
+Done RecordSet::refresh() {
+  if (!isOpen()) return noCurrentRow();
+  State& state = *m_state;
+  const qint64 id = state.id();
+  state.endEditing();
+  if (const Done loaded = state.load(); !loaded) return loaded;
+  if (id != kNoBookmark) setBookmark(id);
+  return {};
+}
+
+}  // namespace store

@@ -1,0 +1,166 @@
+#include "platform/store/table_copy.h"
+
+#include <algorithm>
+
+#include "platform/text/fold.h"
+
+namespace store {
+namespace {
+
+std::u16string foldedCell(QStringView text) {
+  std::u16string cell;
+  text::foldForComparison(text, cell);
+  cell.push_back(u'\0');
+  return cell;
+}
+
+}  // namespace
+
+void FoldedColumn::append(QStringView text) {
+  text::foldForComparison(text, m_text);
+  m_text.push_back(u'\0');
+  m_starts.push_back(m_text.size());
+  m_null.push_back(text.isNull());
+}
+
+void FoldedColumn::replace(size_t row, QStringView text) {
+  const std::u16string cell = foldedCell(text);
+  const size_t old = m_starts[row + 1] - m_starts[row];
+  m_text.replace(m_starts[row], old, cell);
+  m_null[row] = text.isNull();
+  shift(row + 1, static_cast<std::ptrdiff_t>(cell.size()) - static_cast<std::ptrdiff_t>(old));
+}
+
+void FoldedColumn::erase(size_t row) {
+  const size_t old = m_starts[row + 1] - m_starts[row];
+  m_text.erase(m_starts[row], old);
+  m_null.erase(m_null.begin() + static_cast<std::ptrdiff_t>(row));
+  m_starts.erase(m_starts.begin() + static_cast<std::ptrdiff_t>(row));
+  shift(row, -static_cast<std::ptrdiff_t>(old));
+}
+
+void FoldedColumn::shift(size_t fromRow, std::ptrdiff_t by) {
+  if (by == 0) return;
+  for (size_t row = fromRow; row < m_starts.size(); ++row) m_starts[row] += static_cast<size_t>(by);
+}
+
+void FoldedColumn::markContaining(std::u16string_view needle, std::vector<char>& marks) const {
+  const std::u16string_view all(m_text);
+  size_t row = 0;
+  for (size_t hit = all.find(needle); hit != all.npos && row < rows();) {
+    if (m_starts[row + 1] <= hit)
+      row = static_cast<size_t>(std::upper_bound(m_starts.begin() + static_cast<std::ptrdiff_t>(row),
+                                                 m_starts.end(), hit) -
+                                m_starts.begin()) - 1;
+    if (row >= rows()) return;
+    marks[row] = !m_null[row];
+    hit = all.find(needle, m_starts[row + 1]);
+  }
+}
+
+uint32_t SortColumn::code(QStringView text) {
+  if (text.isNull()) return kNull;
+  const QString key = QString::fromRawData(text.data(), text.size());
+  const auto known = m_byText.constFind(key);
+  if (known != m_byText.constEnd()) return *known;
+  const QString kept(text.data(), text.size());
+  const uint32_t made = static_cast<uint32_t>(m_texts.size());
+  m_texts.push_back(kept);
+  m_byText.insert(kept, made);
+  return made;
+}
+
+QVector<int> TableCopy::missing(const QVector<int>& searched, const QVector<int>& sorted) const {
+  QVector<int> columns;
+  for (const int column : searched)
+    if (!m_searched.contains(column) && !columns.contains(column)) columns += column;
+  for (const int column : sorted)
+    if (!m_sorted.contains(column) && !columns.contains(column)) columns += column;
+  return columns;
+}
+
+Done TableCopy::load(StatementCache& statements, const QVector<int>& searched, const QVector<int>& sorted) {
+  const QVector<int> columns = missing(searched, sorted);
+  if (columns.isEmpty() && m_haveIds) return {};
+  QString sql = QStringLiteral("SELECT \"ID\"");
+  for (const int column : columns) sql += QLatin1Char(',') + quotedName(schema().name(column));
+  sql += QStringLiteral(" FROM ") + quotedName(schema().table()) + QStringLiteral(" ORDER BY \"ID\"");
+  Result<Statement> rows = Statement::prepare(statements.handle(), statements.path(), sql);
+  if (!rows) return rows.fault();
+
+  std::vector<qint64> ids;
+  std::vector<FoldedColumn> folded(static_cast<size_t>(columns.size()));
+  std::vector<SortColumn> coded(static_cast<size_t>(columns.size()));
+  std::vector<std::pair<bool, bool>> wanted;
+  for (const int column : columns)
+    wanted.emplace_back(searched.contains(column) && !m_searched.contains(column),
+                        sorted.contains(column) && !m_sorted.contains(column));
+  for (;;) {
+    const Result<bool> row = rows->step();
+    if (!row) return row.fault();
+    if (!row.value()) break;
+    ids.push_back(rows->number(0));
+    for (int place = 0; place < columns.size(); ++place) {
+      const bool yesNo = schema().type(columns[place]) == ColumnType::YesNo;
+      const QStringView text = yesNo ? (rows->number(place + 1) ? u"-1" : u"0") : rows->view(place + 1);
+      const size_t at = static_cast<size_t>(place);
+      if (wanted[at].first) folded[at].append(text);
+      if (wanted[at].second) coded[at].append(text);
+    }
+  }
+  if (m_haveIds && ids != m_ids) {  // another program wrote between: all columns must be of one moment
+    m_searched.clear();
+    m_sorted.clear();
+    m_haveIds = false;
+    return load(statements, searched, sorted);
+  }
+  m_ids = std::move(ids);
+  m_haveIds = true;
+  for (int place = 0; place < columns.size(); ++place) {
+    const size_t at = static_cast<size_t>(place);
+    if (wanted[at].first) m_searched.emplace(columns[place], std::move(folded[at]));
+    if (wanted[at].second) m_sorted.emplace(columns[place], std::move(coded[at]));
+  }
+  return {};
+}
+
+Done TableCopy::rowWritten(qint64 id) {
+  if (!m_haveIds) return {};
+  const Result<Row> read = m_file.read(id);
+  if (!read) return read.fault();
+  const Row& row = *read;
+  const auto place = std::lower_bound(m_ids.begin(), m_ids.end(), id);
+  const size_t at = static_cast<size_t>(place - m_ids.begin());
+  const bool known = place != m_ids.end() && *place == id;
+  if (!known && at != m_ids.size()) {  // an ID in the middle: rare enough to read all again
+    m_haveIds = false;
+    m_searched.clear();
+    m_sorted.clear();
+    return {};
+  }
+  if (!known) m_ids.push_back(id);
+  for (auto& [column, cells] : m_searched) {
+    if (known)
+      cells.replace(at, row[column]);
+    else
+      cells.append(row[column]);
+  }
+  for (auto& [column, cells] : m_sorted) {
+    if (known)
+      cells.replace(at, row[column]);
+    else
+      cells.append(row[column]);
+  }
+  return {};
+}
+
+void TableCopy::rowRemoved(qint64 id) {
+  const auto place = std::lower_bound(m_ids.begin(), m_ids.end(), id);
+  if (place == m_ids.end() || *place != id) return;
+  const size_t at = static_cast<size_t>(place - m_ids.begin());
+  m_ids.erase(place);
+  for (auto& [column, cells] : m_searched) cells.erase(at);
+  for (auto& [column, cells] : m_sorted) cells.erase(at);
+}
+
+}  // namespace store
