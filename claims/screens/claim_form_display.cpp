@@ -1,0 +1,13 @@
+#include "claims/screens/claim_form_display.h"
+
+#include "claims/screens/claim_form_screen.h"
+
+namespace claims {
+
+ClaimRecord ClaimFormDisplay::record() const { return m_form.record(); }
+QSet<QString> ClaimFormDisplay::checks() const { return m_form.checks(); }
+void ClaimFormDisplay::trimForPrint() { m_form.trimTexts(); }
+quintptr ClaimFormDisplay::window() const { return m_form.winId(); }
+void ClaimFormDisplay::put(const QString& column, const QString& text) { m_form.put(column, text); }
+
+}  // namespace claims

@@ -1,0 +1,110 @@
+#include "claims/core/area_boxes.h"
+#include "claims/core/day_codes.h"
+#include "claims/core/new_claim.h"
+#include "claims/screens/claim_form_screen.h"
+#include "claims/screens/claim_form_texts.h"
+
+// Fields of the form: checks on leaving, siblings of the lists, ticks with a word of their own.
+
+namespace claims {
+
+namespace {
+
+QString day(const char16_t* family, int index) {
+  return QStringLiteral("%1(%2)").arg(QString::fromUtf16(family)).arg(index);
+}
+
+/// Dates that 西暦 and 和暦 turn. 生年月日 of the patient register stays: it joins the claim to the patient.
+constexpr const char16_t* kDates[] = {u"被保険者の生年月日", u"療養を受ける者の生年月日", u"初療年月日",
+                                      u"同意の年月日", u"実際の同意の年月日"};
+
+}  // namespace
+
+void ClaimFormScreen::codeLeft(int index) {
+  const QString message =
+      codeEntryMessage(text(day(u"Text5", index)), kindOf(m_read.get(QStringLiteral("施術内容"))));
+  if (message.isNull()) return;
+  keepFocus();
+  messages().tell(message);
+}
+
+void ClaimFormScreen::visitLeft(int index) {
+  const QString message = visitEntryMessage(text(day(u"Text6", index)), m_flags.isAfter202410);
+  if (message.isNull()) return;
+  keepFocus();
+  messages().tell(message);
+}
+
+void ClaimFormScreen::gridEdited() {
+  m_treatmentChanged = true;
+  refillBoxes();
+}
+
+void ClaimFormScreen::refillBoxes() {
+  if (kindOf(m_read.get(QStringLiteral("施術内容"))) != Kind::Massage) return;
+  const AreaBoxes boxes = areaBoxes(record());
+  for (int i = 0; i < int(boxes.areas.size()); ++i) setText(day(u"Text31", i), boxes.areas[size_t(i)]);
+  for (int i = 0; i < int(boxes.limbs.size()); ++i) setText(day(u"Text41", i), boxes.limbs[size_t(i)]);
+}
+
+void ClaimFormScreen::insurerNumberLeft() {
+  const QString message = insurerNumberMessage(text(QStringLiteral("Combo1(1)")), text(QStringLiteral("Combo1(4)")));
+  if (!message.isNull()) messages().tell(message);
+}
+
+void ClaimFormScreen::insurerNameChosen() {
+  fillSiblings(m_lists.insurerByName(text(QStringLiteral("Combo1(3)"))));
+}
+
+void ClaimFormScreen::insurerNumberChosen() {
+  fillSiblings(m_lists.insurerByNumber(text(QStringLiteral("Combo1(4)"))));
+}
+
+void ClaimFormScreen::fillSiblings(const InsurerRow* insurer) {
+  if (insurer == nullptr) return;
+  put(QStringLiteral("保険者名称"), insurer->name);
+  put(QStringLiteral("保険者番号"), insurer->number);
+  put(QStringLiteral("保険者住所"), insurer->address);
+}
+
+void ClaimFormScreen::doctorChosen() {
+  const DoctorRow* doctor = m_lists.doctor(text(QStringLiteral("Combo1(24)")));
+  if (doctor == nullptr) return;
+  put(QStringLiteral("同意医師フリガナ"), doctor->reading);
+  put(QStringLiteral("同意医師住所"), doctor->address);
+  put(QStringLiteral("同意医師の電話番号"), doctor->telephone);
+  put(QStringLiteral("医療機関名"), doctor->hospital);
+}
+
+void ClaimFormScreen::consentReceiverToggled() {
+  if (!checked(QStringLiteral("chkFields(20)")) && !checked(QStringLiteral("chkFields(21)")))
+    messages().tell(QString::fromUtf16(kConsentTicksMessage));
+}
+
+void ClaimFormScreen::reportToggled() {
+  if (checked(QStringLiteral("Check11"))) messages().tell(QString::fromUtf16(kReportTickMessage));
+}
+
+void ClaimFormScreen::itemsOnlyToggled() {
+  if (checked(QStringLiteral("Check13")) && !m_run.itemsOnlyNoteSilenced)
+    navigator().show(QStringLiteral("項目のみ印刷の注意事項"));
+}
+
+void ClaimFormScreen::datesToWestern() { convertDates(&frame::EraDates::seireki); }
+void ClaimFormScreen::datesToEra() { convertDates(&frame::EraDates::wareki); }
+
+void ClaimFormScreen::convertDates(QString (frame::EraDates::*conversion)(const QString&) const) {
+  const frame::EraDates era = m_run.eraDates();
+  const ClaimRecord claim = record();
+  for (const char16_t* date : kDates) {
+    const QString column = QString::fromUtf16(date);
+    if (!claim.blank(column)) put(column, (era.*conversion)(claim.get(column)));
+  }
+}
+
+void ClaimFormScreen::clearAgent() {
+  if (!messages().ask(QString::fromUtf16(says::kClearAgentQuestion))) return;
+  for (const char16_t* column : representativeColumns()) put(QString::fromUtf16(column), QString());
+}
+
+}  // namespace claims

@@ -1,0 +1,79 @@
+#include "claims/core/amounts.h"
+#include "claims/core/carry_forward.h"
+#include "claims/screens/claim_form_screen.h"
+#include "claims/screens/claim_form_texts.h"
+
+// Calculation, carry-forward and the print buttons.
+
+namespace claims {
+
+namespace {
+
+/// The preview screens by previewKind less one.
+constexpr const char16_t* kPreviews[] = {u"施術料金1",     u"施術料金2",     u"施術料金2018H",
+                                         u"施術料金2108A", u"施術料金2024H", u"施術料金2024A"};
+
+}  // namespace
+
+void ClaimFormScreen::previewFees() {
+  if (m_id == 0) return;
+  applyMonth();
+  if (!mayLeave()) return;
+  for (const char16_t* preview : kPreviews)
+    if (const QString name = QString::fromUtf16(preview); navigator().loaded(name) != nullptr)
+      navigator().unload(name);
+  m_state.previewKind = 0;
+  const QString name = previewScreen(kindOf(m_read.get(QStringLiteral("施術内容"))), m_flags);
+  for (int kind = 0; kind < int(std::size(kPreviews)); ++kind) {
+    if (name != QString::fromUtf16(kPreviews[kind])) continue;
+    m_state.previewKind = kind + 1;
+    navigator().show(name);
+  }
+}
+
+void ClaimFormScreen::carryForward() {
+  if (m_id == 0) return;
+  if (m_carried) {
+    for (const QString& message : secondCarryMessages()) messages().tell(message);
+    return;
+  }
+  if (!mayLeave()) return;
+  const ClaimRecord claim = record();
+  if (const QString refusal = carryForwardRefusal(claim); !refusal.isNull()) return messages().tell(refusal);
+  if (!messages().ask(carryQuestion().join(u'\n'), screen::Buttons::YesNo)) return;
+  const auto added = m_file->add(claims::carryForward(claim));
+  if (!added) return messages().tellDataFault(added.fault().message);
+  m_carried = true;
+  if (showClaim(added.value())) announce();
+}
+
+void ClaimFormScreen::printAcupuncture() { print(1); }
+void ClaimFormScreen::printMassage() { print(2); }
+
+void ClaimFormScreen::print(int kind) {
+  if (m_id == 0) return;
+  applyMonth();
+  if (!mayLeave()) return;
+  const QString insurance = record().get(QStringLiteral("保険の種類"));
+  if (insurance == u"国保" || insurance == u"社保") {
+    if (!checkedFull()) return;
+    trimTexts();
+  }
+  m_state.printKind = kind;
+  const QString name = m_state.choosePrintScreen ? m_state.choosePrintScreen(record(), checks()) : QString();
+  if (name.isEmpty()) return messages().tell(QString::fromUtf16(says::kNoPrintScreen));
+  navigator().show(name);
+}
+
+void ClaimFormScreen::printRecord() {
+  if (m_id == 0) return;
+  applyMonth();
+  if (!mayLeave()) return;
+  navigator().show(m_flags.isAfter202410 ? QStringLiteral("施術録単体印刷2024") : QStringLiteral("施術録単体印刷"));
+}
+
+void ClaimFormScreen::printerOptions() {
+  if (m_state.printerSetup) m_state.printerSetup(winId());
+}
+
+}  // namespace claims

@@ -1,0 +1,131 @@
+#include "claims/core/generic_columns.h"
+#include "claims/screens/claim_form_rows.h"
+#include "claims/screens/claim_form_screen.h"
+
+namespace claims {
+
+using namespace screen;
+using namespace rows;
+using Form = ClaimFormScreen;
+
+namespace {
+
+constexpr char16_t kTwoPapersTip[] =
+    u"施術報告を、今月は徒手矯正術を２通もしくはマ術と徒手矯正術の２通を交付した場合はチェックをいれる";
+constexpr char16_t kThreePapersTip[] =
+    u"施術報告を、今月は徒手矯正術を２通とマ術と合わせて３通を交付した場合はチェックをいれる";
+
+/// A tick of the report group.
+constexpr Check report(ControlName name, Words caption, Binding bind, const char16_t* tip = nullptr,
+                       Handler toggled = nullptr) {
+  Check row = tick(name, caption, bind, nullptr, toggled);
+  row.tip = tip;
+  return row;
+}
+
+constexpr Row kRows[] = {
+    Page{u"治療"},
+    Group{{u"FrameCodes"}, u"治療内容", 1},
+    TextRun{.name = {u"Text5", 1},
+            .count = 31,
+            .caption = u"%1日 治療内容",
+            .bind = Column{u"治療内容%1"},
+            .limit = 4,
+            .perLine = 11,
+            .onLeave = call<&Form::codeLeft>,
+            .onEdit = call<&Form::gridEdited>},
+    EndGroup{},
+    Note{.name = {u"Label9"}, .caption = u"往療人数"},
+    Group{{u"FrameVisits"}, u"往療", 1},
+    TextRun{.name = {u"Text6", 1},
+            .count = 31,
+            .caption = u"%1日 往療人数",
+            .bind = Column{u"往療距離%1"},
+            .limit = 4,
+            .perLine = 11,
+            .onLeave = call<&Form::visitLeft>,
+            .onEdit = call<&Form::gridEdited>},
+    EndGroup{},
+    Check{.name = {u"Check8"},
+          .caption = u"訪問で同一患者の場合で、訪問料金を加算しない場合は、チェックを入れてください。"
+                     u"（往診人数欄は、空白にしてください。）申請書の日付を◎にします。",
+          .bind = Unbound{u"a switch of the next print"},
+          .tip = u"同一日に、鍼灸とマッサージを行い、チェックを入れた場合は、適応欄に必要事項を記載する必要があります。"},
+    Group{{u"FrameTreatment"}, u"施術", 4},
+    field({u"txtFields", 100}, u"マッサージ部位数:", Column{u"マッサージ部位数"}, 4),
+    field({u"txtFields", 101}, u"徒手矯正数:", Column{u"徒手矯正数"}, 4),
+    tick({u"chkFields", 38}, u"初回有無", Column{u"初回有無"}),
+    flag({u"chkFields", 6}, u"１．電気鍼", Column{column::kElectricNeedle, 2}),
+    flag({u"chkFields", 7}, u"２．電気温灸器", Column{column::kElectricMoxa, 2}),
+    flag({u"chkFields", 8}, u"３．電気光線器具", Column{column::kElectricLight, 2}),
+    flag({u"chkFields", 39}, u"※特別地域（加算）での施術", Column{column::kSpecialArea, 2}),
+    field({u"txtFields", 102}, u"実際の距離:", Column{u"実際の距離"}, 6, u"※加算の所で２・４・６以外の０．５・１．５等を印刷したい時だけ記入する"),
+    list({u"Combo1", 40}, u"請求区分:", Column{u"請求区分"}),
+    list({u"Combo1", 41}, u"転帰:", Column{u"転帰"}),
+    field({u"txtFields", 103}, u"請求年月日:", Column{u"請求年月日"}, 16),
+    field({u"txtFields", 104}, u"領収年月日:", Column{u"領収年月日"}, 16),
+    EndGroup{},
+    Group{{u"FramePlace"}, u"往療・訪問の場所と理由", 2},
+    TextField{.name = {u"txtFields", 105},
+              .caption = u"施術した場所:",
+              .bind = Column{u"d12", 2},
+              .limit = 58,
+              .width = 40},
+    list({u"Combo1", 42}, u"往療又は訪問の理由:", Column{u"d15", 2}),
+    TextField{.name = {u"txtFields", 106},
+              .caption = u"往療又は訪問の理由 その他の内容:",
+              .bind = Column{u"d13", 2},
+              .limit = 24,
+              .width = 30},
+    list({u"Combo1", 43}, u"予備 d14:", Column{u"d14", 2}),
+    EndGroup{},
+    Group{{u"FrameReport"}, u"施術報告書", 3},
+    report({u"Check11"}, u"施術報告書交付", Column{u"yn2", 2}, nullptr, call<&Form::reportToggled>),
+    report({u"Check12"}, u"施術報告書を２通交付した", Column{u"yn3", 2}, kTwoPapersTip),
+    report({u"Check14"}, u"３通の施術報告書を交付した", Column{u"yn4", 2}, kThreePapersTip),
+    field({u"txtFields", 107}, u"施術報告書交付年月日（必須）:", Column{u"txtdummy27", 2}, 16),
+    field({u"txtFields", 108}, u"前回の施術報告書交付年月:", Column{u"txtdummy28", 2}, 16, u"（記入例）令和6年5月"),
+    Check{.name = {u"Check17"},
+          .caption = u"元号のRの追加",
+          .bind = Unbound{u"a switch of the next print"},
+          .tip = u"前回の施術報告書交付年月に元号のＲを印刷したい場合にチェックを入れてください。"},
+    EndGroup{},
+    Note{.name = {u"LabelClosed"},
+         .caption = u"注：平成30年10月以前のレセプトデータでは、「施術報告書印刷」及び「往療内訳表」の入力と印刷は"
+                    u"できません。"},
+    Bar{},
+    Command{.name = {u"Command32"}, .caption = u"施術料金計算", .run = run<&Form::previewFees>},
+    Command{.name = {u"Command8"}, .caption = u"住所代入→", .run = run<&Form::openAddressHelper>},
+    Command{.name = {u"Command19"}, .caption = u"日付代入→", .run = run<&Form::openDateHelper>},
+    EndBar{},
+};
+
+constexpr Row kVisitTable[] = {
+    Note{.name = {u"LabelNoTable"},
+         .caption = u"※令和6年10月施術分以降、往療内訳表の印刷・提出は、必要なくなりました。"},
+    report({u"Check10"}, u"往療内訳の表示", Column{u"yn1", 2}, nullptr, call<&Form::visitTableToggled>),
+    report({u"Check15"}, u"右欄外に印刷する", Column{u"yn5", 2}),
+    Group{{u"FrameStarts"}, u"往療起点", 1},
+    TextRun{.name = {u"TextStart", 1},
+            .count = 31,
+            .caption = u"%1日 往療起点",
+            .bind = Column{u"a%1", 2},
+            .perLine = 11,
+            .tip = u"その日の往療の起点を、半角数字で記入してください。"},
+    EndGroup{},
+    Group{{u"FrameSameHouse"}, u"同一建物", 1},
+    TextRun{.name = {u"TextSame", 1},
+            .count = 31,
+            .caption = u"%1日 同一建物",
+            .bind = Column{u"b%1", 2},
+            .perLine = 11,
+            .tip = u"同一日に同一建物への往療に該当する場合に記入してください。"},
+    EndGroup{},
+};
+
+}  // namespace
+
+screen::Rows claimTreatmentRows() { return kRows; }
+screen::Rows claimVisitTableRows() { return kVisitTable; }
+
+}  // namespace claims

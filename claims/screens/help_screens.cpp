@@ -1,0 +1,53 @@
+#include "claims/screens/help_screens.h"
+
+#include "claims/screens/help_texts.h"
+
+namespace claims {
+
+using namespace screen;
+
+namespace {
+
+constexpr Row kRows[] = {
+    TextField{.name = {u"Text1"},
+              .caption = u"記入の仕方:",
+              .bind = Unbound{u"a fixed text"},
+              .limit = 32000,
+              .width = 70,
+              .lines = 22,
+              .readOnly = true,
+              .say = u"記入の仕方です。上下の矢印キーで1行ずつ読めます。"},
+    Bar{},
+    Command{.name = {u"Command2"}, .caption = u"記入の仕方を音声で説明", .run = run<&HelpScreen::speakAll>},
+    Command{.name = {u"Command1"}, .caption = u"閉じる", .run = run<&HelpScreen::closeHelp>},
+    EndBar{},
+};
+
+constexpr ScreenRow kOldest{.name = u"記入の仕方", .caption = u"記入の仕方", .rows = kRows};
+constexpr ScreenRow k2018{.name = u"記入の仕方2018", .caption = u"記入の仕方2018", .rows = kRows};
+constexpr ScreenRow k2024{.name = u"記入の仕方2024", .caption = u"記入の仕方2024", .rows = kRows};
+
+}  // namespace
+
+HelpScreen::HelpScreen(const ScreenRow& declaration, std::span<const char16_t* const> lines, Services& services)
+    : Screen(declaration, services), m_lines(lines) {}
+
+QStringList HelpScreen::lines() const {
+  QStringList all;
+  for (const char16_t* line : m_lines) all << QString::fromUtf16(line);
+  return all;
+}
+
+void HelpScreen::onLoad() { setText(QStringLiteral("Text1"), lines().join(u'\n')); }
+QStringList HelpScreen::openingTexts() const { return lines(); }
+void HelpScreen::speakAll() { voice().speakHeading(lines()); }
+void HelpScreen::closeHelp() { navigator().unload(QString::fromUtf16(declaration().name.get())); }
+
+FillingHelpScreen::FillingHelpScreen(Services& services, frame::RunState&, ClaimsState&)
+    : HelpScreen(kOldest, help::before202012(), services) {}
+FillingHelp2018Screen::FillingHelp2018Screen(Services& services, frame::RunState&, ClaimsState&)
+    : HelpScreen(k2018, help::before202410(), services) {}
+FillingHelp2024Screen::FillingHelp2024Screen(Services& services, frame::RunState&, ClaimsState&)
+    : HelpScreen(k2024, help::from202410(), services) {}
+
+}  // namespace claims
