@@ -23,10 +23,10 @@ struct AmountRow {
 
 /// Which rules a claim is computed by.
 enum class Regime {
-  None,      ///< no readable claim month, or no kind of treatment: nothing is computed
-  Steps,     ///< preview before 2018/06: visits in 2 km steps
-  TwoBand,   ///< store before 2024/10, preview 2018/06 to 2024/09: visits up to and beyond 4 km
-  Visits     ///< from 2024/10: 訪問施術
+  None,     ///< no readable claim month, or no kind of treatment: nothing is computed
+  Steps,    ///< preview before 2018/06: visits in 2 km steps
+  TwoBand,  ///< store before 2024/10, preview 2018/06 to 2024/09: visits up to and beyond 4 km
+  Visits    ///< from 2024/10: 訪問施術
 };
 
 /// The two ways of computing: at store, and for the preview screens of 施術料金計算.
@@ -42,11 +42,11 @@ struct AmountLine {
 /// Lines of an acupuncture claim from 2024/10.
 struct AcupunctureLines {
   AmountLine first;
-  AmountLine art[2];       ///< one art, two arts
+  AmountLine art[2];  ///< one art, two arts
   AmountLine electric;
   AmountLine visit[4][2];  ///< by form, by arts
   AmountLine sudden, special, report;
-  int artDays[2] = {};     ///< days of the month by one art and by two arts, visits among them
+  int artDays[2] = {};  ///< days of the month by one art and by two arts, visits among them
 };
 
 /// Lines of a massage claim from 2024/10. Only the two lowest numbers of areas are shown and summed, of
@@ -54,8 +54,8 @@ struct AcupunctureLines {
 struct MassageLines {
   int areasOf[5][2] = {};  ///< number of areas of a line: row 0 plain days, 1 to 4 the visit forms
   AmountLine area[5][2];
-  AmountLine limb[4];      ///< 1 to 4 limbs
-  AmountLine limbTotal;    ///< one limb's fee, limbs treated in the month, amount
+  AmountLine limb[4];    ///< 1 to 4 limbs
+  AmountLine limbTotal;  ///< one limb's fee, limbs treated in the month, amount
   AmountLine warm, warmLight, sudden, special, report;
 };
 
@@ -73,15 +73,15 @@ struct ClaimAmounts {
   int treatmentDays = 0;
   FeeEdition fees;
 
-  OldTally old;             ///< of Steps and TwoBand
-  StepVisits steps;         ///< of Steps
-  NewTally fresh;           ///< of Visits
+  OldTally old;      ///< of Steps and TwoBand
+  StepVisits steps;  ///< of Steps
+  NewTally fresh;    ///< of Visits
   AcupunctureLines acupuncture;
   MassageLines massage;
 
   // Before 2024/10, by kind.
   qint64 hari = 0, kyu = 0, hariKyu = 0, electric = 0, area = 0, limb = 0, warm = 0, warmLight = 0;
-  qint64 first = 0;         ///< 初回費用
+  qint64 first = 0;  ///< 初回費用
   qint64 report = 0;
   qint64 visit1 = 0, visit2 = 0;  ///< 往療金額1, 往療金額2 (Steps: base fees, add-ons)
 };
@@ -89,8 +89,8 @@ struct ClaimAmounts {
 /// The share rule, everywhere the same: rounded up but for a fraction under 0.001, in double precision.
 qint64 shareOf(qint64 total, double rate);
 
-/// Preview screen of a claim: 施術料金1, 施術料金2, 施術料金2018H, 施術料金2108A, 施術料金2024H, 施術料金2024A
-/// (2108 is the screen's own name); null where the month or the kind is none.
+/// Preview screen of a claim: 施術料金1, 施術料金2, 施術料金2018H, 施術料金2108A, 施術料金2024H,
+/// 施術料金2024A (2108 is the screen's own name); null where the month or the kind is none.
 QString previewScreen(Kind kind, const MonthFlags& flags);
 
 /// Number of report fees by the ticks 施術報告書交付, ２通, ３通.

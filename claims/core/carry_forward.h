@@ -6,7 +6,6 @@
 #include <span>
 
 #include "claims/core/claim_record.h"
-#include "frame/core/era_date.h"
 
 namespace claims {
 
@@ -22,8 +21,8 @@ std::optional<NextMonth> nextMonth(const QString& claimMonth);
 /// Why a claim cannot be carried forward: 請求回数 or 申請年月 blank. Null: it can.
 QString carryForwardRefusal(const ClaimRecord& claim);
 
-/// Columns that 翌月へ継続 carries: the pages 保険証, 同意書, 申請者の確認, the print settings, and 既往症 to 備考.
-/// The day grid, the calculated columns, 初回有無 and the ticks of the report stay blank.
+/// Columns that 翌月へ継続 carries: the pages 保険証, 同意書, 申請者の確認, the print settings, and 既往症 to
+/// 備考. The day grid, the calculated columns, 初回有無 and the ticks of the report stay blank.
 std::span<const char16_t* const> carriedColumns();
 
 /// The next month's claim.
@@ -32,7 +31,8 @@ ClaimRecord carryForward(const ClaimRecord& claim);
 /// What the box 施術所 shows: 施術所 and the clinic's name in round brackets.
 QString clinicBoxText(const QString& clinicName);
 
-/// What 翌月へ継続 says on a second press from the same opening, one message after the other, and its question.
+/// What 翌月へ継続 says on a second press from the same opening, one message after the other, and its
+/// question.
 QStringList secondCarryMessages();
 QStringList carryQuestion();
 

@@ -18,9 +18,9 @@ struct CheckResult {
   QString claimCheck() const { return stop ? QStringLiteral("break") : QString(); }
 };
 
-/// checkClaimFull: before 登録, 施術料金計算 by the store flow and the print buttons.
+/// checkClaimFull: before 登録 and the print buttons.
 CheckResult checkClaimFull(const ClaimRecord& claim, const frame::EraDates& era);
-/// checkClaimFast: before moving, closing, carrying forward, printing the record and previewing.
+/// checkClaimFast: before moving, closing, carrying forward, printing the record and 施術料金計算.
 /// `openWindows`: names of the screens that are open.
 CheckResult checkClaimFast(const ClaimRecord& claim, const frame::EraDates& era,
                            const QStringList& openWindows);

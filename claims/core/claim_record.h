@@ -10,6 +10,14 @@ namespace claims {
 /// name in one flat map (no column name stands in both halves but ID). A null text is NULL in the file.
 class ClaimRecord {
  public:
+  ClaimRecord() = default;
+  /// The columns of both halves.
+  ClaimRecord(const QHash<QString, QString>& first, const QHash<QString, QString>& second)
+      : m_columns(first) {
+    m_columns.reserve(first.size() + second.size());
+    m_columns.insert(second);
+  }
+
   QString get(const QString& column) const { return m_columns.value(column); }
   void set(const QString& column, const QString& value) { m_columns.insert(column, value); }
   /// Sets the column to NULL.

@@ -21,14 +21,14 @@ struct StoreContext {
 /// A claim as 登録 writes it.
 struct StoredClaim {
   ClaimRecord claim;
-  QStringList written;                     ///< columns that the store writes itself, beside what was typed
+  QStringList written;  ///< columns that the store writes itself, beside what was typed
   ClaimAmounts amounts;
   std::optional<text::Fault> calculation;  ///< the engine's fault where no amounts could be computed
 };
 
-/// The rule part of 登録, from the blank ふりがな to the record of the amounts: keys, derived kinds, 負担割合,
-/// 保険順位, summary code, cleared and computed columns of both halves. The checks, trimming and questions
-/// come before it and are the form's.
+/// The rule part of 登録, from the blank ふりがな to the record of the amounts: keys, derived kinds,
+/// 負担割合, 保険順位, summary code, cleared and computed columns of both halves. The checks, trimming and
+/// questions come before it and are the form's.
 ///
 /// `boxes`: the boxes 施術回数 as they stand on the form, where the user may have corrected them. Without
 /// them the claim's own d3 to d11 are kept, and counted anew where all are blank.

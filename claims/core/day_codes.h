@@ -20,9 +20,7 @@ class DayCode {
   /// The one letter that the code consists of, 0 where it is anything else.
   char16_t exact() const { return m_exact; }
   /// Whether the token stands in the code: letter g, h, i or j, number 1 to 5.
-  bool has(char16_t letter, int number) const {
-    return (m_tokens >> bit(letter, number)) & 1U;
-  }
+  bool has(char16_t letter, int number) const { return (m_tokens >> bit(letter, number)) & 1U; }
   bool hasToken() const { return m_tokens != 0; }
   /// The exact letter, else the letter of the token that stands first; 0: neither.
   char16_t leadingLetter() const { return m_leading; }

@@ -11,11 +11,11 @@ namespace claims {
 /// index of the chosen button, "0" the first, "1" the second.
 struct PrintSetting {
   const char16_t* column;
-  const char16_t* family;      ///< control family: Option9(0), Option9(1)
+  const char16_t* family;  ///< control family: Option9(0), Option9(1)
   const char16_t* caption;
   const char16_t* choices[2];
-  const char16_t* newClaim;    ///< what a new claim begins with (nullptr: NULL)
-  int whenBlank;               ///< the button that is set where the column is NULL
+  const char16_t* newClaim;  ///< what a new claim begins with (nullptr: NULL)
+  int whenBlank;             ///< the button that is set where the column is NULL
 };
 
 /// All switches in the order of the page.

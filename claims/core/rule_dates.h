@@ -14,8 +14,8 @@ struct Date {
   int year, month;
   QDate date() const { return QDate(year, month, 1); }
 };
-inline constexpr Date kTwoBandVisits{2018, 6};    ///< visits up to and beyond 4 km; before it 2 km steps
-inline constexpr Date kReports{2018, 10};         ///< 施術報告書 and 往療内訳 open; the report fee counts
+inline constexpr Date kTwoBandVisits{2018, 6};  ///< visits up to and beyond 4 km; before it 2 km steps
+inline constexpr Date kReports{2018, 10};  ///< 施術報告書 and 往療内訳 open; the report fee counts
 inline constexpr Date kReiwa{2019, 5};
 inline constexpr Date kStrictCodes{2020, 12};     ///< the code grammar is tightened
 inline constexpr Date kForms2022{2022, 6};        ///< print forms of 2022

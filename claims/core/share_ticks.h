@@ -27,7 +27,9 @@ using ShareTicks = std::array<bool, 6>;
 /// "本人,高齢8,": each word with its comma; blank without ticks.
 QString shareTicksText(const ShareTicks& ticks);
 ShareTicks shareTicksOf(const QString& text);
-/// The ticks of a claim: its tick values where it carries any, else the text of 負担割合.
+/// The tick values alone.
+ShareTicks tickValuesOf(const ClaimRecord& claim);
+/// The ticks of a claim as read: its tick values where one is set, else the text of 負担割合.
 ShareTicks shareTicksOf(const ClaimRecord& claim);
 
 }  // namespace claims

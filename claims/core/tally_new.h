@@ -19,9 +19,9 @@ struct VisitCounts {
   int of(int form) const;
 };
 
-/// The 24 tokens: a to f, g1 to g5, i1 to i5, j1 to j5, h1 to h4.
-inline constexpr int kTokens = 24;
-/// Index of a token among the 24; -1 for none of them (h5 is none).
+/// The tokens: a to f, g1 to g5, i1 to i5, j1 to j5, h1 to h4.
+inline constexpr int kTokens = 25;
+/// Index of a token; -1 for none of them (h5 is none).
 int tokenIndex(char16_t letter, int number = 0);
 const char16_t* tokenName(int index);
 

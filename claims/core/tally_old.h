@@ -21,19 +21,19 @@ struct OldTally {
   int warmLight = 0;    ///< count 10: j, whose column prices 温罨法 and 電気光線器具 as a pair
   int treatmentDays = 0;
 
-  char16_t first = 0;            ///< letter of the first treatment, 初回; 0: not ticked or no day
-  std::optional<Fee> firstFee;   ///< the column charged for it
+  char16_t first = 0;           ///< letter of the first treatment, 初回; 0: not ticked or no day
+  std::optional<Fee> firstFee;  ///< the column charged for it
 
-  int areaSum = 0;               ///< areas of all days
+  int areaSum = 0;  ///< areas of all days
   int limbSum = 0;
-  bool digitMassage = false;     ///< a number stood behind a massage letter: areaSum prices the claim
+  bool digitMassage = false;  ///< a number stood behind a massage letter: areaSum prices the claim
   bool digitLimb = false;
-  std::optional<int> massageN;   ///< areas of every massage day alike; 0 where they differ
+  std::optional<int> massageN;  ///< areas of every massage day alike; 0 where they differ
   std::optional<int> limbN;
 
-  int nearVisits = 0;            ///< up to 4 km
-  int farVisits = 0;             ///< 5 to 20 km
-  std::optional<int> distance;   ///< the distance of every visit alike; 0 where they differ
+  int nearVisits = 0;           ///< up to 4 km
+  int farVisits = 0;            ///< 5 to 20 km
+  std::optional<int> distance;  ///< the distance of every visit alike; 0 where they differ
 
   /// massageN as the forms show it: blank where it is 0.
   QString localCountText() const;

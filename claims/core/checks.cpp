@@ -1,0 +1,141 @@
+#include "claims/core/checks.h"
+
+#include "claims/core/check_grid.h"
+#include "claims/core/rule_dates.h"
+
+namespace claims {
+namespace {
+
+constexpr char16_t kPreviousReportWrong[] = u"前回の施術報告書交付年月が正しく入力されていません。";
+
+/// A date field: what is said where it is blank (nullptr: blank passes) and where it is no date.
+struct DateRow {
+  const char16_t* column;
+  const char16_t* blank;
+  const char16_t* wrong;
+};
+constexpr DateRow kDates[] = {
+    {u"申請年月", u"申請年月が入力されていません。", u"申請年月が正しく入力されていません。"},
+    {u"初療年月日", u"初療年月日が入力されていません。", u"初療年月日が正しく入力されていません。"},
+    {u"被保険者の生年月日", nullptr, u"被保険者の生年月日が正しく入力されていません。"},
+    {u"有効期限", nullptr, u"有効期限が正しく入力されていません。"},
+    {u"資格取得年月日", nullptr, u"資格取得日が正しく入力されていません。"},
+    {u"請求年月日", nullptr, u"請求年月日が正しく入力されていません。"},
+    {u"領収年月日", nullptr, u"領収年月日が正しく入力されていません。"},
+    {u"療養を受ける者の生年月日", nullptr, u"療養を受ける者の生年月日が正しく入力されていません。"},
+    {u"同意の年月日", nullptr, u"同意年月日が正しく入力されていません。"},
+    {u"実際の同意の年月日", nullptr, u"実際にレセプトへ記入する同意の年月日が正しく入力されていません。"},
+    {u"要加療期間1", nullptr, u"要加療期間(自)が正しく入力されていません。"},
+    {u"要加療期間2", nullptr, u"要加療期間(至)が正しく入力されていません。"},
+};
+
+QString textOf(const char16_t* text) { return QString::fromUtf16(text); }
+
+QString blankMessage(const ClaimRecord& claim, const char16_t* column, const char16_t* message) {
+  return claim.blank(textOf(column)) ? textOf(message) : QString();
+}
+
+QString dateMessage(const ClaimRecord& claim, const DateRow& row, const frame::EraDates& era) {
+  const QString value = claim.get(textOf(row.column));
+  if (value.isEmpty()) return row.blank ? textOf(row.blank) : QString();
+  return era.isDateOk(value) ? QString() : textOf(row.wrong);
+}
+
+/// The first message of the checks in their order; those behind it are not asked.
+template <class... Checks>
+QString firstOf(const Checks&... checks) {
+  QString message;
+  ((message = checks(), !message.isNull()) || ...);
+  return message;
+}
+
+QString datesMessage(const ClaimRecord& claim, const frame::EraDates& era) {
+  for (const DateRow& row : kDates)
+    if (const QString message = dateMessage(claim, row, era); !message.isNull()) return message;
+  return {};
+}
+
+/// The part that both lists have in the same order.
+QString commonMessage(const ClaimRecord& claim, const GridCodes& codes, const frame::EraDates& era) {
+  return firstOf(
+      [&] { return blankMessage(claim, u"保険の種類3", u"施術録の保険の種類が選択されていません。"); },
+      [&] { return gridFilledMessage(codes); }, [&] { return gridMixedMessage(codes); },
+      [&] { return datesMessage(claim, era); });
+}
+
+QString monthNumberMessage(const ClaimRecord& claim) {
+  const QString number = claim.get(QStringLiteral("申請月"));
+  if (number.isEmpty()) return {};
+  for (int month = 1; month <= 12; ++month)
+    if (number == QString::number(month)) return {};
+  return QStringLiteral("申請月が正しく入力されていません。");
+}
+
+QString reportDateMessage(const ClaimRecord& claim, const frame::EraDates& era) {
+  if (!claim.ticked(QStringLiteral("yn2"))) return {};
+  const QString date = claim.get(QStringLiteral("txtdummy27"));
+  if (date.isEmpty()) return QStringLiteral("施術報告書交付年月日（必須）の欄に日付が入力されていません。");
+  if (!era.isDateOk(date))
+    return QStringLiteral("施術報告書交付年月日（必須）の欄に日付が正確ではありません。");
+  return {};
+}
+
+/// 前回の施術報告書交付年月: an era month, no day and no western year. `full`: with the long text of the full
+/// list.
+QString previousReportMessage(const ClaimRecord& claim, bool full) {
+  const QString month = claim.get(QStringLiteral("txtdummy28"));
+  if (month.isEmpty()) return {};
+  if (month.endsWith(u'日') || month.startsWith(u'2')) {
+    return full ? QStringLiteral(
+                      "前回の施術報告書交付年月が正しく入力されていません。日まで入れずに、"
+                      "令和6年5月のように月までにして、和暦で入力してください。")
+                : textOf(kPreviousReportWrong);
+  }
+  return month.startsWith(u"平成") || month.startsWith(u"令和") ? QString() : textOf(kPreviousReportWrong);
+}
+
+QString fullMessage(const ClaimRecord& claim, const frame::EraDates& era, QStringList& warnings) {
+  const GridCodes codes = gridCodes(claim);
+  const MonthFlags flags = monthFlags(claim.get(QStringLiteral("申請年月")), era);
+  return firstOf(
+      [&] { return blankMessage(claim, u"保険者名称", u"保険証の保険者名が記入されていません。"); },
+      [&] { return commonMessage(claim, codes, era); },
+      [&] { return gridCodesMessage(codes, claim, flags.isAfter202012, warnings); },
+      [&] { return monthNumberMessage(claim); }, [&] { return reportDateMessage(claim, era); },
+      [&] { return previousReportMessage(claim, true); }, [&] { return specialAreaMessage(claim); },
+      [&] { return flags.isAfter202410 ? areaNumbersMessage(claim) : QString(); });
+}
+
+QString fastMessage(const ClaimRecord& claim, const frame::EraDates& era, const QStringList& openWindows) {
+  return firstOf([&] { return blankMessage(claim, u"保険の種類", u"保険の種類が選択されていません。"); },
+                 [&] { return commonMessage(claim, gridCodes(claim), era); },
+                 [&] { return openWindowMessage(openWindows, false); },
+                 [&] { return previousReportMessage(claim, false); });
+}
+
+CheckResult resultOf(const QString& failure, QStringList warnings) {
+  CheckResult result{!failure.isNull(), std::move(warnings)};
+  if (result.stop) result.messages.append(failure);
+  return result;
+}
+
+}  // namespace
+
+CheckResult checkClaimFull(const ClaimRecord& claim, const frame::EraDates& era) {
+  QStringList warnings;
+  const QString failure = fullMessage(claim, era, warnings);
+  return resultOf(failure, warnings);
+}
+
+CheckResult checkClaimFast(const ClaimRecord& claim, const frame::EraDates& era,
+                           const QStringList& openWindows) {
+  return resultOf(fastMessage(claim, era, openWindows), {});
+}
+
+QString insurerNumberMessage(const QString& printedInsurance, const QString& number) {
+  return printedInsurance == u"後期高齢" && number.startsWith(u"39")
+             ? QStringLiteral("後期高齢の場合､保険者番号の頭にある39は削除してください")
+             : QString();
+}
+
+}  // namespace claims

@@ -1,0 +1,181 @@
+#include "claims/core/claim_store.h"
+
+#include <QSet>
+#include <algorithm>
+
+#include "claims/core/amount_record.h"
+#include "claims/core/share_ticks.h"
+
+namespace claims {
+namespace {
+
+constexpr const char16_t* kCalculated[] = {u"はり合計金額",
+                                           u"はり合計回数",
+                                           u"灸合計金額",
+                                           u"灸合計回数",
+                                           u"はり灸合計金額",
+                                           u"はり灸合計回数",
+                                           u"はり電療合計金額",
+                                           u"はり電療合計回数",
+                                           u"灸電療合計金額",
+                                           u"灸電療合計回数",
+                                           u"はり灸電療合計金額",
+                                           u"はり灸電療合計回数",
+                                           u"マッサージ局所合計金額",
+                                           u"マッサージ局所合計回数",
+                                           u"徒手矯正術合計金額",
+                                           u"徒手矯正術合計回数",
+                                           u"温罨法合計金額",
+                                           u"温罨法合計回数",
+                                           u"電気光線器具併用合計金額",
+                                           u"電気光線器具併用合計回数",
+                                           u"治療日数",
+                                           u"初回費用",
+                                           u"初回",
+                                           u"合計",
+                                           u"一部負担金2",
+                                           u"請求額",
+                                           u"往療距離",
+                                           u"往療回数",
+                                           u"往療金額1",
+                                           u"往療金額2",
+                                           u"総括表"};
+
+constexpr const char16_t* kCalculatedSecond[] = {u"h2", u"h3", u"h4", u"m2", u"m3", u"m4", u"h1", u"m1"};
+
+/// A claim being stored, noting what the store itself writes.
+class Writer {
+ public:
+  explicit Writer(StoredClaim& stored) : m_stored(stored) {}
+
+  QString get(const char16_t* column) const { return m_stored.claim.get(QString::fromUtf16(column)); }
+  void set(const char16_t* column, const QString& value) {
+    const QString name = QString::fromUtf16(column);
+    m_stored.claim.set(name, value);
+    if (!m_written.contains(name)) m_written.insert(name), m_stored.written.append(name);
+  }
+  void clear(std::span<const char16_t* const> columns) {
+    for (const char16_t* column : columns) set(column, QString());
+  }
+  /// A number; 0 leaves the column NULL.
+  void setNumber(const char16_t* column, qint64 number) {
+    set(column, number == 0 ? QString() : QString::number(number));
+  }
+
+ private:
+  StoredClaim& m_stored;
+  QSet<QString> m_written;
+};
+
+/// 老人 and 退職国保 were replaced by other kinds; a claim whose printed kind says so follows.
+void rewriteInsurance(Writer& writer) {
+  const QString kind = writer.get(u"保険の種類"), printed = writer.get(u"保険の種類3");
+  if (printed == u"後期高齢" && kind == u"老人") writer.set(u"保険の種類", QStringLiteral("後期高齢"));
+  if (printed == u"国民健保" && kind == u"退職国保") writer.set(u"保険の種類", QStringLiteral("国保"));
+}
+
+void writeDerived(const ClaimRecord& claim, Writer& writer) {
+  rewriteInsurance(writer);
+  const bool hasTicks = std::ranges::any_of(
+      kShareTicks, [&](const ShareTick& tick) { return claim.has(QString::fromUtf16(tick.column)); });
+  if (hasTicks) writer.set(u"負担割合", shareTicksText(tickValuesOf(claim)));
+  const QString kind = writer.get(u"保険の種類");
+  writer.set(u"保険順位", insuranceOrder(kind));
+  writer.set(kSummaryCodeColumn, summaryCode(kind, writer.get(u"被保険者との続柄")));
+  writer.set(u"保険証番号1", writer.get(u"保険証番号"));
+}
+
+/// The distance that the claim shows: the one typed for printing, else the one of all its visits.
+QString distanceText(const OldTally& tally, Writer& writer) {
+  if (const QString actual = writer.get(u"実際の距離"); !actual.isEmpty()) return actual;
+  return tally.distance.value_or(0) == 0 ? QString() : QString::number(*tally.distance);
+}
+
+void writeOld(const ClaimAmounts& a, Writer& writer) {
+  const OldTally& t = a.old;
+  const struct {
+    const char16_t *amountColumn, *countColumn;
+    qint64 amount;
+    int count;
+  } kinds[] = {{u"はり合計金額", u"はり合計回数", a.hari, t.hari},
+               {u"灸合計金額", u"灸合計回数", a.kyu, t.kyu},
+               {u"はり灸合計金額", u"はり灸合計回数", a.hariKyu, t.hariKyu},
+               {u"はり電療合計金額", u"はり電療合計回数", a.electric, t.electric},
+               {u"マッサージ局所合計金額", u"マッサージ局所合計回数", a.area, t.massageDays},
+               {u"徒手矯正術合計金額", u"徒手矯正術合計回数", a.limb, t.limbDays},
+               {u"温罨法合計金額", u"温罨法合計回数", a.warm, t.warm},
+               {u"電気光線器具併用合計金額", u"電気光線器具併用合計回数", a.warmLight, t.warmLight}};
+  for (const auto& kind : kinds) {
+    writer.setNumber(kind.amountColumn, kind.amount);
+    writer.setNumber(kind.countColumn, kind.count);
+  }
+  writer.setNumber(u"初回費用", a.first);
+  if (t.first != 0) writer.set(u"初回", QString(QChar(t.first)));
+  writer.set(u"往療距離", distanceText(t, writer));
+  writer.setNumber(u"往療回数", t.nearVisits + t.farVisits);
+  writer.setNumber(u"往療金額1", a.visit1);
+  writer.setNumber(u"往療金額2", a.visit2);
+}
+
+void writeAmounts(const ClaimAmounts& a, const AreaBoxes& boxes, Writer& writer) {
+  if (a.regime == Regime::TwoBand) writeOld(a, writer);
+  writer.setNumber(u"治療日数", a.treatmentDays);
+  // Blank, but never NULL: NULL says that the claim was never stored.
+  writer.set(u"施術科目", a.subject.isNull() ? QString(QLatin1String("")) : a.subject);
+  const bool massage = a.kind == Kind::Massage;
+  const struct {
+    const char16_t *column, *own;
+    qint64 yen;
+  } sums[] = {{u"合計", massage ? u"m2" : u"h2", a.total},
+              {u"一部負担金2", massage ? u"m3" : u"h3", a.share},
+              {u"請求額", massage ? u"m4" : u"h4", a.claim}};
+  for (const auto& sum : sums) {
+    writer.setNumber(sum.column, sum.yen);
+    if (a.kind != Kind::None) writer.setNumber(sum.own, sum.yen);
+  }
+  if (a.regime == Regime::Visits) writer.set(massage ? u"m1" : u"h1", amountRecord(a, boxes));
+}
+
+AreaBoxes boxesFor(const ClaimRecord& claim, const std::optional<AreaBoxes>& given) {
+  if (given) return *given;
+  const AreaBoxes stored = storedAreaBoxes(claim);
+  return stored == AreaBoxes() ? areaBoxes(claim) : stored;
+}
+
+void writeBoxes(const AreaBoxes& boxes, Writer& writer) {
+  for (size_t i = 0; i < boxes.areas.size(); ++i) writer.set(kAreaBoxColumns[i], boxes.areas[i]);
+  for (size_t i = 0; i < boxes.limbs.size(); ++i) writer.set(kLimbBoxColumns[i], boxes.limbs[i]);
+}
+
+}  // namespace
+
+StoredClaim storeClaim(const ClaimRecord& claim, const StoreContext& context,
+                       const std::optional<AreaBoxes>& given) {
+  StoredClaim stored;
+  stored.claim = claim;
+  Writer writer(stored);
+  // Never NULL, so that the list's order has no gap.
+  if (claim.blank(QStringLiteral("被保険者のフリガナ")))
+    writer.set(u"被保険者のフリガナ", QStringLiteral(" "));
+  const AreaBoxes boxes = boxesFor(claim, given);
+  const MonthFlags flags = monthFlags(claim.get(QStringLiteral("申請年月")), context.era);
+  if (flags.month) {
+    writer.clear(kCalculated);
+    writer.clear(kCalculatedSecond);
+    const auto computed = amounts(claim, flags, Path::Store, context.files, context.fees);
+    if (computed) {
+      stored.amounts = computed.value();
+      writeAmounts(stored.amounts, boxes, writer);
+    } else {
+      stored.calculation = computed.fault();
+    }
+  }
+  writeDerived(claim, writer);
+  writeBoxes(boxes, writer);
+  return stored;
+}
+
+std::span<const char16_t* const> calculatedColumns() { return kCalculated; }
+std::span<const char16_t* const> calculatedColumnsSecond() { return kCalculatedSecond; }
+
+}  // namespace claims

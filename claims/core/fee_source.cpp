@@ -1,0 +1,46 @@
+#include "claims/core/fee_source.h"
+
+#include <QFileInfo>
+
+#include "platform/store/connection.h"
+#include "platform/store/sources.h"
+#include "platform/text/number.h"
+
+namespace claims {
+namespace {
+
+/// The row at the cursor. A fraction is dropped; a column that the file lacks is empty.
+FeeEdition editionAt(const store::Cursor& row) {
+  FeeEdition edition;
+  for (int i = 0; i < static_cast<int>(Fee::Count); ++i) {
+    const auto fee = static_cast<Fee>(i);
+    const QString value = row.value(feeColumn(fee));
+    if (text::isNumeric(value)) edition.set(fee, static_cast<int>(text::intOf(value)));
+  }
+  edition.id = row.value(QStringLiteral("ID")).toLongLong();
+  return edition;
+}
+
+text::Result<FeeEdition> readEdition(const QString& path) {
+  store::Connection connection;
+  if (const auto opened = connection.open(store::connectionString(path)); !opened) return opened.fault();
+  auto rows = store::Cursor::open(connection, QString::fromUtf16(store::source::kFeesNewestFirst));
+  if (!rows) return rows.fault();
+  if (rows->eof()) return text::Fault{path + QStringLiteral(": 料金設定 のデータがありません。")};
+  FeeEdition edition = editionAt(*rows);
+  edition.path = path;
+  return edition;
+}
+
+}  // namespace
+
+text::Result<FeeEdition> StoredFees::load(const QString& path) {
+  const QDateTime changed = QFileInfo(path).lastModified();
+  if (const auto known = m_read.constFind(path); known != m_read.constEnd() && known->changed == changed)
+    return known->edition;
+  auto edition = readEdition(path);
+  if (edition && changed.isValid()) m_read.insert(path, {changed, edition.value()});
+  return edition;
+}
+
+}  // namespace claims
