@@ -1,0 +1,34 @@
+#include "records/core/search_columns.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/store/catalogue.h"
+
+namespace records {
+namespace {
+
+TEST(SearchColumns, EveryColumnStandsInThePatientTable) {
+  const store::TableRow* table = store::tableOfFile(QStringLiteral("臨床QV2000N.mdb"));
+  ASSERT_NE(table, nullptr);
+  for (const SearchColumn& row : searchColumns())
+    EXPECT_NE(store::findColumn(*table, row.column.toString()), nullptr) << row.column.toString().toStdString();
+}
+
+TEST(SearchColumns, ThirtyThreeCaptionsFromIdToMemo) {
+  ASSERT_EQ(searchColumns().size(), 33u);
+  EXPECT_EQ(searchColumns().front().caption.toString(), QStringLiteral("ID"));
+  EXPECT_EQ(searchColumns().back().caption.toString(), QStringLiteral("メモ1"));
+}
+
+TEST(SearchColumns, FuriganaIsTheColumnOfTheTable) {
+  EXPECT_EQ(columnOfCaption(QStringLiteral("フリガナ")), QStringLiteral("ふりがな"));
+  EXPECT_TRUE(columnOfCaption(QStringLiteral("ない項目")).isNull());
+}
+
+TEST(SearchColumns, CriteriaAreJoinedWithoutEscaping) {
+  EXPECT_EQ(likeCriterion(QStringLiteral("氏名"), QStringLiteral("O'")), QStringLiteral("氏名 like '*O'*' "));
+  EXPECT_EQ(equalCriterion(QStringLiteral("患者ID"), QStringLiteral("7")), QStringLiteral("患者ID = '7' "));
+}
+
+}  // namespace
+}  // namespace records
