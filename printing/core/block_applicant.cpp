@@ -1,0 +1,52 @@
+#include "claims/core/kinds.h"
+#include "claims/core/print_fields.h"
+#include "printing/core/claim_blocks.h"
+
+namespace printing {
+
+namespace {
+
+constexpr Variant kApplicant[] = {{13, u"Name5_3"}, {kAnyLength, u"Name5_5"}};
+constexpr Variant kMandator[] = {{13, u"Name5_6"}, {kAnyLength, u"Name5_7"}};
+constexpr Variant kInsurer[] = {{12, u"Name48"}, {16, u"Name48_1"}, {kAnyLength, u"Name48_2"}};
+
+/// The insured, or for a late-elderly claim, where the practice has chosen so, the person treated.
+QString applicantName(const Sheet& sheet) {
+  const QString flag = sheet.source.profile[frame::profile::kElderlyNamePrinted];
+  const bool treated = sheet.lateElderly() && (flag == u"1" || flag == u"11" || flag == u"111");
+  return sheet.value(treated ? u"療養を受ける者の氏名" : u"被保険者の氏名");
+}
+
+/// c6, the word behind the insurer's name; where it was never chosen, the one of the kind of insurance.
+QString addressee(const Sheet& sheet) {
+  const QString chosen = sheet.value(u"c6");
+  return chosen.isEmpty() ? claims::defaultAddressee(sheet.value(u"保険の種類")) : chosen.trimmed();
+}
+
+}  // namespace
+
+void insuredBlock(Sheet& sheet) {
+  const QString name = applicantName(sheet), address = sheet.value(u"被保険者の住所");
+  const QString zip = claims::printFields(sheet.claim).value(QStringLiteral("被保険者の郵便番号"));
+  sheet.fields.variant(kApplicant, name);
+  sheet.fields.show(u"Name12", address);
+  if (!zip.isEmpty()) sheet.fields.show(u"yuubin1", u'〒' + zip);
+  sheet.show(u"HHokenTel", u"被保険者の電話番号");
+  if (!sheet.settings.on(Setting::Mandate)) return;
+  sheet.fields.show(u"Name13", address);
+  if (sheet.settings.on(Setting::MandateName)) sheet.fields.variant(kMandator, name);
+}
+
+void insurerName(Sheet& sheet) {
+  const QString name = sheet.value(u"区市町村名称"), word = addressee(sheet);
+  if (sheet.insuranceIs({u"全国健康保険協会"}) && word == u"全国健康保険協会支部長")
+    return sheet.fields.show(u"Name48_1", QStringLiteral("全国健康保険協会%1支部長").arg(name));
+  if (!name.isEmpty()) sheet.fields.variant(kInsurer, name + word);
+}
+
+void workplace(Sheet& sheet) {
+  sheet.show(u"JigyouName", u"事業所の名称");
+  sheet.show(u"JigyouAdd", u"事業所の所在地");
+}
+
+}  // namespace printing

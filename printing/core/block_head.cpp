@@ -1,0 +1,121 @@
+#include "claims/core/generic_columns.h"
+#include "platform/text/width.h"
+#include "printing/core/claim_blocks.h"
+
+namespace printing {
+
+namespace {
+
+constexpr int kNumberBoxes = 8;
+constexpr int kShortNumber = 6;  ///< such an insurer number stands at the right, from box 3
+
+bool hasDigit(const QString& text) {
+  return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
+}
+
+/// The number of a late-elderly insurer behind its 39: stored without it, but taken where it was typed.
+QString behind39(const QString& number) {
+  if (number.size() < kNumberBoxes) return number;
+  // Eight characters and more do not go behind the printed 39; the claim screen says so.
+  return number.size() == kNumberBoxes && number.startsWith(u"39") ? number.mid(2) : QString();
+}
+
+void lateElderlyNumber(Sheet& sheet, const QString& number) {
+  if (!hasDigit(number)) return;
+  sheet.fields.show(u"HokenNo_1", QStringLiteral("3"));
+  sheet.fields.show(u"HokenNo_2", QStringLiteral("9"));
+  sheet.fields.digits(u"HokenNo_", number, kNumberBoxes, 3);
+}
+
+/// The claim's registration number: c14 of acupuncture, c15 of massage, which falls back to c14.
+QString registrationNumber(const Sheet& sheet) {
+  const QString massage = sheet.source.acupuncture() ? QString() : sheet.value(u"c15");
+  return massage.isEmpty() ? sheet.value(u"c14") : massage;
+}
+
+/// The claim's own institution number, or the practice's number of this kind of treatment.
+QString associationNumber(const Sheet& sheet) {
+  const QString own = sheet.value(u"師会等の機関番号");
+  if (!own.isEmpty()) return own;
+  return sheet.source.profile[sheet.source.acupuncture() ? frame::profile::kInstitutionHari
+                                                         : frame::profile::kInstitutionMassage];
+}
+
+/// Mie chooses the institution items again: a late-elderly claim prints the late-elderly number.
+void institutionCodeOfMie(Sheet& sheet, bool registered) {
+  if (registered) {
+    sheet.fields.hide(u"KikanCode1");
+    sheet.fields.hide(u"KoukiCode");
+  } else if (sheet.lateElderly()) {
+    sheet.fields.hide(u"KikanCode");
+    sheet.fields.hide(u"KikanCode1");
+    sheet.fields.show(u"KoukiCode", sheet.source.profile[sheet.source.acupuncture()
+                                                             ? frame::profile::kElderlyHari
+                                                             : frame::profile::kElderlyMassage]);
+  }
+}
+
+}  // namespace
+
+void printDate(Sheet& sheet) {
+  sheet.fields.show(u"Date", sheet.dates.clock().today().toString(QStringLiteral("yyyy/MM/dd")));
+}
+
+void claimMonth(Sheet& sheet) {
+  const DateWords words = dateWords(sheet.value(u"申請年月"), sheet.dates);
+  // On paper that is printed already the era word stands there.
+  if (!sheet.source.itemsOnly) sheet.fields.show(u"GG4", words.era);
+  sheet.fields.show(u"YY4", words.year);
+  sheet.fields.show(u"MM4", words.month);
+  sheet.fields.show(u"MM5", words.month);
+}
+
+void insurerNumber(Sheet& sheet) {
+  const QString number = sheet.value(u"保険者番号").trimmed();
+  if (sheet.lateElderly()) return lateElderlyNumber(sheet, behind39(number));
+  sheet.fields.digits(u"Name0_", number, kNumberBoxes, number.size() == kShortNumber ? 3 : 1);
+}
+
+void institutionCode(Sheet& sheet) {
+  const QString registered = registrationNumber(sheet);
+  if (!registered.isEmpty())
+    sheet.fields.show(u"KikanCode", text::toFullWidth(registered));
+  else
+    sheet.fields.show(u"KikanCode1", associationNumber(sheet));
+  if (sheet.source.prefecture == u"24") institutionCodeOfMie(sheet, !registered.isEmpty());
+}
+
+void publicExpenseNumbers(Sheet& sheet) {
+  if (sheet.settings.on(Setting::PublicExpense)) {
+    sheet.fields.digits(u"KouhiFutan_", sheet.value(u"公費負担番号"), kNumberBoxes);
+    sheet.fields.digits(u"KouhiJyu_", sheet.value(u"公費受給者番号"), kNumberBoxes);
+  }
+  sheet.fields.digits(u"Kushi_", sheet.value(u"区市町村番号"), kNumberBoxes);
+  sheet.fields.digits(u"Jyukyu_", sheet.value(u"受給者番号"), kNumberBoxes);
+}
+
+void kindOfInsurance(Sheet& sheet) {
+  if (sheet.value(u"保険の種類3") == u"公費負担")
+    sheet.fields.mark(u"H_M_Circle2");
+  else if (sheet.insuranceIs({u"後期高齢", u"老人"}))
+    sheet.fields.mark(u"H_M_Circle3");
+  else if (!sheet.value(u"保険の種類").isEmpty())
+    sheet.fields.mark(u"H_M_Circle1");
+}
+
+void leftMargin(Sheet& sheet) {
+  if (!sheet.settings.on(Setting::LeftMargin)) return;
+  if (sheet.insuranceIs({u"国保", u"退職国保", u"特別国保"}))
+    sheet.fields.show(u"HokenTypeT", QStringLiteral("国民健康保険"));
+  else if (sheet.insuranceIs({u"共済"}))
+    sheet.fields.show(u"HokenTypeT", QStringLiteral("共済組合"));
+  else if (sheet.insuranceIs({u"組合"}))
+    sheet.fields.show(u"HokenTypeT", QStringLiteral("健康保険組合"));
+  sheet.fields.markIf(sheet.insuranceIs({u"共済", u"特別国保", u"後期高齢", u"退職国保"}), u"HokenType_4");
+  const QString association = sheet.value(u"師会名");
+  // Written downwards: the long-vowel mark becomes an upright stroke.
+  if (!association.isEmpty())
+    sheet.fields.show(u"Shikai", u'　' + QString(association).replace(u'ー', u'｜'));
+}
+
+}  // namespace printing

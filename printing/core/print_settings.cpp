@@ -1,0 +1,57 @@
+#include "printing/core/print_settings.h"
+
+#include "claims/core/print_settings.h"
+#include "frame/core/settings_slots.h"
+
+namespace printing {
+
+namespace {
+
+constexpr int kNoFlag = -1;
+
+struct SettingRow {
+  Setting setting;
+  const char16_t* column;
+  int flag = kNoFlag;  ///< slot of the practice's own flag, "1" or "0"
+};
+
+constexpr SettingRow kSettings[] = {
+    {Setting::PeriodFrom, u"txt dummy1"},
+    {Setting::PeriodTo, u"txt dummy2"},
+    {Setting::LeftMargin, u"txt dummy3"},
+    {Setting::PublicExpense, u"txt dummy4"},
+    {Setting::Bank, u"txt dummy5"},
+    {Setting::Proof, u"txt dummy6"},
+    {Setting::Doctor, u"txt dummy7"},
+    {Setting::Amounts, u"txt dummy8"},
+    {Setting::Sex, u"txt dummy9"},
+    {Setting::Mandate, u"txt dummy10"},
+    {Setting::MandateName, u"txt dummy13"},
+    {Setting::Relation, u"txtdummy26", frame::profile::kRelationPrinted},
+    {Setting::ApplicantName, u"c8", frame::slot::kPrintApplicantName},
+    {Setting::ShareCircles, u"c9"},
+    {Setting::ProxyWords, u"c10"},
+    {Setting::ShareAsComputed, u"c11"},
+    {Setting::Dates, u"c13"},
+    {Setting::Attachment, u"c16"},
+};
+
+/// Columns without option buttons of their own on the page keep the word itself: "1" on, "0" off.
+Switch wordOf(const QString& value) {
+  if (value.isEmpty() || value == u"1") return Switch::On;
+  return value == u"0" ? Switch::Off : Switch::Empty;
+}
+
+}  // namespace
+
+Switch PrintSettings::of(Setting setting) const {
+  const SettingRow& row = kSettings[static_cast<size_t>(setting)];
+  const QString column = QString::fromUtf16(row.column);
+  if (m_claim.blank(column) && row.flag != kNoFlag && !m_profile[row.flag].isEmpty())
+    return wordOf(m_profile[row.flag]);
+  const claims::PrintSetting* buttons = claims::printSetting(column);
+  if (buttons == nullptr) return wordOf(m_claim.get(column));
+  return claims::chosen(m_claim, *buttons) == 0 ? Switch::On : Switch::Off;
+}
+
+}  // namespace printing
