@@ -1,0 +1,75 @@
+// The day grid's counts.
+#include "claims/core/rule_dates.h"
+#include "claims/core/tally_new.h"
+#include "claims/core/tally_old.h"
+#include "tools/rulecheck/claim_json.h"
+#include "tools/rulecheck/ops.h"
+
+namespace rulecheck {
+namespace {
+
+QJsonValue jsonOf(const std::optional<int>& number) { return number ? QJsonValue(*number) : QJsonValue(); }
+
+QJsonObject oldCounters(const claims::ClaimRecord& claim) {
+  const claims::OldTally tally = claims::tallyOld(claim);
+  const QString first = tally.first == 0 ? QString(QLatin1String("")) : QString(QChar(tally.first));
+  return {{"count1", tally.hari},
+          {"count2", tally.kyu},
+          {"count3", tally.hariKyu},
+          {"count4", tally.electric},
+          {"count7", tally.massageDays},
+          {"count8", tally.limbDays},
+          {"count9", tally.warm},
+          {"count10", tally.warmLight},
+          {"治療日数", tally.treatmentDays},
+          {"初回", first},
+          {"初回費用列", tally.firstFee ? claims::feeColumn(*tally.firstFee) : QString(QLatin1String(""))},
+          {"areaSum", tally.areaSum},
+          {"limbSum", tally.limbSum},
+          {"digitMassage", tally.digitMassage},
+          {"digitLimb", tally.digitLimb},
+          {"massageN", jsonOf(tally.massageN)},
+          {"limbN", jsonOf(tally.limbN)},
+          {"nearVisits", tally.nearVisits},
+          {"farVisits", tally.farVisits}};
+}
+
+QJsonObject newCounters(const claims::NewTally& tally) {
+  QJsonObject counters{{"はり", tally.hari},
+                       {"灸", tally.kyu},
+                       {"1術", tally.oneArt},
+                       {"2術", tally.twoArts},
+                       {"電療", tally.electric},
+                       {"温罨法", tally.warm},
+                       {"電気光線器具", tally.warmLight},
+                       {"治療日数", tally.treatmentDays}};
+  for (int token = claims::tokenIndex(u'g', 1); token < claims::kTokens; ++token)
+    counters[QString::fromUtf16(claims::tokenName(token))] = tally.plain[static_cast<size_t>(token)];
+  return counters;
+}
+
+QJsonObject newVisits(const claims::NewTally& tally) {
+  QJsonObject visits;
+  for (int token = 0; token < claims::kTokens; ++token) {
+    const claims::VisitCounts& counts = tally.visits[static_cast<size_t>(token)];
+    visits[QString::fromUtf16(claims::tokenName(token))] = QJsonObject{{"v1", counts.one},
+                                                                       {"v2", counts.two},
+                                                                       {"v3", counts.small},
+                                                                       {"v10", counts.large},
+                                                                       {"t", counts.sudden}};
+  }
+  return visits;
+}
+
+}  // namespace
+
+QJsonObject tally(const QJsonObject& request, Context&) {
+  const claims::ClaimRecord claim = claimOf(request);
+  const auto flags = claims::monthFlags(claim.get(QStringLiteral("申請年月")), eraDates());
+  if (!flags.month) return error(QStringLiteral("申請年月: not an era month"));
+  if (!flags.isAfter202410) return {{"regime", "old"}, {"counters", oldCounters(claim)}};
+  const claims::NewTally counted = claims::tallyNew(claim);
+  return {{"regime", "new"}, {"counters", newCounters(counted)}, {"visits", newVisits(counted)}};
+}
+
+}  // namespace rulecheck
