@@ -36,6 +36,10 @@ Fault engineFault(sqlite3* handle, const QString& path) {
   return {QStringLiteral("「%1」%2").arg(QFileInfo(path).fileName(), reason(handle))};
 }
 
+Fault readOnly(const QString& path) {
+  return {QStringLiteral("「%1」は、読み取り専用のため書き込めません。").arg(QFileInfo(path).fileName())};
+}
+
 QString quotedName(const QString& name) {
   QString doubled = name;
   doubled.replace(u'"', QStringLiteral("\"\""));

@@ -1,0 +1,187 @@
+#include "frame/core/installation.h"
+
+#include <QDir>
+#include <QFile>
+#include <QDateTime>
+#include <QFileInfo>
+#include <QHash>
+#include <QMap>
+
+#include "frame/core/csv_table.h"
+#include "frame/core/prefecture.h"
+#include "frame/core/run_state.h"
+#include "platform/store/bulk.h"
+#include "platform/store/catalogue.h"
+#include "platform/store/database.h"
+#include "platform/text/whole_file.h"
+
+namespace frame {
+namespace {
+
+using text::Done;
+using text::Fault;
+using text::Result;
+
+/// A file whose fresh copy starts filled from a shipped table; columns that the file lacks are left out.
+struct FilledFile {
+  const char16_t* file;
+  const char16_t* source;
+};
+constexpr FilledFile kDictionaries[] = {{u"Keiraku2000.mdb", u"acupoints.csv"},
+                                        {u"CLmoji2000.mdb", u"phrases1.csv"},
+                                        {u"CL2moji2000.mdb", u"phrases2.csv"}};
+constexpr char16_t kFees[] = u"fees/editions.csv";
+
+class Layout {
+ public:
+  Layout(QString program, QString data, QString templates)
+      : m_program(std::move(program)), m_data(std::move(data)), m_templates(std::move(templates)) {}
+
+  Result<QStringList> run() {
+    for (const auto step : {&Layout::folders, &Layout::databases, &Layout::fees, &Layout::settings,
+                            &Layout::shippedFiles})
+      if (const Done done = (this->*step)(); !done) return done.fault();
+    return m_made;
+  }
+
+ private:
+  QString beside(const QString& name) const { return m_program + u'/' + name; }
+  QString shipped(const QString& name) const { return m_data + u'/' + name; }
+
+  Done folders();
+  Done databases();
+  Done createFilled(const QString& file);
+  Done fill(const QString& path, const QString& file, const QString& source);
+  Done fees();
+  Done settings();
+  Done shippedFiles();
+  Done copyAll(const QString& from, const QStringList& names, const QString& to);
+
+  QString m_program, m_data, m_templates;
+  QStringList m_made;
+};
+
+Done Layout::folders() {
+  for (const char* name : {"", "GDATA", "backup"}) {
+    const QString folder = beside(QLatin1String(name));
+    if (!QDir().mkpath(folder)) return Fault{QStringLiteral("フォルダ「%1」を作ることができません。").arg(folder)};
+  }
+  return {};
+}
+
+Done Layout::databases() {
+  for (const store::TableRow& row : store::catalogue()) {
+    const QString file = QString::fromUtf16(row.file);
+    if (QFileInfo::exists(beside(file))) continue;
+    if (const Done made = createFilled(file); !made) return made;
+    m_made += file;
+  }
+  return {};
+}
+
+/// A file takes its name when it is whole: one that was cut off while it was filled is made again.
+Done Layout::createFilled(const QString& file) {
+  const QString part = beside(file + QStringLiteral(".part"));
+  QFile::remove(part);
+  if (const Done made = store::createFresh(part, file); !made) return made;
+  for (const FilledFile& dictionary : kDictionaries)
+    if (file == QStringView(dictionary.file))
+      if (const Done filled = fill(part, file, QString::fromUtf16(dictionary.source)); !filled) return filled;
+  if (!QFile::rename(part, beside(file)))
+    return Fault{QStringLiteral("「%1」を作ることができません。").arg(file)};
+  return {};
+}
+
+Done Layout::fill(const QString& path, const QString& file, const QString& source) {
+  const Result<CsvTable> table = readCsvTable(shipped(source));
+  if (!table) return table.fault();
+  QList<QHash<QString, QString>> rows;
+  for (const QStringList& values : table->rows) {
+    QHash<QString, QString> row;
+    for (int column = 0; column < values.size(); ++column) row.insert(table->columns[column], values[column]);
+    rows += row;
+  }
+  return store::addRows(path, QString::fromUtf16(store::tableOfFile(file)->table), rows);
+}
+
+/// Adds to each fee file the editions that it lacks: those with a higher ID than any that stands. The first
+/// columns of the shipped table tell the file, the ID and the date; a fee that the edition had not is NULL.
+Done Layout::fees() {
+  const Result<CsvTable> table = readCsvTable(shipped(QString::fromUtf16(kFees)));
+  if (!table) return table.fault();
+  QMap<QString, QList<QHash<QString, QString>>> editions;
+  for (const QStringList& values : table->rows) {
+    QHash<QString, QString> row;
+    for (int column = 1; column < values.size(); ++column)
+      if (!values[column].isEmpty() && table->columns[column] != u"effective_from")
+        row.insert(table->columns[column], values[column]);
+    editions[values[0] + QStringLiteral(".mdb")] += row;
+  }
+  const QString feeTable = QStringLiteral("料金設定");
+  for (auto edition = editions.cbegin(); edition != editions.cend(); ++edition) {
+    const QString path = beside(edition.key());
+    const Result<qint64> last = store::lastId(path, feeTable);
+    if (!last) return last.fault();
+    QList<QHash<QString, QString>> newer;
+    for (const QHash<QString, QString>& row : *edition)
+      if (row.value(QStringLiteral("ID")).toLongLong() > *last) newer += row;
+    if (newer.isEmpty()) continue;
+    if (const Done added = store::addRows(path, feeTable, newer); !added) return added;
+    if (!m_made.contains(edition.key())) m_made += edition.key();
+  }
+  return {};
+}
+
+Done Layout::settings() {
+  if (!QFileInfo::exists(settingsPath(m_program))) {
+    if (const Done written = writeSettingsFile(settingsPath(m_program), freshSettings()); !written)
+      return written;
+    m_made += QFileInfo(settingsPath(m_program)).fileName();
+  }
+  const QString record = QString::fromUtf16(kPrefectureFile);
+  if (QFileInfo::exists(beside(record))) return {};
+  m_made += record;
+  return text::writeWholeFile(beside(record), "01\n");
+}
+
+Done Layout::copyAll(const QString& from, const QStringList& names, const QString& to) {
+  for (const QString& name : names) {
+    const Result<bool> copied = bringUpToDate(from + u'/' + name, to + u'/' + name);
+    if (!copied) return copied.fault();
+    if (*copied) m_made += name;
+  }
+  return {};
+}
+
+Done Layout::shippedFiles() {
+  const QStringList forms = QDir(m_templates).entryList({QStringLiteral("*.PRP")}, QDir::Files);
+  if (const Done done = copyAll(m_templates, forms, m_program); !done) return done;
+  QStringList files = QDir(m_data).entryList(QDir::Files);
+  for (const FilledFile& dictionary : kDictionaries) files.removeAll(QString::fromUtf16(dictionary.source));
+  files.removeIf([](const QString& name) { return name.endsWith(u".md"); });
+  if (const Done done = copyAll(m_data, files, m_program); !done) return done;
+  QStringList pictures = QDir(shipped(QStringLiteral("GDATA"))).entryList(QDir::Files);
+  pictures.removeIf(  // the user's own charts lie in this folder: what stands there stays
+      [&](const QString& name) { return QFileInfo::exists(beside(QStringLiteral("GDATA/") + name)); });
+  return copyAll(shipped(QStringLiteral("GDATA")), pictures, beside(QStringLiteral("GDATA")));
+}
+
+}  // namespace
+
+Result<bool> bringUpToDate(const QString& shipped, const QString& place) {
+  const QFileInfo source(shipped), standing(place);
+  if (standing.exists() && standing.size() == source.size() &&
+      standing.lastModified() >= source.lastModified())
+    return false;
+  const Result<QByteArray> content = text::readWholeFile(shipped);
+  if (!content) return content.fault();
+  if (const Done written = text::writeWholeFile(place, *content); !written) return written.fault();
+  return true;
+}
+
+Result<QStringList> layOut(const QString& programFolder, const QString& dataFolder,
+                           const QString& templatesFolder) {
+  return Layout(programFolder, dataFolder, templatesFolder).run();
+}
+
+}  // namespace frame

@@ -1,0 +1,51 @@
+#include "platform/store/bulk.h"
+
+#include "platform/store/database.h"
+#include "platform/store/engine.h"
+
+namespace store {
+namespace {
+
+Result<RowValues> valuesOf(const TableSchema& schema, const QHash<QString, Value>& row) {
+  RowValues values;
+  for (int column = 0; column < schema.count(); ++column) {
+    const auto given = row.constFind(schema.name(column));
+    if (given == row.constEnd()) continue;
+    Result<Value> value = columnValue(schema, column, *given);
+    if (!value) return value.fault();
+    values.append({column, *value});
+  }
+  return values;
+}
+
+}  // namespace
+
+Done addRows(const QString& path, const QString& table, const QList<QHash<QString, Value>>& rows) {
+  Result<std::shared_ptr<Database>> database = Database::open(path);
+  if (!database) return database.fault();
+  Engine& engine = (*database)->engine();
+  const Result<std::shared_ptr<const TableSchema>> schema = engine.schema(table);
+  if (!schema) return schema.fault();
+  const TableFile file(engine.statements(), QStringLiteral("main"), *schema);
+  const Done done = engine.write([&]() -> Done {
+    for (const QHash<QString, Value>& row : rows) {
+      const Result<RowValues> values = valuesOf(**schema, row);
+      if (!values) return values.fault();
+      if (const Result<qint64> added = file.insert(*values); !added) return added.fault();
+    }
+    return {};
+  });
+  engine.forget();
+  return done;
+}
+
+Result<qint64> lastId(const QString& path, const QString& table) {
+  Result<std::shared_ptr<Database>> database = Database::open(path);
+  if (!database) return database.fault();
+  Result<RecordSet> set = RecordSet::open(*database, table);
+  if (!set) return set.fault();
+  set->moveLast();
+  return set->bookmark() == kNoBookmark ? 0 : set->bookmark();
+}
+
+}  // namespace store

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+
+#include "platform/store/record_set.h"
+
+namespace store {
+
+/// Adds many rows to a table in one transaction; a row may carry its own ID. Columns that the table lacks are
+/// left out, and a refused value takes all back. For fresh files and for test data.
+Done addRows(const QString& path, const QString& table, const QList<QHash<QString, Value>>& rows);
+
+/// The highest ID of a table, 0 where it is empty.
+Result<qint64> lastId(const QString& path, const QString& table);
+
+}  // namespace store
