@@ -1,0 +1,134 @@
+// desk_bench: figures of the running program, on the offscreen platform. One line a figure.
+//   desk_bench start DIR   from the launch to the main menu, beside an empty window of the toolkit
+//   desk_bench focus DIR   from the Tab key to the speech request, on the main menu and on the claim form
+//   desk_bench empty | menu DIR   one measured launch (used by `start`)
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QProcess>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+#include <cstdio>
+
+#include "app/desk.h"
+#include "platform/voice/silent_library.h"
+
+namespace {
+
+/// Notes when a text was last asked to be said.
+class TimingVoice final : public voice::VoiceControl {
+ public:
+  explicit TimingVoice(QElapsedTimer& timer) : m_timer(timer) {}
+  void VoiceStop() override {}
+  void VoiceSay(const QString&) override {
+    if (saidAt < 0) saidAt = m_timer.nsecsElapsed();
+  }
+  void VoiceGo() override {}
+  qint64 saidAt = -1;
+
+ private:
+  QElapsedTimer& m_timer;
+};
+
+void figure(const char* name, double value, const char* unit) { std::printf("%s %.6g %s\n", name, value, unit); }
+
+double percentile(QVector<double> values, double part) {
+  if (values.isEmpty()) return 0;
+  std::sort(values.begin(), values.end());
+  return values[std::min<qsizetype>(values.size() - 1, qsizetype(values.size() * part))];
+}
+
+double launch(const QStringList& arguments) {
+  QElapsedTimer timer;
+  timer.start();
+  QProcess::execute(QCoreApplication::applicationFilePath(), arguments);
+  return timer.nsecsElapsed() / 1e6;
+}
+
+int start(const QString& folder) {
+  constexpr int kRuns = 9;
+  QVector<double> empty, menu;
+  for (int run = 0; run < kRuns; ++run) {
+    empty += launch({"empty"});
+    menu += launch({"menu", folder});
+  }
+  figure("start_empty_window", percentile(empty, 0.5), "ms");
+  figure("start_main_menu", percentile(menu, 0.5), "ms");
+  figure("start_ratio", percentile(menu, 0.5) / percentile(empty, 0.5), "x");
+  return 0;
+}
+
+int emptyWindow() {
+  QMainWindow window;
+  window.show();
+  QTimer::singleShot(0, &window, [] { QCoreApplication::quit(); });
+  return QApplication::exec();
+}
+
+int mainMenu(const QString& folder) {
+  QElapsedTimer timer;
+  timer.start();
+  TimingVoice voice(timer);
+  voice::SilentSoundLibrary sound;
+  voice::SilentFocusTalkLibrary focusTalk;
+  const text::SystemClock clock;
+  app::Desk desk(folder, {voice, sound, focusTalk}, clock);
+  desk.messages().answerFromQueue();
+  if (desk.start() != frame::Started::Menu) return 1;
+  QTimer::singleShot(0, [] { QCoreApplication::quit(); });
+  return QApplication::exec();
+}
+
+void measureTabs(const char* name, screen::Screen& window, TimingVoice& voice, QElapsedTimer& timer, int tabs) {
+  QVector<double> times;
+  for (int i = 0; i < tabs; ++i) {
+    QWidget* focus = window.focusWidget() != nullptr ? window.focusWidget() : &window;
+    voice.saidAt = -1;
+    const qint64 pressed = timer.nsecsElapsed();
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+    QApplication::sendEvent(focus, &press);
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Tab, Qt::NoModifier);
+    QApplication::sendEvent(focus, &release);
+    QApplication::processEvents();
+    if (voice.saidAt >= 0) times += (voice.saidAt - pressed) / 1e6;
+  }
+  figure((QByteArray(name) + "_median").constData(), percentile(times, 0.5), "ms");
+  figure((QByteArray(name) + "_p95").constData(), percentile(times, 0.95), "ms");
+}
+
+int focus(const QString& folder) {
+  QElapsedTimer timer;
+  timer.start();
+  TimingVoice voice(timer);
+  voice::SilentSoundLibrary sound;
+  voice::SilentFocusTalkLibrary focusTalk;
+  const text::SystemClock clock;
+  app::Desk desk(folder, {voice, sound, focusTalk}, clock);
+  desk.messages().answerFromQueue();
+  if (desk.start() != frame::Started::Menu) return 1;
+  QApplication::processEvents();
+  if (auto* menu = desk.navigator().loaded(QStringLiteral("選択3")))
+    measureTabs("focus_to_speech_menu", *menu, voice, timer, 100);
+  if (auto* form = desk.navigator().show(QStringLiteral("frmレセプトフォーム"), {{"ID", "1"}})) {
+    QApplication::processEvents();
+    measureTabs("focus_to_speech_claim_form", *form, voice, timer, 300);
+  }
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QByteArray word = argc > 1 ? argv[1] : "";
+  QApplication application(argc, argv);
+  const QString folder = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString();
+  if (word == "start") return start(folder);
+  if (word == "focus") return focus(folder);
+  if (word == "empty") return emptyWindow();
+  if (word == "menu") return mainMenu(folder);
+  std::fputs("usage: desk_bench start DIR | focus DIR\n", stderr);
+  return 2;
+}

@@ -1,0 +1,33 @@
+#include "claims/screens/claims_screens.h"
+
+#include "claims/screens/claim_choice_screen.h"
+#include "claims/screens/claim_form_screen.h"
+#include "claims/screens/claim_list_screen.h"
+#include "claims/screens/help_screens.h"
+#include "claims/screens/list_sort_screen.h"
+#include "claims/screens/new_claim_screen.h"
+#include "claims/screens/preview_screen.h"
+#include "claims/screens/share_screen.h"
+
+namespace claims {
+
+using namespace Qt::StringLiterals;
+
+void registerScreens(screen::ScreenRegistry& registry, frame::RunState& run, ClaimsState& state) {
+  registry.add<ClaimListScreen>(u"レセプト一覧表"_s, run, state);
+  registry.add<ListSortScreen>(u"ソート3"_s);
+  registry.add<NewClaimScreen>(u"新規レセプト"_s, state);
+  registry.add<ClaimChoiceScreen>(u"レセプト選択"_s, run, state);
+  registry.add<ClaimFormScreen>(u"frmレセプトフォーム"_s, run, state);
+  registry.add<FillingHelpScreen>(u"記入の仕方"_s, run, state);
+  registry.add<FillingHelp2018Screen>(u"記入の仕方2018"_s, run, state);
+  registry.add<FillingHelp2024Screen>(u"記入の仕方2024"_s, run, state);
+  for (const screen::ScreenRow& preview : previewScreens()) {
+    registry.add(QString::fromUtf16(preview.name.get()), [&preview, &run, &state](screen::Services& services) {
+      return std::make_unique<PreviewScreen>(preview, services, run, state);
+    });
+  }
+  registry.add<ShareScreen>(u"計算式確認"_s);
+}
+
+}  // namespace claims
