@@ -1,0 +1,46 @@
+#include "frame/screens/about_screen.h"
+
+#include <QStandardPaths>
+
+#include "platform/shell/desktop.h"
+
+namespace frame {
+
+using namespace screen;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// System information programs of this platform, the first that is installed is started.
+constexpr const char16_t* kSystemPrograms[] = {u"hardinfo2", u"hardinfo", u"kinfocenter"};
+
+constexpr Row kRows[] = {
+    Note{.name = {u"lblTitle"}, .caption = u"治療台帳", .spoken = true},
+    Note{.name = {u"lblVersion"}, .caption = u"レセプト対応治療台帳バージョン 9.22", .spoken = true},
+    Bar{},
+    Command{.name = {u"cmdOK"},
+            .caption = u"OK",
+            .run = run<&AboutScreen::finish>,
+            .key = u"Esc",
+            .standard = true},
+    Command{.name = {u"cmdSysInfo"}, .caption = u"ｼｽﾃﾑ情報", .run = run<&AboutScreen::showSystemInformation>},
+    EndBar{},
+};
+
+constexpr ScreenRow kDeclaration{.name = u"frmAbout", .caption = u"ﾊﾞｰｼﾞｮﾝ情報", .rows = kRows};
+
+}  // namespace
+
+AboutScreen::AboutScreen(Services& services, RunState&) : Screen(kDeclaration, services) {}
+
+void AboutScreen::showSystemInformation() {
+  for (const char16_t* program : kSystemPrograms) {
+    const QString path = QStandardPaths::findExecutable(QString::fromUtf16(program));
+    if (!path.isEmpty() && services().desktop->startProgram(path)) return;
+  }
+  messages().tell(u"現時点ではｼｽﾃﾑ情報を使用できません"_s);
+}
+
+void AboutScreen::finish() { navigator().unload(u"frmAbout"_s); }
+
+}  // namespace frame

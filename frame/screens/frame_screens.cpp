@@ -1,0 +1,36 @@
+#include "frame/screens/frame_screens.h"
+
+#include "frame/screens/about_screen.h"
+#include "frame/screens/captions_screen.h"
+#include "frame/screens/fee_screen.h"
+#include "frame/screens/folders_screen.h"
+#include "frame/screens/licence_screen.h"
+#include "frame/screens/main_menu_screen.h"
+#include "frame/screens/profile_screen.h"
+#include "frame/screens/prompts.h"
+#include "frame/screens/splash_screen.h"
+#include "frame/screens/topics_screen.h"
+
+namespace frame {
+
+using namespace Qt::Literals::StringLiterals;
+
+void registerScreens(screen::ScreenRegistry& registry, screen::Services&, RunState& run) {
+  registry.add<SplashScreen>(u"frmSplash"_s, run);
+  registry.add<MainMenuScreen>(u"選択3"_s, run);
+  registry.add<TopicsScreen>(u"topics"_s, run);
+  registry.add<AboutScreen>(u"frmAbout"_s, run);
+  registry.add<FoldersScreen>(u"LANフォルダ指定"_s, run);
+  registry.add<ProfileScreen>(u"登録"_s, run);
+  registry.add<LicenceScreen>(u"登録4"_s, run);
+  registry.add<CaptionsScreen>(u"txtbox"_s, run);
+  registry.add<FeeScreen>(u"料金変更"_s, run);
+
+  const auto actions = std::make_shared<screen::PromptActions>(promptActions(run));
+  for (const screen::ConfirmRow& row : prompts())
+    registry.add(QString::fromUtf16(row.name.get()), [&row, actions](screen::Services& services) {
+      return std::make_unique<screen::ConfirmPrompt>(row, *actions, services);
+    });
+}
+
+}  // namespace frame

@@ -1,0 +1,144 @@
+#include "frame/screens/main_menu_screen.h"
+
+#include <QDir>
+
+#include "frame/core/prefecture.h"
+#include "frame/screens/main_menu_rows.h"
+#include "frame/screens/settings_writer.h"
+#include "frame/screens/web_pages.h"
+#include "platform/shell/desktop.h"
+
+namespace frame {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// One association's two answers: the stored value, and the text when the tick is set or the menu shows
+/// again. Kept: the activated menu writes マツサージ with a large ツ where the tick writes マッサージ.
+struct Submission {
+  const char16_t* value;
+  const char16_t* whenTicked;
+  const char16_t* whenShown;
+};
+constexpr Submission kAichiOn{u"3", u"愛知県鍼灸師会", u"愛知県鍼灸師会"};
+constexpr Submission kAichiOff{u"4", u"愛知県鍼灸マッサージ師会", u"愛知県鍼灸マツサージ師会"};
+constexpr Submission kTokyoOn{u"6", u"東京都鍼灸師会　会員外", u"東京都鍼灸師会　会員外"};
+constexpr Submission kTokyoOff{u"5", u"東京都鍼灸師会", u"東京都鍼灸師会"};
+
+QString words(const char16_t* text) { return QString::fromUtf16(text); }
+
+}  // namespace
+
+MainMenuScreen::MainMenuScreen(screen::Services& services, RunState& run)
+    : Screen(kMainMenuDeclaration, services), m_run(run) {}
+
+void MainMenuScreen::onLoad() {
+  m_greets = !m_run.menuLoadedBefore;
+  m_run.menuLoadedBefore = true;
+  // The capability of the run is what the date test answers for a date of the era that came last.
+  const bool supported = m_run.eraDates().platformDate(u"令和1年5月5日"_s).has_value();
+  m_run.eraCapability = supported ? EraCapability::Supported : EraCapability::Unsupported;
+  setShown(u"Label2"_s, supported);
+  setShown(u"Label3"_s, !supported);
+  showSubmissions();
+  QDir::setCurrent(m_run.programFolder);
+}
+
+QStringList MainMenuScreen::openingTexts() const {
+  if (!m_greets) return {};
+  const bool supported = m_run.eraCapability == EraCapability::Supported;
+  return {u"治療台帳を起動しました"_s, caption(u"Label1"_s), caption(supported ? u"Label2"_s : u"Label3"_s)};
+}
+
+void MainMenuScreen::onActivate() { showSubmissions(); }
+
+void MainMenuScreen::showSubmissions() {
+  setText(u"Text2"_s, m_run.prefectureCode);
+  const Submission& aichi = m_run.aichiSubmission == u"3" ? kAichiOn : kAichiOff;
+  setChecked(u"Check1"_s, &aichi == &kAichiOn);
+  setText(u"Text3"_s, words(aichi.whenShown));
+  const Submission& tokyo = m_run.tokyoSubmission == u"5" ? kTokyoOff : kTokyoOn;
+  setChecked(u"Check2"_s, &tokyo == &kTokyoOn);
+  setText(u"Text4"_s, words(tokyo.whenShown));
+}
+
+void MainMenuScreen::changePrefecture() {
+  const QString typed = text(u"Text2"_s);
+  if (typed.isEmpty()) return;
+  m_run.prefectureCode = twoDigitPrefecture(typed);
+  setText(u"Text2"_s, m_run.prefectureCode);
+}
+
+void MainMenuScreen::chooseAichi() {
+  const Submission& chosen = checked(u"Check1"_s) ? kAichiOn : kAichiOff;
+  m_run.aichiSubmission = words(chosen.value);
+  setText(u"Text3"_s, words(chosen.whenTicked));
+}
+
+void MainMenuScreen::chooseTokyo() {
+  const Submission& chosen = checked(u"Check2"_s) ? kTokyoOn : kTokyoOff;
+  m_run.tokyoSubmission = words(chosen.value);
+  setText(u"Text4"_s, words(chosen.whenTicked));
+}
+
+void MainMenuScreen::openClaims() {
+  m_run.lastScreenMode = 2;
+  navigator().show(u"レセプト一覧表"_s, {{u"sort"_s, u"ID DESC"_s}});
+}
+
+void MainMenuScreen::openReceipts() {
+  m_run.lastScreenMode = 1;
+  navigator().show(u"領収証選択"_s, {{u"日付"_s, todayForReceipt()}});
+}
+
+QString MainMenuScreen::todayForReceipt() const {
+  const EraDates dates = m_run.eraDates();
+  const QDate today = m_run.clock->today();
+  // Kept: this place compares strictly with the day before the new era's last eve.
+  if (m_run.eraCapability == EraCapability::Unsupported && today > QDate(2019, 4, 30))
+    return dates.todayEraPartsMenu().reiwaDate;
+  return dates.formatEra(today);
+}
+
+void MainMenuScreen::backUp() { navigator().show(u"データバックアップ"_s); }
+
+void MainMenuScreen::tellFault(const text::Done& done) {
+  if (!done) messages().tell(done.fault().message);
+}
+
+void MainMenuScreen::openBeside(const QString& fileName) {
+  tellFault(services().desktop->openFile(QDir(m_run.programFolder).filePath(fileName)));
+}
+
+void MainMenuScreen::openManual() { openBeside(u"help.PDF"_s); }
+void MainMenuScreen::openTextHelp() { openBeside(u"help.txt"_s); }
+
+void MainMenuScreen::openPage(const char16_t* entry) {
+  tellFault(services().desktop->openWebPage(words(addressOf(entry))));
+}
+
+void MainMenuScreen::openAssociationPage() { openPage(u"Men_HHPN"); }
+void MainMenuScreen::openProductPage() { openPage(u"Men_HHPQVTOP"); }
+void MainMenuScreen::openUpdatePage() { openPage(u"Men_HHPQVVUP"); }
+void MainMenuScreen::openTroublePage() { openPage(u"Men_HHPQVE"); }
+
+// Every tenth run ends with a copy of all data files.
+void MainMenuScreen::backUpGenerations() {
+  // The generation copies are made here; they come with the backup screens.
+}
+
+void MainMenuScreen::endProgram() {
+  // A fault is told by then; ending goes on, and the file keeps the settings of the last run.
+  (void)writeSettings(*this, m_run, SettingsWriter::ProgramEnd);
+  if (m_run.runCounter % 10 == 0) backUpGenerations();
+  navigator().quit();
+}
+
+// The close box ends the program like the button, so that the run's settings are never lost.
+bool MainMenuScreen::onCloseBox() {
+  endProgram();
+  return false;
+}
+
+}  // namespace frame

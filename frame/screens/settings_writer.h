@@ -1,0 +1,15 @@
+#pragma once
+
+#include "frame/core/run_state.h"
+#include "platform/screen/screen.h"
+
+namespace frame {
+
+/// Writes qv.dat from the run-wide values. False: the fault was told through the screen's message door.
+inline bool writeSettings(screen::Screen& teller, RunState& run, SettingsWriter writer) {
+  const text::Done done = saveRun(run, writer);
+  if (!done) teller.messages().tell(done.fault().message);
+  return done.ok();
+}
+
+}  // namespace frame

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "frame/screens/frame_screens.h"
+#include "frame/tests/screens/desk_fixture.h"
+
+namespace frame::test {
+
+/// The desk with the screens of the frame.
+class FrameFixture : public DeskFixture {
+ protected:
+  FrameFixture() { registerScreens(registry, services, run); }
+};
+
+}  // namespace frame::test
