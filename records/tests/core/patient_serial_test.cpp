@@ -20,16 +20,17 @@ TEST_P(PatientSerialTest, FollowsTheLastRecord) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, PatientSerialTest,
-    testing::Values(SerialCase{"empty table", QString(), QStringLiteral("20240615001")},
-                    SerialCase{"second of the day", QStringLiteral("20240615001"), QStringLiteral("20240615002")},
-                    SerialCase{"ninth to tenth", QStringLiteral("20240615009"), QStringLiteral("20240615010")},
-                    SerialCase{"next day", QStringLiteral("20240614007"), QStringLiteral("20240615001")},
-                    SerialCase{"last record of a later day", QStringLiteral("20240616003"),
-                               QStringLiteral("20240615001")},
-                    SerialCase{"thousandth of a day rolls the date over", QStringLiteral("20240615999"),
-                               QStringLiteral("20240616000")},
-                    SerialCase{"blank serial", QStringLiteral(""), QStringLiteral("20240615001")},
-                    SerialCase{"foreign text", QStringLiteral("A-17"), QStringLiteral("20240615001")}));
+    testing::Values(
+        SerialCase{"empty table", QString(), QStringLiteral("20240615001")},
+        SerialCase{"second of the day", QStringLiteral("20240615001"), QStringLiteral("20240615002")},
+        SerialCase{"ninth to tenth", QStringLiteral("20240615009"), QStringLiteral("20240615010")},
+        SerialCase{"next day", QStringLiteral("20240614007"), QStringLiteral("20240615001")},
+        SerialCase{"last record of a later day", QStringLiteral("20240616003"),
+                   QStringLiteral("20240615001")},
+        SerialCase{"thousandth of a day rolls the date over", QStringLiteral("20240615999"),
+                   QStringLiteral("20240616000")},
+        SerialCase{"blank serial", QStringLiteral(""), QStringLiteral("20240615001")},
+        SerialCase{"foreign text", QStringLiteral("A-17"), QStringLiteral("20240615001")}));
 
 TEST(PatientSerial, MonthAndDayHaveTwoDigits) {
   EXPECT_EQ(nextSerial(QString(), QDate(2025, 1, 2)), QStringLiteral("20250102001"));

@@ -11,7 +11,8 @@ TEST(SearchColumns, EveryColumnStandsInThePatientTable) {
   const store::TableRow* table = store::tableOfFile(QStringLiteral("臨床QV2000N.mdb"));
   ASSERT_NE(table, nullptr);
   for (const SearchColumn& row : searchColumns())
-    EXPECT_NE(store::findColumn(*table, row.column.toString()), nullptr) << row.column.toString().toStdString();
+    EXPECT_NE(store::findColumn(*table, row.column.toString()), nullptr)
+        << row.column.toString().toStdString();
 }
 
 TEST(SearchColumns, ThirtyThreeCaptionsFromIdToMemo) {

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "frame/tests/screens/desk_fixture.h"
+#include "records/screens/records_screens.h"
+
+namespace records::test {
+
+/// The desk with the screens of the patient rooms, and an empty patient table.
+class RecordsFixture : public frame::test::DeskFixture {
+ protected:
+  RecordsFixture() { registerScreens(registry, services, run); }
+
+  void SetUp() override {
+    DeskFixture::SetUp();
+    makeFile(kFile);
+    standIn(QStringLiteral("選択3"));
+  }
+
+  store::RecordSet table() const {
+    return std::move(
+        store::RecordSet::open(store::Database::open(path(kFile)).value(), QStringLiteral("臨床QV")).value());
+  }
+
+  /// Adds a patient to the file; columns by name.
+  void addPatient(const QHash<QString, QString>& columns) {
+    store::RecordSet rows = table();
+    ASSERT_TRUE(rows.addNew());
+    for (auto column = columns.cbegin(); column != columns.cend(); ++column)
+      ASSERT_TRUE(rows.setValue(column.key(), column.value())) << column.key().toStdString();
+    ASSERT_TRUE(rows.update());
+  }
+  void addNamed(const QStringList& names) {
+    for (const QString& name : names) addPatient({{QStringLiteral("氏名"), name}});
+  }
+
+  /// All values of a column as the file holds them, in ID order.
+  QStringList stored(const QString& column) const {
+    store::RecordSet rows = table();
+    QStringList values;
+    for (int i = 0; i < rows.recordCount(); ++i) values << rows.valueAt(i, column);
+    return values;
+  }
+
+  const QString kFile = QStringLiteral("臨床QV2000N.mdb");
+};
+
+}  // namespace records::test
