@@ -22,18 +22,21 @@ class ClaimOnDisplay {
   /// Window handle for the report engine.
   virtual quintptr window() const = 0;
   /// Puts a text into the form's field of a column, as the helper windows do; it is kept by 登録 only.
-  virtual void put(const QString& column, const QString& text) { Q_UNUSED(column) Q_UNUSED(text) }
+  virtual void put(const QString& column, const QString& text) {
+    Q_UNUSED(column)
+    Q_UNUSED(text)
+  }
 };
 
 /// Run-wide values of the claim screens, one copy.
 struct ClaimsState {
-  ClaimOnDisplay* display = nullptr;  ///< the open claim form, nullptr where none is open
-  QString claimCheck;                 ///< "" or "break": the mark of the last check
-  int previewKind = 0;                ///< 1..6: the fee preview that is open
-  int printKind = 0;                  ///< PrintKind: 1 acupuncture button, 2 massage button
+  ClaimOnDisplay* display = nullptr;     ///< the open claim form, nullptr where none is open
+  QString claimCheck;                    ///< "" or "break": the mark of the last check
+  int previewKind = 0;                   ///< 1..6: the fee preview that is open
+  int printKind = 0;                     ///< PrintKind: 1 acupuncture button, 2 massage button
   PrintScreenChooser choosePrintScreen;  ///< of printing, set at start
   PrinterSetup printerSetup;             ///< the printer's dialog, set at start
-  ClaimRecord newClaim;               ///< the patient's columns (of table 臨床QV) that 新規レセプト was opened with
+  ClaimRecord newClaim;  ///< the patient's columns (of table 臨床QV) that 新規レセプト was opened with
 };
 
 }  // namespace claims

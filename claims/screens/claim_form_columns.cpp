@@ -26,7 +26,8 @@ class Collector {
   void operator()(const TextRun& row) {
     for (int i = 0; i < row.count; ++i) {
       add(nameOf(row.name, i), row.bind, BoundControl::Kind::Text);
-      if (row.bind.bound()) m_controls.last().column.replace(QStringLiteral("%1"), QString::number(row.number + i));
+      if (row.bind.bound())
+        m_controls.last().column.replace(QStringLiteral("%1"), QString::number(row.number + i));
     }
   }
   void operator()(const Check& row) {
@@ -40,7 +41,8 @@ class Collector {
 
  private:
   void add(const QString& control, const Binding& bind, BoundControl::Kind kind) {
-    if (bind.bound()) m_controls.append({control, QString::fromUtf16(bind.column()), bind.source(), kind, {}, {}});
+    if (bind.bound())
+      m_controls.append({control, QString::fromUtf16(bind.column()), bind.source(), kind, {}, {}});
   }
   QVector<BoundControl>& m_controls;
 };
@@ -56,7 +58,8 @@ QString changedValue(const Screen& form, const BoundControl& bound, const ClaimR
       const QString value = form.chosen(bound.control);
       return value.isEmpty() || value == read.get(bound.column) ? QString() : value;
     }
-    case BoundControl::Kind::Text: break;
+    case BoundControl::Kind::Text:
+      break;
   }
   const QString text = form.text(bound.control);
   if (text == read.get(bound.column)) return QString();
@@ -75,7 +78,8 @@ QVector<BoundControl> boundControls(Rows rows) {
 QStringList unboundTicks(Rows rows) {
   QStringList names;
   for (const Row& row : rows)
-    if (const auto* check = std::get_if<Check>(&row); check && !check->bind.bound()) names << nameOf(check->name);
+    if (const auto* check = std::get_if<Check>(&row); check && !check->bind.bound())
+      names << nameOf(check->name);
   return names;
 }
 
@@ -93,9 +97,15 @@ void showRecord(Screen& form, const QVector<BoundControl>& controls, const Claim
   for (const BoundControl& bound : controls) {
     if (!columns.isEmpty() && !columns.contains(bound.column)) continue;
     switch (bound.kind) {
-      case BoundControl::Kind::Text: form.setText(bound.control, claim.get(bound.column)); break;
-      case BoundControl::Kind::Tick: form.setChecked(bound.control, claim.ticked(bound.column)); break;
-      case BoundControl::Kind::Choice: form.choose(bound.control, claim.get(bound.column)); break;
+      case BoundControl::Kind::Text:
+        form.setText(bound.control, claim.get(bound.column));
+        break;
+      case BoundControl::Kind::Tick:
+        form.setChecked(bound.control, claim.ticked(bound.column));
+        break;
+      case BoundControl::Kind::Choice:
+        form.choose(bound.control, claim.get(bound.column));
+        break;
     }
   }
 }

@@ -30,7 +30,8 @@ QStringList unboundTicks(screen::Rows rows);
 
 /// The claim as it stands on the form: `read` with what the controls show in place of what they were given.
 /// A control that shows what was read leaves the stored value as it is, so that NULL stays NULL.
-ClaimRecord recordOf(const screen::Screen& form, const QVector<BoundControl>& controls, const ClaimRecord& read);
+ClaimRecord recordOf(const screen::Screen& form, const QVector<BoundControl>& controls,
+                     const ClaimRecord& read);
 /// Shows the values of `claim` in the controls of the given columns (all where none are named).
 void showRecord(screen::Screen& form, const QVector<BoundControl>& controls, const ClaimRecord& claim,
                 const QSet<QString>& columns = {});

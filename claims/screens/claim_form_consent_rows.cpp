@@ -11,12 +11,11 @@ using Form = ClaimFormScreen;
 namespace {
 
 constexpr char16_t kDiseases[] = u"傷病名";
-constexpr char16_t kReceivers[] = u"同意を受けた者";
-constexpr char16_t kAreas[] = u"マッサージの部位";
-constexpr char16_t kLimbs[] = u"変形徒手矯正術";
 
 /// Count beside a consented area or limb, kept with the claim.
-constexpr TextField count(ControlName name, Words caption, Binding bind) { return field(name, caption, bind, 4); }
+constexpr TextField count(ControlName name, Words caption, Binding bind) {
+  return field(name, caption, bind, 4);
+}
 
 constexpr Row kRows[] = {
     Page{u"同意書"},
@@ -48,8 +47,10 @@ constexpr Row kRows[] = {
     list({u"Combo1", 23}, u"同意症状:", Column{u"同意症状"}),
     field({u"txtFields", 74}, u"要加療期間（自）:", Column{u"要加療期間1"}, 16),
     field({u"txtFields", 75}, u"要加療期間（至）:", Column{u"要加療期間2"}, 16),
-    tick({u"chkFields", 20}, u"施術者", Column{u"同意_施術者"}, kReceivers, call<&Form::consentReceiverToggled>),
-    tick({u"chkFields", 21}, u"患者", Column{u"同意_患者"}, kReceivers, call<&Form::consentReceiverToggled>),
+    tick({u"chkFields", 20}, u"同意を受けた者 施術者", Column{u"同意_施術者"}, nullptr,
+         call<&Form::consentReceiverToggled>),
+    tick({u"chkFields", 21}, u"同意を受けた者 患者", Column{u"同意_患者"}, nullptr,
+         call<&Form::consentReceiverToggled>),
     list({u"Combo1", 24}, u"同意医師氏名:", Column{u"同意医師氏名"}, call<&Form::doctorChosen>),
     field({u"txtFields", 76}, u"同意医師フリガナ:", Column{u"同意医師フリガナ"}),
     list({u"Combo1", 25}, u"医療機関名:", Column{u"医療機関名"}),
@@ -71,24 +72,24 @@ constexpr Row kRows[] = {
             .say = u"同意書の日付を和暦にします"},
     EndBar{},
     Group{{u"FrameAreas"}, u"同意部位と施術回数", 4},
-    tick({u"chkFields", 22}, u"躯幹", Column{u"躯幹"}, kAreas),
-    count({u"Text31", 0}, u"躯幹 施術回数:", Column{u"d3", 2}),
-    tick({u"chkFields", 23}, u"右上肢", Column{u"右上肢"}, kAreas),
-    count({u"Text31", 1}, u"右上肢 施術回数:", Column{u"d4", 2}),
-    tick({u"chkFields", 24}, u"左上肢", Column{u"左上肢"}, kAreas),
-    count({u"Text31", 2}, u"左上肢 施術回数:", Column{u"d5", 2}),
-    tick({u"chkFields", 25}, u"右下肢", Column{u"右下肢"}, kAreas),
-    count({u"Text31", 3}, u"右下肢 施術回数:", Column{u"d6", 2}),
-    tick({u"chkFields", 26}, u"左下肢", Column{u"左下肢"}, kAreas),
-    count({u"Text31", 4}, u"左下肢 施術回数:", Column{u"d7", 2}),
-    tick({u"chkFields", 27}, u"右上肢", Column{u"徒手右上肢", 2}, kLimbs),
-    count({u"Text41", 0}, u"徒手 右上肢 施術回数:", Column{u"d8", 2}),
-    tick({u"chkFields", 28}, u"左上肢", Column{u"徒手左上肢", 2}, kLimbs),
-    count({u"Text41", 1}, u"徒手 左上肢 施術回数:", Column{u"d9", 2}),
-    tick({u"chkFields", 29}, u"右下肢", Column{u"徒手右下肢", 2}, kLimbs),
-    count({u"Text41", 2}, u"徒手 右下肢 施術回数:", Column{u"d10", 2}),
-    tick({u"chkFields", 30}, u"左下肢", Column{u"徒手左下肢", 2}, kLimbs),
-    count({u"Text41", 3}, u"徒手 左下肢 施術回数:", Column{u"d11", 2}),
+    tick({u"chkFields", 22}, u"マッサージ 躯幹", Column{u"躯幹"}),
+    count({u"Text31", 0}, u"マッサージ 躯幹 施術回数:", Column{u"d3", 2}),
+    tick({u"chkFields", 23}, u"マッサージ 右上肢", Column{u"右上肢"}),
+    count({u"Text31", 1}, u"マッサージ 右上肢 施術回数:", Column{u"d4", 2}),
+    tick({u"chkFields", 24}, u"マッサージ 左上肢", Column{u"左上肢"}),
+    count({u"Text31", 2}, u"マッサージ 左上肢 施術回数:", Column{u"d5", 2}),
+    tick({u"chkFields", 25}, u"マッサージ 右下肢", Column{u"右下肢"}),
+    count({u"Text31", 3}, u"マッサージ 右下肢 施術回数:", Column{u"d6", 2}),
+    tick({u"chkFields", 26}, u"マッサージ 左下肢", Column{u"左下肢"}),
+    count({u"Text31", 4}, u"マッサージ 左下肢 施術回数:", Column{u"d7", 2}),
+    tick({u"chkFields", 27}, u"徒手矯正 右上肢", Column{u"徒手右上肢", 2}),
+    count({u"Text41", 0}, u"徒手矯正 右上肢 施術回数:", Column{u"d8", 2}),
+    tick({u"chkFields", 28}, u"徒手矯正 左上肢", Column{u"徒手左上肢", 2}),
+    count({u"Text41", 1}, u"徒手矯正 左上肢 施術回数:", Column{u"d9", 2}),
+    tick({u"chkFields", 29}, u"徒手矯正 右下肢", Column{u"徒手右下肢", 2}),
+    count({u"Text41", 2}, u"徒手矯正 右下肢 施術回数:", Column{u"d10", 2}),
+    tick({u"chkFields", 30}, u"徒手矯正 左下肢", Column{u"徒手左下肢", 2}),
+    count({u"Text41", 3}, u"徒手矯正 左下肢 施術回数:", Column{u"d11", 2}),
     tick({u"chkFields", 31}, u"温あん法", Column{u"温あん法"}, u"同意"),
     tick({u"chkFields", 32}, u"電気光線器具", Column{u"電気光線器具"}, u"同意"),
     EndGroup{},
@@ -99,9 +100,10 @@ constexpr Row kRows[] = {
             .say = u"同意部位の施術回数を入れ直します"},
     EndBar{},
     Note{.name = {u"LabelAreas"},
-         .caption = u"※マッサージの局数が異なる日がある場合、その日の局所を指定するデータがない為、　　　　　"
-                    u"同意部位と施術回数が異なります。右側の施術回数を正しく変更してください。　　　　　　　　　　　"
-                    u"そのままの数値が申請書に印刷されます。印刷する前に必ず各回数をご確認ください。"},
+         .caption =
+             u"※マッサージの局数が異なる日がある場合、その日の局所を指定するデータがない為、　　　　　"
+             u"同意部位と施術回数が異なります。右側の施術回数を正しく変更してください。　　　　　　　　　　　"
+             u"そのままの数値が申請書に印刷されます。印刷する前に必ず各回数をご確認ください。"},
     Group{{u"FrameRemarks"}, u"摘要", 2},
     field({u"txtFields", 80}, u"摘要1:", Column{u"摘要1"}, 30),
     list({u"Combo1", 26}, u"摘要2:", Column{u"摘要2"}),

@@ -48,7 +48,8 @@ void ClaimFormScreen::refillBoxes() {
 }
 
 void ClaimFormScreen::insurerNumberLeft() {
-  const QString message = insurerNumberMessage(text(QStringLiteral("Combo1(1)")), text(QStringLiteral("Combo1(4)")));
+  const QString message =
+      insurerNumberMessage(text(QStringLiteral("Combo1(1)")), text(QStringLiteral("Combo1(4)")));
   if (!message.isNull()) messages().tell(message);
 }
 

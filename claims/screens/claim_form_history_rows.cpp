@@ -10,8 +10,10 @@ namespace {
 
 constexpr Row kRows[] = {
     Page{u"既往症"},
+    Bar{},
     Note{.name = {u"LabelHistory"}, .caption = u"施術録に印刷されます。申請書には印刷されません。"},
-    Group{{u"FrameHistory"}, u"施術録の記録", 1},
+    EndBar{},
+    Group{{u"FrameHistory"}, u"施術録の記録", 2},
     memo({u"txtFields", 140}, u"既往症:", Column{u"既往症"}),
     memo({u"txtFields", 141}, u"主要症状:", Column{u"主要症状"}),
     memo({u"txtFields", 142}, u"経過:", Column{u"経過"}),
@@ -50,7 +52,7 @@ constexpr Row kReserve[] = {
     field({u"txtFields", 173}, u"予備 txtdummy29:", Column{u"txtdummy29", 2}),
     field({u"txtFields", 174}, u"予備 txtdummy30:", Column{u"txtdummy30", 2}),
     EndGroup{},
-    Group{{u"FrameReserveMemo"}, u"予備のメモ", 1},
+    Group{{u"FrameReserveMemo"}, u"予備のメモ", 2},
     memo({u"txtFields", 180}, u"予備 memo dummy1:", Column{u"memo dummy1", 2}, kLongText),
     memo({u"txtFields", 181}, u"予備 memo dummy2:", Column{u"memo dummy2", 2}, kLongText),
     memo({u"txtFields", 182}, u"予備 memo dummy3:", Column{u"memo dummy3", 2}, kLongText),

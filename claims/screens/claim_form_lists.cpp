@@ -38,7 +38,8 @@ QStringList texts(const QVector<Row>& rows, QString Row::*member, const char16_t
 
 template <class Row>
 const Row* find(const QVector<Row>& rows, QString Row::*member, const QString& text) {
-  const auto found = std::find_if(rows.begin(), rows.end(), [&](const Row& row) { return row.*member == text; });
+  const auto found =
+      std::find_if(rows.begin(), rows.end(), [&](const Row& row) { return row.*member == text; });
   return found == rows.end() ? nullptr : &*found;
 }
 
@@ -46,8 +47,8 @@ const Row* find(const QVector<Row>& rows, QString Row::*member, const QString& t
 
 ClaimFormLists ClaimFormLists::read(const frame::DataFolders& folders) {
   ClaimFormLists lists;
-  eachRow(folders[frame::folder::kDoctors], QStringLiteral("SELECT * FROM 同意医師 ORDER BY ID"), lists.faults,
-          [&](const store::Cursor& row) {
+  eachRow(folders[frame::folder::kDoctors], QStringLiteral("SELECT * FROM 同意医師 ORDER BY ID"),
+          lists.faults, [&](const store::Cursor& row) {
             lists.doctors.append({row.value(QStringLiteral("氏名")), row.value(QStringLiteral("フリガナ")),
                                   row.value(QStringLiteral("住所")), row.value(QStringLiteral("TEL")),
                                   row.value(QStringLiteral("病院名"))});
@@ -61,16 +62,22 @@ ClaimFormLists ClaimFormLists::read(const frame::DataFolders& folders) {
 }
 
 QStringList ClaimFormLists::doctorNames() const { return texts(doctors, &DoctorRow::name, list::kNoDoctors); }
-QStringList ClaimFormLists::hospitals() const { return texts(doctors, &DoctorRow::hospital, list::kNoDoctors); }
+QStringList ClaimFormLists::hospitals() const {
+  return texts(doctors, &DoctorRow::hospital, list::kNoDoctors);
+}
 QStringList ClaimFormLists::insurerNames() const {
   return texts(insurers, &InsurerRow::name, list::kNoInsurerNames);
 }
 QStringList ClaimFormLists::insurerNumbers() const {
   return texts(insurers, &InsurerRow::number, list::kNoInsurerNumbers);
 }
-QStringList ClaimFormLists::insurerAddresses() const { return texts(insurers, &InsurerRow::address, nullptr); }
+QStringList ClaimFormLists::insurerAddresses() const {
+  return texts(insurers, &InsurerRow::address, nullptr);
+}
 
-const DoctorRow* ClaimFormLists::doctor(const QString& name) const { return find(doctors, &DoctorRow::name, name); }
+const DoctorRow* ClaimFormLists::doctor(const QString& name) const {
+  return find(doctors, &DoctorRow::name, name);
+}
 const InsurerRow* ClaimFormLists::insurerByName(const QString& name) const {
   return find(insurers, &InsurerRow::name, name);
 }

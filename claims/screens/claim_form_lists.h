@@ -26,7 +26,7 @@ struct ClaimFormLists {
 
   static ClaimFormLists read(const frame::DataFolders& folders);
 
-  QStringList doctorNames() const;     ///< 同意医師のデータがありません where there is none
+  QStringList doctorNames() const;  ///< 同意医師のデータがありません where there is none
   QStringList hospitals() const;
   QStringList insurerNames() const;    ///< 名称のデータがありません
   QStringList insurerNumbers() const;  ///< 番号のデータがありません

@@ -69,7 +69,8 @@ void ClaimFormScreen::printRecord() {
   if (m_id == 0) return;
   applyMonth();
   if (!mayLeave()) return;
-  navigator().show(m_flags.isAfter202410 ? QStringLiteral("施術録単体印刷2024") : QStringLiteral("施術録単体印刷"));
+  navigator().show(m_flags.isAfter202410 ? QStringLiteral("施術録単体印刷2024")
+                                         : QStringLiteral("施術録単体印刷"));
 }
 
 void ClaimFormScreen::printerOptions() {

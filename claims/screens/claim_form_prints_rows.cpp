@@ -28,7 +28,8 @@ constexpr Row kRows[] = {
             .run = run<&Form::openReport>,
             .menu = u"Men_Preport",
             .under = u"計算と印刷(&P)"},
-    Command{.name = {u"Command21"}, .caption = u"1年・月16回以上の理由書印刷", .run = run<&Form::openReasons>},
+    Command{
+        .name = {u"Command21"}, .caption = u"1年・月16回以上の理由書印刷", .run = run<&Form::openReasons>},
     Command{.name = {u"Command30"},
             .caption = u"頻回な施術を必要とした詳細な理由及び今後の計画書",
             .run = run<&Form::openFrequentPlan>},
@@ -45,7 +46,8 @@ constexpr Row kRows[] = {
             .run = run<&Form::speakPrintGuide>},
     EndGroup{},
     Note{.name = {u"LabelGuide", 0},
-         .caption = u"往療の起点については、個人宅は丁目までの記載で可なので代入した場合は、削除等で書き換えてください。"},
+         .caption = u"往療の起点については、個人宅は丁目までの記載で可なので代入した場合は、削除等で書き換え"
+                    u"てください。"},
     Note{.name = {u"LabelGuide", 1}, .caption = u"空白のままだと往療の起点の欄は、空白になります。"},
     Note{.name = {u"LabelGuide", 2},
          .caption = u"※令和6年10月施術分以降、往療内訳表の印刷・提出は、必要なくなりました。"},

@@ -9,8 +9,9 @@ namespace {
 std::vector<screen::Row> allRows() {
   std::vector<screen::Row> all;
   for (const screen::Rows part :
-       {claimHeadRows(), claimInsuranceRows(), claimConsentRows(), claimTreatmentRows(), claimVisitTableRows(),
-        claimPrintsRows(), claimPrintSettingsRows(), claimHistoryRows(), claimReserveRows(), claimApplicantRows()})
+       {claimHeadRows(), claimInsuranceRows(), claimConsentRows(), claimTreatmentRows(),
+        claimVisitTableRows(), claimPrintsRows(), claimPrintSettingsRows(), claimHistoryRows(),
+        claimReserveRows(), claimApplicantRows()})
     all.insert(all.end(), part.begin(), part.end());
   return all;
 }

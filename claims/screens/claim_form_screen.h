@@ -149,13 +149,13 @@ class ClaimFormScreen : public screen::Screen {
   store::RecordSet m_secondAll;  ///< whole second half, of which source 2 shows one row
   StoredFees m_fees;
   ClaimFormLists m_lists;
-  ClaimRecord m_read;            ///< the claim on display as it was read
-  qint64 m_id = 0;               ///< 0: no claim on display
+  ClaimRecord m_read;  ///< the claim on display as it was read
+  qint64 m_id = 0;     ///< 0: no claim on display
   MonthFlags m_flags;
   QString m_opener;
-  QString m_storeMark;           ///< "up" while a store is in progress
+  QString m_storeMark;  ///< "up" while a store is in progress
   bool m_treatmentChanged = false;
-  bool m_carried = false;        ///< 翌月へ継続 was done since this form was opened
+  bool m_carried = false;  ///< 翌月へ継続 was done since this form was opened
 };
 
 }  // namespace claims

@@ -165,7 +165,8 @@ void ClaimFormScreen::takeValuesOfShow() {
   }
   applyKind();
   const QString addressee = member(u"Combo1", 6);
-  if (text(addressee).isEmpty()) setText(addressee, defaultAddressee(m_read.get(QStringLiteral("保険の種類"))));
+  if (text(addressee).isEmpty())
+    setText(addressee, defaultAddressee(m_read.get(QStringLiteral("保険の種類"))));
   setText(QStringLiteral("TextClinic"), clinicBoxText(m_read.get(QStringLiteral("施術所の名称"))));
   applyPrintDefaults();
   applyMonth();
@@ -221,7 +222,8 @@ void ClaimFormScreen::applyMonth() {
 
 void ClaimFormScreen::applyVisitTable() {
   const bool shown = checked(QStringLiteral("Check10"));
-  for (const char16_t* frame : {u"FrameStarts", u"FrameSameHouse"}) setShown(QString::fromUtf16(frame), shown);
+  for (const char16_t* frame : {u"FrameStarts", u"FrameSameHouse"})
+    setShown(QString::fromUtf16(frame), shown);
 }
 
 void ClaimFormScreen::monthLeft() { applyMonth(); }

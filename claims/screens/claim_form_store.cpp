@@ -26,7 +26,8 @@ void ClaimFormScreen::store() {
   m_storeMark.clear();
   if (!written) return;
 
-  if (const text::Done done = source(1).rows().refresh(); !done) messages().tellDataFault(done.fault().message);
+  if (const text::Done done = source(1).rows().refresh(); !done)
+    messages().tellDataFault(done.fault().message);
   showClaim(m_id);
   if (m_opener == u"治療台帳3") navigator().show(m_opener);
 }

@@ -6,7 +6,8 @@ namespace claims::says {
 
 inline constexpr char16_t kCheckChanged[] =
     u"チェックボタンもしくはラジオボタンが変更されました。一度登録ボタンを押して下さい";
-inline constexpr char16_t kTreatmentChanged[] = u"「治療」の内容が変更されました。一度登録ボタンを押して下さい";
+inline constexpr char16_t kTreatmentChanged[] =
+    u"「治療」の内容が変更されました。一度登録ボタンを押して下さい";
 inline constexpr char16_t kStoreQuestion[] = u"       　　    更新しますか？";
 inline constexpr char16_t kDeleteQuestion[] = u"　現在の表示の患者を削除しますか？";
 inline constexpr char16_t kNeverStored[] = u"一度登録ボタンを押してから終了して下さい";

@@ -40,7 +40,8 @@ void ClaimFormScreen::openReport() { openSingle(QStringLiteral("施術報告書"
 void ClaimFormScreen::openVisitTable() { openSingle(QStringLiteral("往療内訳表"), true); }
 void ClaimFormScreen::openReasons() {
   const bool massage = kindOf(m_read.get(QStringLiteral("施術内容"))) == Kind::Massage;
-  openSingle(massage ? QStringLiteral("frm1年16回以上印刷マ") : QStringLiteral("frm1年16回以上印刷は"), false);
+  openSingle(massage ? QStringLiteral("frm1年16回以上印刷マ") : QStringLiteral("frm1年16回以上印刷は"),
+             false);
 }
 
 void ClaimFormScreen::openFrequentPlan() { openBeside(QStringLiteral("頻回の理由と計画書")); }

@@ -29,7 +29,8 @@ constexpr ScreenRow k2024{.name = u"記入の仕方2024", .caption = u"記入の
 
 }  // namespace
 
-HelpScreen::HelpScreen(const ScreenRow& declaration, std::span<const char16_t* const> lines, Services& services)
+HelpScreen::HelpScreen(const ScreenRow& declaration, std::span<const char16_t* const> lines,
+                       Services& services)
     : Screen(declaration, services), m_lines(lines) {}
 
 QStringList HelpScreen::lines() const {

@@ -15,9 +15,10 @@ struct CellCase {
 };
 
 TEST_F(ClaimFormFields, ACodeOfTheOtherKindGivesTheFocusBack) {
-  const CellCase cells[] = {{false, u"g", true}, {false, u"j", true},  {false, u"a", false}, {false, u"z", false},
-                            {false, u"", false}, {true, u"a", true},   {true, u"f", true},   {true, u"g", false},
-                            {true, u"g2", false}, {false, u"g2", false}};
+  const CellCase cells[] = {{false, u"g", true},  {false, u"j", true}, {false, u"a", false},
+                            {false, u"z", false}, {false, u"", false}, {true, u"a", true},
+                            {true, u"f", true},   {true, u"g", false}, {true, u"g2", false},
+                            {false, u"g2", false}};
   for (const CellCase& cell : cells) {
     m_form.reset();
     openNew(cell.massageClaim ? massage() : acupuncture());
@@ -26,7 +27,8 @@ TEST_F(ClaimFormFields, ACodeOfTheOtherKindGivesTheFocusBack) {
     told();
     m_form->focusOn(qs(u"Text5(4)"));
     const std::string name = qs(cell.code).toStdString();
-    EXPECT_EQ(told(), cell.refused ? QStringList(qs(u"治療内容が正しくありません。")) : QStringList()) << name;
+    EXPECT_EQ(told(), cell.refused ? QStringList(qs(u"治療内容が正しくありません。")) : QStringList())
+        << name;
     EXPECT_EQ(m_form->focused(), cell.refused ? qs(u"Text5(3)") : qs(u"Text5(4)")) << name;
   }
 }
@@ -38,7 +40,8 @@ struct VisitCase {
 };
 
 TEST_F(ClaimFormFields, AVisitIsCheckedByTheMonth) {
-  constexpr const char16_t* kNew = u"往療距離が正しくありません。「記入の仕方」をクリックし、ご確認ください。";
+  constexpr const char16_t* kNew =
+      u"往療距離が正しくありません。「記入の仕方」をクリックし、ご確認ください。";
   constexpr const char16_t* kOld = u"往療距離が正しくありません。";
   const VisitCase visits[] = {
       {u"令和6年10月", u"v1", nullptr}, {u"令和6年10月", u"v20", nullptr}, {u"令和6年10月", u"t", nullptr},
@@ -84,8 +87,9 @@ TEST_F(ClaimFormFields, BothConsentReceiversClearedIsTold) {
 TEST_F(ClaimFormFields, TickingTheReportTellsWhatBelongsToIt) {
   openNew(acupuncture());
   toggle(qs(u"Check11"));
-  EXPECT_EQ(told(), QStringList(qs(u"「施術報告書交付発行」にチェックを入れた場合、必ず、下の「施術報告交付発行年月日」"
-                                   u"および、初回以外は「前回の施術報告交付発行年月」に日付を記入してください。")));
+  EXPECT_EQ(told(), QStringList(qs(
+                        u"「施術報告書交付発行」にチェックを入れた場合、必ず、下の「施術報告交付発行年月日」"
+                        u"および、初回以外は「前回の施術報告交付発行年月」に日付を記入してください。")));
   toggle(qs(u"Check11"));
   EXPECT_TRUE(told().isEmpty());
 }
@@ -148,9 +152,9 @@ TEST_F(ClaimFormFields, AListEntryBringsItsSiblings) {
     auto database = store::Database::open(m_run.folders[frame::folder::kDoctors]);
     auto rows = store::RecordSet::open(database.value(), qs(u"同意医師"));
     ASSERT_TRUE(rows->addNew().ok());
-    for (const auto& [column, value] : {std::pair(u"氏名", u"架空 医師"), std::pair(u"フリガナ", u"ｶｸｳ ｲｼ"),
-                                        std::pair(u"病院名", u"架空病院"), std::pair(u"住所", u"架空市1"),
-                                        std::pair(u"TEL", u"000-0000")})
+    for (const auto& [column, value] :
+         {std::pair(u"氏名", u"架空 医師"), std::pair(u"フリガナ", u"ｶｸｳ ｲｼ"),
+          std::pair(u"病院名", u"架空病院"), std::pair(u"住所", u"架空市1"), std::pair(u"TEL", u"000-0000")})
       ASSERT_TRUE(rows->setValue(qs(column), qs(value)).ok());
     ASSERT_TRUE(rows->update().ok());
   }

@@ -13,13 +13,15 @@ constexpr const char16_t* kFeeFiles[] = {u"料金設定2000.mdb", u"料金設定
 // Fees of no real edition, chosen so that sums are easy to follow.
 const QList<std::pair<QString, QString>>& fees() {
   static const QList<std::pair<QString, QString>> list = {
-      {qs(u"はり"), qs(u"1500")},         {qs(u"灸"), qs(u"1500")},       {qs(u"はり灸"), qs(u"1600")},
-      {qs(u"はり電療"), qs(u"100")},      {qs(u"はり初回"), qs(u"1900")}, {qs(u"はり灸初回"), qs(u"2200")},
-      {qs(u"マッサージ1局所"), qs(u"450")}, {qs(u"徒手矯正術"), qs(u"470")}, {qs(u"温罨法"), qs(u"180")},
-      {qs(u"電気光線器具併用"), qs(u"300")}, {qs(u"往診料2Kまで"), qs(u"2300")},
-      {qs(u"加算往診料4K"), qs(u"2550")}, {qs(u"加算往診料16K"), qs(u"480")},
-      {qs(u"突発的な往療"), qs(u"2300")}, {qs(u"特別地域"), qs(u"250")},
-      {qs(u"施術報告書交付料"), qs(u"480")}, {qs(u"はり訪問施術11"), qs(u"3800")}};
+      {qs(u"はり"), qs(u"1500")},           {qs(u"灸"), qs(u"1500")},
+      {qs(u"はり灸"), qs(u"1600")},         {qs(u"はり電療"), qs(u"100")},
+      {qs(u"はり初回"), qs(u"1900")},       {qs(u"はり灸初回"), qs(u"2200")},
+      {qs(u"マッサージ1局所"), qs(u"450")}, {qs(u"徒手矯正術"), qs(u"470")},
+      {qs(u"温罨法"), qs(u"180")},          {qs(u"電気光線器具併用"), qs(u"300")},
+      {qs(u"往診料2Kまで"), qs(u"2300")},   {qs(u"加算往診料4K"), qs(u"2550")},
+      {qs(u"加算往診料16K"), qs(u"480")},   {qs(u"突発的な往療"), qs(u"2300")},
+      {qs(u"特別地域"), qs(u"250")},        {qs(u"施術報告書交付料"), qs(u"480")},
+      {qs(u"はり訪問施術11"), qs(u"3800")}};
   return list;
 }
 
@@ -30,7 +32,8 @@ void makeFees(const QString& path, const QString& file) {
   auto rows = store::RecordSet::open(database.value(), qs(u"料金設定"));
   ASSERT_TRUE(rows.ok());
   ASSERT_TRUE(rows->addNew().ok());
-  for (const auto& [column, fee] : fees()) ASSERT_TRUE(rows->setValue(column, fee).ok()) << column.toStdString();
+  for (const auto& [column, fee] : fees())
+    ASSERT_TRUE(rows->setValue(column, fee).ok()) << column.toStdString();
   ASSERT_TRUE(rows->update().ok());
 }
 
@@ -56,19 +59,34 @@ void ClaimFormTest::SetUp() {
   m_run.clock = &m_clock;
   m_run.prefectureCode = qs(u"27");
   m_messages.answerFromQueue();
-  m_state.choosePrintScreen = [](const ClaimRecord&, const QSet<QString>&) { return qs(u"レセプト印刷2024"); };
+  m_state.choosePrintScreen = [](const ClaimRecord&, const QSet<QString>&) {
+    return qs(u"レセプト印刷2024");
+  };
 }
 
 ClaimRecord ClaimFormTest::acupuncture() {
   ClaimRecord claim;
-  const std::pair<const char16_t*, const char16_t*> columns[] = {
-      {u"施術内容", u"鍼灸"},         {u"申請年月", u"令和6年10月"},      {u"申請月", u"10"},
-      {u"請求回数", u"3"},            {u"氏名", u"見本 太郎"},            {u"番号1", u"P0001"},
-      {u"保険の種類", u"国保"},       {u"保険の種類3", u"国民健保"},      {u"保険者名称", u"架空市"},
-      {u"保険者番号", u"123456"},     {u"一部負担金", u"3割"},            {u"被保険者の氏名", u"見本 太郎"},
-      {u"被保険者との続柄", u"本人"}, {u"初療年月日", u"令和6年9月2日"},  {u"請求区分", u"継続"},
-      {u"転帰", u"継続"},             {u"施術所の名称", u"見本治療院"},   {u"代表者氏名", u"例示 代表"},
-      {u"治療内容1", u"a"},           {u"治療内容8", u"a"},               {u"治療内容15", u"e"}};
+  const std::pair<const char16_t*, const char16_t*> columns[] = {{u"施術内容", u"鍼灸"},
+                                                                 {u"申請年月", u"令和6年10月"},
+                                                                 {u"申請月", u"10"},
+                                                                 {u"請求回数", u"3"},
+                                                                 {u"氏名", u"見本 太郎"},
+                                                                 {u"番号1", u"P0001"},
+                                                                 {u"保険の種類", u"国保"},
+                                                                 {u"保険の種類3", u"国民健保"},
+                                                                 {u"保険者名称", u"架空市"},
+                                                                 {u"保険者番号", u"123456"},
+                                                                 {u"一部負担金", u"3割"},
+                                                                 {u"被保険者の氏名", u"見本 太郎"},
+                                                                 {u"被保険者との続柄", u"本人"},
+                                                                 {u"初療年月日", u"令和6年9月2日"},
+                                                                 {u"請求区分", u"継続"},
+                                                                 {u"転帰", u"継続"},
+                                                                 {u"施術所の名称", u"見本治療院"},
+                                                                 {u"代表者氏名", u"例示 代表"},
+                                                                 {u"治療内容1", u"a"},
+                                                                 {u"治療内容8", u"a"},
+                                                                 {u"治療内容15", u"e"}};
   for (const auto& [column, value] : columns) claim.set(qs(column), qs(value));
   return claim;
 }

@@ -49,7 +49,8 @@ class ClaimFormTest : public testing::Test {
   static void TearDownTestSuite() { s_files.reset(); }
   void SetUp() override;
 
-  /// Columns of a claim that passes every check: 鍼灸 of 令和6年10月, 3割, はり on two days, はりきゅう on one.
+  /// Columns of a claim that passes every check: 鍼灸 of 令和6年10月, 3割, はり on two days, はりきゅう on
+  /// one.
   static ClaimRecord acupuncture();
   /// あマ of 令和6年10月, 1割: two areas on two days.
   static ClaimRecord massage();

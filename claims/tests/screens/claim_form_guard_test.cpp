@@ -12,10 +12,10 @@ const QString kCheckChanged =
     qs(u"チェックボタンもしくはラジオボタンが変更されました。一度登録ボタンを押して下さい");
 const QString kTreatmentChanged = qs(u"「治療」の内容が変更されました。一度登録ボタンを押して下さい");
 
-constexpr const char16_t* kStopped[] = {
-    u"Command15", u"Command16", u"Command17", u"Command18", u"Command1",  u"Command2",  u"Command32",
-    u"Command5",  u"Command3",  u"Command23", u"Command24", u"Command21", u"Command34", u"cmdClose",
-    u"Command22", u"Command30"};
+constexpr const char16_t* kStopped[] = {u"Command15", u"Command16", u"Command17", u"Command18",
+                                        u"Command1",  u"Command2",  u"Command32", u"Command5",
+                                        u"Command3",  u"Command23", u"Command24", u"Command21",
+                                        u"Command34", u"cmdClose",  u"Command22", u"Command30"};
 
 TEST_F(ClaimFormGuard, AChangedTickStopsEveryCommandButStoreAndDelete) {
   openNew(acupuncture());
@@ -90,8 +90,11 @@ TEST_F(ClaimFormGuard, MovesBringBothHalvesToTheSameClaim) {
   const qint64 second = add(massage());
   const qint64 third = add(acupuncture());
   open(first);
-  const std::pair<const char16_t*, qint64> moves[] = {
-      {u"Command17", second}, {u"Command17", third}, {u"Command15", first}, {u"Command18", third}, {u"Command16", second}};
+  const std::pair<const char16_t*, qint64> moves[] = {{u"Command17", second},
+                                                      {u"Command17", third},
+                                                      {u"Command15", first},
+                                                      {u"Command18", third},
+                                                      {u"Command16", second}};
   for (const auto& [command, id] : moves) {
     press(qs(command));
     EXPECT_EQ(m_form->text(qs(u"Text9(0)")), QString::number(id));
@@ -155,13 +158,15 @@ TEST_F(ClaimFormGuard, AnOpenWindowStopsMovesAndPrints) {
 
 TEST_F(ClaimFormGuard, ASecondCopyOfAWindowIsRefused) {
   openNew(acupuncture());
-  const std::pair<const char16_t*, int> commands[] = {{u"Command23", 0}, {u"Command24", 1}, {u"Command21", 2}};
+  const std::pair<const char16_t*, int> commands[] = {
+      {u"Command23", 0}, {u"Command24", 1}, {u"Command21", 2}};
   for (const auto& [command, window] : commands) {
     m_navigator.open = {qs(kWindows[window].screen)};
     press(qs(command));
     const QStringList texts = told();
     ASSERT_EQ(texts.size(), 1);
-    EXPECT_TRUE(texts[0].startsWith(qs(kWindows[window].message).section(u'（', 0, 0))) << texts[0].toStdString();
+    EXPECT_TRUE(texts[0].startsWith(qs(kWindows[window].message).section(u'（', 0, 0)))
+        << texts[0].toStdString();
     EXPECT_TRUE(texts[0].endsWith(qs(u"（重複禁止）"))) << texts[0].toStdString();
   }
   EXPECT_TRUE(m_navigator.shows.isEmpty());

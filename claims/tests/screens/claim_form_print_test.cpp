@@ -16,12 +16,10 @@ struct PreviewCase {
 };
 
 TEST_F(ClaimFormPrint, TheMonthAndTheKindChooseThePreview) {
-  const PreviewCase cases[] = {{u"平成30年5月", false, u"施術料金1", 1},
-                               {u"平成30年5月", true, u"施術料金2", 2},
-                               {u"平成30年6月", false, u"施術料金2018H", 3},
-                               {u"令和6年9月", true, u"施術料金2108A", 4},
-                               {u"令和6年10月", false, u"施術料金2024H", 5},
-                               {u"令和6年10月", true, u"施術料金2024A", 6}};
+  const PreviewCase cases[] = {
+      {u"平成30年5月", false, u"施術料金1", 1},     {u"平成30年5月", true, u"施術料金2", 2},
+      {u"平成30年6月", false, u"施術料金2018H", 3}, {u"令和6年9月", true, u"施術料金2108A", 4},
+      {u"令和6年10月", false, u"施術料金2024H", 5}, {u"令和6年10月", true, u"施術料金2024A", 6}};
   for (const PreviewCase& row : cases) {
     m_form.reset();
     m_navigator.shows.clear();
@@ -104,8 +102,9 @@ TEST_F(ClaimFormPrint, ReportAndTableAreClosedBefore2018October) {
   openNew(claim);
   for (const char16_t* command : {u"Command23", u"Command24"}) {
     press(qs(command));
-    EXPECT_EQ(told(), QStringList(qs(u"注：平成30年10月以前のレセプトデータでは、「施術報告書印刷」及び「往療内訳表」の"
-                                     u"入力と印刷はできません。")));
+    EXPECT_EQ(told(), QStringList(qs(
+                          u"注：平成30年10月以前のレセプトデータでは、「施術報告書印刷」及び「往療内訳表」の"
+                          u"入力と印刷はできません。")));
   }
   EXPECT_TRUE(m_navigator.shows.isEmpty());
 }
@@ -120,14 +119,19 @@ TEST_F(ClaimFormPrint, TheReasonSheetIsThatOfTheKind) {
 
 TEST_F(ClaimFormPrint, TheOtherCommandsOpenTheirScreens) {
   openNew(acupuncture());
-  const std::pair<const char16_t*, const char16_t*> screens[] = {
-      {u"Command23", u"施術報告書"},           {u"Command24", u"往療内訳表"},
-      {u"Command30", u"頻回の理由と計画書"},   {u"Command34", u"新摘要欄"},
-      {u"Command22", u"領収証選択"},           {u"Command33", u"メモデータ変換"},
-      {u"Command8", u"往療時の住所代入"},      {u"Command19", u"往療時の日付代入"},
-      {u"Command25", u"往療起点への住所代入"}, {u"Command26", u"往療起点の登録の表示"},
-      {u"Command14", u"登録3"},                {u"Command12", u"登録2"},
-      {u"Command20", u"往療行程の記入の仕方"}};
+  const std::pair<const char16_t*, const char16_t*> screens[] = {{u"Command23", u"施術報告書"},
+                                                                 {u"Command24", u"往療内訳表"},
+                                                                 {u"Command30", u"頻回の理由と計画書"},
+                                                                 {u"Command34", u"新摘要欄"},
+                                                                 {u"Command22", u"領収証選択"},
+                                                                 {u"Command33", u"メモデータ変換"},
+                                                                 {u"Command8", u"往療時の住所代入"},
+                                                                 {u"Command19", u"往療時の日付代入"},
+                                                                 {u"Command25", u"往療起点への住所代入"},
+                                                                 {u"Command26", u"往療起点の登録の表示"},
+                                                                 {u"Command14", u"登録3"},
+                                                                 {u"Command12", u"登録2"},
+                                                                 {u"Command20", u"往療行程の記入の仕方"}};
   for (const auto& [command, screen] : screens) {
     m_navigator.shows.clear();
     press(qs(command));
@@ -152,10 +156,11 @@ TEST_F(ClaimFormPrint, CarryForwardMakesTheNextMonthsClaim) {
   press(qs(u"Command1"));
   const QStringList texts = told();
   ASSERT_EQ(texts.size(), 1);
-  EXPECT_EQ(texts[0].split(u'\n'),
-            QStringList({qs(u"この患者の新しいレセプトを追加しますか？"),
-                         qs(u"追加されるデータは閉じるボタンを押してもレセプト一覧表には最初表示されません。"),
-                         qs(u"表示させるにはレセプト一覧表の画面での「更新」ボタンを押して下さい。")}));
+  EXPECT_EQ(
+      texts[0].split(u'\n'),
+      QStringList({qs(u"この患者の新しいレセプトを追加しますか？"),
+                   qs(u"追加されるデータは閉じるボタンを押してもレセプト一覧表には最初表示されません。"),
+                   qs(u"表示させるにはレセプト一覧表の画面での「更新」ボタンを押して下さい。")}));
   EXPECT_EQ(m_form->text(qs(u"txtFields(1)")), qs(u"令和6年11月"));
   EXPECT_EQ(m_form->text(qs(u"txtFields(11)")), qs(u"4"));
   EXPECT_EQ(m_form->text(qs(u"Text5(1)")), QString());
@@ -171,9 +176,11 @@ TEST_F(ClaimFormPrint, CarryForwardIsAllowedOncePerOpening) {
   press(qs(u"Command1"));
   told();
   press(qs(u"Command1"));
-  EXPECT_EQ(told(), QStringList({qs(u"連続した「翌月への継続」は行えません。"),
-                                 qs(u"「閉じる」でレセプト一覧へ戻り、レセプト一覧の「更新」を押して、改めて選択して、"),
-                                 qs(u"レセプトデータへ戻って下さい。")}));
+  EXPECT_EQ(
+      told(),
+      QStringList({qs(u"連続した「翌月への継続」は行えません。"),
+                   qs(u"「閉じる」でレセプト一覧へ戻り、レセプト一覧の「更新」を押して、改めて選択して、"),
+                   qs(u"レセプトデータへ戻って下さい。")}));
 }
 
 TEST_F(ClaimFormPrint, CarryForwardNeedsTheNumberOfTheRequest) {

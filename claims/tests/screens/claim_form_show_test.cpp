@@ -42,16 +42,20 @@ TEST_F(ClaimFormShow, TheTicksComeFromTheJoinedText) {
   openNew(claim);
   QStringList ticked;
   for (int i = 0; i < 6; ++i)
-    if (m_form->checked(QStringLiteral("Check9(%1)").arg(i))) ticked << m_form->caption(QStringLiteral("Check9(%1)").arg(i));
+    if (m_form->checked(QStringLiteral("Check9(%1)").arg(i)))
+      ticked << m_form->caption(QStringLiteral("Check9(%1)").arg(i));
   EXPECT_EQ(ticked, QStringList({qs(u"三歳未満"), qs(u"高齢8")}));
   EXPECT_FALSE(m_form->checkChanged());
 }
 
 TEST_F(ClaimFormShow, ABlankAddresseeIsSetByTheKindOfInsurance) {
   const std::pair<const char16_t*, const char16_t*> rows[] = {
-      {u"全国健康保険協会", u"全国健康保険協会支部長"}, {u"共済", u"共済組合長"},
-      {u"組合", u"健康保険組合長"},                     {u"国保", u"市町村長"},
-      {u"退職国保", u"市町村長"},                       {u"特別国保", u"国民健康保険組合長"},
+      {u"全国健康保険協会", u"全国健康保険協会支部長"},
+      {u"共済", u"共済組合長"},
+      {u"組合", u"健康保険組合長"},
+      {u"国保", u"市町村長"},
+      {u"退職国保", u"市町村長"},
+      {u"特別国保", u"国民健康保険組合長"},
       {u"後期高齢", u"後期高齢者医療広域連合長"}};
   for (const auto& [kind, addressee] : rows) {
     ClaimRecord claim = acupuncture();
@@ -84,8 +88,8 @@ TEST_F(ClaimFormShow, MassageIsTheReverse) {
 struct MonthCase {
   const char16_t* month;
   const char16_t* row;
-  bool noTable;   ///< the note that the table is no longer handed in
-  bool open;      ///< fields of the report
+  bool noTable;  ///< the note that the table is no longer handed in
+  bool open;     ///< fields of the report
 };
 
 TEST_F(ClaimFormShow, TheMonthDecidesTheSecondRowAndTheReportFields) {

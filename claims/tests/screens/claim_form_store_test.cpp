@@ -147,15 +147,16 @@ TEST_F(ClaimFormStore, TheKindIsRewrittenByTheTreatmentRecordsKind) {
 TEST_F(ClaimFormStore, OverlongTextsAreCutMarkedAndTold) {
   ClaimRecord claim = acupuncture();
   claim.set(qs(u"保険の種類"), qs(u"共済"));
-  claim.set(qs(u"被保険者との続柄"), qs(u"あいうえお"));          // 4 print
-  claim.set(qs(u"傷病名8"), QString(10, QChar(u'病')));           // 10 print
+  claim.set(qs(u"被保険者との続柄"), qs(u"あいうえお"));  // 4 print
+  claim.set(qs(u"傷病名8"), QString(10, QChar(u'病')));   // 10 print
   const qint64 id = add(claim);
   open(id);
   answer({true});
   press(qs(u"cmdUpdate"));
-  EXPECT_EQ(told(), QStringList({qs(u"印刷出来る文字数を超えている項目があったので文字を可能な数まで削りました。\n"
-                                    u"削った項目名は赤字になっています。"),
-                                 kQuestion}));
+  EXPECT_EQ(told(),
+            QStringList({qs(u"印刷出来る文字数を超えている項目があったので文字を可能な数まで削りました。\n"
+                            u"削った項目名は赤字になっています。"),
+                         kQuestion}));
   EXPECT_EQ(stored(id).get(qs(u"被保険者との続柄")), qs(u"あいうえ"));
   EXPECT_EQ(stored(id).get(qs(u"傷病名8")).size(), 10);
 }

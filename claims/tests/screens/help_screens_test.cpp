@@ -1,4 +1,5 @@
 #include "claims/screens/help_screens.h"
+
 #include "claims/tests/screens/claim_form_fixture.h"
 
 namespace claims {
@@ -24,10 +25,12 @@ TEST_F(HelpScreens, EachTellsTheEntriesOfItsMonths) {
   for (const QString& text : {text1, text2, text3})
     EXPECT_TRUE(text.contains(qs(u"アルファベットは小文字で記入して下さい。")));
   EXPECT_TRUE(text1.contains(qs(u"往療距離が2km以内なら2、それ以降4、6、8、10、12で入力して下さい。")));
-  EXPECT_TRUE(text2.contains(qs(u"往療距離が4kmまでの場合、1 ～ 4 の数字で入力して下さい。4kmを超える場合は、5 ～ 20 の"
-                                u"数字を入力してください。それ以外の数字または、文字は無効になります。")));
+  EXPECT_TRUE(text2.contains(
+      qs(u"往療距離が4kmまでの場合、1 ～ 4 の数字で入力して下さい。4kmを超える場合は、5 ～ 20 の"
+         u"数字を入力してください。それ以外の数字または、文字は無効になります。")));
   for (const QString& text : {text2, text3})
-    EXPECT_TRUE(text.contains(qs(u"「g3h3」と入力します。「h3g3」は不可。「g3」を先にして下さい（最大４文字まで）")));
+    EXPECT_TRUE(
+        text.contains(qs(u"「g3h3」と入力します。「h3g3」は不可。「g3」を先にして下さい（最大４文字まで）")));
   EXPECT_TRUE(text3.contains(qs(u"突発的な往療")));
   EXPECT_FALSE(text3.contains(qs(u"往療距離が4kmまで")));
 }
