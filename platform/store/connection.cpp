@@ -26,7 +26,8 @@ Done runUpdate(Engine& engine, Scanner& scanner) {
     if (!value) return value.fault();
     columns.insert(column, *value);
   } while (scanner.takeMark(u","));
-  if (!scanner.takeWord(u"where") && !scanner.atEnd()) return scanner.fault();
+  const bool some = scanner.takeWord(u"where");
+  if (some == scanner.atEnd()) return scanner.fault();
   const Result<Criteria> criteria = parseCriteria(scanner.takeRest(), Wildcard::Statement);
   if (!criteria) return criteria.fault();
 
@@ -142,7 +143,7 @@ Result<Cursor> Cursor::open(Connection& connection, const QString& source) {
   } while (scanner.takeMark(u","));
   if (!scanner.takeWord(u"from")) return scanner.fault();
   const QString table = scanner.takeName();
-  scanner.takeWord(u"where");
+  if (scanner.takeWord(u"where") && scanner.atEnd()) return scanner.fault();
   const Result<Criteria> criteria = parseCriteria(scanner.takeRest(), Wildcard::Statement);
   if (!criteria) return criteria.fault();
 

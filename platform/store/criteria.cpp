@@ -106,6 +106,8 @@ Term forNumbers(Term term, ColumnType type) {
     term.value = QStringLiteral("-1");
   else if (word == u"false" || word == u"no")
     term.value = QStringLiteral("0");
+  bool whole = false;
+  if (const qint64 number = term.value.trimmed().toLongLong(&whole); whole) term.value = QString::number(number);
   return term;
 }
 

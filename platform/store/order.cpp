@@ -1,6 +1,7 @@
 #include "platform/store/order.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "platform/store/collation.h"
 
@@ -65,17 +66,18 @@ Result<QVector<int>> sortedColumns(const Order& order, const TableSchema& schema
   return columns;
 }
 
-void sortRows(std::vector<uint32_t>& rows, const Order& order, const TableCopy& copy) {
+void sortRows(std::vector<uint32_t>& rows, const Order& order, const TableSchema& schema,
+              const std::function<const SortColumn&(int column)>& columnOf) {
   std::vector<ColumnOrder> columns;
   bool idDescending = false;
   for (const SortKey& key : order) {
-    const int column = copy.schema().find(key.column);
-    const ColumnType type = copy.schema().type(column);
+    const int column = schema.find(key.column);
+    const ColumnType type = schema.type(column);
     if (type == ColumnType::Counter) {
       idDescending = key.descending;
       break;
     }
-    columns.emplace_back(copy.sorted(column), isNumber(type), key.descending);
+    columns.emplace_back(columnOf(column), isNumber(type), key.descending);
   }
   if (columns.empty()) {
     if (idDescending) std::reverse(rows.begin(), rows.end());
@@ -86,6 +88,35 @@ void sortRows(std::vector<uint32_t>& rows, const Order& order, const TableCopy& 
       if (const int order = column.compare(a, b)) return order < 0;
     return idDescending ? a > b : a < b;
   });
+}
+
+void sortRows(std::vector<uint32_t>& rows, const Order& order, const TableCopy& copy) {
+  sortRows(rows, order, copy.schema(), [&](int column) -> const SortColumn& { return copy.sorted(column); });
+}
+
+Result<std::vector<qint64>> orderedIds(const TableRow& table, const QList<QHash<QString, Value>>& rows,
+                                       const QString& order) {
+  TableSchema schema(QString::fromUtf16(table.table));
+  for (const ColumnRow& column : table.columns) schema.add(QString::fromUtf16(column.name), column.type);
+  const Result<Order> keys = parseOrder(order);
+  if (!keys) return keys.fault();
+  const Result<QVector<int>> sorted = sortedColumns(*keys, schema);
+  if (!sorted) return sorted.fault();
+
+  const QString id = schema.name(0);
+  QList<QHash<QString, Value>> byId = rows;
+  std::stable_sort(byId.begin(), byId.end(), [&](const auto& a, const auto& b) {
+    return a.value(id).toLongLong() < b.value(id).toLongLong();
+  });
+  QHash<int, SortColumn> columns;
+  for (const int column : *sorted)
+    for (const QHash<QString, Value>& row : byId) columns[column].append(row.value(schema.name(column)));
+  std::vector<uint32_t> numbers(static_cast<size_t>(byId.size()));
+  std::iota(numbers.begin(), numbers.end(), 0u);
+  sortRows(numbers, *keys, schema, [&](int column) -> const SortColumn& { return columns[column]; });
+  std::vector<qint64> ids;
+  for (const uint32_t number : numbers) ids.push_back(byId[number].value(id).toLongLong());
+  return ids;
 }
 
 }  // namespace store

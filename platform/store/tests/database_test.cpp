@@ -29,7 +29,9 @@ class DatabaseTest : public StoreTest {
     EXPECT_TRUE(opened.fault().message.contains(kDoctors)) << opened.fault().message.toStdString();
     EXPECT_TRUE(opened.fault().message.contains(what)) << opened.fault().message.toStdString();
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), listing);
-    if (!listing.isEmpty()) EXPECT_EQ(content(kDoctors), before);
+    if (!listing.isEmpty()) {
+      EXPECT_EQ(content(kDoctors), before);
+    }
   }
 };
 
