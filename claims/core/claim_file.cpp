@@ -67,9 +67,9 @@ text::Result<ClaimFile> ClaimFile::open(const frame::DataFolders& folders) {
 }
 
 text::Result<ClaimRecord> ClaimFile::read(qint64 id) const {
-  const auto halves = m_pair->read(id);
+  auto halves = m_pair->read(id);
   if (!halves) return halves.fault();
-  return ClaimRecord(halves->first, halves->second);
+  return ClaimRecord(std::move(halves->first), halves->second);
 }
 
 text::Done ClaimFile::store(qint64 id, const ClaimRecord& seen, const ClaimRecord& changed) {
@@ -82,8 +82,9 @@ text::Done ClaimFile::store(qint64 id, const ClaimRecord& seen, const ClaimRecor
     else if (secondColumns().contains(it.key()))
       second.insert(it.key(), it.value());
   }
-  const Columns seenFirst = half(seen, firstColumns()), seenSecond = half(seen, secondColumns());
-  return m_pair->update(id, first, second, &seenFirst, &seenSecond);
+  // Each half looks at the columns that it has.
+  const Columns& asSeen = seen.columns();
+  return m_pair->update(id, first, second, &asSeen, &asSeen);
 }
 
 text::Result<qint64> ClaimFile::add(const ClaimRecord& claim) {

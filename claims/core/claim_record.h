@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QString>
 #include <array>
+#include <utility>
 
 namespace claims {
 
@@ -12,9 +13,8 @@ class ClaimRecord {
  public:
   ClaimRecord() = default;
   /// The columns of both halves.
-  ClaimRecord(const QHash<QString, QString>& first, const QHash<QString, QString>& second)
-      : m_columns(first) {
-    m_columns.reserve(first.size() + second.size());
+  ClaimRecord(QHash<QString, QString> first, const QHash<QString, QString>& second)
+      : m_columns(std::move(first)) {
     m_columns.insert(second);
   }
 
