@@ -69,7 +69,7 @@ Font* FontStore::font(Typeface face) {
 
 Font* FontStore::fontFor(Typeface face, char32_t character) {
   Font* own = font(face);
-  if (!own || own->glyph(character)) return own;
+  if (!own || own->has(character)) return own;
   const auto key = std::pair(face, character);
   if (const auto known = m_found.find(key); known != m_found.end()) return known->second;
   Font* found = search(face, character);
@@ -78,10 +78,10 @@ Font* FontStore::fontFor(Typeface face, char32_t character) {
 
 Font* FontStore::search(Typeface face, char32_t character) {
   Font* sister = font(face == Typeface::Mincho ? Typeface::Gothic : Typeface::Mincho);
-  if (sister && sister->glyph(character)) return sister;
+  if (sister && sister->has(character)) return sister;
   const FontFile file = nearest(familyName(face), character);
   Font* other = open(file.path, file.number);
-  return other && other->glyph(character) ? other : nullptr;
+  return other && other->has(character) ? other : nullptr;
 }
 
 bool fontInstalled() {

@@ -59,6 +59,7 @@ struct Form {
   QString title;
   Paper paper;
   bool landscape = false;
+  Typeface face = Typeface::Mincho;  ///< of items that name none
   QStringList files;   ///< the file itself and its bases
   QStringList blocks;  ///< captions of the blocks; Item::block points here
   std::vector<Item> items;

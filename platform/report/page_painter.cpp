@@ -1,5 +1,6 @@
 #include "platform/report/page_painter.h"
 
+#include <cmath>
 #include <numbers>
 
 namespace report {
@@ -57,13 +58,7 @@ void PagePainter::paint(cairo_t* page, const Item& item, const ItemState& state)
     case Kind::Text:
     case Kind::Digit: return paintText(page, item, state);
     case Kind::Box:
-      cairo_rectangle(page, item.rect.x * kPointsPerMm, item.rect.y * kPointsPerMm, item.rect.w * kPointsPerMm,
-                      item.rect.h * kPointsPerMm);
-      return stroke(page, item.rule);
-    case Kind::Line:
-      cairo_move_to(page, item.rect.x * kPointsPerMm, item.rect.y * kPointsPerMm);
-      cairo_rel_line_to(page, item.rect.w * kPointsPerMm, item.rect.h * kPointsPerMm);
-      return stroke(page, item.rule);
+    case Kind::Line: return;  // see RuleMerger
     case Kind::Mark: return paintMark(page, item.rect, item.shape, item.rule);
     case Kind::Choice: return paintChoice(page, item, state.text);
     case Kind::Picture: return paintPicture(page, item, state.text);
@@ -76,10 +71,12 @@ void PagePainter::paintText(cairo_t* page, const Item& item, const ItemState& st
 }
 
 void PagePainter::paintLine(cairo_t* page, const ShapedText& text, double x, double y, double pt) {
+  // Short numbers make small files: a tenth of a point is less than a printer's dot.
+  const double left = std::round(x * 10) / 10, base = std::round(y * 10) / 10;
   for (const Run& run : text.runs) {
     m_glyphs.resize(run.glyphs.size());
     for (size_t i = 0; i < run.glyphs.size(); ++i)
-      m_glyphs[i] = {run.glyphs[i].index, x + run.glyphs[i].x * pt, y + run.glyphs[i].y * pt};
+      m_glyphs[i] = {run.glyphs[i].index, left + run.glyphs[i].x * pt, base + run.glyphs[i].y * pt};
     setFont(page, run.font, pt);
     cairo_show_text_glyphs(page, run.utf8.constData(), int(run.utf8.size()), m_glyphs.data(), int(m_glyphs.size()),
                            run.clusters.data(), int(run.clusters.size()), cairo_text_cluster_flags_t(0));

@@ -1,5 +1,7 @@
 #include "platform/report/pdf_document.h"
 
+#include "platform/report/pdf_packer.h"
+
 #include <cairo-pdf.h>
 
 namespace report {
@@ -44,7 +46,7 @@ QByteArray PdfDocument::finish() {
   m_page.reset();
   cairo_surface_finish(m_surface.get());
   if (!sound || cairo_surface_status(m_surface.get()) != CAIRO_STATUS_SUCCESS) return {};
-  return m_bytes;
+  return packPdf(m_bytes);
 }
 
 }  // namespace report

@@ -114,13 +114,14 @@ bool readOption(PrpLine& line, Item& item) {
   return true;
 }
 
-ItemLine readItemLine(const QString& kind, PrpLine& line) {
+ItemLine readItemLine(const QString& kind, PrpLine& line, Typeface face) {
   const KindRow& row = *findKind(kind);
   const QStringList names = readNames(line);
   Item item;
   item.kind = row.kind;
   item.align = row.align;
   item.hidden = row.hidden;
+  item.face = face;
   item.sourceLine = line.line();
   if (row.kind == Kind::Line) item.rect = readLineEnds(line);
   else if (row.kind != Kind::Choice) item.rect = readRect(line);

@@ -15,7 +15,7 @@ struct ItemLine {
 
 /// Whether the word opens an item line.
 bool isKindWord(const QString& word);
-ItemLine readItemLine(const QString& kind, PrpLine& line);
+ItemLine readItemLine(const QString& kind, PrpLine& line, Typeface face);
 
 QStringList readNames(PrpLine& line);
 /// Takes one of the options that items of every kind share (pt, align, font, fit); false if there is none.

@@ -45,10 +45,14 @@ class Loader {
       form.title = line.rest();
     } else if (word == u"paper") {
       readPaper(line, form);
+    } else if (word == u"typeface") {
+      form.face = line.take("gothic") ? Typeface::Gothic : Typeface::Mincho;
+      if (form.face == Typeface::Mincho && !line.take("mincho")) line.fail(QStringLiteral("mincho or gothic"));
+      line.end();
     } else if (word == u"block") {
       form.blocks << line.rest();
     } else if (isKindWord(word) && !(word == u"text" && changesText(line))) {
-      addItems(line, form, readItemLine(word, line));
+      addItems(line, form, readItemLine(word, line, form.face));
     } else {
       readDelta(word, line, form, derived);
     }

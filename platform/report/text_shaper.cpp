@@ -46,7 +46,7 @@ std::vector<Span> spansByFont(FontStore& fonts, Typeface face, const std::u32str
   std::vector<Span> spans;
   for (const char32_t c : text) {
     // A mark or a selector belongs to the character before it, whatever its own font.
-    const bool joins = !spans.empty() && !isPlain(c) && !fonts.font(face)->glyph(c);
+    const bool joins = !spans.empty() && !isPlain(c) && !fonts.font(face)->has(c);
     Font* font = joins ? spans.back().font : fonts.fontFor(face, c);
     if (spans.empty() || spans.back().font != font) spans.push_back({font, {}});
     spans.back().characters += c;
@@ -88,7 +88,7 @@ Run shapedRun(const Span& span, bool vertical, double& pen) {
   int start = 0;
   for (unsigned i = 0; i < count; ++i) {
     const double x = at[i].x_offset / em, y = -at[i].y_offset / em;
-    run.glyphs.push_back({info[i].codepoint, vertical ? x : pen + x, vertical ? pen + y : y});
+    run.glyphs.push_back({span.font->written(info[i].codepoint), vertical ? x : pen + x, vertical ? pen + y : y});
     pen += (vertical ? -at[i].y_advance : at[i].x_advance) / em;
     if (i > 0 && info[i].cluster == info[i - 1].cluster) {
       ++run.clusters.back().num_glyphs;
