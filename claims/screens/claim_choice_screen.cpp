@@ -81,8 +81,8 @@ void ClaimChoiceScreen::accept() {
     messages().tellDataFault(id.fault().message);
     return;
   }
-  close();
   navigator().show(QStringLiteral("frmレセプトフォーム"), {{"ID", QString::number(*id)}});
+  close();
 }
 
 void ClaimChoiceScreen::cancel() { close(); }

@@ -116,8 +116,8 @@ void ClaimListScreen::removeClaim() {
 }
 
 void ClaimListScreen::finish() {
-  closeNow();
   navigator().show(QStringLiteral("選択3"));
+  closeNow();
 }
 
 bool ClaimListScreen::onCloseBox() {

@@ -30,8 +30,8 @@ void ListSortScreen::cancel() { close(); }
 void ListSortScreen::sort(const QString& direction) {
   const QString column = text("Combo1");
   if (column.isEmpty()) return;
-  close();
   navigator().show(QStringLiteral("レセプト一覧表"), {{"sort", column + ' ' + direction}});
+  close();
 }
 
 }  // namespace claims

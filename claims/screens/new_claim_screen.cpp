@@ -28,8 +28,8 @@ void NewClaimScreen::opened(const screen::Request& request) {
 }
 
 void NewClaimScreen::accept() {
-  close();
   navigator().show(QStringLiteral("レセプト選択"));
+  close();
 }
 
 void NewClaimScreen::cancel() { close(); }

@@ -1,0 +1,122 @@
+#include "platform/screen/testing/screen_probe.h"
+
+#include <QTest>
+#include <QtWidgets/QtWidgets>
+
+#include "platform/screen/control_book.h"
+#include "platform/screen/control_frame.h"
+#include "platform/store/catalogue.h"
+
+namespace screen::testing {
+namespace {
+
+bool needsLabel(const QWidget* widget) {
+  return qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget) ||
+         qobject_cast<const QComboBox*>(widget) || qobject_cast<const QTableView*>(widget);
+}
+
+bool isReachable(const Control& control, const Screen& screen) {
+  const QWidget* widget = control.widget();
+  if (!control.isShown() || !widget || !widget->isEnabledTo(&screen)) return false;
+  for (const QWidget* each = widget; each && each != &screen; each = each->parentWidget()) {
+    // A page that is not in front is hidden too; only a hidden control or group is out of reach.
+    const bool isPage = qobject_cast<const QStackedWidget*>(each->parentWidget()) != nullptr;
+    if (!isPage && each->isHidden()) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+void ScreenProbe::open() {
+  m_screen.show();
+  m_screen.activateWindow();
+  QApplication::setActiveWindow(&m_screen);
+  (void)QTest::qWaitForWindowActive(&m_screen);
+}
+
+void ScreenProbe::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QWidget* focus = QApplication::focusWidget();
+  QTest::keyClick(focus ? focus : &m_screen, key, modifiers);
+}
+
+void ScreenProbe::type(const QString& text) {
+  QInputMethodEvent event;
+  event.setCommitString(text);
+  if (QWidget* focus = QApplication::focusWidget()) QApplication::sendEvent(focus, &event);
+}
+
+QList<Stop> ScreenProbe::stops() {
+  QList<Stop> stops;
+  TabsControl* tabs = m_screen.controls().tabs();
+  if (!tabs) {
+    walk(stops);
+    return stops;
+  }
+  auto* pages = qobject_cast<QTabWidget*>(tabs->widget());
+  for (int i = 0; i < pages->count(); ++i) {
+    pages->setCurrentIndex(i);
+    walk(stops);
+  }
+  return stops;
+}
+
+void ScreenProbe::walk(QList<Stop>& stops) {
+  QSet<QString> known;
+  for (const Stop& stop : stops) known.insert(stop.control);
+  QSet<const QWidget*> walked;
+  while (true) {
+    const QWidget* before = QApplication::focusWidget();
+    const QString openingSpeech = m_voice.lastSaid();
+    m_voice.clear();
+    press(Qt::Key_Tab);
+    const QWidget* now = QApplication::focusWidget();
+    const Control* control = m_screen.controls().of(now);
+    if(!control) qWarning() << now << (now?now->parentWidget():nullptr);
+    if (!control || walked.contains(now)) return;
+    walked.insert(now);
+    if (!known.contains(control->name())) {
+      // The only stop of a window keeps the focus: what it said is what it said when the window opened.
+      stops.append({control->name(), now->accessibleName(), now == before ? openingSpeech : m_voice.lastSaid()});
+    }
+    known.insert(control->name());
+  }
+}
+
+QStringList ScreenProbe::faults() {
+  QStringList faults;
+  QHash<QString, QString> owners;
+  QSet<QString> reached;
+  for (const Stop& stop : stops()) {
+    reached.insert(stop.control);
+    if (stop.spoken.isEmpty()) faults += stop.control + QLatin1String(": says nothing");
+  }
+  for (const auto& control : m_screen.controls().all()) {
+    for (const QWidget* widget : control->focusWidgets()) {
+      const QString name = widget->accessibleName();
+      if (name.isEmpty()) faults += control->name() + QLatin1String(": has no accessible name");
+      if (owners.contains(name))
+        faults += control->name() + QLatin1String(": shares its name with ") + owners[name];
+      owners.insert(name, control->name());
+      if (needsLabel(widget) && (!control->label() || control->label()->buddy() != widget))
+        faults += control->name() + QLatin1String(": has no label");
+    }
+    if (!control->focusWidgets().isEmpty() && !reached.contains(control->name()) &&
+        isReachable(*control, m_screen))
+      faults += control->name() + QLatin1String(": Tab does not reach it");
+  }
+  return faults;
+}
+
+QStringList ScreenProbe::unknownColumns(const QStringList& files) const {
+  QStringList unknown;
+  for (const auto& control : m_screen.controls().all()) {
+    if (!control->isBound()) continue;
+    const store::TableRow* table = store::tableOfFile(files.value(control->source() - 1));
+    if (!table || !store::findColumn(*table, control->column()))
+      unknown += QStringLiteral("%1: %2").arg(control->source()).arg(control->column());
+  }
+  return unknown;
+}
+
+}  // namespace screen::testing
