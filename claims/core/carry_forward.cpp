@@ -109,6 +109,7 @@ constexpr const char16_t* kCarried[] = {
     u"c6",
     u"c12",
     u"c18",
+    u"c24",
     // 同意書
     u"傷病名",
     u"傷病名1",
