@@ -1,0 +1,121 @@
+// Printing of one claim: which screen, which form, what is called and what the sheet becomes.
+
+#include "claims/core/claim_store.h"
+#include "claims/core/kinds.h"
+#include "platform/report/prp_loader.h"
+#include "platform/report/report_engine.h"
+#include "printing/contract/prompts.h"
+#include "printing/core/claim_job.h"
+#include "printing/core/print_button.h"
+#include "printing/core/screen_choice.h"
+#include "printing/core/template_choice.h"
+#include "tools/rulecheck/claim_json.h"
+#include "tools/rulecheck/ops.h"
+#include "tools/rulecheck/print_recorder.h"
+
+namespace rulecheck {
+namespace {
+
+/// The ticks of a printing screen; all other names are ticks of the claim form.
+bool isScreenCheck(const QString& name) {
+  static const QSet<QString> names{"Check1", "Check2", "Check3", "Check4", "Check5", "Check6"};
+  return names.contains(name);
+}
+
+/// The claim as it stands after 登録, unless the request brings its record of amounts.
+claims::ClaimRecord storedClaim(const QJsonObject& request, const Context& context) {
+  const claims::ClaimRecord claim = claimOf(request);
+  if (!claim.blank(QStringLiteral("h1")) || !claim.blank(QStringLiteral("m1"))) return claim;
+  const claims::FeeFiles files(context.programFolder, context.programFolder + QStringLiteral("/料金設定2000.mdb"));
+  static claims::StoredFees fees;
+  const auto stored = claims::storeClaim(claim, {eraDates(), files, fees});
+  return stored.calculation ? claim : stored.claim;
+}
+
+frame::RunState runOf(const QJsonObject& request) {
+  frame::RunState run;
+  run.clock = &eraDates().clock();
+  run.prefectureCode = request["prefecture"].toString();
+  run.aichiSubmission = request["aichi"].toString(QStringLiteral("3"));
+  run.tokyoSubmission = request["tokyo"].toString(QStringLiteral("5"));
+  const QJsonObject profile = request["profile"].toObject();
+  for (auto slot = profile.begin(); slot != profile.end(); ++slot) {
+    const int number = slot.key().toInt();
+    if (number < 0 || number >= frame::SettingsSlots::kFileFields) continue;
+    run.profile[number] = run.settings[number] = slot.value().toString();
+  }
+  return run;
+}
+
+printing::PrintSource sourceOf(const QJsonObject& request, const frame::RunState& run, const Context& context) {
+  printing::PrintSource source;
+  printing::takePractice(source, run);
+  source.claim = storedClaim(request, context);
+  const bool massage = claims::kindOf(source.claim.get(QStringLiteral("施術内容"))) == claims::Kind::Massage;
+  source.kind = massage ? printing::PrintKind::Massage : printing::PrintKind::Acupuncture;
+  for (const QJsonValue& name : request["checks"].toArray())
+    (isScreenCheck(name.toString()) ? source.screenChecks : source.claimChecks).insert(name.toString());
+  source.itemsOnly = request["itemsOnly"].toBool() || source.claimChecks.contains(QStringLiteral("Check13"));
+  return source;
+}
+
+/// Screen, option and ticks: those of the request, else the presets.
+QString takeScreen(const QJsonObject& request, const frame::RunState& run, printing::PrintSource& source) {
+  const QString screen = request.contains("screen") ? request["screen"].toString()
+                                                    : printing::printScreenOf(source.claim, source.claimChecks, run);
+  source.option = request.contains("option")
+                      ? request["option"].toString()
+                      : printing::presetOption(screen, eraDates(), source.claim.get(QStringLiteral("申請年月")),
+                                               source.claim.get(QStringLiteral("c12")));
+  if (!request.contains("checks"))
+    for (const QString& check : printing::presetChecks(run.prefectureCode)) source.screenChecks.insert(check);
+  return screen;
+}
+
+QHash<QString, ItemOutcome> shownItems(const QString& folder, const QString& fileName) {
+  QHash<QString, ItemOutcome> items;
+  const auto form = report::loadForm(folder, fileName);
+  if (!form) return items;
+  for (const report::Item& item : form.value()->items)
+    if (!item.hidden) items.insert(item.name, {item.text, true});
+  return items;
+}
+
+void printInto(QJsonObject& reply, const printing::PrintSource& source, const QString& screen,
+               const Context& context, const QString& pdf) {
+  std::vector<report::MemorySink::Document> documents;
+  report::ReportEngine engine(context.programFolder, [&](const report::PrinterChoice&) {
+    return pdf.isEmpty() ? std::unique_ptr<report::DocumentSink>(new report::MemorySink(documents))
+                         : std::unique_ptr<report::DocumentSink>(new report::FileSink(pdf));
+  });
+  PrintRecorder recorder(engine, context.programFolder, shownItems);
+  printing::runPrint(recorder, printing::claimJob(source, screen, eraDates()));
+  QJsonObject items;
+  for (auto item = recorder.items().begin(); item != recorder.items().end(); ++item)
+    items[item.key()] = QJsonObject{{"text", item->text}, {"visible", item->visible}};
+  reply["calls"] = recorder.calls();
+  reply["items"] = items;
+}
+
+}  // namespace
+
+QJsonObject print(const QJsonObject& request, Context& context) {
+  const frame::RunState run = runOf(request);
+  printing::PrintSource source = sourceOf(request, run, context);
+  const QString screen = takeScreen(request, run, source);
+  if (screen.isEmpty()) return error(QStringLiteral("claim: 申請年月 cannot be read"));
+  const auto paper = printing::chooseTemplate(printing::templateQuery(screen, source));
+  QJsonObject reply{{"screen", screen},
+                    {"prompt", printing::promptOf(screen)},
+                    {"title", printing::claimTitle(source.kind)},
+                    {"template", paper ? QJsonValue(paper->fileName) : QJsonValue()},
+                    {"calls", QJsonArray()},
+                    {"items", QJsonObject()}};
+  if (paper && paper->built)
+    printInto(reply, source, screen, context, request["pdf"].toString());
+  else
+    reply["note"] = QStringLiteral("this edition is not built: nothing is printed");
+  return reply;
+}
+
+}  // namespace rulecheck
