@@ -1,6 +1,7 @@
 #include "platform/text/whole_file.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -21,18 +22,15 @@ class Descriptor {
  public:
   Descriptor(const QString& path, int flags, mode_t mode = 0)
       : m_number(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, mode)) {}
-  ~Descriptor() { close(); }
+  ~Descriptor() {
+    if (m_number >= 0) ::close(m_number);
+  }
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
 
   bool isOpen() const { return m_number >= 0; }
+  int number() const { return m_number; }
   bool sync() const { return ::fsync(m_number) == 0; }
-  bool close() {
-    const bool closed = m_number < 0 || ::close(m_number) == 0;
-    m_number = -1;
-    return closed;
-  }
-
   bool write(const QByteArray& bytes) const {
     for (qsizetype done = 0; done < bytes.size();) {
       const ssize_t step =
@@ -44,7 +42,7 @@ class Descriptor {
   }
 
  private:
-  int m_number;
+  const int m_number;
 };
 
 mode_t permissionsOf(const QString& path) {
@@ -52,9 +50,27 @@ mode_t permissionsOf(const QString& path) {
   return ::stat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_mode & 0777 : 0644;
 }
 
-bool writeBeside(const QString& path, const QByteArray& bytes, mode_t mode) {
-  Descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC, mode);
-  return file.isOpen() && file.write(bytes) && file.sync() && file.close();
+/// Whether the open file still is the one that the path names.
+bool isStill(const Descriptor& file, const QString& path) {
+  struct stat opened {
+  }, named{};
+  return ::fstat(file.number(), &opened) == 0 && ::stat(QFile::encodeName(path).constData(), &named) == 0 &&
+         opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+}
+
+/// Writes the file beside and renames it over the target. One name serves for ever, so that a writer that was
+/// killed leaves nothing that piles up; the lock keeps two writers apart, and who waited for it looks
+/// whether the file was renamed away meanwhile. Folders without locks go on without.
+bool replace(const QString& beside, const QString& target, const QByteArray& bytes) {
+  for (;;) {
+    Descriptor file(beside, O_WRONLY | O_CREAT, 0600);
+    if (!file.isOpen()) return false;
+    ::flock(file.number(), LOCK_EX);
+    if (!isStill(file, beside)) continue;
+    return ::fchmod(file.number(), permissionsOf(target)) == 0 && ::ftruncate(file.number(), 0) == 0 &&
+           file.write(bytes) && file.sync() &&
+           ::rename(QFile::encodeName(beside).constData(), QFile::encodeName(target).constData()) == 0;
+  }
 }
 
 }  // namespace
@@ -70,12 +86,10 @@ Result<QByteArray> readWholeFile(const QString& path) {
 Done writeWholeFile(const QString& path, const QByteArray& bytes) {
   const QFileInfo info(path);
   const QString target = info.isSymLink() ? info.canonicalFilePath() : info.absoluteFilePath();
-  // One name beside per process: two programs at once must not write into each other's copy.
-  const QString beside = target + QStringLiteral(".~%1").arg(::getpid());
-  const QByteArray from = QFile::encodeName(beside), to = QFile::encodeName(target);
-  if (!writeBeside(beside, bytes, permissionsOf(target)) || ::rename(from.constData(), to.constData()) != 0) {
+  const QString beside = target + QStringLiteral(".~");
+  if (!replace(beside, target, bytes)) {
     const Fault fault = systemFault(path);
-    ::unlink(from.constData());
+    QFile::remove(beside);
     return fault;
   }
   const Descriptor folder(QFileInfo(target).absolutePath(), O_RDONLY | O_DIRECTORY);

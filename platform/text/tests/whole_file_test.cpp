@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <thread>
+#include <vector>
 
 using namespace text;
 
@@ -37,4 +39,19 @@ TEST(WholeFile, PermissionsStayAndLinksAreFollowed) {
   EXPECT_TRUE(QFileInfo(link).isSymLink());
   EXPECT_EQ(*readWholeFile(path), "b");
   EXPECT_FALSE(QFileInfo(path).permission(QFileDevice::ReadOther));
+}
+
+TEST(WholeFile, ManyWritersAtOnceLeaveOneWholeText) {
+  QTemporaryDir folder;
+  const QString path = folder.filePath("word.txt");
+  std::vector<std::thread> writers;
+  for (char letter = 'a'; letter < 'e'; ++letter)
+    writers.emplace_back([&path, letter] {
+      for (int i = 0; i < 50; ++i) EXPECT_TRUE(writeWholeFile(path, QByteArray(5000 + i, letter)));
+    });
+  for (std::thread& writer : writers) writer.join();
+  const QByteArray text = *readWholeFile(path);
+  EXPECT_EQ(text.count(text[0]), text.size());
+  EXPECT_EQ(text.size(), 5049);
+  EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
