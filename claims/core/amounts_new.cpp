@@ -12,7 +12,7 @@ AmountLine line(int unit, int count) {
   return {unit, count, qint64{unit} * count};
 }
 
-void addRow(ClaimAmounts& result, const QString& label, const AmountLine& line) {
+void appendRow(ClaimAmounts& result, const QString& label, const AmountLine& line) {
   if (line.count != 0) result.rows.append({label, line.unit, line.count, line.amount});
 }
 
@@ -32,9 +32,9 @@ void fillSurcharges(const ClaimRecord& claim, const ClaimAmounts& result, Lines&
 
 template <class Lines>
 void addSurchargeRows(ClaimAmounts& result, const Lines& lines) {
-  addRow(result, QStringLiteral("突発的な往療"), lines.sudden);
-  addRow(result, QStringLiteral("特別地域の往療"), lines.special);
-  addRow(result, QStringLiteral("施術報告書交付料"), lines.report);
+  appendRow(result, QStringLiteral("突発的な往療"), lines.sudden);
+  appendRow(result, QStringLiteral("特別地域の往療"), lines.special);
+  appendRow(result, QStringLiteral("施術報告書交付料"), lines.report);
 }
 
 void fillAcupuncture(const ClaimRecord& claim, ClaimAmounts& result) {
@@ -61,13 +61,13 @@ void fillAcupuncture(const ClaimRecord& claim, ClaimAmounts& result) {
 void addAcupunctureRows(ClaimAmounts& result) {
   const AcupunctureLines& lines = result.acupuncture;
   const QString arts[] = {QStringLiteral("1術"), QStringLiteral("2術")};
-  addRow(result, QStringLiteral("初回施術"), lines.first);
-  addRow(result, QStringLiteral("はり・きゅう 1術"), lines.art[0]);
-  addRow(result, QStringLiteral("はり・きゅう 2術"), lines.art[1]);
-  addRow(result, QStringLiteral("電気鍼・電気温灸器・電気光線器具"), lines.electric);
+  appendRow(result, QStringLiteral("初回施術"), lines.first);
+  appendRow(result, QStringLiteral("はり・きゅう 1術"), lines.art[0]);
+  appendRow(result, QStringLiteral("はり・きゅう 2術"), lines.art[1]);
+  appendRow(result, QStringLiteral("電気鍼・電気温灸器・電気光線器具"), lines.electric);
   for (int form = 0; form < kForms; ++form)
     for (int i = 0; i < 2; ++i)
-      if (lines.visit[form][i].count != 0) addRow(result, formLabel(form, arts[i]), lines.visit[form][i]);
+      if (lines.visit[form][i].count != 0) appendRow(result, formLabel(form, arts[i]), lines.visit[form][i]);
   addSurchargeRows(result, lines);
 }
 
@@ -125,8 +125,8 @@ void addAreaRows(ClaimAmounts& result, int row) {
   for (int place = 0; place < 2; ++place) {
     if (lines.area[row][place].count == 0) continue;
     const QString areas = QString::number(lines.areasOf[row][place]) + QStringLiteral("局所");
-    addRow(result, row == 0 ? QStringLiteral("マッサージ ") + areas : formLabel(row - 1, areas),
-           lines.area[row][place]);
+    appendRow(result, row == 0 ? QStringLiteral("マッサージ ") + areas : formLabel(row - 1, areas),
+              lines.area[row][place]);
   }
 }
 
@@ -135,9 +135,9 @@ void addMassageRows(ClaimAmounts& result) {
   addAreaRows(result, 0);
   for (int number = 1; number <= 4; ++number)
     if (lines.limb[number - 1].count != 0)
-      addRow(result, QStringLiteral("徒手矯正術 %1肢").arg(number), lines.limb[number - 1]);
-  addRow(result, QStringLiteral("温罨法"), lines.warm);
-  addRow(result, QStringLiteral("電気光線器具併用"), lines.warmLight);
+      appendRow(result, QStringLiteral("徒手矯正術 %1肢").arg(number), lines.limb[number - 1]);
+  appendRow(result, QStringLiteral("温罨法"), lines.warm);
+  appendRow(result, QStringLiteral("電気光線器具併用"), lines.warmLight);
   for (int row = 1; row <= kForms; ++row) addAreaRows(result, row);
   addSurchargeRows(result, lines);
 }

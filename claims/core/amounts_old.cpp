@@ -4,7 +4,7 @@
 namespace claims {
 namespace {
 
-void addRow(ClaimAmounts& result, const QString& label, int unit, int count) {
+void appendRow(ClaimAmounts& result, const QString& label, int unit, int count) {
   if (count != 0) result.rows.append({label, unit, count, qint64{unit} * count});
 }
 
@@ -42,7 +42,7 @@ QString subjectOf(const ClaimAmounts& r) {
 void addKind(ClaimAmounts& result, const QString& label, Fee fee, int count, qint64& amount) {
   const int unit = result.fees.yen(fee);
   amount = qint64{unit} * count;
-  addRow(result, label, unit, count);
+  appendRow(result, label, unit, count);
 }
 
 void addTreatments(const ClaimRecord& claim, ClaimAmounts& r) {
