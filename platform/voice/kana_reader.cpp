@@ -37,7 +37,7 @@ QString tidied(QString text) {
   while (text.contains(u"、、")) text.replace(QStringLiteral("、、"), QStringLiteral("、"));
   if (text.startsWith(u'、')) text.remove(0, 1);
   if (text.endsWith(u'、')) text.chop(1);
-  return text.replace(QStringLiteral("ュー"), QStringLiteral("ュウ")).trimmed();
+  return text.replace(QStringLiteral("ュー"), QStringLiteral("ュウ")).simplified();
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <array>
 #include <optional>
 
+#include "platform/voice/voice_channel.h"
+
 namespace voice {
 namespace {
 
@@ -56,7 +58,9 @@ class Speaker {
 
   QString spoken() {
     while (m_at < m_text.size()) {
-      if (!isDigit(m_text[m_at]))
+      if (m_text[m_at] == u'-')
+        dash();
+      else if (!isDigit(m_text[m_at]))
         m_result += m_text[m_at++];
       else if (!date() && !time())
         number();
@@ -72,6 +76,14 @@ class Speaker {
   }
 
   QChar charAt(qsizetype at) const { return at < m_text.size() ? m_text[at] : QChar(u'\0'); }
+
+  /// A dash before a number that begins there is a minus; any other one is a pause.
+  void dash() {
+    const QChar before = m_at > 0 ? m_text[m_at - 1] : u' ';
+    const bool begins = before == u' ' || before == u'(' || before == kSpeechSeparator;
+    m_result += begins && isDigit(charAt(m_at + 1)) ? QStringLiteral("マイナス") : QStringLiteral("、");
+    ++m_at;
+  }
 
   /// 2024/10/1, with four digits of the year.
   bool date() {

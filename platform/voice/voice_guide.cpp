@@ -27,10 +27,10 @@ void VoiceGuide::speakField(const QString& caption, const QString& value) {
 }
 
 void VoiceGuide::speakFocus(const QString& text, bool stopLibrary) {
-  if (!m_opening) stopSpeech();
+  if (!isHeld()) stopSpeech();
   trap([&] { m_control.VoiceSay(text); });
   trap([&] { m_sound.SoundMessage(text, kSpeechMode); });
-  if (stopLibrary && !m_opening) trap([&] { m_focusTalk.FT_StopSound(); });
+  if (stopLibrary && !isHeld()) trap([&] { m_focusTalk.FT_StopSound(); });
   trap([&] { m_focusTalk.FT_OutputVoiceText(text, kSpeechMode); });
 }
 
@@ -47,8 +47,8 @@ void VoiceGuide::speakHeading(const QStringList& parts) {
   speakText(spoken.join(kSpeechSeparator));
 }
 
-void VoiceGuide::holdForOpening() { m_opening = true; }
+void VoiceGuide::holdForOpening() { ++m_openings; }
 
-void VoiceGuide::release() { m_opening = false; }
+void VoiceGuide::release() { m_openings = std::max(0, m_openings - 1); }
 
 }  // namespace voice

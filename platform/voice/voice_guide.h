@@ -29,14 +29,16 @@ class VoiceGuide {
   /// Until the next call of release(), speakField and speakFocus queue behind what is being said instead
   /// of cutting it: the first focus of a new window must not cut the sentence the window opens with.
   void holdForOpening();
-  /// Ends holdForOpening(): the next focus cuts again.
+  /// Ends one holdForOpening(): when all have ended the next focus cuts again. Two windows that open one
+  /// after the other hold side by side.
   void release();
+  bool isHeld() const { return m_openings > 0; }
 
  private:
   VoiceControl& m_control;
   SoundLibrary& m_sound;
   FocusTalkLibrary& m_focusTalk;
-  bool m_opening = false;
+  int m_openings = 0;
 };
 
 }  // namespace voice
