@@ -53,12 +53,13 @@ void ClaimFormScreen::insurerNumberLeft() {
   if (!message.isNull()) messages().tell(message);
 }
 
+// The list position decides: two entries of one name are two rows of the register.
 void ClaimFormScreen::insurerNameChosen() {
-  fillSiblings(m_lists.insurerByName(text(QStringLiteral("Combo1(3)"))));
+  fillSiblings(m_lists.insurer(chosenItem(QStringLiteral("Combo1(3)"))));
 }
 
 void ClaimFormScreen::insurerNumberChosen() {
-  fillSiblings(m_lists.insurerByNumber(text(QStringLiteral("Combo1(4)"))));
+  fillSiblings(m_lists.insurer(chosenItem(QStringLiteral("Combo1(4)"))));
 }
 
 void ClaimFormScreen::fillSiblings(const InsurerRow* insurer) {
@@ -69,7 +70,7 @@ void ClaimFormScreen::fillSiblings(const InsurerRow* insurer) {
 }
 
 void ClaimFormScreen::doctorChosen() {
-  const DoctorRow* doctor = m_lists.doctor(text(QStringLiteral("Combo1(24)")));
+  const DoctorRow* doctor = m_lists.doctor(chosenItem(QStringLiteral("Combo1(24)")));
   if (doctor == nullptr) return;
   put(QStringLiteral("同意医師フリガナ"), doctor->reading);
   put(QStringLiteral("同意医師住所"), doctor->address);
@@ -91,8 +92,15 @@ void ClaimFormScreen::itemsOnlyToggled() {
     navigator().show(QStringLiteral("項目のみ印刷の注意事項"));
 }
 
-void ClaimFormScreen::datesToWestern() { convertDates(&frame::EraDates::seireki); }
-void ClaimFormScreen::datesToEra() { convertDates(&frame::EraDates::wareki); }
+void ClaimFormScreen::datesToWestern() {
+  convertDates(&frame::EraDates::seireki);
+  voice().speakText(QString::fromUtf16(says::kWesternDone));
+}
+
+void ClaimFormScreen::datesToEra() {
+  convertDates(&frame::EraDates::wareki);
+  voice().speakText(QString::fromUtf16(says::kEraDone));
+}
 
 void ClaimFormScreen::convertDates(QString (frame::EraDates::*conversion)(const QString&) const) {
   const frame::EraDates era = m_run.eraDates();

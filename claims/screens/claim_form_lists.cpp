@@ -1,7 +1,5 @@
 #include "claims/screens/claim_form_lists.h"
 
-#include <algorithm>
-
 #include "claims/core/form_lists.h"
 #include "platform/store/connection.h"
 
@@ -37,10 +35,8 @@ QStringList texts(const QVector<Row>& rows, QString Row::*member, const char16_t
 }
 
 template <class Row>
-const Row* find(const QVector<Row>& rows, QString Row::*member, const QString& text) {
-  const auto found =
-      std::find_if(rows.begin(), rows.end(), [&](const Row& row) { return row.*member == text; });
-  return found == rows.end() ? nullptr : &*found;
+const Row* at(const QVector<Row>& rows, int position) {
+  return position >= 0 && position < rows.size() ? &rows[position] : nullptr;
 }
 
 }  // namespace
@@ -75,14 +71,7 @@ QStringList ClaimFormLists::insurerAddresses() const {
   return texts(insurers, &InsurerRow::address, nullptr);
 }
 
-const DoctorRow* ClaimFormLists::doctor(const QString& name) const {
-  return find(doctors, &DoctorRow::name, name);
-}
-const InsurerRow* ClaimFormLists::insurerByName(const QString& name) const {
-  return find(insurers, &InsurerRow::name, name);
-}
-const InsurerRow* ClaimFormLists::insurerByNumber(const QString& number) const {
-  return find(insurers, &InsurerRow::number, number);
-}
+const DoctorRow* ClaimFormLists::doctor(int position) const { return at(doctors, position); }
+const InsurerRow* ClaimFormLists::insurer(int position) const { return at(insurers, position); }
 
 }  // namespace claims

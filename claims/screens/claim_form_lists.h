@@ -31,9 +31,9 @@ struct ClaimFormLists {
   QStringList insurerNames() const;    ///< 名称のデータがありません
   QStringList insurerNumbers() const;  ///< 番号のデータがありません
   QStringList insurerAddresses() const;
-  const DoctorRow* doctor(const QString& name) const;
-  const InsurerRow* insurerByName(const QString& name) const;
-  const InsurerRow* insurerByNumber(const QString& number) const;
+  /// The row behind a list position, nullptr where there is none (the sentence of an empty register).
+  const DoctorRow* doctor(int position) const;
+  const InsurerRow* insurer(int position) const;
 };
 
 }  // namespace claims

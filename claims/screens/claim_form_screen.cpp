@@ -91,14 +91,15 @@ void ClaimFormScreen::step(void (store::RecordSet::*move)()) {
   (rows.*move)();
   if (rows.bof()) rows.moveFirst();
   if (rows.eof()) rows.moveLast();
-  if (rows.bookmark() == m_id) return;  // at its end already: the pair stays as it is
-  showPair();
+  if (rows.bookmark() != m_id) showPair();  // else at its end already: the pair stays as it is
   announce();
 }
 
 void ClaimFormScreen::announce() {
-  voice().speakHeading({caption(QStringLiteral("txtFields(0)")) + text(QStringLiteral("txtFields(0)")),
-                        caption(QStringLiteral("txtFields(1)")) + text(QStringLiteral("txtFields(1)"))});
+  QStringList parts;
+  for (const char16_t* field : {u"txtFields(0)", u"txtFields(1)"})
+    parts << caption(QString::fromUtf16(field)) << text(QString::fromUtf16(field));
+  voice().speakHeading(parts);
 }
 
 bool ClaimFormScreen::dirty() {

@@ -4,6 +4,7 @@
 #include <QVector>
 #include <optional>
 
+#include "claims/core/amounts.h"
 #include "claims/core/checks.h"
 #include "claims/core/claim_file.h"
 #include "claims/core/claim_record.h"
@@ -128,6 +129,7 @@ class ClaimFormScreen : public screen::Screen {
 
   // Store.
   bool writeClaim(const ClaimRecord& stored);
+  void sayStored(const ClaimAmounts& amounts);
   void markCut(const QStringList& cut);
 
   void step(void (store::RecordSet::*move)());
@@ -153,7 +155,6 @@ class ClaimFormScreen : public screen::Screen {
   qint64 m_id = 0;     ///< 0: no claim on display
   MonthFlags m_flags;
   QString m_opener;
-  QString m_storeMark;  ///< "up" while a store is in progress
   bool m_treatmentChanged = false;
   bool m_carried = false;  ///< 翌月へ継続 was done since this form was opened
 };

@@ -189,11 +189,14 @@ void ClaimFormScreen::applyKind() {
 }
 
 void ClaimFormScreen::applyPrintDefaults() {
-  for (const BoundControl& bound : m_controls) {
-    if (bound.kind != BoundControl::Kind::Choice || !chosen(bound.control).isEmpty()) continue;
-    if (const PrintSetting* setting = printSetting(bound.column))
-      choose(bound.control, QString::number(setting->whenBlank));
-  }
+  QHash<QString, QString> defaults;
+  for (const NewClaimDefault& row : hiddenPrintDefaults())
+    defaults.insert(QString::fromUtf16(row.column), QString::fromUtf16(row.value));
+  for (const PrintSetting& setting : printSettings())
+    defaults.insert(QString::fromUtf16(setting.column), QString::number(setting.whenBlank));
+  for (const BoundControl& bound : m_controls)
+    if (bound.kind == BoundControl::Kind::Choice && chosen(bound.control).isEmpty())
+      choose(bound.control, defaults.value(bound.column));
 }
 
 void ClaimFormScreen::applyMonth() {

@@ -2,6 +2,7 @@
 #include "claims/core/trim.h"
 #include "claims/screens/claim_form_screen.h"
 #include "claims/screens/claim_form_texts.h"
+#include "platform/text/number.h"
 
 // 登録: checks, trimming, question, then both halves in one transaction.
 
@@ -17,19 +18,31 @@ void ClaimFormScreen::store() {
   }
   if (!messages().ask(QString::fromUtf16(says::kStoreQuestion), screen::Buttons::YesNo)) return;
 
-  m_storeMark = QStringLiteral("up");
   const frame::EraDates era = m_run.eraDates();
   const FeeFiles files(m_run.programFolder, m_run.folders);
   const StoredClaim stored = storeClaim(record(), {era, files, m_fees});
   const bool written = stored.calculation ? false : writeClaim(stored.claim);
   if (stored.calculation) messages().tellDataFault(stored.calculation->message);
-  m_storeMark.clear();
   if (!written) return;
 
   if (const text::Done done = source(1).rows().refresh(); !done)
     messages().tellDataFault(done.fault().message);
   showClaim(m_id);
+  sayStored(stored.amounts);
   if (m_opener == u"治療台帳3") navigator().show(m_opener);
+}
+
+void ClaimFormScreen::sayStored(const ClaimAmounts& amounts) {
+  QStringList parts{QString::fromUtf16(says::kStored)};
+  if (amounts.regime != Regime::None) {
+    const std::pair<const char16_t*, qint64> sums[] = {
+        {u"合計", amounts.total}, {u"一部負担金", amounts.share}, {u"請求額", amounts.claim}};
+    for (const auto& [name, yen] : sums)
+      parts << QStringLiteral("%1 %2円")
+                   .arg(QString::fromUtf16(name))
+                   .arg(yen == 0 ? QStringLiteral("0") : ::text::thousands(yen));
+  }
+  voice().speakText(parts.join(voice::kSpeechSeparator));
 }
 
 bool ClaimFormScreen::writeClaim(const ClaimRecord& stored) {

@@ -25,6 +25,10 @@ inline constexpr char16_t kFreeVisitPersons[] =
     u"訪問で同一患者の場合で、訪問料金を加算しない場合は、チェックを入れてください。"
     u"（往診人数欄は、空白にしてください。）申請書の日付を◎にします。";
 inline constexpr char16_t kNewPictureQuestion[] = u"　　　 　新規で作成しますか？";
+// Results for the ear, after the commands that change the screen without a message.
+inline constexpr char16_t kStored[] = u"登録しました";
+inline constexpr char16_t kWesternDone[] = u"日付を西暦にしました";
+inline constexpr char16_t kEraDone[] = u"日付を和暦にしました";
 inline constexpr char16_t kNoPrintScreen[] = u"印刷の画面がありません。";
 
 }  // namespace claims::says

@@ -1,5 +1,7 @@
 #include "claims/screens/help_screens.h"
 
+#include <algorithm>
+
 #include "claims/screens/help_texts.h"
 
 namespace claims {
@@ -16,8 +18,10 @@ constexpr Row kRows[] = {
               .width = 70,
               .lines = 22,
               .readOnly = true,
-              .say = u"記入の仕方です。上下の矢印キーで1行ずつ読めます。"},
+              .say = u"記入の仕方です。「次の行」のボタンで1行ずつ聞けます。"},
     Bar{},
+    Command{.name = {u"Command3"}, .caption = u"次の行", .run = run<&HelpScreen::speakNext>},
+    Command{.name = {u"Command4"}, .caption = u"前の行", .run = run<&HelpScreen::speakPrevious>},
     Command{.name = {u"Command2"}, .caption = u"記入の仕方を音声で説明", .run = run<&HelpScreen::speakAll>},
     Command{.name = {u"Command1"}, .caption = u"閉じる", .run = run<&HelpScreen::closeHelp>},
     EndBar{},
@@ -42,6 +46,14 @@ QStringList HelpScreen::lines() const {
 void HelpScreen::onLoad() { setText(QStringLiteral("Text1"), lines().join(u'\n')); }
 QStringList HelpScreen::openingTexts() const { return lines(); }
 void HelpScreen::speakAll() { voice().speakHeading(lines()); }
+void HelpScreen::speakNext() { speakLine(m_line + 1); }
+void HelpScreen::speakPrevious() { speakLine(m_line - 1); }
+
+void HelpScreen::speakLine(int line) {
+  m_line = std::clamp(line, 0, int(m_lines.size()) - 1);
+  voice().speakFocus(QString::fromUtf16(m_lines[size_t(m_line)]));
+}
+
 void HelpScreen::closeHelp() { navigator().unload(QString::fromUtf16(declaration().name.get())); }
 
 FillingHelpScreen::FillingHelpScreen(Services& services, frame::RunState&, ClaimsState&)

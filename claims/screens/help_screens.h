@@ -8,8 +8,8 @@
 
 namespace claims {
 
-/// A help screen on the entries of the day grid: its lines can be read with the arrow keys and are spoken
-/// when it opens and on 音声で説明.
+/// A help screen on the entries of the day grid: all lines are spoken when it opens and on 音声で説明, one by
+/// one on 次の行 and 前の行.
 class HelpScreen : public screen::Screen {
  public:
   HelpScreen(const screen::ScreenRow& declaration, std::span<const char16_t* const> lines,
@@ -18,11 +18,15 @@ class HelpScreen : public screen::Screen {
   void onLoad() override;
   QStringList openingTexts() const override;
   void speakAll();
+  void speakNext();
+  void speakPrevious();
   void closeHelp();
 
  private:
   QStringList lines() const;
+  void speakLine(int line);
   std::span<const char16_t* const> m_lines;
+  int m_line = -1;  ///< the line heard last by itself
 };
 
 /// 記入の仕方: claims before 2020/12.

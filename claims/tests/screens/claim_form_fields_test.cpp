@@ -166,6 +166,25 @@ TEST_F(ClaimFormFields, AListEntryBringsItsSiblings) {
   EXPECT_EQ(m_form->text(qs(u"Combo1(25)")), qs(u"架空病院"));
 }
 
+TEST_F(ClaimFormFields, OfTwoInsurersOfOneNameTheChosenEntryCounts) {
+  {
+    auto database = store::Database::open(m_run.folders[frame::folder::kInsurers]);
+    auto rows = store::RecordSet::open(database.value(), qs(u"保険者"));
+    for (const char16_t* number : {u"111", u"222"}) {
+      ASSERT_TRUE(rows->addNew().ok());
+      ASSERT_TRUE(rows->setValue(qs(u"名称"), qs(u"架空組合")).ok());
+      ASSERT_TRUE(rows->setValue(qs(u"番号"), qs(number)).ok());
+      ASSERT_TRUE(rows->update().ok());
+    }
+  }
+  openNew(acupuncture());
+  m_form->findChild<QComboBox*>(qs(u"Combo1(3)"))->setCurrentIndex(1);
+  EXPECT_EQ(m_form->text(qs(u"Combo1(4)")), qs(u"222"));
+  EXPECT_EQ(m_form->text(qs(u"Combo1(3)")), qs(u"架空組合"));
+  choose(qs(u"Combo1(4)"), qs(u"111"));
+  EXPECT_EQ(m_form->text(qs(u"Combo1(4)")), qs(u"111"));
+}
+
 TEST_F(ClaimFormFields, HelperWindowsPutTextsIntoColumns) {
   openNew(acupuncture());
   m_state.display->put(qs(u"摘要4"), qs(u"例示 架空市"));

@@ -113,6 +113,30 @@ TEST_F(ClaimFormGuard, MovingOnFromTheLastClaimLeavesThePairAsItWas) {
   EXPECT_EQ(m_form->text(qs(u"txtFields(27)")), qs(u"例示 花子"));
 }
 
+TEST_F(ClaimFormGuard, AMoveSaysWhoseClaimAndMonthItIs) {
+  const qint64 first = add(acupuncture());
+  ClaimRecord claim = massage();
+  claim.set(qs(u"氏名"), qs(u"例示 花子"));
+  add(claim);
+  open(first);
+  m_channel.clear();
+  press(qs(u"Command17"));
+  EXPECT_EQ(m_channel.lastSaid(), qs(u"氏名:\u00fe例示 花子\u00fe※申請年月:\u00fe令和6年10月"));
+}
+
+TEST_F(ClaimFormGuard, AFormWithoutItsFilesTellsItAndCloses) {
+  QFile::remove(m_run.folders[frame::folder::kClaims2]);
+  open(1);
+  EXPECT_EQ(told().size(), 1);
+  for (const char16_t* command :
+       {u"cmdUpdate", u"Command17", u"Command1", u"Command2", u"Command5", u"cmdDelete"})
+    press(qs(command));
+  EXPECT_TRUE(told().isEmpty());
+  EXPECT_EQ(m_state.display, nullptr);
+  press(qs(u"cmdClose"));
+  EXPECT_EQ(m_navigator.unloads, QStringList(qs(u"frmレセプトフォーム")));
+}
+
 TEST_F(ClaimFormGuard, TheFastCheckStopsAMove) {
   const qint64 first = add(acupuncture());
   add(massage());

@@ -168,6 +168,9 @@ TEST_F(ClaimFormShow, TheRegionalListsBelongToOneRegion) {
 TEST_F(ClaimFormShow, PrintSettingsWithoutAValueShowTheirDefault) {
   openNew(acupuncture());
   EXPECT_EQ(m_form->chosen(qs(u"FrameSet(10)")), qs(u"0"));  // 申請欄の氏名の印字
+  EXPECT_EQ(m_form->chosen(qs(u"FrameSet(16)")), qs(u"1"));  // 支払機関欄の口座: 施術者
+  for (int group = 1; group <= 19; ++group)
+    EXPECT_FALSE(m_form->chosen(QStringLiteral("FrameSet(%1)").arg(group)).isEmpty()) << group;
   EXPECT_FALSE(m_form->checkChanged());
 }
 

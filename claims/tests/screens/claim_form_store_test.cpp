@@ -67,6 +67,15 @@ TEST_F(ClaimFormStore, CorrectedBoxesAreStoredAsTheyStand) {
   EXPECT_EQ(stored(id).get(qs(u"d3")), qs(u"1"));
 }
 
+TEST_F(ClaimFormStore, TheResultIsHeard) {
+  openNew(acupuncture());
+  m_channel.clear();
+  answer({true});
+  press(qs(u"cmdUpdate"));
+  EXPECT_EQ(m_channel.lastSaid(),
+            qs(u"登録しました\u00fe合計 4,600円\u00fe一部負担金 1,380円\u00fe請求額 3,220円"));
+}
+
 TEST_F(ClaimFormStore, NoToTheQuestionChangesNothing) {
   const qint64 id = add(acupuncture());
   open(id);

@@ -35,5 +35,15 @@ TEST_F(HelpScreens, EachTellsTheEntriesOfItsMonths) {
   EXPECT_FALSE(text3.contains(qs(u"往療距離が4kmまで")));
 }
 
+TEST_F(HelpScreens, LinesAreHeardOneByOne) {
+  FillingHelp2024Screen help(m_services, m_run, m_state);
+  help.onLoad();
+  const QStringList lines = help.openingTexts();
+  m_channel.clear();
+  for (const char16_t* button : {u"Command3", u"Command3", u"Command4", u"Command4"})
+    help.trigger(qs(button));
+  EXPECT_EQ(m_channel.said(), QStringList({lines[0], lines[1], lines[0], lines[0]}));
+}
+
 }  // namespace
 }  // namespace claims
