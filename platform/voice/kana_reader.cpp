@@ -32,8 +32,12 @@ bool hasKanji(const QString& text) {
   return false;
 }
 
-/// Pauses in a row as one, none at the ends; ュー as ュウ, whose stroke the voice spells out.
+/// Katakana throughout; pauses in a row as one, none at the ends; ュー as ュウ, whose stroke the voice spells
+/// out.
 QString tidied(QString text) {
+  constexpr char16_t kToKatakana = u'ァ' - u'ぁ';
+  for (QChar& c : text)
+    if (c >= u'ぁ' && c <= u'ゖ') c = QChar(static_cast<char16_t>(c.unicode() + kToKatakana));
   while (text.contains(u"、、")) text.replace(QStringLiteral("、、"), QStringLiteral("、"));
   if (text.startsWith(u'、')) text.remove(0, 1);
   if (text.endsWith(u'、')) text.chop(1);
