@@ -53,6 +53,7 @@ class Control {
   void putText(const QString& text);
   virtual QStringList items() const { return {}; }
   virtual void setItems(const QStringList&) {}
+  virtual int chosenItem() const { return -1; }
 
   // Looks.
   virtual void setCaption(const QString& caption);

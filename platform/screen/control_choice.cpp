@@ -63,6 +63,14 @@ QStringList ComboControl::items() const {
   return items;
 }
 
+int ComboControl::chosenItem() const {
+  // The toolkit keeps the index of the last choice while another text is typed.
+  const QStringList all = items();
+  const int index = m_combo->currentIndex();
+  return index >= 0 && index < all.size() && all[index] == text() ? index
+                                                                  : static_cast<int>(all.indexOf(text()));
+}
+
 void ComboControl::setItems(const QStringList& items) {
   quietly([&] {
     const QString kept = text();

@@ -22,6 +22,7 @@ class ComboControl : public Control {
   QString text() const override;
   QStringList items() const override;
   void setItems(const QStringList& items) override;
+  int chosenItem() const override;
 
  protected:
   void showText(const QString& text) override;

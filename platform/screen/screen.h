@@ -56,6 +56,8 @@ class Screen : public QMainWindow {
   void choose(const QString& group, const QString& value);
   QStringList items(const QString& combo) const;
   void setItems(const QString& combo, const QStringList& items);
+  /// Position of the item that the list shows (of like items the one chosen); -1: its text is none of them.
+  int chosenItem(const QString& combo) const;
 
   // Looks.
   void setShown(const QString& control, bool shown);  ///< with its label

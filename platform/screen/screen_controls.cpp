@@ -40,6 +40,11 @@ QStringList Screen::items(const QString& combo) const {
   return found ? found->items() : QStringList();
 }
 
+int Screen::chosenItem(const QString& combo) const {
+  const Control* found = m_parts->book.find(combo);
+  return found ? found->chosenItem() : -1;
+}
+
 void Screen::setItems(const QString& combo, const QStringList& items) {
   if (Control* found = m_parts->book.find(combo)) found->setItems(items);
 }
