@@ -9,15 +9,21 @@ namespace {
 
 constexpr int kNoFlag = -1;
 
+/// What a column says that holds neither "0" nor "1".
+enum class Blank { Default, Unchosen };
+
 struct SettingRow {
   Setting setting;
   const char16_t* column;
   int flag = kNoFlag;  ///< slot of the practice's own flag, "1" or "0"
+  Blank blank = Blank::Default;
 };
 
+// The two ends of the period have a rule of their own where nobody chose; the first one's column also keeps
+// the link of the two halves in claims that were never stored, which is no choice either.
 constexpr SettingRow kSettings[] = {
-    {Setting::PeriodFrom, u"txt dummy1"},
-    {Setting::PeriodTo, u"txt dummy2"},
+    {Setting::PeriodFrom, u"txt dummy1", kNoFlag, Blank::Unchosen},
+    {Setting::PeriodTo, u"txt dummy2", kNoFlag, Blank::Unchosen},
     {Setting::LeftMargin, u"txt dummy3"},
     {Setting::PublicExpense, u"txt dummy4"},
     {Setting::Bank, u"txt dummy5"},
@@ -49,8 +55,10 @@ Switch PrintSettings::of(Setting setting) const {
   const QString column = QString::fromUtf16(row.column);
   if (m_claim.blank(column) && row.flag != kNoFlag && !m_profile[row.flag].isEmpty())
     return wordOf(m_profile[row.flag]);
+  const QString value = m_claim.get(column);
+  if (row.blank == Blank::Unchosen && value != u"0" && value != u"1") return Switch::Empty;
   const claims::PrintSetting* buttons = claims::printSetting(column);
-  if (buttons == nullptr) return wordOf(m_claim.get(column));
+  if (buttons == nullptr) return wordOf(value);
   return claims::chosen(m_claim, *buttons) == 0 ? Switch::On : Switch::Off;
 }
 

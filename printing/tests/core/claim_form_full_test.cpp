@@ -49,7 +49,7 @@ TEST(FullClaim, AcupunctureSheetItemByItem) {
   Filled filled = fullAcupuncture();
   expectSheet(filled,
               commonSheet() + QStringList{
-                                  "DD10=22",  // the last treated day, the form's usual end of the period
+                                  "DD10=31",  // 転帰 継続: the month's last day
                                   "Name9=腰痛症", "syoubyou1=", "syoubyou5=", "syoubyou7=", "Name49=肩関節炎",
                                   "Name50=(右)", "denryou1=", "syokaijutu3=はりきゅう併用", "day1=○", "day8=①",
                                   "day15=◎", "day22=③", "Name16=4", "YY3=6", "MM3=5",
@@ -65,7 +65,7 @@ TEST(FullClaim, MassageSheetItemByItem) {
   Filled filled = fullMassage();
   expectSheet(filled,
               commonSheet() + QStringList{
-                                  "DD10=9", "Name6=不詳", "Name9=腰痛症、歩行困難", "Syoujyou=筋萎縮", "day2=○",
+                                  "DD10=31", "Name6=不詳", "Name9=腰痛症、歩行困難", "Syoujyou=筋萎縮", "day2=○",
                                   "day9=②", "Name16=2", "kaisu1_1=2", "kaisu1_2=2", "kaisu2_1=1",
                                   // One row of 通所 in the middle, both rows of 訪問１.
                                   "dain1=2", "dain2=2", "dain6=1", "dain71=900", "dain72=1", "dain73=900",

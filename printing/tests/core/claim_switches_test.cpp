@@ -121,6 +121,18 @@ TEST(Switches, PeriodByFirstAndLastDay) {
   EXPECT_EQ(filled["DD9"], QStringLiteral("3"));
 }
 
+TEST(Switches, PeriodWhereNobodyChoseGoesByRequestAndOutcome) {
+  Filled filled;
+  filled.set({{u"申請年月", u"令和7年2月"}, {u"治療内容4", u"a"}, {u"治療内容20", u"a"}, {u"転帰", u"継続"}});
+  for (const char16_t* link : {u"", u"77"}) {  // a link of the two halves is no choice
+    filled.set({{u"txt dummy1", link}, {u"転帰", u"継続"}});
+    EXPECT_EQ(filled["DD9"], QStringLiteral("1"));
+    EXPECT_EQ(filled["DD10"], QStringLiteral("28"));
+    filled.set({{u"転帰", u"中止"}});
+    EXPECT_EQ(filled["DD10"], QStringLiteral("20"));
+  }
+}
+
 TEST(Person, NotTheHeadOfTheHouseholdIsInsuredAllTheSame) {
   Filled filled = fullAcupuncture();
   filled.set({{u"保険の種類2", u"1"}});
