@@ -43,6 +43,8 @@ class Control {
   virtual void speak(voice::VoiceGuide& voice, QWidget* focus) const;
   /// Enter was pressed in it: true where the control took the key.
   virtual bool enter() { return fire(m_onEnter); }
+  /// Another key was pressed in it: true where the control took it.
+  virtual bool key(int) { return false; }
   /// Enter belongs to the text (a memo's new line).
   virtual bool keepsEnter() const { return false; }
   /// The focus moved on to another control of the screen.

@@ -199,6 +199,24 @@ void OptionsControl::setPrefix(const QString& prefix) {
   nameButtons();
 }
 
+bool OptionsControl::key(int key) {
+  const bool forward = key == Qt::Key_Down || key == Qt::Key_Right;
+  if (!forward && key != Qt::Key_Up && key != Qt::Key_Left) return false;
+  const QList<QAbstractButton*> buttons = m_buttons->buttons();
+  const qsizetype count = buttons.size();
+  qsizetype at = 0;
+  while (at < count && !buttons[at]->hasFocus()) ++at;
+  for (qsizetype step = 1; step < count; ++step) {
+    QAbstractButton* next = buttons[(at + (forward ? step : count - step)) % count];
+    if (!next->isEnabled() || next->isHidden()) continue;
+    next->setFocus(Qt::TabFocusReason);
+    next->click();
+    break;
+  }
+  chooseTabStop();
+  return true;
+}
+
 void OptionsControl::showText(const QString& text) {
   m_buttons->setExclusive(false);
   for (QAbstractButton* button : m_buttons->buttons()) {

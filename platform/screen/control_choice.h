@@ -68,6 +68,8 @@ class OptionsControl : public Control {
   QString text() const override;
   void setCaption(const QString& caption) override;
   void setPrefix(const QString& prefix) override;
+  /// The arrow keys choose the next or the previous button, however the buttons lie on the screen.
+  bool key(int key) override;
 
  protected:
   void showText(const QString& text) override;

@@ -48,6 +48,7 @@ TabsControl::TabsControl(Screen& screen, QWidget* parent, voice::VoiceGuide& voi
     : Control(screen, ControlName{u"TabStrip1"}, QString()), m_tabs(new QTabWidget(parent)) {
   m_tabs->setObjectName(m_name);
   m_tabs->tabBar()->setObjectName(m_name + QLatin1String(".tabs"));
+  m_tabs->setFocusPolicy(Qt::NoFocus);  // the frame around would be a second tab stop of the bar
   m_tabs->tabBar()->setFocusPolicy(Qt::StrongFocus);
   m_tabs->setUsesScrollButtons(true);
   QObject::connect(m_tabs, &QTabWidget::currentChanged, m_tabs, [this, &voice] {

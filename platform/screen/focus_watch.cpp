@@ -4,12 +4,14 @@
 
 #include "platform/screen/control_book.h"
 #include "platform/screen/control_frame.h"
+#include "platform/screen/opening_hold.h"
 #include "platform/screen/screen.h"
 #include "platform/screen/scroll_pane.h"
 
 namespace screen {
 
-FocusWatch::FocusWatch(Screen& screen, ControlBook& book) : m_screen(screen), m_book(book) {
+FocusWatch::FocusWatch(Screen& screen, ControlBook& book, const OpeningHold& opening)
+    : m_screen(screen), m_book(book), m_opening(opening) {
   // After both focus events: a message that a leave handler shows finds the focus settled.
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, QWidget* now) { changed(old, now); });
 }
@@ -26,7 +28,10 @@ void FocusWatch::changed(QWidget* old, QWidget* now) {
   if (QApplication::focusWidget() != now) return;  // the leave handler moved it on
   bringIntoView(now);
   const bool fromOwnList = old && old->window() != &m_screen && old->window()->parentWidget() == now;
-  if (!fromOwnList) to->speak(m_screen.voice(), now);
+  // While the opening sentence is heard the window may be handed the focus twice; it speaks once.
+  const bool again = m_opening.isHeld() && now == m_spokeLast;
+  m_spokeLast = now;
+  if (!fromOwnList && !again) to->speak(m_screen.voice(), now);
 }
 
 bool FocusWatch::sendsBack(Control& left, QWidget* widget) {
@@ -44,10 +49,9 @@ bool FocusWatch::sendsBack(Control& left, QWidget* widget) {
 bool FocusWatch::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return false;
   const auto* key = static_cast<QKeyEvent*>(event);
-  const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-  if (!isEnter || (key->modifiers() & ~Qt::KeypadModifier)) return false;
   Control* control = m_book.of(qobject_cast<QWidget*>(watched));
-  if (!control) return false;
+  if (!control || (key->modifiers() & ~Qt::KeypadModifier)) return false;
+  if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter) return control->key(key->key());
   return (key->isAutoRepeat() && !control->keepsEnter()) || enter(*control);
 }
 

@@ -8,13 +8,14 @@ namespace screen {
 
 class Control;
 class ControlBook;
+class OpeningHold;
 class Screen;
 
 /// What follows the focus of one screen: a control that is left runs its leave handler, one that is reached
 /// comes into view and speaks, and Enter does what the kind of control does with it.
 class FocusWatch : public QObject {
  public:
-  FocusWatch(Screen& screen, ControlBook& book);
+  FocusWatch(Screen& screen, ControlBook& book, const OpeningHold& opening);
   /// Watches the keys of the control's widgets.
   void watch(const Control& control);
   /// Called in a leave handler: the focus goes back.
@@ -29,6 +30,8 @@ class FocusWatch : public QObject {
   bool enter(Control& control);
   Screen& m_screen;
   ControlBook& m_book;
+  const OpeningHold& m_opening;
+  const QWidget* m_spokeLast = nullptr;
   bool m_keep = false, m_returning = false, m_ended = false;
 };
 

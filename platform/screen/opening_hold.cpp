@@ -9,8 +9,8 @@ namespace screen {
 OpeningHold::~OpeningHold() { end(); }
 
 void OpeningHold::begin() {
-  m_voice.holdForOpening();
   if (std::exchange(m_held, true)) return;
+  m_voice.holdForOpening();
   qApp->installEventFilter(this);
 }
 

@@ -23,7 +23,10 @@ void Screen::showEvent(QShowEvent* event) {
   if (!m_parts->openingSaid) {
     m_parts->openingSaid = true;
     fitToDesk();
-    if (!focusWidget()) focusFirst();
+    if (m_parts->firstFocus)
+      m_parts->firstFocus->setFocus(Qt::OtherFocusReason);
+    else if (!focusWidget())
+      focusFirst();
     speakOpening();
     m_parts->opening.begin();
   }
@@ -32,7 +35,8 @@ void Screen::showEvent(QShowEvent* event) {
 
 void Screen::prepareOpening() {
   if (m_parts->openingSaid || m_parts->opening.isHeld()) return;
-  voice().stopSpeech();
+  // What another window says while it opens (the menu at the start, under the news) is heard first.
+  if (!voice().isHeld()) voice().stopSpeech();
   m_parts->opening.begin();
 }
 
@@ -105,6 +109,8 @@ void Screen::runCommand(const QString& name, Handler action, int index) {
   action(*this, index);
   if (alive) m_parts->running = outer;
 }
+
+const ControlBook& Screen::controls() const { return m_parts->book; }
 
 QString Screen::runningCommand() const { return m_parts->running; }
 

@@ -17,6 +17,8 @@ class Desktop;
 
 namespace screen {
 
+class ControlBook;
+
 /// What every screen is handed: voice, messages, the way to other screens, the desktop around the program.
 struct Services {
   voice::VoiceGuide& voice;
@@ -91,6 +93,9 @@ class Screen : public QMainWindow {
 
   DataSource& source(int number = 1) { return *m_sources.at(static_cast<size_t>(number - 1)); }
   const DataSource& source(int number = 1) const { return *m_sources.at(static_cast<size_t>(number - 1)); }
+
+  /// All controls, for what walks a screen (tests, the data source).
+  const ControlBook& controls() const;
 
   Services& services() { return m_services; }
   voice::VoiceGuide& voice() { return m_services.voice; }

@@ -94,6 +94,8 @@ void Screen::focusOn(const QString& control) {
   if (auto* button = qobject_cast<QRadioButton*>(target); button && button->objectName() != control)
     if (QAbstractButton* chosen = button->group()->checkedButton()) target = chosen;
   if (TabsControl* tabs = m_parts->book.tabs()) tabs->showPageOf(target);
+  // Before the first show the toolkit forgets the focus of a widget inside a scroll area.
+  if (!m_parts->openingSaid) m_parts->firstFocus = target;
   target->setFocus(Qt::OtherFocusReason);
 }
 

@@ -11,12 +11,13 @@ namespace screen {
 
 /// What a screen is made of, behind its header.
 struct Screen::Parts {
-  Parts(Screen& screen, Services& services) : focus(screen, book), opening(services.voice) {}
+  Parts(Screen& screen, Services& services) : opening(services.voice), focus(screen, book, opening) {}
 
   ControlBook book;
-  FocusWatch focus;
   OpeningHold opening;
-  QString running;  ///< objectName of the command whose action runs
+  FocusWatch focus;
+  QString running;               ///< objectName of the command whose action runs
+  QPointer<QWidget> firstFocus;  ///< asked for before the first show
   bool openingSaid = false;
   bool closed = false;
 };

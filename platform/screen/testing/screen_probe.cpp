@@ -72,12 +72,12 @@ void ScreenProbe::walk(QList<Stop>& stops) {
     press(Qt::Key_Tab);
     const QWidget* now = QApplication::focusWidget();
     const Control* control = m_screen.controls().of(now);
-    if(!control) qWarning() << now << (now?now->parentWidget():nullptr);
     if (!control || walked.contains(now)) return;
     walked.insert(now);
     if (!known.contains(control->name())) {
       // The only stop of a window keeps the focus: what it said is what it said when the window opened.
-      stops.append({control->name(), now->accessibleName(), now == before ? openingSpeech : m_voice.lastSaid()});
+      stops.append(
+          {control->name(), now->accessibleName(), now == before ? openingSpeech : m_voice.lastSaid()});
     }
     known.insert(control->name());
   }

@@ -1,0 +1,106 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QtWidgets/QtWidgets>
+
+#include "sample_screen.h"
+
+namespace screen::testing {
+namespace {
+
+TEST(MessageQueue, AnswersInOrderAndRefusesWhatIsNotAnswered) {
+  Desk desk;
+  desk.messages.answerFromQueue({true, false});
+  EXPECT_TRUE(desk.messages.ask("一つ目"));
+  EXPECT_FALSE(desk.messages.ask("二つ目", Buttons::YesNo, "題"));
+  EXPECT_FALSE(desk.messages.ask("三つ目"));
+  desk.messages.tell("四つ目");
+  EXPECT_EQ(desk.messages.texts(), QStringList({"一つ目", "二つ目", "三つ目", "四つ目"}));
+  EXPECT_EQ(desk.messages.titles(), QStringList({"治療台帳", "題", "治療台帳", "治療台帳"}));
+  EXPECT_EQ(desk.spy.said(), desk.messages.texts()) << "every message is spoken";
+}
+
+TEST(MessageQueue, EngineTextStandsBehindTheDataControlLabel) {
+  Desk desk;
+  desk.messages.tellDataFault("見本の誤り");
+  EXPECT_EQ(desk.messages.texts(), QStringList{"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :見本の誤り"});
+}
+
+struct BoxCase {
+  Buttons buttons;
+  QStringList captions;
+};
+
+class MessageBox : public ::testing::TestWithParam<BoxCase> {
+ protected:
+  /// Shows the message and hands the open box to `work`.
+  template <class Work>
+  bool whileShown(Work work) {
+    QTimer::singleShot(0, &screen, [this, work] {
+      (void)QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; });
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      QApplication::setActiveWindow(box);
+      EXPECT_TRUE(QTest::qWaitFor([box] { return box->isAncestorOf(QApplication::focusWidget()); }));
+      work(*box);
+      if (box->isVisible()) box->reject();
+    });
+    return messages.ask("登録しますか？", GetParam().buttons, "題");
+  }
+  Desk desk;
+  MessageDoor messages{desk.voice};
+  SampleScreen screen{desk.services};
+};
+
+TEST_P(MessageBox, NamesItsButtonsAndGivesTheFirstTheFocus) {
+  whileShown([](QMessageBox& box) {
+    QStringList captions;
+    for (const QAbstractButton* button : box.buttons()) captions += button->text();
+    EXPECT_EQ(captions, GetParam().captions);
+    EXPECT_EQ(box.windowTitle(), "題");
+    EXPECT_EQ(box.text(), "登録しますか？");
+    EXPECT_EQ(QApplication::focusWidget(), box.buttons().first());
+  });
+}
+
+TEST_P(MessageBox, QuestionIsHeardToItsEnd) {
+  whileShown([this](QMessageBox&) {
+    EXPECT_EQ(desk.spy.heardWhole(), QStringList({"登録しますか？", GetParam().captions.first()}));
+  });
+}
+
+TEST_P(MessageBox, EnterIsTheFirstAnswer) {
+  EXPECT_TRUE(whileShown([](QMessageBox&) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); }));
+}
+
+TEST_P(MessageBox, EscapeIsTheRefusal) {
+  const bool answer = whileShown([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+  EXPECT_EQ(answer, GetParam().buttons == Buttons::Ok);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, MessageBox,
+                         ::testing::Values(BoxCase{Buttons::Ok, {"OK"}},
+                                           BoxCase{Buttons::OkCancel, {"OK", "キャンセル"}},
+                                           BoxCase{Buttons::YesNo, {"はい", "いいえ"}}));
+
+TEST(MessageFocus, ReturnsToTheFieldAndDoesNotCutTheResult) {
+  Desk desk;
+  MessageDoor messages(desk.voice);
+  SampleScreen screen(desk.services);
+  ScreenProbe probe(screen, desk.spy);
+  probe.open();
+  screen.focusOn("txtFields(5)");
+  QTimer::singleShot(0, &screen, [] {
+    (void)QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; });
+    qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject();
+  });
+  messages.tell("登録しました。");
+  desk.voice.speakText("結果");
+  QApplication::setActiveWindow(&screen);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() != nullptr; }));
+  EXPECT_EQ(screen.focused(), "txtFields(5)");
+  EXPECT_TRUE(desk.spy.heardWhole().contains("結果"));
+}
+
+}  // namespace
+}  // namespace screen::testing

@@ -1,0 +1,126 @@
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QPointer>
+
+#include "platform/screen/confirm_prompt.h"
+#include "sample_screen.h"
+
+namespace screen::testing {
+namespace {
+
+class CountingScreen : public SampleScreen {
+ public:
+  CountingScreen(Services& services, QStringList& life) : SampleScreen(services), life(life) {}
+  void onLoad() override { life += "load"; }
+  void opened(const Request& request) override { life += "opened " + request.value("ID").toString(); }
+  void onClosed() override { life += "closed"; }
+  bool onCloseBox() override { return mayClose; }
+  QStringList& life;
+  bool mayClose = true;
+};
+
+class Navigation : public ::testing::Test {
+ protected:
+  void SetUp() override { desk.registry.add<CountingScreen>("見本1", life); }
+  QStringList life;
+  Desk desk;
+};
+
+TEST_F(Navigation, ScreenIsOneInstanceReenteredByShowingIt) {
+  Screen* first = desk.navigator.show("見本1", {{"ID", "7"}});
+  Screen* again = desk.navigator.show("見本1", {{"ID", "8"}});
+  EXPECT_EQ(first, again);
+  EXPECT_TRUE(desk.navigator.isShown("見本1"));
+  EXPECT_EQ(life, QStringList({"load", "opened 7", "opened 8"}));
+}
+
+TEST_F(Navigation, LoadDoesNotShow) {
+  EXPECT_NE(desk.navigator.load("見本1"), nullptr);
+  EXPECT_FALSE(desk.navigator.isShown("見本1"));
+  EXPECT_EQ(life, QStringList({"load"}));
+}
+
+TEST_F(Navigation, UnloadClosesAndForgets) {
+  QPointer<Screen> screen = desk.navigator.show("見本1");
+  desk.navigator.unload("見本1");
+  EXPECT_EQ(desk.navigator.loaded("見本1"), nullptr);
+  EXPECT_EQ(life.last(), "closed");
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(screen.isNull());
+}
+
+TEST_F(Navigation, CloseBoxUnloadsUnlessTheScreenObjects) {
+  auto* screen = static_cast<CountingScreen*>(desk.navigator.show("見本1"));
+  screen->mayClose = false;
+  screen->close();
+  EXPECT_EQ(desk.navigator.loaded("見本1"), screen);
+  screen->mayClose = true;
+  screen->close();
+  EXPECT_EQ(desk.navigator.loaded("見本1"), nullptr);
+  EXPECT_EQ(life.count("closed"), 1);
+}
+
+TEST_F(Navigation, ScreenThatTheProgramLacksIsToldByName) {
+  EXPECT_EQ(desk.navigator.show("領収証"), nullptr);
+  EXPECT_EQ(desk.messages.texts(), QStringList{"「領収証」の画面は、まだこの版にはありません。"});
+  EXPECT_EQ(desk.spy.lastSaid(), "「領収証」の画面は、まだこの版にはありません。");
+}
+
+TEST_F(Navigation, QuitClosesEveryScreen) {
+  desk.navigator.show("見本1");
+  desk.navigator.quit();
+  EXPECT_EQ(desk.navigator.loaded("見本1"), nullptr);
+}
+
+constexpr Note kLines[] = {{.name = {u"Label1"}, .caption = u"見本を登録しますか？"},
+                           {.name = {u"Label2"}, .caption = u"一旦終了します。"}};
+constexpr PromptButton kButtons[] = {{{u"Command1"}, u"はい", u"store"},
+                                     {{u"Command2"}, u"いいえ", u"close"}};
+constexpr ConfirmRow kPrompt{.name = u"見本の実行", .caption = u"確認", .lines = kLines, .buttons = kButtons};
+
+class Prompt : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    actions.insert("store", [this](ConfirmPrompt& prompt) {
+      ++stored;
+      asked = prompt.request().value("asked").toString();
+    });
+    desk.registry.add("見本の実行", [this](Services& services) {
+      return std::make_unique<ConfirmPrompt>(kPrompt, actions, services);
+    });
+    screen = desk.navigator.show("見本の実行", {{"asked", "登録"}});
+    ASSERT_NE(screen, nullptr);
+    ScreenProbe(*screen, desk.spy).open();
+  }
+  PromptActions actions;
+  int stored = 0;
+  QString asked;
+  Desk desk;
+  Screen* screen = nullptr;
+};
+
+TEST_F(Prompt, SpeaksItsQuestionThenTheFollowingLineThenTheFirstButton) {
+  EXPECT_EQ(desk.spy.heardWhole(),
+            QStringList({"見本を登録しますか？" + QString(QChar(254)) + "一旦終了します。", "はい"}));
+  EXPECT_EQ(screen->objectName(), "見本の実行");
+  EXPECT_EQ(screen->windowTitle(), "確認");
+}
+
+TEST_F(Prompt, YesRunsItsActionAndCloses) {
+  ScreenProbe(*screen, desk.spy).press(Qt::Key_Return);
+  EXPECT_EQ(stored, 1);
+  EXPECT_EQ(asked, "登録");
+  EXPECT_EQ(desk.navigator.loaded("見本の実行"), nullptr);
+}
+
+TEST_F(Prompt, NoAndEscapeOnlyClose) {
+  ScreenProbe(*screen, desk.spy).press(Qt::Key_Escape);
+  EXPECT_EQ(stored, 0);
+  EXPECT_EQ(desk.navigator.loaded("見本の実行"), nullptr);
+}
+
+TEST_F(Prompt, IsSoundForTheEar) { EXPECT_EQ(ScreenProbe(*screen, desk.spy).faults(), QStringList()); }
+
+}  // namespace
+}  // namespace screen::testing

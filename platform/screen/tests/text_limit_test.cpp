@@ -1,0 +1,60 @@
+#include <gtest/gtest.h>
+
+#include <QtWidgets/QtWidgets>
+
+#include "platform/screen/control_text.h"
+#include "sample_screen.h"
+
+namespace screen::testing {
+namespace {
+
+class TextLimit : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    probe.open();
+    screen.focusOn("txtFields(4)");  // four characters
+  }
+  QLineEdit* field() { return screen.findChild<QLineEdit*>("txtFields(4)"); }
+  Desk desk;
+  SampleScreen screen{desk.services};
+  ScreenProbe probe{screen, desk.spy};
+};
+
+TEST_F(TextLimit, WhatIsTypedBeyondItIsNotTaken) {
+  probe.type("あいうえお");
+  EXPECT_EQ(screen.text("txtFields(4)"), "あいうえ");
+  probe.type("か");
+  EXPECT_EQ(screen.text("txtFields(4)"), "あいうえ");
+}
+
+TEST_F(TextLimit, InsertionInTheMiddleKeepsTheRest) {
+  probe.type("あいう");
+  field()->setCursorPosition(1);
+  probe.type("かき");
+  EXPECT_EQ(screen.text("txtFields(4)"), "あかいう");
+}
+
+TEST_F(TextLimit, CharacterBeyondTheBasicPlaneCountsOnce) {
+  EXPECT_EQ(characterCount("𠮷野"), 2);
+  probe.type("𠮷𠮷𠮷𠮷𠮷");
+  EXPECT_EQ(screen.text("txtFields(4)"), "𠮷𠮷𠮷𠮷");
+}
+
+TEST_F(TextLimit, LongerStoredTextIsShownWholeAndMayOnlyShrink) {
+  screen.setText("txtFields(4)", "一二三四五六");
+  EXPECT_EQ(screen.text("txtFields(4)"), "一二三四五六");
+  field()->end(false);
+  probe.type("七");
+  EXPECT_EQ(screen.text("txtFields(4)"), "一二三四五六");
+  probe.press(Qt::Key_Backspace);
+  EXPECT_EQ(screen.text("txtFields(4)"), "一二三四五");
+}
+
+TEST_F(TextLimit, HoldsForMemosToo) {
+  screen.focusOn("txtMemo");  // a thousand characters
+  probe.type(QString(1200, u'あ'));
+  EXPECT_EQ(screen.text("txtMemo").size(), 1000);
+}
+
+}  // namespace
+}  // namespace screen::testing
