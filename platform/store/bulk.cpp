@@ -21,6 +21,11 @@ Result<RowValues> valuesOf(const TableSchema& schema, const QHash<QString, Value
 }  // namespace
 
 Done addRows(const QString& path, const QString& table, const QList<QHash<QString, Value>>& rows) {
+  return addRows(path, table, static_cast<int>(rows.size()), [&](int number) { return rows[number]; });
+}
+
+Done addRows(const QString& path, const QString& table, int count,
+             const std::function<QHash<QString, Value>(int number)>& rowOf) {
   Result<std::shared_ptr<Database>> database = Database::open(path);
   if (!database) return database.fault();
   Engine& engine = (*database)->engine();
@@ -28,8 +33,8 @@ Done addRows(const QString& path, const QString& table, const QList<QHash<QStrin
   if (!schema) return schema.fault();
   const TableFile file(engine.statements(), QStringLiteral("main"), *schema);
   const Done done = engine.write([&]() -> Done {
-    for (const QHash<QString, Value>& row : rows) {
-      const Result<RowValues> values = valuesOf(**schema, row);
+    for (int number = 0; number < count; ++number) {
+      const Result<RowValues> values = valuesOf(**schema, rowOf(number));
       if (!values) return values.fault();
       if (const Result<qint64> added = file.insert(*values); !added) return added.fault();
     }

@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <functional>
 
 #include "platform/store/record_set.h"
 
@@ -11,6 +12,10 @@ namespace store {
 /// Adds many rows to a table in one transaction; a row may carry its own ID. Columns that the table lacks are
 /// left out, and a refused value takes all back. For fresh files and for test data.
 Done addRows(const QString& path, const QString& table, const QList<QHash<QString, Value>>& rows);
+
+/// The same with rows made one after another, for many of them.
+Done addRows(const QString& path, const QString& table, int count,
+             const std::function<QHash<QString, Value>(int number)>& rowOf);
 
 /// The highest ID of a table, 0 where it is empty.
 Result<qint64> lastId(const QString& path, const QString& table);

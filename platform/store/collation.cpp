@@ -38,4 +38,11 @@ QByteArray japaneseSortKey(QStringView text) {
   return key;
 }
 
+QByteArray numberSortKey(qint64 number) {
+  const quint64 shifted = static_cast<quint64>(number) ^ (quint64(1) << 63);
+  QByteArray key(8, '\0');
+  for (int place = 0; place < 8; ++place) key[place] = static_cast<char>(shifted >> (56 - 8 * place));
+  return key;
+}
+
 }  // namespace store

@@ -10,5 +10,7 @@ namespace store {
 int compareJapanese(QStringView a, QStringView b);
 /// Bytes that compare as the texts do.
 QByteArray japaneseSortKey(QStringView text);
+/// Bytes that compare as the numbers do.
+QByteArray numberSortKey(qint64 number);
 
 }  // namespace store

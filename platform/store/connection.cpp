@@ -36,17 +36,18 @@ Done runUpdate(Engine& engine, Scanner& scanner) {
   const TableFile file(engine.statements(), QStringLiteral("main"), *schema);
   const Result<RowValues> values = file.accept(columns);
   if (!values) return values.fault();
-  const Result<std::vector<qint64>> rows = selectRows(engine, table, {&*criteria, 1});
-  if (!rows) return rows.fault();
+  const Result<RowList> selected = selectRows(engine, table, {&*criteria, 1});
+  if (!selected) return selected.fault();
+  const std::vector<qint64> rows = selected->ids();
   quint32 before = 0;
   const Done done = engine.write([&]() -> Done {
     before = engine.changeCounter();
-    for (const qint64 id : *rows)
+    for (const qint64 id : rows)
       if (const Done written = file.update(id, *values); !written) return written;
     return {};
   });
   if (!done) return done;
-  for (const qint64 id : *rows) engine.rowWritten(table, id, before);
+  for (const qint64 id : rows) engine.rowWritten(table, id, before);
   return {};
 }
 
@@ -110,14 +111,15 @@ struct Cursor::State {
   std::shared_ptr<Database> database;
   std::optional<TableFile> file;
   QVector<int> columns;
-  std::vector<qint64> ids;
-  size_t at = 0;
+  QString selectText;
+  RowList ids;
+  int at = 0;
   Row row;
 
   /// Reads the row at hand, going past rows that were deleted since.
   void readRow() {
     for (row.clear(); at < ids.size(); ++at) {
-      if (Result<Row> read = file->read(ids[at], columns); read && !read->isEmpty()) {
+      if (Result<Row> read = file->read(ids.at(at), columns, selectText); read && !read->isEmpty()) {
         row = std::move(*read);
         return;
       }
@@ -157,9 +159,10 @@ Result<Cursor> Cursor::open(Connection& connection, const QString& source) {
     if (column < 0) return unknownColumn(name, table);
     state->columns += column;
   }
-  Result<std::vector<qint64>> rows = selectRows(engine, table, {&*criteria, 1});
+  Result<RowList> rows = selectRows(engine, table, {&*criteria, 1});
   if (!rows) return rows.fault();
   state->ids = std::move(*rows);
+  state->selectText = state->file->selectText(state->columns);
   state->readRow();
   Cursor cursor;
   cursor.m_state = std::move(state);

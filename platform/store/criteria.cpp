@@ -135,6 +135,19 @@ void markColumn(const Term& term, const FoldedColumn& column, std::vector<char>&
                        : fits(term, column.text(row), column.isNull(row));
 }
 
+std::vector<char> fittingTerm(const Term& written, const TableCopy& copy) {
+  const int column = copy.schema().find(written.column);
+  const ColumnType type = copy.schema().type(column);
+  const bool number = type != ColumnType::Text255 && type != ColumnType::LongText;
+  const Term term = number && written.comparison != Comparison::Like ? forNumbers(written, type) : written;
+  std::vector<char> marks(copy.ids().size(), 0);
+  if (type == ColumnType::Counter)
+    markIds(term, copy.ids(), marks);
+  else
+    markColumn(term, copy.searched(column), marks);
+  return marks;
+}
+
 }  // namespace
 
 LikePattern::LikePattern(const QString& pattern, Wildcard wildcard) {
@@ -216,38 +229,29 @@ Result<Order> parseOrder(const QString& text) {
   return takeOrder(scanner);
 }
 
-Result<std::vector<char>> fittingRows(const Criteria& criteria,
-                                      const std::function<Result<TableCopy*>(const QVector<int>&)>& load,
-                                      const TableSchema& schema) {
-  QVector<int> searched;
+Result<QVector<int>> searchedColumns(const Criteria& criteria, const TableSchema& schema) {
+  QVector<int> columns;
   for (const std::vector<Term>& group : criteria.anyOf) {
     for (const Term& term : group) {
       const int column = schema.find(term.column);
       if (column < 0) return unknownColumn(term.column, schema.table());
-      if (schema.type(column) != ColumnType::Counter) searched += column;
+      if (schema.type(column) != ColumnType::Counter) columns += column;
     }
   }
-  Result<TableCopy*> copy = load(searched);
-  if (!copy) return copy.fault();
-  const size_t rows = (*copy)->ids().size();
-  std::vector<char> marks(rows, criteria.anyOf.empty());
+  return columns;
+}
+
+void keepFitting(const Criteria& criteria, const TableCopy& copy, std::vector<char>& marks) {
+  std::vector<char> any(marks.size(), 0);
   for (const std::vector<Term>& group : criteria.anyOf) {
-    std::vector<char> all(rows, 1);
-    for (const Term& written : group) {
-      const int column = schema.find(written.column);
-      const ColumnType type = schema.type(column);
-      const bool number = type != ColumnType::Text255 && type != ColumnType::LongText;
-      const Term term = number && written.comparison != Comparison::Like ? forNumbers(written, type) : written;
-      std::vector<char> one(rows, 0);
-      if (type == ColumnType::Counter)
-        markIds(term, (*copy)->ids(), one);
-      else
-        markColumn(term, (*copy)->searched(column), one);
-      for (size_t row = 0; row < rows; ++row) all[row] &= one[row];
+    std::vector<char> all(marks.size(), 1);
+    for (const Term& term : group) {
+      const std::vector<char> one = fittingTerm(term, copy);
+      for (size_t row = 0; row < all.size(); ++row) all[row] &= one[row];
     }
-    for (size_t row = 0; row < rows; ++row) marks[row] |= all[row];
+    for (size_t row = 0; row < any.size(); ++row) any[row] |= all[row];
   }
-  return marks;
+  for (size_t row = 0; row < marks.size(); ++row) marks[row] &= any[row];
 }
 
 }  // namespace store

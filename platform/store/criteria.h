@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -62,10 +61,11 @@ Result<Criteria> parseCriteria(const QString& text, Wildcard wildcard = Wildcard
 /// Reads "<column> ASC", "<column> DESC" or a comma-separated list of such.
 Result<Order> parseOrder(const QString& text);
 
-/// Marks the rows of the table's memory copy that fit: one char a row, in ID order.
-Result<std::vector<char>> fittingRows(const Criteria& criteria,
-                                      const std::function<Result<TableCopy*>(const QVector<int>& searched)>& load,
-                                      const TableSchema& schema);
+/// The columns that criteria need in memory; an unknown one is told.
+Result<QVector<int>> searchedColumns(const Criteria& criteria, const TableSchema& schema);
+
+/// Unmarks the rows of the memory copy that do not fit: one char a row, in ID order.
+void keepFitting(const Criteria& criteria, const TableCopy& copy, std::vector<char>& marks);
 
 /// Whether one text fits one term of criteria, as a column of texts.
 bool fits(const Term& term, std::u16string_view folded, bool null);

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <numeric>
 
-#include "platform/store/collation.h"
-
 namespace store {
 namespace {
 
@@ -12,48 +10,36 @@ bool isNumber(ColumnType type) {
   return type == ColumnType::Integer || type == ColumnType::YesNo || type == ColumnType::Counter;
 }
 
-/// Eight bytes that compare as the numbers do.
-QByteArray numberKey(qint64 number) {
-  const quint64 shifted = static_cast<quint64>(number) ^ (quint64(1) << 63);
-  QByteArray key(8, '\0');
-  for (int place = 0; place < 8; ++place) key[place] = static_cast<char>(shifted >> (56 - 8 * place));
-  return key;
+}  // namespace
+
+RowSorter::RowSorter(const Order& order, const TableSchema& schema,
+                     const std::function<const SortColumn&(int column)>& columnOf) {
+  for (const SortKey& key : order) {
+    const int column = schema.find(key.column);
+    const ColumnType type = schema.type(column);
+    if (type == ColumnType::Counter) {
+      m_idDescending = key.descending;
+      break;
+    }
+    const SortColumn& content = columnOf(column);
+    m_keys.push_back({content.numbers(), content.texts(), isNumber(type), key.descending});
+  }
 }
 
-/// Compares two rows by one column, making the keys of its texts when first needed.
-class ColumnOrder {
- public:
-  ColumnOrder(const SortColumn& column, bool number, bool descending)
-      : m_column(column), m_keys(column.keys()), m_number(number), m_descending(descending) {
-    m_keys.resize(column.texts().size());
-  }
+int RowSorter::Key::compare(uint32_t a, uint32_t b) const {
+  const uint32_t left = numbers[a], right = numbers[b];
+  if (left == right) return 0;
+  const int order = left == SortTexts::kNull    ? -1
+                    : right == SortTexts::kNull ? 1
+                                                : texts->key(left, byValue).compare(texts->key(right, byValue));
+  return descending ? -order : order;
+}
 
-  int compare(uint32_t a, uint32_t b) const {
-    const uint32_t codeA = m_column.codeOf(a), codeB = m_column.codeOf(b);
-    if (codeA == codeB) return 0;
-    const int order = codeA == SortColumn::kNull   ? -1
-                      : codeB == SortColumn::kNull ? 1
-                                                   : key(codeA).compare(key(codeB));
-    return m_descending ? -order : order;
-  }
-
- private:
-  const QByteArray& key(uint32_t code) const {
-    QByteArray& made = m_keys[code];
-    if (made.isNull()) {
-      const QString& text = m_column.texts()[code];
-      made = m_number ? numberKey(text.toLongLong()) : japaneseSortKey(text);
-    }
-    return made;
-  }
-
-  const SortColumn& m_column;
-  std::vector<QByteArray>& m_keys;
-  bool m_number;
-  bool m_descending;
-};
-
-}  // namespace
+bool RowSorter::before(uint32_t a, uint32_t b) const {
+  for (const Key& key : m_keys)
+    if (const int order = key.compare(a, b)) return order < 0;
+  return m_idDescending ? a > b : a < b;
+}
 
 Result<QVector<int>> sortedColumns(const Order& order, const TableSchema& schema) {
   QVector<int> columns;
@@ -64,34 +50,6 @@ Result<QVector<int>> sortedColumns(const Order& order, const TableSchema& schema
     columns += column;
   }
   return columns;
-}
-
-void sortRows(std::vector<uint32_t>& rows, const Order& order, const TableSchema& schema,
-              const std::function<const SortColumn&(int column)>& columnOf) {
-  std::vector<ColumnOrder> columns;
-  bool idDescending = false;
-  for (const SortKey& key : order) {
-    const int column = schema.find(key.column);
-    const ColumnType type = schema.type(column);
-    if (type == ColumnType::Counter) {
-      idDescending = key.descending;
-      break;
-    }
-    columns.emplace_back(columnOf(column), isNumber(type), key.descending);
-  }
-  if (columns.empty()) {
-    if (idDescending) std::reverse(rows.begin(), rows.end());
-    return;
-  }
-  std::sort(rows.begin(), rows.end(), [&](uint32_t a, uint32_t b) {
-    for (const ColumnOrder& column : columns)
-      if (const int order = column.compare(a, b)) return order < 0;
-    return idDescending ? a > b : a < b;
-  });
-}
-
-void sortRows(std::vector<uint32_t>& rows, const Order& order, const TableCopy& copy) {
-  sortRows(rows, order, copy.schema(), [&](int column) -> const SortColumn& { return copy.sorted(column); });
 }
 
 Result<std::vector<qint64>> orderedIds(const TableRow& table, const QList<QHash<QString, Value>>& rows,
@@ -113,7 +71,8 @@ Result<std::vector<qint64>> orderedIds(const TableRow& table, const QList<QHash<
     for (const QHash<QString, Value>& row : byId) columns[column].append(row.value(schema.name(column)));
   std::vector<uint32_t> numbers(static_cast<size_t>(byId.size()));
   std::iota(numbers.begin(), numbers.end(), 0u);
-  sortRows(numbers, *keys, schema, [&](int column) -> const SortColumn& { return columns[column]; });
+  const RowSorter sorter(*keys, schema, [&](int column) -> const SortColumn& { return columns[column]; });
+  std::sort(numbers.begin(), numbers.end(), [&](uint32_t a, uint32_t b) { return sorter.before(a, b); });
   std::vector<qint64> ids;
   for (const uint32_t number : numbers) ids.push_back(byId[number].value(id).toLongLong());
   return ids;

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "platform/store/database.h"
-#include "platform/store/row_pages.h"
+#include "platform/store/row_cache.h"
 #include "platform/store/selection.h"
 
 namespace store {
@@ -25,12 +25,12 @@ struct RecordSet::State {
   QString nextFilter;  ///< for the copy that openRecordset() makes
   QString nextSort;
 
-  std::vector<qint64> ids;
+  RowList ids;
   int position = -1;
   Bookmark lastModified = kNoBookmark;
   bool noMatch = false;
 
-  mutable RowPages pages;
+  mutable RowCache shown;
   mutable Row current;  ///< the current row as it was read
   mutable qint64 currentId = kNoBookmark;
   mutable quint64 currentWrites = 0;
@@ -41,9 +41,9 @@ struct RecordSet::State {
 
   Engine& engine() const { return database->engine(); }
   const TableSchema& schema() const { return file->schema(); }
-  int count() const { return static_cast<int>(ids.size()); }
+  int count() const { return ids.size(); }
   bool onRow() const { return position >= 0 && position < count(); }
-  qint64 id() const { return onRow() ? ids[static_cast<size_t>(position)] : kNoBookmark; }
+  qint64 id() const { return onRow() ? ids.at(position) : kNoBookmark; }
 
   const Row& row() const;
   void endEditing();
@@ -82,10 +82,10 @@ Done RecordSet::State::load() {
   Result<std::shared_ptr<const TableSchema>> known = engine().schema(schema().table());
   if (!known) return known.fault();
   if (*known != file->sharedSchema()) file.emplace(engine().statements(), QStringLiteral("main"), *known);
-  Result<std::vector<qint64>> found = selectRows(engine(), schema().table(), filters, order);
+  Result<RowList> found = selectRows(engine(), schema().table(), filters, order);
   if (!found) return found.fault();
   ids = std::move(*found);
-  pages.clear();
+  shown.clear();
   currentId = kNoBookmark;
   position = ids.empty() ? -1 : 0;
   return {};
@@ -97,10 +97,11 @@ Done RecordSet::State::find(const QString& criteria, int from) {
   const Result<Criteria> parsed = parseCriteria(criteria);
   if (!parsed) return parsed.fault();
   const Order byId{{QStringLiteral("ID"), false}};
-  const Result<std::vector<qint64>> hits = selectRows(engine(), schema().table(), {&*parsed, 1}, byId);
-  if (!hits) return hits.fault();
+  const Result<RowList> rows = selectRows(engine(), schema().table(), {&*parsed, 1}, byId);
+  if (!rows) return rows.fault();
+  const std::vector<qint64> hits = rows->ids();
   for (int place = from; place < count(); ++place) {
-    if (!std::binary_search(hits->begin(), hits->end(), ids[static_cast<size_t>(place)])) continue;
+    if (!std::binary_search(hits.begin(), hits.end(), ids.at(place))) continue;
     position = place;
     noMatch = false;
     break;
@@ -189,9 +190,8 @@ void RecordSet::movePrevious() {
 Bookmark RecordSet::bookmark() const { return m_state->id(); }
 
 void RecordSet::setBookmark(Bookmark bookmark) {
-  const std::vector<qint64>& ids = m_state->ids;
-  const auto place = std::find(ids.begin(), ids.end(), bookmark);
-  if (place != ids.end()) m_state->moveTo(static_cast<int>(place - ids.begin()));
+  const int place = m_state->ids.find(bookmark);
+  if (place >= 0) m_state->moveTo(place);
 }
 
 Bookmark RecordSet::lastModified() const { return m_state->lastModified; }
@@ -212,7 +212,7 @@ Value RecordSet::valueAt(int position, const QString& column) const {
   if (!isOpen() || position < 0 || position >= m_state->count()) return {};
   const int index = m_state->schema().find(column);
   if (index < 0) return {};
-  return m_state->pages.value(m_state->engine(), *m_state->file, m_state->ids, position, index);
+  return m_state->shown.value(m_state->engine(), *m_state->file, m_state->ids.at(position), index);
 }
 
 Done RecordSet::addNew() {
@@ -258,7 +258,7 @@ Done RecordSet::update() {
     return adds ? state.file->insert(*values) : state.writeEdited(*values);
   });
   if (!done) return done;
-  if (adds) state.ids.push_back(state.lastModified);
+  if (adds) state.ids.append(state.lastModified);
   state.endEditing();
   return {};
 }
@@ -280,7 +280,7 @@ Done RecordSet::remove() {
   });
   if (!done) return done;
   state.engine().rowRemoved(table(), id, before);
-  state.ids.erase(state.ids.begin() + state.position);
+  state.ids.erase(state.position);
   state.moveTo(state.position - 1);
   return {};
 }

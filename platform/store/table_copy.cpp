@@ -1,7 +1,9 @@
 #include "platform/store/table_copy.h"
 
 #include <algorithm>
+#include <numeric>
 
+#include "platform/store/collation.h"
 #include "platform/text/fold.h"
 
 namespace store {
@@ -58,16 +60,25 @@ void FoldedColumn::markContaining(std::u16string_view needle, std::vector<char>&
   }
 }
 
-uint32_t SortColumn::code(QStringView text) {
+uint32_t SortTexts::number(QStringView text) {
   if (text.isNull()) return kNull;
-  const QString key = QString::fromRawData(text.data(), text.size());
-  const auto known = m_byText.constFind(key);
-  if (known != m_byText.constEnd()) return *known;
-  const QString kept(text.data(), text.size());
+  constexpr size_t kEnoughToJudge = 4096;
+  const bool mostDiffer = ++m_asked > kEnoughToJudge && m_texts.size() > m_asked / 2;
+  if (!mostDiffer) {
+    const auto known = m_known.constFind(QString::fromRawData(text.data(), text.size()));
+    if (known != m_known.constEnd()) return *known;
+  }
   const uint32_t made = static_cast<uint32_t>(m_texts.size());
-  m_texts.push_back(kept);
-  m_byText.insert(kept, made);
+  m_texts.emplace_back(text.data(), text.size());
+  if (!mostDiffer) m_known.insert(m_texts.back(), made);
   return made;
+}
+
+const QByteArray& SortTexts::key(uint32_t number, bool byValue) {
+  if (m_keys.size() < m_texts.size()) m_keys.resize(m_texts.size());
+  QByteArray& key = m_keys[number];
+  if (key.isNull()) key = byValue ? numberSortKey(m_texts[number].toLongLong()) : japaneseSortKey(m_texts[number]);
+  return key;
 }
 
 QVector<int> TableCopy::missing(const QVector<int>& searched, const QVector<int>& sorted) const {
@@ -79,9 +90,30 @@ QVector<int> TableCopy::missing(const QVector<int>& searched, const QVector<int>
   return columns;
 }
 
+Result<bool> TableCopy::loadUnbrokenIds(StatementCache& statements) {
+  const QString table = quotedName(schema().table());
+  Result<Statement*> ends = statements.get(
+      QStringLiteral("SELECT (SELECT count(*) FROM %1), (SELECT min(\"ID\") FROM %1), (SELECT max(\"ID\") FROM %1)")
+          .arg(table));
+  if (!ends) return ends.fault();
+  if (const Result<bool> row = (*ends)->step(); !row) return row.fault();
+  const qint64 count = (*ends)->number(0), first = (*ends)->number(1), last = (*ends)->number(2);
+  (*ends)->rewind();
+  if (count > 0 && last - first + 1 != count) return false;
+  m_ids.resize(static_cast<size_t>(count));
+  std::iota(m_ids.begin(), m_ids.end(), first);
+  m_haveIds = true;
+  return true;
+}
+
 Done TableCopy::load(StatementCache& statements, const QVector<int>& searched, const QVector<int>& sorted) {
   const QVector<int> columns = missing(searched, sorted);
-  if (columns.isEmpty() && m_haveIds) return {};
+  if (columns.isEmpty()) {
+    if (m_haveIds) return {};
+    const Result<bool> unbroken = loadUnbrokenIds(statements);
+    if (!unbroken) return unbroken.fault();
+    if (*unbroken) return {};
+  }
   QString sql = QStringLiteral("SELECT \"ID\"");
   for (const int column : columns) sql += QLatin1Char(',') + quotedName(schema().name(column));
   sql += QStringLiteral(" FROM ") + quotedName(schema().table()) + QStringLiteral(" ORDER BY \"ID\"");

@@ -30,27 +30,38 @@ class FoldedColumn {
   std::vector<char> m_null;
 };
 
-/// One column of a table in memory as sorting compares it: a number a row, one number a different text.
-class SortColumn {
+/// The different texts of a column, by number. Only ever grows, so that whoever sorts by it may keep it.
+/// Number 0 is NULL. A column of which nearly every row differs is not looked through for equal texts: two
+/// numbers may then stand for one text.
+class SortTexts {
  public:
   static constexpr uint32_t kNull = 0;
 
-  void append(QStringView text) { m_codes.push_back(code(text)); }
-  void replace(size_t row, QStringView text) { m_codes[row] = code(text); }
-  void erase(size_t row) { m_codes.erase(m_codes.begin() + static_cast<std::ptrdiff_t>(row)); }
-
-  uint32_t codeOf(size_t row) const { return m_codes[row]; }
-  /// The texts by number; number 0 is NULL.
-  const std::vector<QString>& texts() const { return m_texts; }
-  /// Place for the sort keys of the texts, made when first compared.
-  std::vector<QByteArray>& keys() const { return m_keys; }
+  uint32_t number(QStringView text);
+  const QString& text(uint32_t number) const { return m_texts[number]; }
+  /// Bytes that compare as the texts do, made when first compared: in Japanese order, or by value.
+  const QByteArray& key(uint32_t number, bool byValue);
 
  private:
-  uint32_t code(QStringView text);
-  std::vector<uint32_t> m_codes;
   std::vector<QString> m_texts{QString()};
-  QHash<QString, uint32_t> m_byText;
-  mutable std::vector<QByteArray> m_keys;
+  std::vector<QByteArray> m_keys;
+  QHash<QString, uint32_t> m_known;
+  size_t m_asked = 0;
+};
+
+/// One column of a table in memory as sorting compares it: the number of its text for each row.
+class SortColumn {
+ public:
+  void append(QStringView text) { m_numbers.push_back(m_texts->number(text)); }
+  void replace(size_t row, QStringView text) { m_numbers[row] = m_texts->number(text); }
+  void erase(size_t row) { m_numbers.erase(m_numbers.begin() + static_cast<std::ptrdiff_t>(row)); }
+
+  const std::vector<uint32_t>& numbers() const { return m_numbers; }
+  const std::shared_ptr<SortTexts>& texts() const { return m_texts; }
+
+ private:
+  std::vector<uint32_t> m_numbers;
+  std::shared_ptr<SortTexts> m_texts = std::make_shared<SortTexts>();
 };
 
 /// Memory copy of the searched and sorted columns of one table, row by row in ID order. Filled column by
@@ -73,6 +84,8 @@ class TableCopy {
   void rowRemoved(qint64 id);
 
  private:
+  /// The IDs of a table from which no row was deleted are known by their ends, without walking through them.
+  Result<bool> loadUnbrokenIds(StatementCache& statements);
   QVector<int> missing(const QVector<int>& searched, const QVector<int>& sorted) const;
 
   TableFile m_file;

@@ -36,14 +36,10 @@ QString TableFile::selectText(const QVector<int>& columns) const {
          QStringLiteral(" WHERE \"ID\"=?1");
 }
 
-Result<Row> TableFile::read(qint64 id) const { return readWith(m_selectAll, m_allColumns, id); }
+Result<Row> TableFile::read(qint64 id) const { return read(id, m_allColumns, m_selectAll); }
 
-Result<Row> TableFile::read(qint64 id, const QVector<int>& columns) const {
-  return readWith(selectText(columns), columns, id);
-}
-
-Result<Row> TableFile::readWith(const QString& sql, const QVector<int>& columns, qint64 id) const {
-  Result<Statement*> statement = m_statements->get(sql);
+Result<Row> TableFile::read(qint64 id, const QVector<int>& columns, const QString& selectText) const {
+  Result<Statement*> statement = m_statements->get(selectText);
   if (!statement) return statement.fault();
   (*statement)->bind(1, id);
   const Result<bool> found = (*statement)->step();

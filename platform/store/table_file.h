@@ -42,8 +42,9 @@ class TableFile {
 
   /// Reads a row; an empty one where the ID does not stand.
   Result<Row> read(qint64 id) const;
-  /// Reads some columns of a row; an empty row where the ID does not stand.
-  Result<Row> read(qint64 id, const QVector<int>& columns) const;
+  /// Reads some columns of a row by their selectText(); an empty row where the ID does not stand.
+  Result<Row> read(qint64 id, const QVector<int>& columns, const QString& selectText) const;
+  QString selectText(const QVector<int>& columns) const;
   /// Adds a row; its ID is the one among the values or else assigned by the file.
   Result<qint64> insert(const RowValues& values) const;
   Done update(qint64 id, const RowValues& values) const;
@@ -53,8 +54,6 @@ class TableFile {
   Result<RowValues> accept(const QHash<QString, Value>& columns) const;
 
  private:
-  QString selectText(const QVector<int>& columns) const;
-  Result<Row> readWith(const QString& sql, const QVector<int>& columns, qint64 id) const;
 
   StatementCache* m_statements;
   std::shared_ptr<const TableSchema> m_schema;
