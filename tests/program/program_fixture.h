@@ -9,8 +9,6 @@
 #include "platform/screen/testing/screen_probe.h"
 #include "platform/voice/recording_channel.h"
 
-// Readable texts in failures.
-inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
 
 namespace program {
 
