@@ -1,54 +1,67 @@
 #pragma once
 
 #include "platform/report/cairo_handles.h"
-#include "platform/report/slim_font.h"
 
 #include <QHash>
 #include <QString>
+#include <ft2build.h>
+#include <vector>
+#include FT_FREETYPE_H
 
 struct hb_font_t;
 
 namespace report {
 
-/// One font file, opened twice: once as it is, for looking up glyphs, and once as the slim font that the
-/// page writer embeds. The slim font has no character table: with one the writer gives a shared glyph back
-/// as the lowest of its codes, so that a kanji would be read from the PDF as the radical that looks like
-/// it. Without it the writer keeps the text that is handed to it with each glyph.
-///
-/// Glyph numbers are those of the font that the page writer uses.
+using FontLibrary = std::shared_ptr<FT_LibraryRec_>;
+
+/// A glyph as documents embed it.
+struct SlimGlyph {
+  unsigned original = 0;  ///< its number in the font file
+  QString text;           ///< what it stands for
+  int advance = 0;        ///< in units of kSlimEm
+  QByteArray outline;     ///< see slimOutline
+};
+
+/// One font file. Glyphs get numbers of our own, one for each character that was ever set: the fonts of the
+/// forms draw a kanji and the radical that looks like it with one and the same glyph, and only with two
+/// numbers for it does the text of a document come back as it was typed.
 class Font {
  public:
-  /// nullptr if the file is no font that can be read.
-  static std::unique_ptr<Font> open(const FontLibrary& library, const QString& path, int faceNumber);
+  /// nullptr if the file is no font that can be read. The id tells the fonts of a run apart.
+  static std::unique_ptr<Font> open(const FontLibrary& library, const QString& path, int faceNumber, int id);
   ~Font();
   Font(const Font&) = delete;
   Font& operator=(const Font&) = delete;
 
-  bool has(char32_t character) { return lookup(character) != 0; }
-  /// The empty box if the font lacks the character.
-  unsigned glyph(char32_t character) { return written(lookup(character)); }
-  /// The page writer's number for a glyph that the shaper named.
-  unsigned written(unsigned original) { return m_slim ? m_slim->glyph(original) : original; }
-  /// Advance in em.
-  double advance(unsigned glyph);
+  int id() const { return m_id; }
+  QByteArray name() const;
+  bool has(char32_t character);
+  /// Our number for the character; the font's empty box if it lacks it.
+  unsigned number(char32_t character);
+  /// Our number for a glyph of the file that the shaper chose for this text.
+  unsigned number(unsigned original, const QString& text);
+  const SlimGlyph& glyph(unsigned number) const { return m_glyphs[number]; }
+  /// Of the glyph with our number, in em.
+  double advance(unsigned number) const;
+
+  /// For drawing on images; it takes the original glyph numbers.
   cairo_font_face_t* face() const { return m_face.get(); }
-  /// The font in a size given in points, for an untransformed page.
-  cairo_scaled_font_t* scaled(double pt);
   /// For the few texts that need shaping (vertical forms, combining marks). One em is shaperEm() units.
   hb_font_t* shaper();
-  double shaperEm() const { return 64.0 * m_original->units_per_EM; }
+  double shaperEm() const { return 64.0 * m_file->units_per_EM; }
 
  private:
-  explicit Font(const FontLibrary& library) : m_library(library) {}
-  unsigned lookup(char32_t character);
+  Font(const FontLibrary& library, int id) : m_library(library), m_id(id) {}
+  unsigned add(unsigned original, const QString& text);
 
   FontLibrary m_library;
-  std::shared_ptr<FT_FaceRec_> m_original;
-  std::shared_ptr<SlimFont> m_slim;
+  int m_id;
+  std::shared_ptr<FT_FaceRec_> m_file;
   FontFace m_face;
   hb_font_t* m_shaper = nullptr;
-  QHash<char32_t, unsigned> m_glyphs;
-  QHash<int, cairo_scaled_font_t*> m_scaled;
+  std::vector<SlimGlyph> m_glyphs;
+  QHash<char32_t, unsigned> m_byCharacter;
+  QHash<QString, unsigned> m_shaped;
 };
 
 }  // namespace report

@@ -57,7 +57,7 @@ FontStore::FontStore() {
 Font* FontStore::open(const QString& path, int faceNumber) {
   if (path.isEmpty()) return nullptr;
   const auto key = std::pair(path, faceNumber);
-  if (!m_opened.contains(key)) m_opened[key] = Font::open(m_library, path, faceNumber & 0xffff);
+  if (!m_opened.contains(key)) m_opened[key] = Font::open(m_library, path, faceNumber & 0xffff, int(m_opened.size()));
   return m_opened[key].get();
 }
 

@@ -13,18 +13,16 @@ void HandPage::setFont(const QString& family) {
   m_face = gothic ? Typeface::Gothic : Typeface::Mincho;
 }
 
-void HandPage::output(cairo_t* page, TextShaper& shaper, PagePainter& painter, double x, double y,
-                      const QString& text) const {
+void HandPage::output(Canvas& canvas, TextShaper& shaper, double x, double y, const QString& text) const {
   const double left = (m_originX + x) * kPointsPerMm;
   const double baseline = (m_originY + y + kAscent * m_size) * kPointsPerMm;
-  painter.paintLine(page, *shaper.shape(m_face, text), left, baseline, m_size * kPointsPerMm);
+  for (const Run& run : shaper.shape(m_face, text)->runs) canvas.text(run, left, baseline, m_size * kPointsPerMm);
 }
 
-void HandPage::line(cairo_t* page, double x1, double y1, double x2, double y2) const {
-  cairo_move_to(page, (m_originX + x1) * kPointsPerMm, (m_originY + y1) * kPointsPerMm);
-  cairo_line_to(page, (m_originX + x2) * kPointsPerMm, (m_originY + y2) * kPointsPerMm);
-  cairo_set_line_width(page, m_pen * kPointsPerMm);
-  cairo_stroke(page);
+void HandPage::line(Canvas& canvas, double x1, double y1, double x2, double y2) const {
+  canvas.moveTo((m_originX + x1) * kPointsPerMm, (m_originY + y1) * kPointsPerMm);
+  canvas.lineTo((m_originX + x2) * kPointsPerMm, (m_originY + y2) * kPointsPerMm);
+  canvas.stroke(m_pen * kPointsPerMm);
 }
 
 Paper chosenPaper(const PrinterChoice& choice) {

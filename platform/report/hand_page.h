@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report/page_painter.h"
+#include "platform/report/canvas.h"
 #include "platform/report/printer_choice.h"
 
 namespace report {
@@ -16,8 +16,8 @@ class HandPage {
   void setFontSize(int size) { m_size = size / 10.0; }
   void setPen(int width) { m_pen = width / 10.0; }
   /// x, y: the upper left corner of the text.
-  void output(cairo_t* page, TextShaper& shaper, PagePainter& painter, double x, double y, const QString& text) const;
-  void line(cairo_t* page, double x1, double y1, double x2, double y2) const;
+  void output(Canvas& canvas, TextShaper& shaper, double x, double y, const QString& text) const;
+  void line(Canvas& canvas, double x1, double y1, double x2, double y2) const;
 
  private:
   double m_left = 0;

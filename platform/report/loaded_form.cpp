@@ -1,5 +1,6 @@
 #include "platform/report/loaded_form.h"
 
+#include "platform/report/pdf_document.h"
 #include "platform/report/rule_merger.h"
 
 #include <algorithm>
@@ -8,59 +9,93 @@ namespace report {
 
 namespace {
 
-constexpr size_t kMostRecords = 64;  // of one template; labels with data in them could make any number
+constexpr size_t kMostParts = 64;  // of one template; labels with data in them could make any number
 
 bool isFrame(const Item& item) { return item.kind == Kind::Label || item.kind == Kind::Box || item.kind == Kind::Line; }
+
+bool anyShown(const std::vector<int>& items, const std::vector<ItemState>& states) {
+  return std::any_of(items.begin(), items.end(), [&](int i) { return states[size_t(i)].shown; });
+}
+
+std::vector<ItemState> storedStates(const Form& form) {
+  std::vector<ItemState> states;
+  states.reserve(form.items.size());
+  for (const Item& item : form.items) states.push_back({!item.hidden, item.align, item.text});
+  return states;
+}
+
+void paintFrame(Canvas& canvas, const FrameStore& frames, const std::vector<ItemState>& states, PagePainter& painter) {
+  RuleMerger rules;
+  for (int block = 0; block < frames.blocks(); ++block) {
+    const std::vector<int>& items = frames.frame()[size_t(block)];
+    if (!anyShown(items, states)) continue;
+    canvas.openParagraph(block);
+    for (const int i : items) {
+      const Item& item = frames.form()->items[size_t(i)];
+      painter.paint(canvas, item, states[size_t(i)]);
+      if (states[size_t(i)].shown && item.kind == Kind::Box) rules.addBox(item.rect, item.rule);
+      if (states[size_t(i)].shown && item.kind == Kind::Line) rules.addLine(item.rect, item.rule);
+    }
+    canvas.closeParagraph();
+  }
+  canvas.openParagraph(kArtifact);
+  rules.draw(canvas);
+  canvas.closeParagraph();
+}
 
 }  // namespace
 
 FrameStore::FrameStore(FormPtr form) : m_form(std::move(form)) {
-  m_data.resize(size_t(std::max<qsizetype>(m_form->blocks.size(), 1)));
+  m_frame.resize(size_t(std::max<qsizetype>(m_form->blocks.size(), 1)));
+  m_data.resize(m_frame.size());
   for (int i = 0; i < int(m_form->items.size()); ++i) {
     const Item& item = m_form->items[size_t(i)];
-    (isFrame(item) ? m_frame : m_data[size_t(item.block)]).push_back(i);
+    (isFrame(item) ? m_frame : m_data)[size_t(item.block)].push_back(i);
   }
 }
 
-cairo_surface_t* FrameStore::record(const std::vector<ItemState>& states, bool asStored, PagePainter& painter) {
+std::shared_ptr<const FramePart> FrameStore::part(const std::vector<ItemState>& states, bool asStored,
+                                                  PagePainter& painter) {
   const QByteArray key = asStored ? QByteArray() : signature(states);
-  if (const auto known = m_records.find(key); known != m_records.end()) return known->second.get();
-  if (m_records.size() >= kMostRecords) m_records.clear();
-  return (m_records[key] = paint(states, painter)).get();
+  if (const auto known = m_parts.find(key); known != m_parts.end()) return known->second;
+  if (m_parts.size() >= kMostParts) m_parts.clear();
+  std::shared_ptr<const FramePart>& made = m_parts[key];
+  const bool any = std::any_of(m_frame.begin(), m_frame.end(), [&](const auto& items) { return anyShown(items, states); });
+  if (!any) return made;
+  auto part = std::make_shared<FramePart>();
+  part->fonts = fonts(painter);
+  PdfCanvas canvas(m_form->height() * kPointsPerMm, &part->fonts->glyphs);
+  paintFrame(canvas, *this, states, painter);
+  part->content = PackedStream::of(canvas.finish());
+  part->paragraphs = canvas.paragraphs();
+  part->ownGlyphs = canvas.ownGlyphs();
+  return made = part;
 }
 
-Surface FrameStore::paint(const std::vector<ItemState>& states, PagePainter& painter) const {
-  const auto shown = [&](int i) { return states[size_t(i)].shown; };
-  if (std::none_of(m_frame.begin(), m_frame.end(), shown)) return nullptr;
-  const cairo_rectangle_t extents{0, 0, m_form->width() * kPointsPerMm, m_form->height() * kPointsPerMm};
-  Surface record(cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &extents));
-  Context page(cairo_create(record.get()));
-  RuleMerger rules;
-  for (const int i : m_frame) {
-    const Item& item = m_form->items[size_t(i)];
-    if (!shown(i)) continue;
-    if (item.kind == Kind::Box) rules.addBox(item.rect, item.rule);
-    else if (item.kind == Kind::Line) rules.addLine(item.rect, item.rule);
-    else painter.paint(page.get(), item, states[size_t(i)]);
-  }
-  rules.draw(page.get());
-  return record;
+std::shared_ptr<const FrameFonts> FrameStore::fonts(PagePainter& painter) {
+  if (m_fonts) return m_fonts;
+  std::vector<ItemState> states = storedStates(*m_form);
+  PdfCanvas canvas(m_form->height() * kPointsPerMm, nullptr);
+  paintFrame(canvas, *this, states, painter);
+  auto fonts = std::make_shared<FrameFonts>();
+  fonts->glyphs = canvas.ownGlyphs();
+  for (const auto& [font, numbers] : fonts->glyphs) fonts->programs[font] = makeProgram(*font, numbers);
+  return m_fonts = fonts;
 }
 
 QByteArray FrameStore::signature(const std::vector<ItemState>& states) const {
   QByteArray sum = "*";
-  for (const int i : m_frame) {
-    const ItemState& state = states[size_t(i)];
-    sum += char('0' + int(state.shown) * 4 + int(state.align));
-    if (state.shown && state.text != m_form->items[size_t(i)].text) sum += state.text.toUtf8() + '\n';
-  }
+  for (const std::vector<int>& block : m_frame)
+    for (const int i : block) {
+      const ItemState& state = states[size_t(i)];
+      sum += char('0' + int(state.shown) * 4 + int(state.align));
+      if (state.shown && state.text != m_form->items[size_t(i)].text) sum += state.text.toUtf8() + '\n';
+    }
   return sum;
 }
 
-LoadedForm::LoadedForm(std::shared_ptr<FrameStore> frames) : m_frames(std::move(frames)) {
-  m_states.reserve(form().items.size());
-  for (const Item& item : form().items) m_states.push_back({!item.hidden, item.align, item.text});
-}
+LoadedForm::LoadedForm(std::shared_ptr<FrameStore> frames)
+    : m_frames(std::move(frames)), m_states(storedStates(*m_frames->form())) {}
 
 ItemState* LoadedForm::change(const QString& item) {
   const int at = form().find(item);
@@ -69,21 +104,24 @@ ItemState* LoadedForm::change(const QString& item) {
   return &m_states[size_t(at)];
 }
 
-void LoadedForm::paint(cairo_t* page, PagePainter& painter, bool tagged) {
-  cairo_set_source_rgb(page, 0, 0, 0);
-  // The frame stays outside the tags: the page library gets its nesting wrong when a record is painted
-  // inside one.
-  if (cairo_surface_t* frame = m_frames->record(m_states, !m_frameTouched, painter)) {
-    cairo_set_source_surface(page, frame, 0, 0);
-    cairo_paint(page);
-    cairo_set_source_rgb(page, 0, 0, 0);
-  }
-  const auto shown = [&](int i) { return m_states[size_t(i)].shown; };
-  for (const std::vector<int>& block : m_frames->dataBlocks()) {
-    if (std::none_of(block.begin(), block.end(), shown)) continue;
-    if (tagged) cairo_tag_begin(page, "P", nullptr);
-    for (const int i : block) painter.paint(page, form().items[size_t(i)], m_states[size_t(i)]);
-    if (tagged) cairo_tag_end(page, "P");
+void LoadedForm::play(PdfDocument& document, PagePainter& painter) {
+  const auto frame = m_frames->part(m_states, !m_frameTouched, painter);
+  paintData(document.beginPage(form().width(), form().height(), frame, m_frames->blocks()), painter);
+  document.endPage();
+}
+
+void LoadedForm::paint(Canvas& canvas, PagePainter& painter) const {
+  paintFrame(canvas, *m_frames, m_states, painter);
+  paintData(canvas, painter);
+}
+
+void LoadedForm::paintData(Canvas& canvas, PagePainter& painter) const {
+  for (int block = 0; block < m_frames->blocks(); ++block) {
+    const std::vector<int>& items = m_frames->data()[size_t(block)];
+    if (!anyShown(items, m_states)) continue;
+    canvas.openParagraph(m_frames->blocks() + block);
+    for (const int i : items) painter.paint(canvas, form().items[size_t(i)], m_states[size_t(i)]);
+    canvas.closeParagraph();
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/report/canvas.h"
 #include "platform/report/picture_store.h"
 #include "platform/report/text_fitter.h"
 
@@ -14,23 +15,21 @@ struct ItemState {
   bool operator==(const ItemState&) const = default;
 };
 
-/// Draws items on a page measured in points.
+/// Draws items on a canvas. Boxes and lines are not drawn one by one: see RuleMerger.
 class PagePainter {
  public:
   PagePainter(TextShaper& shaper, PictureStore& pictures) : m_shaper(shaper), m_pictures(pictures) {}
 
   /// Does nothing for an item that is not shown.
-  void paint(cairo_t* page, const Item& item, const ItemState& state);
-  void paintLine(cairo_t* page, const ShapedText& text, double x, double y, double pt);
+  void paint(Canvas& canvas, const Item& item, const ItemState& state);
 
  private:
-  void paintText(cairo_t* page, const Item& item, const ItemState& state);
-  void paintChoice(cairo_t* page, const Item& item, const QString& text);
-  void paintPicture(cairo_t* page, const Item& item, const QString& text);
+  void paintText(Canvas& canvas, const Item& item, const ItemState& state);
+  void paintChoice(Canvas& canvas, const Item& item, const QString& text);
+  void paintPicture(Canvas& canvas, const Item& item, const QString& text);
 
   TextShaper& m_shaper;
   PictureStore& m_pictures;
-  std::vector<cairo_glyph_t> m_glyphs;
 };
 
 }  // namespace report

@@ -40,17 +40,14 @@ void ReportEngine::PR_RepSetTextAlign(const QString& item, int align) {
 
 void ReportEngine::PR_PlayReport() {
   if (!m_document || !m_loaded) return;
-  const Form& form = m_loaded->form();
-  m_loaded->paint(m_document->beginPage(form.width(), form.height()), m_painter, true);
-  m_document->endPage();
+  m_loaded->play(*m_document, m_painter);
 }
 
 void ReportEngine::PR_EndDoc() {
   if (!m_document) return;
-  m_document->endPage();
+  if (m_document->page()) PR_EndPage();
   if (m_document->pages() > 0) {
-    const QByteArray pdf = m_document->finish();
-    if (!pdf.isEmpty()) m_sink->take(pdf);
+    m_sink->take(m_document->finish());
   }
   PR_AbortDoc();
 }
@@ -65,23 +62,29 @@ void ReportEngine::PR_PrinterSetupDlg(quintptr window) {
   if (m_dialog) m_dialog(window, m_choice);
 }
 
-cairo_t* ReportEngine::handPage() {
+// Pages drawn by hand are one paragraph each.
+Canvas* ReportEngine::handPage() {
   if (!m_document) return nullptr;
-  if (m_document->pageOpen()) return m_document->page();
+  if (Canvas* open = m_document->page()) return open;
   const Paper paper = chosenPaper(m_choice);
-  return m_document->beginPage(paper.w, paper.h);
+  Canvas& canvas = m_document->beginPage(paper.w, paper.h);
+  canvas.openParagraph(0);
+  return &canvas;
 }
 
 void ReportEngine::PR_Output(float x, float y, const QString& text) {
-  if (cairo_t* page = handPage()) m_hand.output(page, m_shaper, m_painter, x, y, text);
+  if (Canvas* page = handPage()) m_hand.output(*page, m_shaper, x, y, text);
 }
 
 void ReportEngine::PR_Line(float x1, float y1, float x2, float y2) {
-  if (cairo_t* page = handPage()) m_hand.line(page, x1, y1, x2, y2);
+  if (Canvas* page = handPage()) m_hand.line(*page, x1, y1, x2, y2);
 }
 
 void ReportEngine::PR_EndPage() {
-  if (handPage()) m_document->endPage();
+  Canvas* page = handPage();
+  if (!page) return;
+  page->closeParagraph();
+  m_document->endPage();
 }
 
 }  // namespace report

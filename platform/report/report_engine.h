@@ -52,7 +52,7 @@ class ReportEngine final : public ReportOperations {
   void PR_EndPage() override;
 
  private:
-  cairo_t* handPage();
+  Canvas* handPage();
 
   FontStore m_fonts;
   TextShaper m_shaper;

@@ -47,28 +47,26 @@ std::vector<RuleMerger::Span> RuleMerger::joined(std::vector<Span> spans) {
   return result;
 }
 
-void RuleMerger::draw(cairo_t* page) const {
-  cairo_save(page);
-  cairo_set_line_cap(page, CAIRO_LINE_CAP_SQUARE);
+void RuleMerger::draw(Canvas& canvas) const {
   for (const auto& [rule, width] : m_widths) {
+    // Half a rule more at both ends, so that corners are closed.
+    const double more = rule * kPointsPerMm / 2;
     for (const auto& [y, spans] : width.across)
       for (const Span& span : joined(spans)) {
-        cairo_move_to(page, span.from / kGrid, y / kGrid);
-        cairo_line_to(page, span.to / kGrid, y / kGrid);
+        canvas.moveTo(span.from / kGrid - more, y / kGrid);
+        canvas.lineTo(span.to / kGrid + more, y / kGrid);
       }
     for (const auto& [x, spans] : width.down)
       for (const Span& span : joined(spans)) {
-        cairo_move_to(page, x / kGrid, span.from / kGrid);
-        cairo_line_to(page, x / kGrid, span.to / kGrid);
+        canvas.moveTo(x / kGrid, span.from / kGrid);
+        canvas.lineTo(x / kGrid, span.to / kGrid);
       }
     for (const Rect& line : width.slanting) {
-      cairo_move_to(page, line.x * kPointsPerMm, line.y * kPointsPerMm);
-      cairo_rel_line_to(page, line.w * kPointsPerMm, line.h * kPointsPerMm);
+      canvas.moveTo(line.x * kPointsPerMm, line.y * kPointsPerMm);
+      canvas.lineTo((line.x + line.w) * kPointsPerMm, (line.y + line.h) * kPointsPerMm);
     }
-    cairo_set_line_width(page, rule * kPointsPerMm);
-    cairo_stroke(page);
+    canvas.stroke(rule * kPointsPerMm);
   }
-  cairo_restore(page);
 }
 
 }  // namespace report

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report/cairo_handles.h"
+#include "platform/report/canvas.h"
 #include "platform/report/form.h"
 
 #include <map>
@@ -15,7 +15,7 @@ class RuleMerger {
   void addBox(const Rect& rect, double rule);
   /// A slanting line is kept as it is.
   void addLine(const Rect& ends, double rule);
-  void draw(cairo_t* page) const;
+  void draw(Canvas& canvas) const;
 
  private:
   struct Span {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <vector>
+#include FT_OUTLINE_H
 
 namespace report {
 
@@ -48,20 +49,48 @@ void thin(Contour& contour) {
   }
 }
 
-std::vector<Contour> readContours(const FT_Outline& outline, int unitsPerEm) {
+/// Takes an outline apart; cubic curves become two quadratic ones each.
+struct Reader {
+  int unitsPerEm;
   std::vector<Contour> contours;
-  int start = 0;
-  for (int c = 0; c < outline.n_contours; ++c) {
-    Contour contour;
-    for (int i = start; i <= outline.contours[c]; ++i) {
-      const auto scale = [&](FT_Pos v) { return int(std::lround(double(v) * kSlimEm / unitsPerEm)); };
-      contour.push_back({scale(outline.points[i].x), scale(outline.points[i].y), (outline.tags[i] & 1) != 0});
-    }
-    start = outline.contours[c] + 1;
-    thin(contour);
-    if (contour.size() > 2) contours.push_back(std::move(contour));
+  FT_Vector last{0, 0};
+
+  void add(FT_Pos x, FT_Pos y, bool on) {
+    const auto scale = [&](FT_Pos v) { return int(std::lround(double(v) * kSlimEm / unitsPerEm)); };
+    contours.back().push_back({scale(x), scale(y), on});
   }
-  return contours;
+  static Reader& of(void* user) { return *static_cast<Reader*>(user); }
+
+  static int move(const FT_Vector* to, void* user) {
+    of(user).contours.emplace_back();
+    return line(to, user);
+  }
+  static int line(const FT_Vector* to, void* user) {
+    of(user).add(to->x, to->y, true);
+    of(user).last = *to;
+    return 0;
+  }
+  static int conic(const FT_Vector* control, const FT_Vector* to, void* user) {
+    of(user).add(control->x, control->y, false);
+    return line(to, user);
+  }
+  static int cubic(const FT_Vector* a, const FT_Vector* b, const FT_Vector* to, void* user) {
+    Reader& self = of(user);
+    const FT_Vector from = self.last;
+    self.add((from.x + 3 * a->x) / 4, (from.y + 3 * a->y) / 4, false);
+    self.add((from.x + 3 * a->x + 3 * b->x + to->x) / 8, (from.y + 3 * a->y + 3 * b->y + to->y) / 8, true);
+    self.add((to->x + 3 * b->x) / 4, (to->y + 3 * b->y) / 4, false);
+    return line(to, user);
+  }
+};
+
+std::vector<Contour> readContours(FT_Outline& outline, int unitsPerEm) {
+  static constexpr FT_Outline_Funcs functions{Reader::move, Reader::line, Reader::conic, Reader::cubic, 0, 0};
+  Reader reader{unitsPerEm, {}, {0, 0}};
+  FT_Outline_Decompose(&outline, &functions, &reader);
+  for (Contour& contour : reader.contours) thin(contour);
+  std::erase_if(reader.contours, [](const Contour& contour) { return contour.size() < 3; });
+  return std::move(reader.contours);
 }
 
 void append16(QByteArray& bytes, int value) {
@@ -108,7 +137,7 @@ void appendBounds(QByteArray& glyph, const std::vector<Contour>& contours) {
 
 }  // namespace
 
-QByteArray slimOutline(const FT_Outline& outline, int unitsPerEm) {
+QByteArray slimOutline(FT_Outline& outline, int unitsPerEm) {
   const std::vector<Contour> contours = readContours(outline, unitsPerEm);
   if (contours.empty()) return {};
   QByteArray glyph, xs, ys;

@@ -1,5 +1,6 @@
 #include "platform/report/text_shaper.h"
 
+#include <algorithm>
 #include <hb.h>
 
 namespace report {
@@ -18,32 +19,14 @@ bool isPlain(char32_t c) {
          (c >= 0xFE30 && c <= 0xFFEF) || (c >= 0x20000 && c <= 0x3FFFF);
 }
 
-void appendUtf8(QByteArray& bytes, char32_t c) {
-  if (c < 0x80) {
-    bytes += char(c);
-  } else if (c < 0x800) {
-    bytes += char(0xC0 | (c >> 6));
-    bytes += char(0x80 | (c & 0x3F));
-  } else if (c < 0x10000) {
-    bytes += char(0xE0 | (c >> 12));
-    bytes += char(0x80 | ((c >> 6) & 0x3F));
-    bytes += char(0x80 | (c & 0x3F));
-  } else {
-    bytes += char(0xF0 | (c >> 18));
-    bytes += char(0x80 | ((c >> 12) & 0x3F));
-    bytes += char(0x80 | ((c >> 6) & 0x3F));
-    bytes += char(0x80 | (c & 0x3F));
-  }
-}
-
 /// A span of characters of one font.
-struct Span {
+struct FontSpan {
   Font* font;
   std::u32string characters;
 };
 
-std::vector<Span> spansByFont(FontStore& fonts, Typeface face, const std::u32string& text) {
-  std::vector<Span> spans;
+std::vector<FontSpan> spansByFont(FontStore& fonts, Typeface face, const std::u32string& text) {
+  std::vector<FontSpan> spans;
   for (const char32_t c : text) {
     // A mark or a selector belongs to the character before it, whatever its own font.
     const bool joins = !spans.empty() && !isPlain(c) && !fonts.font(face)->has(c);
@@ -54,84 +37,87 @@ std::vector<Span> spansByFont(FontStore& fonts, Typeface face, const std::u32str
   return spans;
 }
 
-Run plainRun(const Span& span, double& pen) {
-  Run run{span.font, {}, {}, {}};
-  for (const char32_t c : span.characters) {
-    const qsizetype before = run.utf8.size();
-    appendUtf8(run.utf8, c);
-    const unsigned glyph = span.font->glyph(c);
-    run.glyphs.push_back({glyph, pen, 0});
-    run.clusters.push_back({int(run.utf8.size() - before), 1});
-    pen += span.font->advance(glyph);
+/// A run in the making: the text of every glyph, and whether it belongs to the glyph before.
+struct Draft {
+  Run run;
+  std::vector<QString> texts;
+  std::vector<bool> bonded;
+
+  void add(const PlacedGlyph& glyph, const QString& text, bool bond) {
+    run.glyphs.push_back(glyph);
+    texts.push_back(text);
+    bonded.push_back(bond && run.glyphs.size() > 1);
   }
-  return run;
+
+  // Readers of PDF drop blanks and put their own guess of one where a gap is wide. A blank that is told
+  // together with its neighbours comes back as it was typed.
+  void bondBlanks() {
+    for (size_t i = 0; i < texts.size(); ++i) {
+      if (texts[i].size() != 1 || !isBlank(texts[i][0].unicode())) continue;
+      if (i > 0) bonded[i] = true;
+      if (i + 1 < texts.size()) bonded[i + 1] = true;
+    }
+  }
+
+  Run finish() {
+    bondBlanks();
+    for (size_t i = 1; i < bonded.size(); ++i) {
+      if (!bonded[i]) continue;
+      if (run.spans.empty() || run.spans.back().first + run.spans.back().count != i)
+        run.spans.push_back({i - 1, 1, texts[i - 1]});
+      ++run.spans.back().count;
+      run.spans.back().text += texts[i];
+    }
+    return std::move(run);
+  }
+};
+
+Run plainRun(const FontSpan& span, double& pen) {
+  Draft draft{{span.font, {}, {}}, {}, {}};
+  const bool blanks = std::any_of(span.characters.begin(), span.characters.end(), isBlank);
+  for (const char32_t c : span.characters) {
+    const unsigned number = span.font->number(c);
+    if (blanks) draft.add({number, pen, 0}, QString::fromUcs4(&c, 1), false);
+    else draft.run.glyphs.push_back({number, pen, 0});
+    pen += span.font->advance(number);
+  }
+  return draft.finish();
 }
 
 /// The road for everything else: vertical forms, marks that combine, scripts of other countries.
-Run shapedRun(const Span& span, bool vertical, double& pen) {
-  Run run{span.font, {}, {}, {}};
-  std::vector<int> ends;  // of each character in utf8
+Run shapedRun(const FontSpan& span, bool vertical, double& pen) {
+  Draft draft{{span.font, {}, {}}, {}, {}};
   hb_buffer_t* buffer = hb_buffer_create();
-  hb_buffer_add_utf32(buffer, reinterpret_cast<const uint32_t*>(span.characters.data()), int(span.characters.size()), 0,
-                      int(span.characters.size()));
+  const int length = int(span.characters.size());
+  hb_buffer_add_utf32(buffer, reinterpret_cast<const uint32_t*>(span.characters.data()), length, 0, length);
   hb_buffer_guess_segment_properties(buffer);
   hb_buffer_set_direction(buffer, vertical ? HB_DIRECTION_TTB : HB_DIRECTION_LTR);
   hb_shape(span.font->shaper(), buffer, nullptr, 0);
-  for (const char32_t c : span.characters) {
-    appendUtf8(run.utf8, c);
-    ends.push_back(int(run.utf8.size()));
-  }
   unsigned count = 0;
   const hb_glyph_info_t* info = hb_buffer_get_glyph_infos(buffer, &count);
   const hb_glyph_position_t* at = hb_buffer_get_glyph_positions(buffer, &count);
   const double em = span.font->shaperEm();
-  int start = 0;
   for (unsigned i = 0; i < count; ++i) {
     const double x = at[i].x_offset / em, y = -at[i].y_offset / em;
-    run.glyphs.push_back({span.font->written(info[i].codepoint), vertical ? x : pen + x, vertical ? pen + y : y});
-    pen += (vertical ? -at[i].y_advance : at[i].x_advance) / em;
-    if (i > 0 && info[i].cluster == info[i - 1].cluster) {
-      ++run.clusters.back().num_glyphs;
-      continue;
-    }
+    const bool bond = i > 0 && info[i].cluster == info[i - 1].cluster;
     unsigned next = i + 1;
     while (next < count && info[next].cluster == info[i].cluster) ++next;
-    const int end = next < count ? ends[info[next].cluster - 1] : int(run.utf8.size());
-    run.clusters.push_back({end - start, 1});
-    start = end;
+    const unsigned end = next < count ? info[next].cluster : unsigned(length);
+    QString text;
+    if (!bond) text = QString::fromUcs4(span.characters.data() + info[i].cluster, int(end - info[i].cluster));
+    const unsigned number = span.font->number(info[i].codepoint, text);
+    draft.add({number, vertical ? x : pen + x, vertical ? pen + y : y}, text, bond);
+    pen += (vertical ? -at[i].y_advance : at[i].x_advance) / em;
   }
   hb_buffer_destroy(buffer);
-  return run;
+  return draft.finish();
 }
 
-// Readers of PDF drop blanks and put their own guess of one where a gap is wide. A blank that shares
-// its cluster with its neighbours is given back as it was typed.
-void joinBlanks(Run& run) {
-  std::vector<cairo_text_cluster_t> joined;
-  int byte = 0;
-  bool blankBefore = false;
-  for (const cairo_text_cluster_t& cluster : run.clusters) {
-    const QByteArray bytes = run.utf8.mid(byte, cluster.num_bytes);
-    const bool blank = bytes == " " || bytes == "\xC2\xA0" || bytes == "\xE3\x80\x80";
-    byte += cluster.num_bytes;
-    if (!joined.empty() && (blank || blankBefore)) {
-      joined.back().num_bytes += cluster.num_bytes;
-      joined.back().num_glyphs += cluster.num_glyphs;
-    } else {
-      joined.push_back(cluster);
-    }
-    blankBefore = blank;
-  }
-  run.clusters = std::move(joined);
-}
-
-ShapedTextPtr shapeNow(FontStore& fonts, Typeface face, const std::u32string& text, bool vertical) {
+std::shared_ptr<ShapedText> shapeNow(FontStore& fonts, Typeface face, const std::u32string& text, bool vertical) {
   auto shaped = std::make_shared<ShapedText>();
-  for (const Span& span : spansByFont(fonts, face, text)) {
+  for (const FontSpan& span : spansByFont(fonts, face, text)) {
     const bool plain = !vertical && std::all_of(span.characters.begin(), span.characters.end(), isPlain);
-    Run run = plain ? plainRun(span, shaped->length) : shapedRun(span, vertical, shaped->length);
-    if (std::any_of(span.characters.begin(), span.characters.end(), isBlank)) joinBlanks(run);
-    shaped->runs.push_back(std::move(run));
+    shaped->runs.push_back(plain ? plainRun(span, shaped->length) : shapedRun(span, vertical, shaped->length));
   }
   return shaped;
 }
@@ -152,18 +138,19 @@ ShapedTextPtr TextShaper::shapeCut(Typeface face, const QString& text, qsizetype
   const std::u32string all = text.toStdU32String();
   if (shown >= qsizetype(all.size())) return shape(face, text, vertical);
   const std::u32string head = all.substr(0, size_t(std::max<qsizetype>(shown, 1)));
-  auto cut = std::make_shared<ShapedText>(*shapeNow(m_fonts, face, head, vertical));
-  if (cut->runs.empty() || cut->runs.back().clusters.empty()) return cut;
+  const std::shared_ptr<ShapedText> cut = shapeNow(m_fonts, face, head, vertical);
+  if (cut->runs.empty() || cut->runs.back().glyphs.empty()) return cut;
   Run& last = cut->runs.back();
-  const qsizetype before = last.utf8.size();
-  for (size_t i = head.size(); i < all.size(); ++i) appendUtf8(last.utf8, all[i]);
-  last.clusters.back().num_bytes += int(last.utf8.size() - before);
+  const size_t end = last.glyphs.size();
+  if (last.spans.empty() || last.spans.back().first + last.spans.back().count != end)
+    last.spans.push_back({end - 1, 1, last.font->glyph(last.glyphs.back().number).text});
+  last.spans.back().text += QString::fromStdU32String(all.substr(head.size()));
   return cut;
 }
 
 double TextShaper::advance(Typeface face, char32_t character) {
   Font* font = m_fonts.fontFor(face, character);
-  return font ? font->advance(font->glyph(character)) : 1;
+  return font ? font->advance(font->number(character)) : 1;
 }
 
 }  // namespace report

@@ -7,17 +7,23 @@
 namespace report {
 
 struct PlacedGlyph {
-  unsigned index = 0;
-  double x = 0;  ///< from the start of the text, in em, to the right
-  double y = 0;  ///< in em, downwards
+  unsigned number = 0;  ///< the font's own, see Font
+  double x = 0;         ///< from the start of the text, in em, to the right
+  double y = 0;         ///< in em, downwards
 };
 
-/// Glyphs of one font, with the text that they stand for, cluster by cluster.
+/// Glyphs whose text is told as a whole, because it is not just the sum of theirs.
+struct TextSpan {
+  size_t first = 0;
+  size_t count = 0;
+  QString text;
+};
+
+/// Glyphs of one font.
 struct Run {
   Font* font = nullptr;
-  QByteArray utf8;
   std::vector<PlacedGlyph> glyphs;
-  std::vector<cairo_text_cluster_t> clusters;
+  std::vector<TextSpan> spans;
 };
 
 /// A line of text, ready to be drawn in any size.

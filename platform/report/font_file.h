@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/report/font.h"
+
+#include <set>
+
+namespace report {
+
+/// A TrueType file with these glyphs of the font, under our numbers; all other numbers are blanks.
+QByteArray trueTypeFile(const Font& font, const std::set<unsigned>& numbers);
+
+}  // namespace report
