@@ -18,6 +18,17 @@ QString day(const char16_t* family, int index) {
 constexpr const char16_t* kDates[] = {u"被保険者の生年月日", u"療養を受ける者の生年月日", u"初療年月日",
                                       u"同意の年月日", u"実際の同意の年月日"};
 
+/// Whether the days of the month hold more than one number of massage areas.
+bool areasDiffer(const ClaimRecord& claim) {
+  QSet<int> numbers;
+  for (int number = 1; number <= 5; ++number)
+    for (int each = 1; each <= 31; ++each) {
+      const DayCode code(claim.code(each));
+      if (code.has(u'g', number) || code.has(u'i', number) || code.has(u'j', number)) numbers.insert(number);
+    }
+  return numbers.size() > 1;
+}
+
 }  // namespace
 
 void ClaimFormScreen::codeLeft(int index) {
@@ -45,6 +56,15 @@ void ClaimFormScreen::refillBoxes() {
   const AreaBoxes boxes = areaBoxes(record());
   for (int i = 0; i < int(boxes.areas.size()); ++i) setText(day(u"Text31", i), boxes.areas[size_t(i)]);
   for (int i = 0; i < int(boxes.limbs.size()); ++i) setText(day(u"Text41", i), boxes.limbs[size_t(i)]);
+  applyAreaWarning(true);
+}
+
+void ClaimFormScreen::applyAreaWarning(bool spoken) {
+  const QString label = QStringLiteral("LabelAreas");
+  const ClaimRecord claim = record();
+  const bool holds = kindOf(claim.get(QStringLiteral("施術内容"))) == Kind::Massage && areasDiffer(claim);
+  if (holds && spoken && !isControlShown(label)) voice().speakText(caption(label));
+  setShown(label, holds);
 }
 
 void ClaimFormScreen::insurerNumberLeft() {

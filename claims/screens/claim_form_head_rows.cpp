@@ -23,6 +23,7 @@ constexpr Row kRows[] = {
               .width = 8,
               .readOnly = true,
               .tip = u"（注）変更は出来ません"},
+    Note{.name = {u"LabelKind"}, .caption = u"（注）変更は出来ません"},
     TextField{.name = {u"txtFields", 3},
               .caption = u"施術科目:",
               .bind = Column{u"施術科目"},

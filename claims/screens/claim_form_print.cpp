@@ -15,14 +15,18 @@ constexpr const char16_t* kPreviews[] = {u"施術料金1",     u"施術料金2",
 
 }  // namespace
 
-void ClaimFormScreen::previewFees() {
-  if (m_id == 0) return;
-  applyMonth();
-  if (!mayLeave()) return;
+void ClaimFormScreen::closePreview() {
   for (const char16_t* preview : kPreviews)
     if (const QString name = QString::fromUtf16(preview); navigator().loaded(name) != nullptr)
       navigator().unload(name);
   m_state.previewKind = 0;
+}
+
+void ClaimFormScreen::previewFees() {
+  if (m_id == 0) return;
+  applyMonth();
+  if (!mayLeave()) return;
+  closePreview();
   const QString name = previewScreen(kindOf(m_read.get(QStringLiteral("施術内容"))), m_flags);
   for (int kind = 0; kind < int(std::size(kPreviews)); ++kind) {
     if (name != QString::fromUtf16(kPreviews[kind])) continue;

@@ -59,6 +59,7 @@ void ClaimFormScreen::closeForm() {
 
 void ClaimFormScreen::leaveTo(const QString& screenName) {
   const QString next = screenName.isEmpty() ? QStringLiteral("レセプト一覧表") : screenName;
+  closePreview();
   m_state.display = nullptr;
   if (navigator().loaded(next) != nullptr) navigator().show(next);
   navigator().unload(QString::fromUtf16(declaration().name.get()));

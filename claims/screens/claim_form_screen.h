@@ -135,6 +135,9 @@ class ClaimFormScreen : public screen::Screen {
   void step(void (store::RecordSet::*move)());
   void announce();
   void print(int kind);
+  void closePreview();
+  /// Shows the warning on differing numbers of areas where it holds; spoken when it comes up by an edit.
+  void applyAreaWarning(bool spoken);
   /// A window that stands alone; refused while one of its kind is open, and for months before 2018/10
   /// where `since201810`.
   void openSingle(const QString& name, bool since201810);

@@ -171,6 +171,7 @@ void ClaimFormScreen::takeValuesOfShow() {
   applyPrintDefaults();
   applyMonth();
   applyVisitTable();
+  applyAreaWarning(false);
   markCut({});
 }
 

@@ -58,6 +58,7 @@ constexpr Row kRows[] = {
     flag({u"chkFields", 39}, u"※特別地域（加算）での施術", Column{column::kSpecialArea, 2}),
     list({u"Combo1", 40}, u"請求区分:", Column{u"請求区分"}),
     list({u"Combo1", 41}, u"転帰:", Column{u"転帰"}),
+    field({u"txtFields", 109}, u"請求転帰:", Column{u"請求転帰"}, 8),
     field({u"txtFields", 103}, u"請求年月日:", Column{u"請求年月日"}, 16),
     field({u"txtFields", 104}, u"領収年月日:", Column{u"領収年月日"}, 16),
     field({u"txtFields", 102}, u"実際の距離:", Column{u"実際の距離"}, 6,

@@ -147,6 +147,21 @@ TEST_F(ClaimFormFields, BoxesFollowTheGridOfAMassageClaimOnly) {
   EXPECT_EQ(m_form->text(qs(u"Text41(3)")), qs(u"1"));
 }
 
+TEST_F(ClaimFormFields, DifferingNumbersOfAreasAreWarnedOfOnce) {
+  openNew(massage());
+  EXPECT_FALSE(m_form->isControlShown(qs(u"LabelAreas")));
+  m_channel.clear();
+  type(qs(u"Text5(9)"), qs(u"g3"));
+  EXPECT_TRUE(m_form->isControlShown(qs(u"LabelAreas")));
+  EXPECT_TRUE(m_channel.lastSaid().startsWith(qs(u"※マッサージの局数が異なる日がある場合")));
+  m_channel.clear();
+  type(qs(u"Text5(10)"), qs(u"g3"));
+  EXPECT_TRUE(m_channel.said().isEmpty());
+  type(qs(u"Text5(9)"), qs(u"i2"));
+  type(qs(u"Text5(10)"), qs(u""));
+  EXPECT_FALSE(m_form->isControlShown(qs(u"LabelAreas")));
+}
+
 TEST_F(ClaimFormFields, AListEntryBringsItsSiblings) {
   {
     auto database = store::Database::open(m_run.folders[frame::folder::kDoctors]);

@@ -22,7 +22,6 @@ constexpr Unshown kUnshown[] = {
     {1, u"保険順位", u"derived from 保険の種類 at store"},
     {1, u"保険証番号1", u"a key of the lists, written by no page"},
     {1, u"総括表", u"the mark of summary printing"},
-    {1, u"請求転帰", u"older name of 転帰, read by nothing"},
     {1, u"施術者Flag\\d+", u"flags of the older clinic profile"},
     {2, u"d1|d1[7-9]|d2\\d|d3[01]", u"reserve columns of a growth run, read by nothing"},
     {2, u"e\\d+", u"reserve columns of a growth run, read by nothing"},
