@@ -29,9 +29,9 @@ struct AmountLayout {
   const char16_t* record;  ///< column: h1, m1
   std::span<const AmountCell> cells;
   std::span<const AmountTriple> triples;
-  std::span<const int> singles;         ///< fields that stand alone
-  std::span<const AmountBox> crossed;   ///< boxes whose number is not their field's
-  int shareBox;                         ///< 一部負担金
+  std::span<const int> singles;        ///< fields that stand alone
+  std::span<const AmountBox> crossed;  ///< boxes whose number is not their field's
+  int shareBox;                        ///< 一部負担金
 };
 
 const AmountLayout& amountLayout(PrintKind kind);

@@ -49,9 +49,9 @@ void institutionCodeOfMie(Sheet& sheet, bool registered) {
   } else if (sheet.lateElderly()) {
     sheet.fields.hide(u"KikanCode");
     sheet.fields.hide(u"KikanCode1");
-    sheet.fields.show(u"KoukiCode", sheet.source.profile[sheet.source.acupuncture()
-                                                             ? frame::profile::kElderlyHari
-                                                             : frame::profile::kElderlyMassage]);
+    sheet.fields.show(u"KoukiCode",
+                      sheet.source.profile[sheet.source.acupuncture() ? frame::profile::kElderlyHari
+                                                                      : frame::profile::kElderlyMassage]);
   }
 }
 

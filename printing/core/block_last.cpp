@@ -10,7 +10,8 @@ struct LabelRow {
   const char16_t* item;
   const char16_t* text;
 };
-constexpr LabelRow kElderlyLabels[] = {{u"Text432", u"4 六外"}, {u"Text430", u"8 高外-"}, {u"Text433", u"0 高外7"}};
+constexpr LabelRow kElderlyLabels[] = {
+    {u"Text432", u"4 六外"}, {u"Text430", u"8 高外-"}, {u"Text433", u"0 高外7"}};
 constexpr const char16_t* kSeals[] = {u"Line500", u"Text104", u"Line501", u"Text106", u"Line504", u"Text427"};
 
 void showDay(Sheet& sheet, const char16_t* item, int day) {

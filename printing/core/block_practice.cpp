@@ -36,7 +36,8 @@ bool delegated(const Sheet& sheet) {
 QString numberOfPractitioner(const Sheet& sheet) {
   const frame::ClinicProfile& profile = sheet.source.profile;
   if (delegated(sheet))
-    return sheet.insuranceIs({u"共済", u"組合"}) ? licenceNumbers(sheet) : profile[frame::profile::kPractitionerNumber];
+    return sheet.insuranceIs({u"共済", u"組合"}) ? licenceNumbers(sheet)
+                                                 : profile[frame::profile::kPractitionerNumber];
   if (profile[frame::slot::kPrintLicence] == kLicencePrinted) return licenceNumbers(sheet);
   return profile[frame::profile::kRegistration];
 }
@@ -65,7 +66,8 @@ void practitionerBlock(Sheet& sheet) {
 void proxy(Sheet& sheet) {
   // The proxy is whose account is named in 支払機関欄.
   const Signer* who = signer(sheet.settings.of(Setting::Bank));
-  if (who == nullptr || !sheet.settings.on(Setting::ApplicantName) || !sheet.settings.on(Setting::Mandate)) return;
+  if (who == nullptr || !sheet.settings.on(Setting::ApplicantName) || !sheet.settings.on(Setting::Mandate))
+    return;
   sheet.show(u"Name56", who->address);
   sheet.fields.variant(kProxyName, sheet.value(who->name));
 }

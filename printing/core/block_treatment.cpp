@@ -19,12 +19,16 @@ QDate dayOfMonth(const Sheet& sheet, int day) {
 QString firstDayWord(char16_t letter) {
   switch (letter) {
     case u'a':
-    case u'b': return QStringLiteral("はり");
+    case u'b':
+      return QStringLiteral("はり");
     case u'c':
-    case u'd': return QStringLiteral("きゅう");
+    case u'd':
+      return QStringLiteral("きゅう");
     case u'e':
-    case u'f': return QStringLiteral("はりきゅう併用");
-    default: return QString();
+    case u'f':
+      return QStringLiteral("はりきゅう併用");
+    default:
+      return QString();
   }
 }
 
@@ -42,7 +46,8 @@ void treatmentPeriod(Sheet& sheet) {
   if (!fromFirstDay && !period.startText.isEmpty())
     showDate(sheet, QStringLiteral("9"), period.startText);
   else
-    showDate(sheet, QStringLiteral("9"), dayOfMonth(sheet, fromFirstDay ? period.firstTreated : period.startDay));
+    showDate(sheet, QStringLiteral("9"),
+             dayOfMonth(sheet, fromFirstDay ? period.firstTreated : period.startDay));
 
   const bool toLastDay = sheet.settings.off(Setting::PeriodTo) && period.lastTreated > 0;
   showDate(sheet, QStringLiteral("10"), dayOfMonth(sheet, toLastDay ? period.lastTreated : period.endDay));

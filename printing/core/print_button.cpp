@@ -4,10 +4,12 @@
 
 namespace printing {
 
-QString printScreenOf(const claims::ClaimRecord& claim, const QSet<QString>& checks, const frame::RunState& run) {
+QString printScreenOf(const claims::ClaimRecord& claim, const QSet<QString>& checks,
+                      const frame::RunState& run) {
   const auto month = run.eraDates().claimMonthToDate(claim.get(QStringLiteral("申請年月")));
   if (!month) return QString();
-  return printScreen({*month, run.prefectureCode, run.aichiSubmission, checks.contains(QStringLiteral("Check7"))});
+  return printScreen(
+      {*month, run.prefectureCode, run.aichiSubmission, checks.contains(QStringLiteral("Check7"))});
 }
 
 claims::PrintScreenChooser printScreenChooser(const frame::RunState& run) {

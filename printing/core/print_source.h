@@ -18,9 +18,9 @@ struct PrintSource {
   claims::ClaimRecord claim;
   /// The practice, with the print flags and licence numbers of the settings file in their slots.
   frame::ClinicProfile profile;
-  QString prefecture;          ///< "01" to "47"
-  QString aichi;               ///< "3" or "4"
-  QString tokyo;               ///< "5" or "6"
+  QString prefecture;  ///< "01" to "47"
+  QString aichi;       ///< "3" or "4"
+  QString tokyo;       ///< "5" or "6"
   PrintKind kind = PrintKind::Acupuncture;
   QString option;              ///< edition chosen on the printing screen: "Option9"
   QSet<QString> screenChecks;  ///< ticks of the printing screen: "Check6"

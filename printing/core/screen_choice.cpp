@@ -67,9 +67,9 @@ QString presetOption(const QString& screen, const frame::EraDates& dates, const 
   if (screen != u"レセプト印刷2018") return QString();
   const bool ordinary = summaryKind == u"0";
   if (claimMonth.startsWith(u"令和"))
-    return ordinary || isMonth2020Dec(dates, claimMonth) ? QStringLiteral("Option8") : QStringLiteral("Option6");
-  if (claimMonth.startsWith(u"平成"))
-    return ordinary ? QStringLiteral("Option3") : QStringLiteral("Option4");
+    return ordinary || isMonth2020Dec(dates, claimMonth) ? QStringLiteral("Option8")
+                                                         : QStringLiteral("Option6");
+  if (claimMonth.startsWith(u"平成")) return ordinary ? QStringLiteral("Option3") : QStringLiteral("Option4");
   return QString();
 }
 

@@ -10,9 +10,9 @@ namespace printing {
 
 /// What picks the printing screen of a claim.
 struct ScreenQuery {
-  QDate month;       ///< first day of the claim month
+  QDate month;  ///< first day of the claim month
   QString prefecture;
-  QString aichi;     ///< AichiSubmission
+  QString aichi;           ///< AichiSubmission
   bool publicAid = false;  ///< 公費の印刷 (Check7)
 };
 

@@ -12,23 +12,42 @@ enum class Region { Any, Aichi, AichiThree, Tokyo, TokyoFive, Osaka, NaraIshikaw
 bool inRegion(Region region, const TemplateQuery& query) {
   const QString& p = query.prefecture;
   switch (region) {
-    case Region::Any: return true;
-    case Region::Aichi: return p == u"23";
-    case Region::AichiThree: return p == u"23" && query.aichi == u"3";
-    case Region::Tokyo: return p == u"13";
-    case Region::TokyoFive: return p == u"13" && query.tokyo == u"5";
-    case Region::Osaka: return p == u"27";
-    case Region::NaraIshikawa: return p == u"17" || p == u"29";
-    case Region::Group24: return p == u"33" || p == u"18" || p == u"24";
-    case Region::Mie: return p == u"24";
+    case Region::Any:
+      return true;
+    case Region::Aichi:
+      return p == u"23";
+    case Region::AichiThree:
+      return p == u"23" && query.aichi == u"3";
+    case Region::Tokyo:
+      return p == u"13";
+    case Region::TokyoFive:
+      return p == u"13" && query.tokyo == u"5";
+    case Region::Osaka:
+      return p == u"27";
+    case Region::NaraIshikawa:
+      return p == u"17" || p == u"29";
+    case Region::Group24:
+      return p == u"33" || p == u"18" || p == u"24";
+    case Region::Mie:
+      return p == u"24";
   }
   return false;
 }
 
 /// The printing routines: each prints one group of editions.
 enum class Routine {
-  Form900, Aimakai900, Tokyo900, Entrusted, Entrusted232, Entrusted13, Aimakai860, Aid820, TokyoAid820,
-  Sheet2018, Oldest, Oldest24
+  Form900,
+  Aimakai900,
+  Tokyo900,
+  Entrusted,
+  Entrusted232,
+  Entrusted13,
+  Aimakai860,
+  Aid820,
+  TokyoAid820,
+  Sheet2018,
+  Oldest,
+  Oldest24
 };
 
 /// Which routine a screen's option leads to; the first row that fits wins.
@@ -75,11 +94,13 @@ constexpr Suffix kAlways232[] = {{Region::Any, u"232"}};
 constexpr Suffix kAlways13[] = {{Region::Any, u"13"}};
 constexpr Suffix kAlways24[] = {{Region::Any, u"24"}};
 constexpr Suffix kAlways1724[] = {{Region::Any, u"1724"}};
-constexpr Suffix kGeneral[] = {{Region::AichiThree, u"23"},  {Region::Aichi, u"232"},
+constexpr Suffix kGeneral[] = {{Region::AichiThree, u"23"},   {Region::Aichi, u"232"},
                                {Region::NaraIshikawa, u"29"}, {Region::Tokyo, u"13"},
                                {Region::Osaka, u"27"},        {Region::Group24, u"1724"}};
-constexpr Suffix kForm400[] = {{Region::Aichi, u"23"}, {Region::NaraIshikawa, u"29"},
-                               {Region::Osaka, u"1724"}, {Region::Group24, u"1724"}};
+constexpr Suffix kForm400[] = {{Region::Aichi, u"23"},
+                               {Region::NaraIshikawa, u"29"},
+                               {Region::Osaka, u"1724"},
+                               {Region::Group24, u"1724"}};
 
 /// An edition: its number, its regional suffixes, and the tick that puts the era into the month line.
 struct EditionRow {
@@ -146,8 +167,10 @@ std::optional<TemplateChoice> chooseTemplate(const TemplateQuery& query) {
       continue;
     for (const EditionRow& row : kEditions) {
       if (row.routine != routine.routine || !serves(row.option, option)) continue;
-      const QString stem = query.kind == PrintKind::Acupuncture ? QStringLiteral("HARI_") : QStringLiteral("Massage_");
-      const QString name = stem + QString::fromUtf16(row.number) + tailOf(row, query) + QStringLiteral(".PRP");
+      const QString stem =
+          query.kind == PrintKind::Acupuncture ? QStringLiteral("HARI_") : QStringLiteral("Massage_");
+      const QString name =
+          stem + QString::fromUtf16(row.number) + tailOf(row, query) + QStringLiteral(".PRP");
       return TemplateChoice{name, row.built};
     }
   }
@@ -155,8 +178,8 @@ std::optional<TemplateChoice> chooseTemplate(const TemplateQuery& query) {
 }
 
 TemplateQuery templateQuery(const QString& screen, const PrintSource& source) {
-  return {screen,        source.option, source.screenChecks, source.prefecture,
-          source.aichi,  source.tokyo,  source.kind};
+  return {screen,       source.option, source.screenChecks, source.prefecture,
+          source.aichi, source.tokyo,  source.kind};
 }
 
 }  // namespace printing

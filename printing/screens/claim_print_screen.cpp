@@ -21,7 +21,10 @@ constexpr Choice kEditions[] = {{{u"Option9"}, kForm2024, u"Option9"}, {{u"Optio
 
 constexpr Row kRows[] = {
     Note{.name = {u"Label1"}, .caption = u"印刷する用紙を選択して、ＯＫを押してください。", .spoken = true},
-    Options{.name = {u"Frame1"}, .caption = u"印刷用紙", .bind = Unbound{u"chosen for this print"}, .choices = kEditions},
+    Options{.name = {u"Frame1"},
+            .caption = u"印刷用紙",
+            .bind = Unbound{u"chosen for this print"},
+            .choices = kEditions},
     Check{.name = {u"Check6"},
           .caption = u"申請年月に元号を追加",
           .bind = Unbound{u"chosen for this print"},
@@ -34,9 +37,15 @@ constexpr Row kRows[] = {
           .caption = u"右上部の高齢９・高齢８→高齢ー・高齢７にした印刷",
           .bind = Unbound{u"chosen for this print"}},
     Bar{},
-    Command{.name = {u"Command1"}, .caption = u"ＯＫ", .run = run<&ClaimPrintScreen::print>, .standard = true},
-    Command{.name = {u"Command2"}, .caption = u"キャンセル", .run = run<&ClaimPrintScreen::cancel>, .key = u"Esc"},
-    Command{.name = {u"Command3"}, .caption = u"プリンターオプション", .run = run<&ClaimPrintScreen::printerOptions>},
+    Command{
+        .name = {u"Command1"}, .caption = u"ＯＫ", .run = run<&ClaimPrintScreen::print>, .standard = true},
+    Command{.name = {u"Command2"},
+            .caption = u"キャンセル",
+            .run = run<&ClaimPrintScreen::cancel>,
+            .key = u"Esc"},
+    Command{.name = {u"Command3"},
+            .caption = u"プリンターオプション",
+            .run = run<&ClaimPrintScreen::printerOptions>},
     EndBar{},
 };
 
@@ -45,7 +54,8 @@ constexpr ScreenRow kDeclaration{
 
 constexpr char16_t kNoClaim[] = u"印刷するレセプトが開かれていません。";
 constexpr char16_t kNoPaper[] = u"印刷する用紙を選択してください。";
-constexpr char16_t kNotBuilt[] = u"選択された用紙の印刷は、まだ用意されていません。他の用紙を選択してください。";
+constexpr char16_t kNotBuilt[] =
+    u"選択された用紙の印刷は、まだ用意されていません。他の用紙を選択してください。";
 
 QString screenName() { return QString::fromUtf16(kScreen); }
 

@@ -9,13 +9,15 @@ namespace {
 
 constexpr Row kRows[] = {
     Note{.name = {u"Label1"},
-         .caption = u"項目のみ印刷では、枠と見出しは印刷されません。枠が印刷済みの用紙をプリンタにセットしてください。",
+         .caption = u"項目のみ印刷では、枠と見出しは印刷されません。枠が印刷済みの用紙をプリンタにセットして"
+                    u"ください。",
          .spoken = true},
     Note{.name = {u"Label2"},
          .caption = u"用紙は、次の画面で選択する用紙と同じものを、向きと表裏を確かめて入れてください。",
          .spoken = true},
     Note{.name = {u"Label3"},
-         .caption = u"プリンタによっては、印刷の位置が少しずれます。最初に一枚、試しに印刷して確かめてください。",
+         .caption =
+             u"プリンタによっては、印刷の位置が少しずれます。最初に一枚、試しに印刷して確かめてください。",
          .spoken = true},
     Note{.name = {u"Label4"},
          .caption = u"拡大や縮小の設定になっていると、枠に合いません。等倍で印刷してください。",

@@ -10,8 +10,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr char16_t kPrinter[] = u"Combo1", kPaper[] = u"Combo2", kOrientation[] = u"Combo3", kSides[] = u"Combo4",
-                   kCopies[] = u"Text1";
+constexpr char16_t kPrinter[] = u"Combo1", kPaper[] = u"Combo2", kOrientation[] = u"Combo3",
+                   kSides[] = u"Combo4", kCopies[] = u"Text1";
 constexpr char16_t kFormsPaper[] = u"用紙の指定に従う";
 constexpr char16_t kFilePrinterCaption[] = u"PDF（印刷フォルダに保存）";
 constexpr int kMostCopies = 99;
@@ -24,15 +24,24 @@ constexpr const char16_t* kSidesWords[] = {u"プリンターの設定に従う",
 constexpr Unbound kChoice{u"the printer choice of this run"};
 
 constexpr Row kRows[] = {
-    Combo{.name = {kPrinter}, .caption = u"プリンター:", .bind = kChoice, .width = 30,
+    Combo{.name = {kPrinter},
+          .caption = u"プリンター:",
+          .bind = kChoice,
+          .width = 30,
           .onEdit = call<&PrinterOptionsScreen::printerChosen>},
     Combo{.name = {kPaper}, .caption = u"用紙サイズ:", .bind = kChoice, .width = 24},
     TextField{.name = {kCopies}, .caption = u"印刷部数:", .bind = kChoice, .limit = 2, .width = 4},
     Combo{.name = {kOrientation}, .caption = u"用紙の向き:", .bind = kChoice, .items = kOrientations},
     Combo{.name = {kSides}, .caption = u"両面印刷:", .bind = kChoice, .items = kSidesWords, .width = 22},
     Bar{},
-    Command{.name = {u"Command1"}, .caption = u"ＯＫ", .run = run<&PrinterOptionsScreen::accept>, .standard = true},
-    Command{.name = {u"Command2"}, .caption = u"キャンセル", .run = run<&PrinterOptionsScreen::cancel>, .key = u"Esc"},
+    Command{.name = {u"Command1"},
+            .caption = u"ＯＫ",
+            .run = run<&PrinterOptionsScreen::accept>,
+            .standard = true},
+    Command{.name = {u"Command2"},
+            .caption = u"キャンセル",
+            .run = run<&PrinterOptionsScreen::cancel>,
+            .key = u"Esc"},
     EndBar{},
 };
 
@@ -109,8 +118,7 @@ void PrinterOptionsScreen::accept() {
   }
   m_choice.printer = chosenPrinter();
   m_choice.copies = static_cast<int>(text::intOf(copies));
-  m_choice.orientation =
-      static_cast<report::Orientation>(placeOf(text(word(kOrientation)), kOrientations));
+  m_choice.orientation = static_cast<report::Orientation>(placeOf(text(word(kOrientation)), kOrientations));
   m_choice.sides = static_cast<report::Sides>(placeOf(text(word(kSides)), kSidesWords));
   m_choice.media.clear();
   for (const report::MediaSize& size : m_media)

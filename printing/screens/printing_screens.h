@@ -17,8 +17,8 @@ struct PrintingRoom {
 };
 
 /// Lists the printing screens, and hands the claim form the choice of its printing screen and the printer's
-/// dialog. The engine's own dialog is the screen プリンターオプション (printerDialog). `room` must outlive the
-/// registry.
+/// dialog. The engine's own dialog is the screen プリンターオプション (printerDialog). `room` must outlive
+/// the registry.
 void registerScreens(screen::ScreenRegistry& registry, PrintingRoom& room);
 
 /// Name of the screen that PR_PrinterSetupDlg shows.

@@ -98,7 +98,8 @@ QVector<Page> pagesOn(const report::Form& form, const QVector<QHash<QString, QSt
     Page page;
     for (auto item = sheet.begin(); item != sheet.end(); ++item) {
       const int at = form.find(item.key());
-      if (at >= 0 && form.items[static_cast<size_t>(at)].kind != report::Kind::Choice && !item.value().isEmpty())
+      if (at >= 0 && form.items[static_cast<size_t>(at)].kind != report::Kind::Choice &&
+          !item.value().isEmpty())
         page << PageText{&form.items[static_cast<size_t>(at)], item.value()};
     }
     pages << page;
@@ -125,7 +126,8 @@ text::Result<Month> makeMonth(const QString& folder, int count) {
 }
 
 void tellSizes(const QString& pdf, const QString& floor, int pages) {
-  const double ours = static_cast<double>(QFileInfo(pdf).size()), bare = static_cast<double>(QFileInfo(floor).size());
+  const double ours = static_cast<double>(QFileInfo(pdf).size()),
+               bare = static_cast<double>(QFileInfo(floor).size());
   figure("print_bytes_per_page", ours / pages, "bytes");
   figure("print_floor_bytes_per_page", bare / pages, "bytes");
   figure("print_bytes_ratio", ours / bare, "x");
@@ -175,7 +177,8 @@ int jobs(const QStringList& arguments) {
   timer.start();
   int next = 0;
   report::ReportEngine engine(programFolder(), [&](const report::PrinterChoice&) {
-    return std::make_unique<report::FileSink>(target.filePath(QStringLiteral("claim_%1.pdf").arg(++next, 5, 10, QLatin1Char('0'))));
+    return std::make_unique<report::FileSink>(
+        target.filePath(QStringLiteral("claim_%1.pdf").arg(++next, 5, 10, QLatin1Char('0'))));
   });
   for (int i = 0; i < count; ++i) {
     const printing::PrintSource source = month->source(i);

@@ -74,8 +74,10 @@ class Maker {
     set(claim, u"被保険者の氏名", name);
     set(claim, u"療養を受ける者の氏名", any(kSurnames) + u'　' + any(kGiven));
     set(claim, u"療養を受ける者のフリガナ", QStringLiteral("ミホン　ナナシ%1").arg(number));
-    set(claim, u"療養を受ける者の生年月日", QStringLiteral("昭和%1年%2月%3日").arg(1 + roll(63)).arg(1 + roll(12)).arg(1 + roll(28)));
-    set(claim, u"被保険者の住所", QStringLiteral("例示県架空市見本町%1丁目%2番%3号").arg(1 + roll(9)).arg(1 + roll(40)).arg(number));
+    set(claim, u"療養を受ける者の生年月日",
+        QStringLiteral("昭和%1年%2月%3日").arg(1 + roll(63)).arg(1 + roll(12)).arg(1 + roll(28)));
+    set(claim, u"被保険者の住所",
+        QStringLiteral("例示県架空市見本町%1丁目%2番%3号").arg(1 + roll(9)).arg(1 + roll(40)).arg(number));
     set(claim, u"被保険者の郵便番号", QStringLiteral("001-%1").arg(roll(10000), 4, 10, QLatin1Char('0')));
     set(claim, u"被保険者の電話番号", QStringLiteral("000-000-%1").arg(roll(10000), 4, 10, QLatin1Char('0')));
     set(claim, u"保険者番号", QStringLiteral("13%1").arg(roll(10000), 4, 10, QLatin1Char('0')));

@@ -16,7 +16,8 @@ QString withoutBlanks(const QString& text) {
 
 QStringList pagesOf(const QString& pdf) {
   QProcess reader;
-  reader.start(QStringLiteral("pdftotext"), {pdf, QStringLiteral("-")});
+  // In the order of the document: by place on the paper, wrapped columns would run into each other.
+  reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-raw"), pdf, QStringLiteral("-")});
   if (!reader.waitForFinished(600000) || reader.exitCode() != 0) return {};
   return QString::fromUtf8(reader.readAllStandardOutput()).split(u'\f');
 }

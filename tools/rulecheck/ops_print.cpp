@@ -26,7 +26,8 @@ bool isScreenCheck(const QString& name) {
 claims::ClaimRecord storedClaim(const QJsonObject& request, const Context& context) {
   const claims::ClaimRecord claim = claimOf(request);
   if (!claim.blank(QStringLiteral("h1")) || !claim.blank(QStringLiteral("m1"))) return claim;
-  const claims::FeeFiles files(context.programFolder, context.programFolder + QStringLiteral("/料金設定2000.mdb"));
+  const claims::FeeFiles files(context.programFolder,
+                               context.programFolder + QStringLiteral("/料金設定2000.mdb"));
   static claims::StoredFees fees;
   const auto stored = claims::storeClaim(claim, {eraDates(), files, fees});
   return stored.calculation ? claim : stored.claim;
@@ -47,7 +48,8 @@ frame::RunState runOf(const QJsonObject& request) {
   return run;
 }
 
-printing::PrintSource sourceOf(const QJsonObject& request, const frame::RunState& run, const Context& context) {
+printing::PrintSource sourceOf(const QJsonObject& request, const frame::RunState& run,
+                               const Context& context) {
   printing::PrintSource source;
   printing::takePractice(source, run);
   source.claim = storedClaim(request, context);
@@ -61,12 +63,14 @@ printing::PrintSource sourceOf(const QJsonObject& request, const frame::RunState
 
 /// Screen, option and ticks: those of the request, else the presets.
 QString takeScreen(const QJsonObject& request, const frame::RunState& run, printing::PrintSource& source) {
-  const QString screen = request.contains("screen") ? request["screen"].toString()
-                                                    : printing::printScreenOf(source.claim, source.claimChecks, run);
-  source.option = request.contains("option")
-                      ? request["option"].toString()
-                      : printing::presetOption(screen, eraDates(), source.claim.get(QStringLiteral("申請年月")),
-                                               source.claim.get(QStringLiteral("c12")));
+  const QString screen = request.contains("screen")
+                             ? request["screen"].toString()
+                             : printing::printScreenOf(source.claim, source.claimChecks, run);
+  source.option =
+      request.contains("option")
+          ? request["option"].toString()
+          : printing::presetOption(screen, eraDates(), source.claim.get(QStringLiteral("申請年月")),
+                                   source.claim.get(QStringLiteral("c12")));
   if (!request.contains("checks"))
     for (const QString& check : printing::presetChecks(run.prefectureCode)) source.screenChecks.insert(check);
   return screen;

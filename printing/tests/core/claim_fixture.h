@@ -17,7 +17,7 @@ class Filled {
   explicit Filled(PrintKind kind = PrintKind::Acupuncture) { source.kind = kind; }
 
   Filled& set(Columns columns) {
-    for (const auto& [column, text] : columns) 
+    for (const auto& [column, text] : columns)
       source.claim.set(QString::fromUtf16(column), QString::fromUtf16(text));
     return *this;
   }

@@ -15,21 +15,98 @@ QStringList digitsOf(const char* stem, const char* digits, int from = 1) {
 }
 
 QStringList commonSheet() {
-  QStringList lines{
-      "Date=2024/11/05", "GG4=令和", "YY4=6", "MM4=10", "MM5=10", "KikanCode1=K-001", "sejutuNO=登録第０００１号",
-      "Name2_1=見本　１２３４", "Zokugara=妻", "Name7=ミホンハナコ", "Name8=見本花子", "HHokenOnna2=", "wa1_3=",
-      "YY1=25", "MM1=3", "DD1=4", "GG2=令和", "YY2=6", "MM2=1", "DD2=上旬", "sebasyo1=架空の家", "ouri3=",
-      "sonota2=車椅子のため", "gyoumu3=", "dai3_ta=日常生活", "tkkubun1=", "yuubin2=〒001-0002",
-      "Name57_3=北海道架空市架空町３－３", "semeisyou1=架空治療院", "Name58=000-000-0002", "Name11=架空次郎",
-      "Name56=北海道架空市架空町３－３", "Name11_2=架空次郎", "GG11=令和", "YY11=6", "MM11=10", "DD11=31",
-      "GG12=令和", "YY12=6", "MM12=11", "DD12=1", "GG13=令和", "YY13=6", "MM13=11", "DD13=1", "siharai_kbn=振込",
-      "Name14=架空", "kinyuu3=銀行", "Name47=見本", "kinyuu6=支店", "yokin2=普通", "kouza2=0123456",
-      "kouza3=カクウジロウ", "Name5_3=見本太郎", "Name12=北海道架空市見本町１－１", "yuubin1=〒００１－０００１",
-      "HHokenTel=000-000-0001", "Name13=北海道架空市見本町１－１", "Name5_6=見本太郎", "Name17=例示一郎",
-      "Name18_1=架空市例示町２－２", "Name20=腰痛症", "GG14=令和", "YY14=6", "MM14=9", "DD14=1", "GG15=令和",
-      "YY15=6", "MM15=9", "DD15=1", "Name19=令和7年2月28日", "Name48=架空市市長", "Name21=摘要一", "Name22=摘要二",
-      "Name24=摘要四", "H_M_Circle1=", "itibu3=", "Kyuufu_3=", "hutan3=", "GG7=令和", "YY7=6", "MM7=2", "DD7=3",
-      "GG9=令和", "YY9=6", "MM9=10", "DD9=1", "GG10=令和", "YY10=6", "MM10=10", "seikyu2=継続", "tenki4=継続"};
+  QStringList lines{"Date=2024/11/05",
+                    "GG4=令和",
+                    "YY4=6",
+                    "MM4=10",
+                    "MM5=10",
+                    "KikanCode1=K-001",
+                    "sejutuNO=登録第０００１号",
+                    "Name2_1=見本　１２３４",
+                    "Zokugara=妻",
+                    "Name7=ミホンハナコ",
+                    "Name8=見本花子",
+                    "HHokenOnna2=",
+                    "wa1_3=",
+                    "YY1=25",
+                    "MM1=3",
+                    "DD1=4",
+                    "GG2=令和",
+                    "YY2=6",
+                    "MM2=1",
+                    "DD2=上旬",
+                    "sebasyo1=架空の家",
+                    "ouri3=",
+                    "sonota2=車椅子のため",
+                    "gyoumu3=",
+                    "dai3_ta=日常生活",
+                    "tkkubun1=",
+                    "yuubin2=〒001-0002",
+                    "Name57_3=北海道架空市架空町３－３",
+                    "semeisyou1=架空治療院",
+                    "Name58=000-000-0002",
+                    "Name11=架空次郎",
+                    "Name56=北海道架空市架空町３－３",
+                    "Name11_2=架空次郎",
+                    "GG11=令和",
+                    "YY11=6",
+                    "MM11=10",
+                    "DD11=31",
+                    "GG12=令和",
+                    "YY12=6",
+                    "MM12=11",
+                    "DD12=1",
+                    "GG13=令和",
+                    "YY13=6",
+                    "MM13=11",
+                    "DD13=1",
+                    "siharai_kbn=振込",
+                    "Name14=架空",
+                    "kinyuu3=銀行",
+                    "Name47=見本",
+                    "kinyuu6=支店",
+                    "yokin2=普通",
+                    "kouza2=0123456",
+                    "kouza3=カクウジロウ",
+                    "Name5_3=見本太郎",
+                    "Name12=北海道架空市見本町１－１",
+                    "yuubin1=〒００１－０００１",
+                    "HHokenTel=000-000-0001",
+                    "Name13=北海道架空市見本町１－１",
+                    "Name5_6=見本太郎",
+                    "Name17=例示一郎",
+                    "Name18_1=架空市例示町２－２",
+                    "Name20=腰痛症",
+                    "GG14=令和",
+                    "YY14=6",
+                    "MM14=9",
+                    "DD14=1",
+                    "GG15=令和",
+                    "YY15=6",
+                    "MM15=9",
+                    "DD15=1",
+                    "Name19=令和7年2月28日",
+                    "Name48=架空市市長",
+                    "Name21=摘要一",
+                    "Name22=摘要二",
+                    "Name24=摘要四",
+                    "H_M_Circle1=",
+                    "itibu3=",
+                    "Kyuufu_3=",
+                    "hutan3=",
+                    "GG7=令和",
+                    "YY7=6",
+                    "MM7=2",
+                    "DD7=3",
+                    "GG9=令和",
+                    "YY9=6",
+                    "MM9=10",
+                    "DD9=1",
+                    "GG10=令和",
+                    "YY10=6",
+                    "MM10=10",
+                    "seikyu2=継続",
+                    "tenki4=継続"};
   lines += digitsOf("Name0_", "138057", 3);
   lines += digitsOf("KouhiFutan_", "81136015");
   lines += digitsOf("KouhiJyu_", "1234567");
@@ -40,19 +117,20 @@ QStringList commonSheet() {
 void expectSheet(Filled& filled, QStringList expected) {
   expected.sort();
   const QStringList printed = filled.fill().sheet();
-  for (const QString& line : expected) EXPECT_TRUE(printed.contains(line)) << "missing: " << line.toStdString();
+  for (const QString& line : expected)
+    EXPECT_TRUE(printed.contains(line)) << "missing: " << line.toStdString();
   for (const QString& line : printed) EXPECT_TRUE(expected.contains(line)) << "extra: " << line.toStdString();
   EXPECT_EQ(printed.size(), expected.size());
 }
 
 TEST(FullClaim, AcupunctureSheetItemByItem) {
   Filled filled = fullAcupuncture();
-  expectSheet(filled,
-              commonSheet() + QStringList{
-                                  "DD10=31",  // 転帰 継続: the month's last day
+  expectSheet(
+      filled,
+      commonSheet() + QStringList{"DD10=31",  // 転帰 継続: the month's last day
                                   "Name9=腰痛症", "syoubyou1=", "syoubyou5=", "syoubyou7=", "Name49=肩関節炎",
-                                  "Name50=(右)", "denryou1=", "syokaijutu3=はりきゅう併用", "day1=○", "day8=①",
-                                  "day15=◎", "day22=③", "Name16=4", "YY3=6", "MM3=5",
+                                  "Name50=(右)", "denryou1=", "syokaijutu3=はりきゅう併用", "day1=○",
+                                  "day8=①", "day15=◎", "day22=③", "Name16=4", "YY3=6", "MM3=5",
                                   // Both rows of 通所, one row of 訪問１ in the middle of its cell.
                                   "dain1=100", "dain2=2", "dain3=2", "dain4=1,610", "dain5=1", "dain6=1,610",
                                   "dain7=1,770", "dain8=1", "dain9=1,770", "dain54=3,910", "dain55=2",
@@ -63,10 +141,10 @@ TEST(FullClaim, AcupunctureSheetItemByItem) {
 
 TEST(FullClaim, MassageSheetItemByItem) {
   Filled filled = fullMassage();
-  expectSheet(filled,
-              commonSheet() + QStringList{
-                                  "DD10=31", "Name6=不詳", "Name9=腰痛症、歩行困難", "Syoujyou=筋萎縮", "day2=○",
-                                  "day9=②", "Name16=2", "kaisu1_1=2", "kaisu1_2=2", "kaisu2_1=1",
+  expectSheet(
+      filled,
+      commonSheet() + QStringList{"DD10=31", "Name6=不詳", "Name9=腰痛症、歩行困難", "Syoujyou=筋萎縮",
+                                  "day2=○", "day9=②", "Name16=2", "kaisu1_1=2", "kaisu1_2=2", "kaisu2_1=1",
                                   // One row of 通所 in the middle, both rows of 訪問１.
                                   "dain1=2", "dain2=2", "dain6=1", "dain71=900", "dain72=1", "dain73=900",
                                   "dain16=3,200", "dain17=1", "dain18=3,200", "dain19=3,650", "dain20=1",

@@ -21,7 +21,8 @@ TEST(InsurerNumber, SixDigitsStandAtTheRightAllOthersAtTheLeft) {
   const struct {
     const char16_t* number;
     const char* row;
-  } rows[] = {{u"138057", "__138057"}, {u"1380570", "1380570_"}, {u"12345678", "12345678"}, {u"12345", "12345___"}};
+  } rows[] = {
+      {u"138057", "__138057"}, {u"1380570", "1380570_"}, {u"12345678", "12345678"}, {u"12345", "12345___"}};
   for (const auto& row : rows) {
     Filled filled;
     filled.set({{u"保険の種類", u"国保"}, {u"保険者番号", row.number}});

@@ -17,18 +17,18 @@ QString templates() { return QStringLiteral(SOURCE_FOLDER "/templates"); }
 
 /// Prints the source into the file; how the run ended.
 RunEnd printTo(const QString& path, const PrintSource& source, const QString& folder = templates()) {
-  report::ReportEngine engine(folder, [&](const report::PrinterChoice&) {
-    return std::make_unique<report::FileSink>(path);
-  });
+  report::ReportEngine engine(
+      folder, [&](const report::PrinterChoice&) { return std::make_unique<report::FileSink>(path); });
   static const text::FixedClock clock(QDate(2024, 11, 5));
   static const frame::EraDates dates(frame::EraCapability::Supported, clock);
   return runPrint(engine, claimJob(source, QStringLiteral("レセプト印刷2024"), dates));
 }
 
-/// Text of the file without blanks and line breaks; null where pdftotext is not installed.
+/// Text of the file in its own reading order, without blanks and line breaks; null where pdftotext is not
+/// installed.
 QString readBack(const QString& path) {
   QProcess reader;
-  reader.start(QStringLiteral("pdftotext"), {path, QStringLiteral("-")});
+  reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-raw"), path, QStringLiteral("-")});
   if (!reader.waitForStarted() || !reader.waitForFinished()) return QString();
   QString dense(QStringLiteral(""));
   for (const QChar c : QString::fromUtf8(reader.readAllStandardOutput()))
@@ -44,14 +44,16 @@ class ClaimPdf : public ::testing::TestWithParam<PrintKind> {
 
 TEST_P(ClaimPdf, EveryPrintedTextReadsBackFromThePage) {
   Filled filled = claim();
+  filled.set({{u"摘要4",
+               u"歩行が困難なため自宅で施術を行った。症状は落ち着いているが痛みが残り、経過を見ている。"}});
   const QString path = folder.filePath(QStringLiteral("claim.pdf"));
   ASSERT_EQ(printTo(path, filled.source), RunEnd::Printed);
   const QString page = readBack(path);
   if (page.isNull()) GTEST_SKIP() << "pdftotext is not installed";
 
-  const auto form = report::loadForm(templates(), GetParam() == PrintKind::Acupuncture
-                                                      ? QStringLiteral("HARI_900.PRP")
-                                                      : QStringLiteral("Massage_900.PRP"));
+  const auto form =
+      report::loadForm(templates(), GetParam() == PrintKind::Acupuncture ? QStringLiteral("HARI_900.PRP")
+                                                                         : QStringLiteral("Massage_900.PRP"));
   ASSERT_TRUE(form);
   int texts = 0;
   for (const QString& line : filled.fill().sheet()) {

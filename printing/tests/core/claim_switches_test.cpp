@@ -34,7 +34,8 @@ TEST(Switches, EachTakesItsItemsOffTheSheet) {
     for (const char* item : row.items) {
       const QString name = QString::fromUtf8(item) + u'=';
       const auto stands = [&](const QStringList& sheet) {
-        return std::any_of(sheet.begin(), sheet.end(), [&](const QString& line) { return line.startsWith(name); });
+        return std::any_of(sheet.begin(), sheet.end(),
+                           [&](const QString& line) { return line.startsWith(name); });
       };
       EXPECT_TRUE(stands(before)) << item;
       EXPECT_FALSE(stands(after)) << item;
@@ -49,8 +50,9 @@ TEST(Switches, LeftMarginPrintsWhereItIsOn) {
     const char16_t* kind;
     const char* words;
     bool mark;
-  } rows[] = {{u"国保", "国民健康保険", false}, {u"特別国保", "国民健康保険", true}, {u"共済", "共済組合", true},
-              {u"組合", "健康保険組合", false}, {u"後期高齢", nullptr, true},        {u"全国健康保険協会", nullptr, false}};
+  } rows[] = {{u"国保", "国民健康保険", false}, {u"特別国保", "国民健康保険", true},
+              {u"共済", "共済組合", true},      {u"組合", "健康保険組合", false},
+              {u"後期高齢", nullptr, true},     {u"全国健康保険協会", nullptr, false}};
   for (const auto& row : rows) {
     filled.set({{u"保険の種類", row.kind}});
     EXPECT_EQ(filled["HokenTypeT"], row.words == nullptr ? QString() : QString::fromUtf8(row.words));
@@ -63,9 +65,14 @@ TEST(Switches, LeftMarginPrintsWhereItIsOn) {
 
 TEST(Switches, RepresentativeStandsForThePractitioner) {
   Filled filled = fullAcupuncture();
-  filled.set({{u"代表者氏名", u"代表一"},     {u"代表者郵便番号", u"002-0000"},   {u"代表者住所", u"代表市"},
-              {u"代表者電話番号", u"代表電話"}, {u"代表者金融機関名", u"代表銀"},  {u"代表者口座番号", u"98"},
-              {u"代表者口座名義カタカナ", u"ダイヒョウ"}, {u"代表者預金の種類", u"当座"}});
+  filled.set({{u"代表者氏名", u"代表一"},
+              {u"代表者郵便番号", u"002-0000"},
+              {u"代表者住所", u"代表市"},
+              {u"代表者電話番号", u"代表電話"},
+              {u"代表者金融機関名", u"代表銀"},
+              {u"代表者口座番号", u"98"},
+              {u"代表者口座名義カタカナ", u"ダイヒョウ"},
+              {u"代表者預金の種類", u"当座"}});
   filled.set({{u"txt dummy6", u"0"}});
   EXPECT_EQ(filled["Name11"], QStringLiteral("代表一"));
   EXPECT_EQ(filled["yuubin2"], QStringLiteral("〒002-0000"));
@@ -85,9 +92,11 @@ TEST(Switches, RepresentativeStandsForThePractitioner) {
 
 TEST(Switches, ShownOnlyWhereChosen) {
   Filled filled;
-  for (const char* item : {"JUININ1", "JUININ2", "JUININ3", "betten1"}) EXPECT_FALSE(filled.marked(item)) << item;
+  for (const char* item : {"JUININ1", "JUININ2", "JUININ3", "betten1"})
+    EXPECT_FALSE(filled.marked(item)) << item;
   filled.set({{u"c10", u"0"}, {u"c16", u"0"}});
-  for (const char* item : {"JUININ1", "JUININ2", "JUININ3", "betten1"}) EXPECT_TRUE(filled.marked(item)) << item;
+  for (const char* item : {"JUININ1", "JUININ2", "JUININ3", "betten1"})
+    EXPECT_TRUE(filled.marked(item)) << item;
 }
 
 TEST(Switches, PublicAidSetsTheShareToZero) {
@@ -108,7 +117,8 @@ TEST(Switches, PracticesFlagsRuleWhereTheClaimIsBlank) {
 
 TEST(Switches, PeriodByFirstAndLastDay) {
   Filled filled;
-  filled.set({{u"申請年月", u"令和6年10月"}, {u"治療内容4", u"a"}, {u"治療内容20", u"a"}, {u"転帰", u"継続"}});
+  filled.set(
+      {{u"申請年月", u"令和6年10月"}, {u"治療内容4", u"a"}, {u"治療内容20", u"a"}, {u"転帰", u"継続"}});
   filled.set({{u"txt dummy1", u"0"}, {u"txt dummy2", u"0"}});  // 最初の治療日, 月末日
   EXPECT_EQ(filled["DD9"], QStringLiteral("4"));
   EXPECT_EQ(filled["DD10"], QStringLiteral("31"));

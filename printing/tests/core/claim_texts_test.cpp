@@ -18,29 +18,51 @@ constexpr auto kHari = PrintKind::Acupuncture, kMassage = PrintKind::Massage;
 
 TEST(Sizes, LengthPicksTheItemAtEachBound) {
   const SizeRow rows[] = {
-      {kHari, u"保険証番号", 17, "Name2_1"},        {kHari, u"保険証番号", 18, "Name2_2"},
-      {kHari, u"保険証番号", 40, "Name2_3"},        {kHari, u"療養を受ける者の氏名", 10, "Name8"},
-      {kHari, u"療養を受ける者の氏名", 11, "Name5_4"}, {kHari, u"同意の傷病名", 22, "Name9"},
-      {kHari, u"同意の傷病名", 23, "Name9_1"},      {kHari, u"同意の傷病名", 36, "Name9_1"},
-      {kHari, u"同意の傷病名", 37, "Name9_2"},      {kMassage, u"同意の傷病名", 37, "Name9_2"},
-      {kHari, u"同意の傷病名", 10, "Name20"},       {kHari, u"同意の傷病名", 11, "Text369"},
-      {kHari, u"d12", 29, "sebasyo1"},              {kHari, u"d12", 30, "sebasyo2"},
-      {kHari, u"施術所の所在地", 26, "Name57_3"},   {kHari, u"施術所の所在地", 27, "Name57"},
-      {kHari, u"施術者氏名", 20, "Name11_2"},       {kHari, u"施術者氏名", 21, "Name11_3"},
-      {kHari, u"本店支店名", 8, "Name47"},          {kHari, u"本店支店名", 9, "Name471"},
-      {kHari, u"口座名義", 36, "kouza3"},           {kHari, u"口座名義", 37, "kouza4"},
-      {kHari, u"被保険者の氏名", 13, "Name5_3"},    {kHari, u"被保険者の氏名", 14, "Name5_5"},
-      {kHari, u"被保険者の氏名", 13, "Name5_6"},    {kHari, u"被保険者の氏名", 14, "Name5_7"},
-      {kHari, u"同意医師氏名", 8, "Name17"},        {kHari, u"同意医師氏名", 9, "Name17_2"},
-      {kHari, u"同意医師住所", 17, "Name18_1"},     {kHari, u"同意医師住所", 18, "Name18_2"},
-      {kHari, u"同意医師住所", 35, "Name18_2"},     {kHari, u"同意医師住所", 36, "Name18_3"},
-      {kHari, u"区市町村名称", 12, "Name48"},       {kHari, u"区市町村名称", 13, "Name48_1"},
-      {kHari, u"区市町村名称", 16, "Name48_1"},     {kHari, u"区市町村名称", 17, "Name48_2"},
-      {kHari, u"傷病名7", 7, "Name49"},             {kHari, u"傷病名7", 8, "Name49_2"},
-      {kHari, u"傷病名7", 10, "Name49_2"},          {kHari, u"傷病名7", 11, "Name49_3"},
+      {kHari, u"保険証番号", 17, "Name2_1"},
+      {kHari, u"保険証番号", 18, "Name2_2"},
+      {kHari, u"保険証番号", 40, "Name2_3"},
+      {kHari, u"療養を受ける者の氏名", 10, "Name8"},
+      {kHari, u"療養を受ける者の氏名", 11, "Name5_4"},
+      {kHari, u"同意の傷病名", 22, "Name9"},
+      {kHari, u"同意の傷病名", 23, "Name9_1"},
+      {kHari, u"同意の傷病名", 36, "Name9_1"},
+      {kHari, u"同意の傷病名", 37, "Name9_2"},
+      {kMassage, u"同意の傷病名", 37, "Name9_2"},
+      {kHari, u"同意の傷病名", 10, "Name20"},
+      {kHari, u"同意の傷病名", 11, "Text369"},
+      {kHari, u"d12", 29, "sebasyo1"},
+      {kHari, u"d12", 30, "sebasyo2"},
+      {kHari, u"施術所の所在地", 26, "Name57_3"},
+      {kHari, u"施術所の所在地", 27, "Name57"},
+      {kHari, u"施術者氏名", 20, "Name11_2"},
+      {kHari, u"施術者氏名", 21, "Name11_3"},
+      {kHari, u"本店支店名", 8, "Name47"},
+      {kHari, u"本店支店名", 9, "Name471"},
+      {kHari, u"口座名義", 36, "kouza3"},
+      {kHari, u"口座名義", 37, "kouza4"},
+      {kHari, u"被保険者の氏名", 13, "Name5_3"},
+      {kHari, u"被保険者の氏名", 14, "Name5_5"},
+      {kHari, u"被保険者の氏名", 13, "Name5_6"},
+      {kHari, u"被保険者の氏名", 14, "Name5_7"},
+      {kHari, u"同意医師氏名", 8, "Name17"},
+      {kHari, u"同意医師氏名", 9, "Name17_2"},
+      {kHari, u"同意医師住所", 17, "Name18_1"},
+      {kHari, u"同意医師住所", 18, "Name18_2"},
+      {kHari, u"同意医師住所", 35, "Name18_2"},
+      {kHari, u"同意医師住所", 36, "Name18_3"},
+      {kHari, u"区市町村名称", 12, "Name48"},
+      {kHari, u"区市町村名称", 13, "Name48_1"},
+      {kHari, u"区市町村名称", 16, "Name48_1"},
+      {kHari, u"区市町村名称", 17, "Name48_2"},
+      {kHari, u"傷病名7", 7, "Name49"},
+      {kHari, u"傷病名7", 8, "Name49_2"},
+      {kHari, u"傷病名7", 10, "Name49_2"},
+      {kHari, u"傷病名7", 11, "Name49_3"},
       {kHari, u"傷病名7", 15, "Name49_3"},  // the claim form lets 15 characters stand: none is lost
-      {kMassage, u"同意症状", 32, "Syoujyou"},      {kMassage, u"同意症状", 33, "Syoujyou1"},
-      {kMassage, u"同意症状", 41, "Syoujyou3"},     {kMassage, u"同意症状", 51, "Syoujyou4"},
+      {kMassage, u"同意症状", 32, "Syoujyou"},
+      {kMassage, u"同意症状", 33, "Syoujyou1"},
+      {kMassage, u"同意症状", 41, "Syoujyou3"},
+      {kMassage, u"同意症状", 51, "Syoujyou4"},
   };
   for (const SizeRow& row : rows) {
     Filled filled(row.kind);
@@ -71,7 +93,8 @@ TEST(Sizes, CauseDetailAndReasonDetail) {
 
 TEST(CardLine, JoinsWhatIsThereInFullWidth) {
   Filled filled;
-  filled.set({{u"保険の種類", u"組合"}, {u"保険証記号1", u"11"}, {u"保険証記号2", u"22"}, {u"保険証番号", u"33"}});
+  filled.set(
+      {{u"保険の種類", u"組合"}, {u"保険証記号1", u"11"}, {u"保険証記号2", u"22"}, {u"保険証番号", u"33"}});
   EXPECT_EQ(filled["Name2_1"], QStringLiteral("１１　２２　３３"));
   filled.set({{u"保険証記号1", u""}, {u"保険証記号2", u""}});
   EXPECT_EQ(filled["Name2_1"], QStringLiteral("３３"));
@@ -121,14 +144,18 @@ TEST(Dates, BirthEraIsCircled) {
   const struct {
     const char16_t* birth;
     const char* mark;
-  } rows[] = {{u"明治45年7月29日", "wa1_1"}, {u"大正15年12月24日", "wa1_2"}, {u"昭和1年12月25日", "wa1_3"},
-              {u"平成1年1月8日", "wa1_4"},  {u"令和1年5月1日", "wa1_5"}};
+  } rows[] = {{u"明治45年7月29日", "wa1_1"},
+              {u"大正15年12月24日", "wa1_2"},
+              {u"昭和1年12月25日", "wa1_3"},
+              {u"平成1年1月8日", "wa1_4"},
+              {u"令和1年5月1日", "wa1_5"}};
   for (const auto& row : rows) {
     Filled filled;
     filled.set({{u"療養を受ける者の生年月日", row.birth}});
     SpyEngine& engine = filled.fill();
     for (const char* mark : {"wa1_1", "wa1_2", "wa1_3", "wa1_4", "wa1_5"})
-      EXPECT_EQ(engine.marked(QString::fromUtf8(mark)), std::string_view(mark) == row.mark) << row.mark << mark;
+      EXPECT_EQ(engine.marked(QString::fromUtf8(mark)), std::string_view(mark) == row.mark)
+          << row.mark << mark;
   }
 }
 
@@ -147,7 +174,7 @@ TEST(DayGrid, MarksByCodeAndVisit) {
   const struct {
     const char16_t* visit;
     const char* mark;
-  } rows[] = {{u"", "○"},   {u"v1", "①"}, {u"v2", "②"},  {u"v3", "③"},
+  } rows[] = {{u"", "○"},   {u"v1", "①"},  {u"v2", "②"},  {u"v3", "③"},
               {u"v9", "③"}, {u"v10", "③"}, {u"v20", "③"}, {u"t", "◎"}};
   for (const auto& row : rows) {
     filled.set({{u"治療内容7", u"a"}, {u"往療距離7", row.visit}});
@@ -158,7 +185,8 @@ TEST(DayGrid, MarksByCodeAndVisit) {
 
 TEST(DayGrid, FreeVisitsMarkEveryTreatedDay) {
   Filled filled;
-  filled.set({{u"申請年月", u"令和6年10月"}, {u"治療内容1", u"a"}, {u"治療内容2", u"b"}, {u"往療距離3", u"v1"}});
+  filled.set(
+      {{u"申請年月", u"令和6年10月"}, {u"治療内容1", u"a"}, {u"治療内容2", u"b"}, {u"往療距離3", u"v1"}});
   filled.source.claimChecks.insert(QStringLiteral("Check8"));
   EXPECT_EQ(filled["day1"], QStringLiteral("◎"));
   EXPECT_EQ(filled["day2"], QStringLiteral("◎"));
@@ -245,8 +273,10 @@ TEST(KindOfInsurance, OneCircle) {
   const struct {
     const char16_t *kind, *printed;
     const char* mark;
-  } rows[] = {{u"国保", u"国民健保", "H_M_Circle1"}, {u"全国健康保険協会", u"", "H_M_Circle1"},
-              {u"国保", u"公費負担", "H_M_Circle2"}, {u"後期高齢", u"後期高齢", "H_M_Circle3"}};
+  } rows[] = {{u"国保", u"国民健保", "H_M_Circle1"},
+              {u"全国健康保険協会", u"", "H_M_Circle1"},
+              {u"国保", u"公費負担", "H_M_Circle2"},
+              {u"後期高齢", u"後期高齢", "H_M_Circle3"}};
   for (const auto& row : rows) {
     Filled filled;
     filled.set({{u"保険の種類", row.kind}, {u"保険の種類3", row.printed}});
@@ -271,8 +301,8 @@ TEST(FirstTreatment, CirclesTheKindOfTheFirstTreatedDay) {
   const struct {
     const char16_t* code;
     const char* word;
-  } rows[] = {{u"a", "はり"}, {u"b", "はり"}, {u"c", "きゅう"}, {u"d", "きゅう"}, {u"e", "はりきゅう併用"},
-              {u"f", "はりきゅう併用"}};
+  } rows[] = {{u"a", "はり"},   {u"b", "はり"},           {u"c", "きゅう"},
+              {u"d", "きゅう"}, {u"e", "はりきゅう併用"}, {u"f", "はりきゅう併用"}};
   for (const auto& row : rows) {
     Filled filled;
     filled.set({{u"初回有無", u"-1"}, {u"治療内容9", row.code}, {u"治療内容20", u"a"}});
@@ -285,7 +315,11 @@ TEST(FirstTreatment, CirclesTheKindOfTheFirstTreatedDay) {
 TEST(Person, MassageHasNoDiseasesAndAcupunctureNoSymptoms) {
   Filled massage(PrintKind::Massage), hari;
   for (Filled* filled : {&massage, &hari})
-    filled->set({{u"傷病名1", u"1"}, {u"傷病名7", u"他"}, {u"傷病名8", u"付"}, {u"同意症状", u"筋萎縮"}, {u"d3", u"4"}});
+    filled->set({{u"傷病名1", u"1"},
+                 {u"傷病名7", u"他"},
+                 {u"傷病名8", u"付"},
+                 {u"同意症状", u"筋萎縮"},
+                 {u"d3", u"4"}});
   EXPECT_EQ(massage.fill().sheet(), QStringList({"Date=2024/11/05", "Syoujyou=筋萎縮", "kaisu1_1=4"}));
   EXPECT_EQ(hari.fill().sheet(),
             QStringList({"Date=2024/11/05", "Name49=他", "Name50=(付)", "syoubyou1=", "syoubyou7="}));

@@ -92,8 +92,9 @@ TEST(PrintRun, ItemsOnlyHidesTheFourFamiliesInTheirOrderBeforeTheFill) {
   ASSERT_EQ(calls.size(), 4000 + 1 + 2);
   for (int n = 1; n <= 1000; ++n) {
     const int at = (n - 1) * 4;
-    EXPECT_EQ(calls.mid(at, 4), QStringList({QStringLiteral("0 waku_%1").arg(n), QStringLiteral("0 Box%1").arg(n),
-                                             QStringLiteral("0 Line%1").arg(n), QStringLiteral("0 Text%1").arg(n)}));
+    EXPECT_EQ(calls.mid(at, 4),
+              QStringList({QStringLiteral("0 waku_%1").arg(n), QStringLiteral("0 Box%1").arg(n),
+                           QStringLiteral("0 Line%1").arg(n), QStringLiteral("0 Text%1").arg(n)}));
   }
   EXPECT_EQ(calls.mid(4000), QStringList({"0 GG4", "-1 Name1", "Name1=頁0"}));
 }

@@ -82,13 +82,15 @@ TEST_F(ChoiceOfClaim, PresetsTheOptionByEraAndSummaryKind) {
     const char* month;
     const char* kind;
     const char* option;
-  } rows[] = {{"令和2年11月", "0", "Option8"}, {"令和2年12月", "1", "Option8"}, {"令和2年11月", "1", "Option6"},
-              {"令和2年11月", "", "Option6"},  {"平成31年4月", "0", "Option3"}, {"平成31年4月", "1", "Option4"}};
+  } rows[] = {{"令和2年11月", "0", "Option8"}, {"令和2年12月", "1", "Option8"},
+              {"令和2年11月", "1", "Option6"}, {"令和2年11月", "", "Option6"},
+              {"平成31年4月", "0", "Option3"}, {"平成31年4月", "1", "Option4"}};
   for (const auto& row : rows)
     EXPECT_EQ(presetOption(screen, run.eraDates(), QString::fromUtf8(row.month), QString::fromUtf8(row.kind)),
               QString::fromUtf8(row.option))
         << row.month << row.kind;
-  EXPECT_EQ(presetOption(QStringLiteral("レセプト印刷2018aimakai"), run.eraDates(), {}, {}), QStringLiteral("Option9"));
+  EXPECT_EQ(presetOption(QStringLiteral("レセプト印刷2018aimakai"), run.eraDates(), {}, {}),
+            QStringLiteral("Option9"));
 }
 
 TEST(ScreenPresets, OnePrefectureAsksForTheEraWord) {

@@ -13,8 +13,8 @@ class SpyEngine final : public report::ReportOperations {
   int startResult = 1;
   QStringList missingTemplates;
 
-  QStringList calls;                 ///< without the item calls
-  QStringList itemCalls;             ///< "-1 Name1", "0 Text1", "Name1=text", in order
+  QStringList calls;      ///< without the item calls
+  QStringList itemCalls;  ///< "-1 Name1", "0 Text1", "Name1=text", in order
   QHash<QString, bool> visible;
   QHash<QString, QString> texts;
   QString loaded;
@@ -64,7 +64,9 @@ class SpyEngine final : public report::ReportOperations {
   void PR_PlayReport() override { calls << QStringLiteral("PR_PlayReport"); }
   void PR_EndDoc() override { calls << QStringLiteral("PR_EndDoc"); }
   void PR_AbortDoc() override { calls << QStringLiteral("PR_AbortDoc"); }
-  void PR_PrinterSetupDlg(quintptr window) override { calls << QStringLiteral("PR_PrinterSetupDlg %1").arg(window); }
+  void PR_PrinterSetupDlg(quintptr window) override {
+    calls << QStringLiteral("PR_PrinterSetupDlg %1").arg(window);
+  }
   void PR_SetMargin(int, int) override {}
   void PR_SetScale() override {}
   void PR_SetFont(const QString&) override {}

@@ -92,7 +92,8 @@ TEST(TemplateChoice, EveryRowOfTheTable) {
     ASSERT_TRUE(choice) << row.screen << row.option << row.prefecture;
     EXPECT_EQ(choice->fileName, QString::fromUtf8(row.file)) << row.screen << row.option << row.prefecture;
     query.kind = PrintKind::Massage;
-    EXPECT_EQ(chooseTemplate(query)->fileName, QString::fromUtf8(row.file).replace(QStringLiteral("HARI_"), QStringLiteral("Massage_")));
+    EXPECT_EQ(chooseTemplate(query)->fileName,
+              QString::fromUtf8(row.file).replace(QStringLiteral("HARI_"), QStringLiteral("Massage_")));
   }
 }
 

@@ -6,7 +6,8 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 
 constexpr char16_t kScreen[] = u"レセプト印刷2024";
-constexpr char16_t kPrompt[] = u"レセプトデータの印刷を行います。Ａ４サイズの用紙をプリンタにセットして下さい。";
+constexpr char16_t kPrompt[] =
+    u"レセプトデータの印刷を行います。Ａ４サイズの用紙をプリンタにセットして下さい。";
 
 class ClaimPrint : public PrintRoom {};
 

@@ -44,7 +44,8 @@ TEST_F(Notices, EveryScreenThatTheChoiceNamesOpens) {
 }
 
 TEST_F(Notices, ScreensWithoutPapersSayThatNothingWasPrinted) {
-  for (const char16_t* name : {u"レセプト印刷", u"レセプト印刷2018", u"レセプト印刷2024aimakai", u"東京助成レセプト印刷2024"}) {
+  for (const char16_t* name :
+       {u"レセプト印刷", u"レセプト印刷2018", u"レセプト印刷2024aimakai", u"東京助成レセプト印刷2024"}) {
     channel.clear();
     screen::Screen& screen = open(name);
     EXPECT_TRUE(spoken().contains(u"何も印刷されていません。"_s));
