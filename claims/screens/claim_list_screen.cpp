@@ -23,7 +23,7 @@ void ClaimListScreen::onLoad() { openWhole(); }
 
 void ClaimListScreen::opened(const screen::Request& request) {
   if (request.contains("criteria")) {
-    if (openWhole()) showSet(request["criteria"].toString(), QString());
+    if (openWhole()) showPatient(request["criteria"].toString());
   } else if (request.contains("sort")) {
     if (!emptySet()) showSet(QString(), request["sort"].toString());
   } else if (request.contains("refresh")) {
@@ -69,6 +69,17 @@ void ClaimListScreen::showSet(const QString& criteria, const QString& order) {
   }
   source().assign(std::move(*set));
   focusOn("DBGrid1");
+}
+
+// The claims of one patient, asked for on the patient screen. None: told, and the whole list stands.
+void ClaimListScreen::showPatient(const QString& criteria) {
+  source().rows().setFilter(criteria);
+  const auto set = source().rows().openRecordset();
+  source().rows().setFilter(QString());
+  if (set && set->recordCount() == 0)
+    messages().tell(kNoRows);
+  else
+    showSet(criteria, QString());
 }
 
 void ClaimListScreen::search() {

@@ -38,6 +38,7 @@ class ClaimListScreen : public screen::Screen {
 
  private:
   bool openWhole();
+  void showPatient(const QString& criteria);
   void showSet(const QString& criteria, const QString& order);
   bool emptySet();
   QString currentId() const;

@@ -1,8 +1,8 @@
 #include "frame/core/installation.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
 #include <QMap>
@@ -38,8 +38,8 @@ class Layout {
       : m_program(std::move(program)), m_data(std::move(data)), m_templates(std::move(templates)) {}
 
   Result<QStringList> run() {
-    for (const auto step : {&Layout::folders, &Layout::databases, &Layout::fees, &Layout::settings,
-                            &Layout::shippedFiles})
+    for (const auto step :
+         {&Layout::folders, &Layout::databases, &Layout::fees, &Layout::settings, &Layout::shippedFiles})
       if (const Done done = (this->*step)(); !done) return done.fault();
     return m_made;
   }
@@ -64,7 +64,8 @@ class Layout {
 Done Layout::folders() {
   for (const char* name : {"", "GDATA", "backup"}) {
     const QString folder = beside(QLatin1String(name));
-    if (!QDir().mkpath(folder)) return Fault{QStringLiteral("フォルダ「%1」を作ることができません。").arg(folder)};
+    if (!QDir().mkpath(folder))
+      return Fault{QStringLiteral("フォルダ「%1」を作ることができません。").arg(folder)};
   }
   return {};
 }

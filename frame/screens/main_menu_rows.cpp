@@ -13,11 +13,9 @@ constexpr char16_t kSelect[] = u"選択(&A)";
 constexpr char16_t kHelp[] = u"ヘルプ(&H)";
 
 constexpr Row kRows[] = {
-    Bar{},
     Note{.name = {u"Label1"}, .caption = u"Ver 9.22"},
     Note{.name = {u"Label2"}, .caption = u" このＰＣのWindowsは「令和」に対応しています。"},
     Note{.name = {u"Label3"}, .caption = u" このＰＣのWindowsは「令和」に対応していません。"},
-    EndBar{},
 
     Group{.name = {u"FrameDaily"}, .caption = u"毎日の仕事", .columns = 3},
     Command{.name = {u"Command1"},

@@ -37,14 +37,18 @@ constexpr const char16_t* kSexes[] = {u"男", u"女"};
 
 // Identity, dates and the patient's own number stand first: they are typed first and heard first.
 constexpr Row kRows[] = {
-    Group{.name = {u"FrameNotes"}, .caption = u"記入の注意", .columns = 4},
+    Entry{.name = {u"Men_FA"},
+          .under = kFile,
+          .caption = u"新規追加",
+          .run = run<&PatientScreen::askNewPatient>},
+    Bar{},
     Note{.name = {u"Label1"}, .caption = u"※の項目は必ず入力して下さい。", .spoken = true},
     Note{.name = {u"Label6"}, .caption = u"フリガナは半角カナで入力して下さい。", .spoken = true},
     Note{.name = {u"Label3"}, .caption = u"生年月日の記入例：2019/5/25", .spoken = true},
     Note{.name = {u"Label2"}, .caption = u"住所は全角20文字まで", .spoken = true},
-    EndGroup{},
+    EndBar{},
 
-    Group{.name = {u"FramePatient"}, .caption = u"患者", .columns = 4},
+    Group{.name = {u"FramePatient"}, .caption = u"患者", .columns = 5},
     field(1, u"患者ID:", u"患者ID", 12),
     field(2, u"カルテ番号:", u"カルテ番号", 12),
     field(3, u"※フリガナ:", u"ふりがな"),
@@ -86,7 +90,7 @@ constexpr Row kRows[] = {
     field(15, u"FAX:", u"FAX", 16),
     EndGroup{},
 
-    Group{.name = {u"FrameKind"}, .caption = u"区分と紹介", .columns = 4},
+    Group{.name = {u"FrameKind"}, .caption = u"区分と紹介", .columns = 5},
     field(18, u"紹介してくれた人:", u"紹介してくれた人"),
     field(19, u"紹介した人:", u"紹介した人"),
     field(20, u"キーワード1:", u"キーワード1"),
@@ -211,10 +215,6 @@ constexpr Row kRows[] = {
             .under = kFile},
     EndBar{},
 
-    Entry{.name = {u"Men_FA"},
-          .under = kFile,
-          .caption = u"新規追加",
-          .run = run<&PatientScreen::askNewPatient>},
     Entry{.name = {u"Men_FJ1"}, .under = kFile, .caption = u"常用文字１", .run = opens<u"frmCLmoji">},
     Entry{.name = {u"Men_FJ2"}, .under = kFile, .caption = u"常用文字２", .run = opens<u"frmCl2moji">},
     Entry{.name = {u"Men_FO"}, .under = kFile, .caption = u"一覧表と印刷", .run = opens<u"一覧表">},

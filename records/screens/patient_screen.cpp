@@ -206,23 +206,24 @@ screen::Request PatientScreen::patientColumns() const {
   constexpr Copy kCopies[] = {
       {u"テキスト5", kSerial},        {u"患者ID", u"txtFields(1)"},   {u"カルテ番号", u"txtFields(2)"},
       {u"ふりがな", u"txtFields(3)"}, {u"氏名", u"txtFields(4)"},     {u"性別", u"txtFields(5)"},
-      {u"生年月日", kBirth},          {u"郵便番号", u"txtFields(8)"}, {u"住所1", u"txtFields(9)"},
-      {u"住所2", u"txtFields(10)"},   {u"住所3", u"txtFields(11)"},   {u"電話1", u"txtFields(12)"},
+      {u"生年月日", kBirth},          {u"郵便番号", u"txtFields(8)"}, {u"電話1", u"txtFields(12)"},
       {u"初診日", kFirstVisit},
   };
   for (const Copy& copy : kCopies) request[name(copy.key)] = text(name(copy.control));
-  request[u"住所"_s] =
+  // A claim takes the address as one text.
+  request[u"住所1"_s] =
       joinedAddress(text(u"txtFields(9)"_s), text(u"txtFields(10)"_s), text(u"txtFields(11)"_s));
   return request;
 }
 
 void PatientScreen::openNewClaim() { navigator().show(u"新規レセプト"_s, patientColumns()); }
 
+// A claim is tied to its patient by the serial; a patient of an older register has none and goes by the name.
 void PatientScreen::openClaims() {
-  screen::Request request = patientColumns();
-  request[u"criteria"_s] = u"氏名='"_s + text(u"txtFields(4)"_s) + u"' "_s;
-  request[u"sort"_s] = u"ID DESC"_s;
-  navigator().show(u"レセプト一覧表"_s, request);
+  const QString serial = text(name(kSerial));
+  const QString criteria =
+      serial.isEmpty() ? u"氏名='"_s + text(u"txtFields(4)"_s) + u"' "_s : u"番号1 ='"_s + serial + u"' "_s;
+  navigator().show(u"レセプト一覧表"_s, {{u"criteria"_s, criteria}});
 }
 
 void PatientScreen::openReceipt() { navigator().show(u"領収証選択"_s, patientColumns()); }

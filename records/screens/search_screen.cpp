@@ -57,6 +57,7 @@ void SearchScreen::onLoad() {
 
 void SearchScreen::opened(const Request&) {
   setItems(u"Combo1"_s, SearchHistory(m_run.programFolder).words());
+  focusOn(u"Frame1"_s);
 }
 
 Screen* SearchScreen::patients() {

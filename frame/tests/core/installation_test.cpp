@@ -159,7 +159,8 @@ TEST_F(InstallationTest, ShippedFormsAndHelpAreBroughtUpToDate) {
 
 TEST_F(InstallationTest, AFileThatWasCutOffWhileItWasMadeIsMadeAgain) {
   layOutHere();
-  ASSERT_TRUE(QFile::rename(path(QStringLiteral("CLmoji2000.mdb")), path(QStringLiteral("CLmoji2000.mdb.part"))));
+  ASSERT_TRUE(
+      QFile::rename(path(QStringLiteral("CLmoji2000.mdb")), path(QStringLiteral("CLmoji2000.mdb.part"))));
   EXPECT_EQ(layOutHere(), QStringList(QStringLiteral("CLmoji2000.mdb")));
   EXPECT_EQ(open(QStringLiteral("CLmoji2000.mdb")).recordCount(), 60);
 }

@@ -1,8 +1,9 @@
+#include "platform/store/catalogue.h"
+
 #include <QAction>
 #include <QPushButton>
 
 #include "platform/screen/testing/screen_probe.h"
-#include "platform/store/catalogue.h"
 #include "records/screens/patient_rows.h"
 #include "records/tests/screens/records_fixture.h"
 

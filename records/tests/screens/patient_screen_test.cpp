@@ -387,14 +387,19 @@ TEST_F(PatientScreenTest, NewClaimIsHandedThePatient) {
   EXPECT_EQ(request.value(u"性別"_s).toString(), u"男"_s);
   EXPECT_EQ(request.value(u"電話1"_s).toString(), u"00-0000-0001"_s);
   EXPECT_EQ(request.value(u"テキスト5"_s).toString(), u"20240401001"_s);
-  EXPECT_EQ(request.value(u"住所"_s).toString(), u"あ"_s.repeated(30) + u"い"_s.repeated(9));
+  EXPECT_EQ(request.value(u"住所1"_s).toString(), u"あ"_s.repeated(30) + u"い"_s.repeated(9));
 }
 
-TEST_F(PatientScreenTest, ClaimsOfThePatientAreNamedByACriterion) {
-  addPatient({{u"氏名"_s, u"見本 太郎"_s}});
+TEST_F(PatientScreenTest, ClaimsOfThePatientGoByTheSerialElseByTheName) {
+  addPatient({{u"氏名"_s, u"見本 太郎"_s}, {u"テキスト5"_s, u"20240401001"_s}});
+  addPatient({{u"氏名"_s, u"見本 次郎"_s}});
   standIn(u"レセプト一覧表"_s);
-  patients().trigger(u"Men_FR"_s);
-  EXPECT_EQ(requestOf(u"レセプト一覧表"_s).value(u"criteria"_s).toString(), u"氏名='見本 太郎' "_s);
+  screen::Screen& screen = patients();
+  screen.trigger(u"Men_FR"_s);
+  EXPECT_EQ(requestOf(u"レセプト一覧表"_s).value(u"criteria"_s).toString(), u"番号1 ='20240401001' "_s);
+  screen.trigger(u"Command17"_s);
+  screen.trigger(u"Command7"_s);
+  EXPECT_EQ(requestOf(u"レセプト一覧表"_s).value(u"criteria"_s).toString(), u"氏名='見本 次郎' "_s);
 }
 
 TEST_F(PatientScreenTest, ChartOneNeedsASerial) {

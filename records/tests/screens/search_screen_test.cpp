@@ -140,6 +140,13 @@ TEST_F(SearchScreenTest, OpeningSpeaksTheNote) {
       u"カーソルで項目を選択後、タブ移動し文字入力し、検索ボタンをおしてください。"_s));
 }
 
+TEST_F(SearchScreenTest, FocusOpensOnTheChosenColumn) {
+  screen::Screen& dialog = shown(u"選択4");
+  ASSERT_NE(dialog.focusWidget(), nullptr);
+  EXPECT_EQ(dialog.focusWidget()->objectName(), u"Option4"_s);
+  EXPECT_EQ(dialog.chosen(u"Frame1"_s), u"氏名"_s);
+}
+
 TEST_F(SearchScreenTest, ListAndCancel) {
   screen::Screen& dialog = shown(u"選択4");
   dialog.trigger(u"Command4"_s);
