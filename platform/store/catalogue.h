@@ -14,8 +14,8 @@ struct ColumnRow {
 };
 
 struct TableRow {
-  const char16_t* file;   ///< file name in the program folder, e.g. 臨床QV2000N.mdb
-  int folderEntry;        ///< index in the data folders, -1: always in the program folder
+  const char16_t* file;  ///< file name in the program folder, e.g. 臨床QV2000N.mdb
+  int folderEntry;       ///< index in the data folders, -1: always in the program folder
   const char16_t* table;
   std::span<const ColumnRow> columns;
 };

@@ -79,8 +79,7 @@ constexpr ColumnsText kClaims2[] = {
     {LongText, true, u"memodummy14..memodummy16,h1,m1"},
 };
 
-constexpr ColumnsText kRouteWork[] = {
-    {Text255, false, u"施術所,x,y,txtdummy21,txt dummy14,txt dummy15"}};
+constexpr ColumnsText kRouteWork[] = {{Text255, false, u"施術所,x,y,txtdummy21,txt dummy14,txt dummy15"}};
 
 constexpr ColumnsText kAppointments[] = {
     {Text255, false,
@@ -107,28 +106,17 @@ constexpr ColumnsText kFees[] = {
      u"マ訪問施術321..マ訪問施術325"}};
 
 constexpr TableText kTables[] = {
-    {u"臨床QV2000N.mdb", 0, u"臨床QV", kPatients},
-    {u"予約2000.mdb", 1, u"予約", kAppointments},
-    {u"保険申請2000_1.mdb", 2, u"保険申請", kClaims1},
-    {u"保険申請2000_2.mdb", 14, u"保険申請", kClaims2},
-    {u"保険申請2000_2.mdb", 14, u"FFA", kRouteWork},
-    {u"Keiraku2000.mdb", 3, u"経穴", kAcupoints},
-    {u"CLmoji2000.mdb", 4, u"CLmoji", kPhrases1},
-    {u"CL2moji2000.mdb", 5, u"CL2moji", kPhrases2},
-    {u"カルテ2データ2000.mdb", 6, u"カルテ", kVisits},
-    {u"同意医師2000.mdb", 11, u"同意医師", kDoctors},
-    {u"保険者2000.mdb", 12, u"保険者", kInsurers},
-    {u"料金設定2000.mdb", 13, u"料金設定", kFees},
-    {u"料金設定2010.mdb", -1, u"料金設定", kFees},
-    {u"料金設定2013.mdb", -1, u"料金設定", kFees},
-    {u"料金設定2016.mdb", -1, u"料金設定", kFees},
-    {u"料金設定2018.mdb", -1, u"料金設定", kFees},
-    {u"料金設定2019.mdb", -1, u"料金設定", kFees},
-    {u"料金設定2020.mdb", -1, u"料金設定", kFees},
-    {u"料金設定2022.mdb", -1, u"料金設定", kFees},
-    {u"料金設定2024.mdb", -1, u"料金設定", kFees},
-    {u"料金設定o2000.mdb", -1, u"料金設定", kFees},
-    {u"料金設定o2016.mdb", -1, u"料金設定", kFees},
+    {u"臨床QV2000N.mdb", 0, u"臨床QV", kPatients},     {u"予約2000.mdb", 1, u"予約", kAppointments},
+    {u"保険申請2000_1.mdb", 2, u"保険申請", kClaims1}, {u"保険申請2000_2.mdb", 14, u"保険申請", kClaims2},
+    {u"保険申請2000_2.mdb", 14, u"FFA", kRouteWork},   {u"Keiraku2000.mdb", 3, u"経穴", kAcupoints},
+    {u"CLmoji2000.mdb", 4, u"CLmoji", kPhrases1},      {u"CL2moji2000.mdb", 5, u"CL2moji", kPhrases2},
+    {u"カルテ2データ2000.mdb", 6, u"カルテ", kVisits}, {u"同意医師2000.mdb", 11, u"同意医師", kDoctors},
+    {u"保険者2000.mdb", 12, u"保険者", kInsurers},     {u"料金設定2000.mdb", 13, u"料金設定", kFees},
+    {u"料金設定2010.mdb", -1, u"料金設定", kFees},     {u"料金設定2013.mdb", -1, u"料金設定", kFees},
+    {u"料金設定2016.mdb", -1, u"料金設定", kFees},     {u"料金設定2018.mdb", -1, u"料金設定", kFees},
+    {u"料金設定2019.mdb", -1, u"料金設定", kFees},     {u"料金設定2020.mdb", -1, u"料金設定", kFees},
+    {u"料金設定2022.mdb", -1, u"料金設定", kFees},     {u"料金設定2024.mdb", -1, u"料金設定", kFees},
+    {u"料金設定o2000.mdb", -1, u"料金設定", kFees},    {u"料金設定o2016.mdb", -1, u"料金設定", kFees},
     {u"料金設定o2018.mdb", -1, u"料金設定", kFees},
 };
 

@@ -18,9 +18,8 @@ struct ComparisonMark {
 };
 // The longer marks first.
 constexpr ComparisonMark kComparisons[] = {
-    {u"<>", Comparison::NotEqual},       {u"<=", Comparison::LessOrEqual},
-    {u">=", Comparison::GreaterOrEqual}, {u"=", Comparison::Equal},
-    {u"<", Comparison::Less},            {u">", Comparison::Greater}};
+    {u"<>", Comparison::NotEqual}, {u"<=", Comparison::LessOrEqual}, {u">=", Comparison::GreaterOrEqual},
+    {u"=", Comparison::Equal},     {u"<", Comparison::Less},         {u">", Comparison::Greater}};
 
 std::optional<Comparison> takeComparison(Scanner& scanner) {
   if (scanner.takeWord(u"like")) return Comparison::Like;
@@ -77,12 +76,18 @@ std::u16string folded(const QString& text) {
 
 bool holds(Comparison comparison, int order) {
   switch (comparison) {
-    case Comparison::Less: return order < 0;
-    case Comparison::LessOrEqual: return order <= 0;
-    case Comparison::Greater: return order > 0;
-    case Comparison::GreaterOrEqual: return order >= 0;
-    case Comparison::NotEqual: return order != 0;
-    default: return order == 0;
+    case Comparison::Less:
+      return order < 0;
+    case Comparison::LessOrEqual:
+      return order <= 0;
+    case Comparison::Greater:
+      return order > 0;
+    case Comparison::GreaterOrEqual:
+      return order >= 0;
+    case Comparison::NotEqual:
+      return order != 0;
+    default:
+      return order == 0;
   }
 }
 
@@ -92,8 +97,7 @@ bool holdsInOrder(Comparison comparison, std::u16string_view text, const QString
   const QStringView seen(text.data(), static_cast<qsizetype>(text.size()));
   bool valueIsNumber = false;
   const double number = value.toDouble(&valueIsNumber);
-  if (!valueIsNumber)
-    return holds(comparison, compareJapanese(seen, text::foldForComparison(value)));
+  if (!valueIsNumber) return holds(comparison, compareJapanese(seen, text::foldForComparison(value)));
   bool textIsNumber = false;
   const double left = seen.trimmed().toDouble(&textIsNumber);
   return textIsNumber && holds(comparison, left < number ? -1 : left > number ? 1 : 0);
@@ -107,7 +111,8 @@ Term forNumbers(Term term, ColumnType type) {
   else if (word == u"false" || word == u"no")
     term.value = QStringLiteral("0");
   bool whole = false;
-  if (const qint64 number = term.value.trimmed().toLongLong(&whole); whole) term.value = QString::number(number);
+  if (const qint64 number = term.value.trimmed().toLongLong(&whole); whole)
+    term.value = QString::number(number);
   return term;
 }
 
@@ -169,8 +174,8 @@ LikePattern::LikePattern(const QString& pattern, Wildcard wildcard) {
   const std::u16string_view units(m_units);
   if (units.size() < 3 || units.front() != kAnyRun || units.back() != kAnyRun) return;
   m_literal = units.substr(1, units.size() - 2);
-  m_contained = m_literal.find_first_of(u"\uFFFF\uFFFE") == m_literal.npos &&
-                m_literal.find(u'\0') == m_literal.npos;
+  m_contained =
+      m_literal.find_first_of(u"\uFFFF\uFFFE") == m_literal.npos && m_literal.find(u'\0') == m_literal.npos;
 }
 
 bool LikePattern::matches(std::u16string_view text) const {

@@ -55,8 +55,8 @@ struct Criteria {
   Order order;
 };
 
-/// Reads criteria as "氏名 like '*text*' order by ID". A value between quotes is not escaped: a quote inside it
-/// ends it early, and what follows gives the engine's text for a wrong query.
+/// Reads criteria as "氏名 like '*text*' order by ID". A value between quotes is not escaped: a quote inside
+/// it ends it early, and what follows gives the engine's text for a wrong query.
 Result<Criteria> parseCriteria(const QString& text, Wildcard wildcard = Wildcard::RowSet);
 /// Reads "<column> ASC", "<column> DESC" or a comma-separated list of such.
 Result<Order> parseOrder(const QString& text);

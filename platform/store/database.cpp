@@ -79,7 +79,8 @@ Done checkContent(sqlite3* handle, const QString& path) {
   const Result<qint64> size = pragmaNumber(handle, path, "PRAGMA page_size");
   if (!pages || !size) return (!pages ? pages : size).fault();
   if (QFileInfo(path).size() < *pages * *size)
-    return told(path, QStringLiteral("は、壊れているため使用できません。バックアップから元に戻してください。"));
+    return told(path,
+                QStringLiteral("は、壊れているため使用できません。バックアップから元に戻してください。"));
   return {};
 }
 
@@ -92,8 +93,8 @@ Done createTables(sqlite3* handle, const QString& path, const QString& catalogue
       columns += quotedName(QString::fromUtf16(column.name)) + QLatin1Char(' ') + typeWord(column.type);
       if (column.type == ColumnType::YesNo) columns.back() += QStringLiteral(" NOT NULL DEFAULT 0");
     }
-    const QString create = QStringLiteral("CREATE TABLE ") + table + QLatin1Char('(') + columns.join(u',') +
-                           QLatin1Char(')');
+    const QString create =
+        QStringLiteral("CREATE TABLE ") + table + QLatin1Char('(') + columns.join(u',') + QLatin1Char(')');
     // The whole list of IDs is read from this index instead of the wide rows.
     const QString index = QStringLiteral("CREATE INDEX ") +
                           quotedName(QString::fromUtf16(row.table) + QStringLiteral("_ID")) +
@@ -169,7 +170,8 @@ Result<std::shared_ptr<Database>> Database::open(const QString& path) {
 
 Done createFresh(const QString& path, const QString& catalogueFile) {
   if (!tableOfFile(catalogueFile))
-    return Fault{QStringLiteral("「%1」は、この治療台帳のデータファイルの名前ではありません。").arg(catalogueFile)};
+    return Fault{
+        QStringLiteral("「%1」は、この治療台帳のデータファイルの名前ではありません。").arg(catalogueFile)};
   if (QFileInfo::exists(path)) return told(path, QStringLiteral("は、すでにあります。"));
   // Made beside and renamed, so that a file that stands is always whole.
   const QString beside = path + QStringLiteral(".new");

@@ -50,8 +50,8 @@ Result<TableCopy*> Engine::copy(const QString& table, const QVector<int>& search
       m_copies.clear();
       m_copiesCounter = changeCounter();
     }
-    const auto [place, made] = m_copies.try_emplace(
-        table.toStdU16String(), TableFile(m_statements, QStringLiteral("main"), *known));
+    const auto [place, made] =
+        m_copies.try_emplace(table.toStdU16String(), TableFile(m_statements, QStringLiteral("main"), *known));
     if (const Done loaded = place->second.load(m_statements, searched, sorted); !loaded)
       return loaded.fault();
     constexpr int kAttempts = 3;

@@ -29,9 +29,10 @@ RowSorter::RowSorter(const Order& order, const TableSchema& schema,
 int RowSorter::Key::compare(uint32_t a, uint32_t b) const {
   const uint32_t left = numbers[a], right = numbers[b];
   if (left == right) return 0;
-  const int order = left == SortTexts::kNull    ? -1
-                    : right == SortTexts::kNull ? 1
-                                                : texts->key(left, byValue).compare(texts->key(right, byValue));
+  const int order = left == SortTexts::kNull ? -1
+                    : right == SortTexts::kNull
+                        ? 1
+                        : texts->key(left, byValue).compare(texts->key(right, byValue));
   return descending ? -order : order;
 }
 

@@ -8,8 +8,9 @@
 
 namespace store {
 
-/// Compares rows of a table by their number in ID order: texts in Japanese order, numbers by value, NULL before
-/// everything, ties by ID. Keeps what it compares, so that later writes do not move rows that are being sorted.
+/// Compares rows of a table by their number in ID order: texts in Japanese order, numbers by value, NULL
+/// before everything, ties by ID. Keeps what it compares, so that later writes do not move rows that are
+/// being sorted.
 class RowSorter {
  public:
   RowSorter(const Order& order, const TableSchema& schema,

@@ -23,8 +23,8 @@ Fault halfIsMissing(qint64 id) {
 struct Half {
   std::shared_ptr<Database> database;
   TableFile file;
-  quint32 before = 0;            ///< the file's counter when the transaction began
-  std::vector<qint64> written;   ///< told to the file's record sets after the commit
+  quint32 before = 0;           ///< the file's counter when the transaction began
+  std::vector<qint64> written;  ///< told to the file's record sets after the commit
   std::vector<qint64> removed;
 };
 
@@ -187,7 +187,8 @@ Result<qint64> PairStore::add(const Columns& first, const Columns& second) {
     const Result<qint64> next = state.nextId();
     if (!next) return next.fault();
     id = *next;
-    for (const auto& [half, columns] : {std::pair(&*state.first, &first), std::pair(&*state.second, &second)}) {
+    for (const auto& [half, columns] :
+         {std::pair(&*state.first, &first), std::pair(&*state.second, &second)}) {
       Result<RowValues> values = half->file.accept(*columns);
       if (!values) return values.fault();
       values->append({half->file.schema().find(QStringLiteral("ID")), QString::number(id)});

@@ -237,7 +237,8 @@ bool RecordSet::adding() const { return m_state->buffer == Buffer::Adding; }
 
 Done RecordSet::setValue(const QString& column, const Value& value) {
   if (m_state->buffer == Buffer::None)
-    return Fault{QStringLiteral("追加または編集を始めていないため、項目「%1」を変更できません。").arg(column)};
+    return Fault{
+        QStringLiteral("追加または編集を始めていないため、項目「%1」を変更できません。").arg(column)};
   const int index = m_state->schema().find(column);
   if (index < 0) return unknownColumn(column, table());
   const bool key = m_state->schema().type(index) == ColumnType::Counter;
@@ -254,9 +255,8 @@ Done RecordSet::update() {
   const Result<RowValues> values = state.bufferedValues();
   if (!values) return values.fault();
   const bool adds = adding();
-  const Done done = state.write([&]() -> Result<qint64> {
-    return adds ? state.file->insert(*values) : state.writeEdited(*values);
-  });
+  const Done done = state.write(
+      [&]() -> Result<qint64> { return adds ? state.file->insert(*values) : state.writeEdited(*values); });
   if (!done) return done;
   if (adds) state.ids.append(state.lastModified);
   state.endEditing();

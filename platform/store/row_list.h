@@ -8,8 +8,8 @@
 
 namespace store {
 
-/// IDs of the rows of a record set by position, sorted where somebody looks: a list of a hundred thousand rows
-/// shows its first window long before the last row would have its place.
+/// IDs of the rows of a record set by position, sorted where somebody looks: a list of a hundred thousand
+/// rows shows its first window long before the last row would have its place.
 class RowList {
  public:
   RowList() = default;

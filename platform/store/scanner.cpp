@@ -75,6 +75,8 @@ QString Scanner::takeRest() {
   return rest;
 }
 
-Fault Scanner::fault() const { return {QStringLiteral("クエリ式「%1」の構文に誤りがあります。").arg(m_text)}; }
+Fault Scanner::fault() const {
+  return {QStringLiteral("クエリ式「%1」の構文に誤りがあります。").arg(m_text)};
+}
 
 }  // namespace store

@@ -59,11 +59,16 @@ int TableSchema::find(const QString& name) const {
 
 QString typeWord(ColumnType type) {
   switch (type) {
-    case ColumnType::Counter: return QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT");
-    case ColumnType::Text255: return QStringLiteral("TEXT(255)");
-    case ColumnType::LongText: return QStringLiteral("TEXT");
-    case ColumnType::Integer: return QStringLiteral("INTEGER");
-    case ColumnType::YesNo: return QStringLiteral("YESNO");
+    case ColumnType::Counter:
+      return QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT");
+    case ColumnType::Text255:
+      return QStringLiteral("TEXT(255)");
+    case ColumnType::LongText:
+      return QStringLiteral("TEXT");
+    case ColumnType::Integer:
+      return QStringLiteral("INTEGER");
+    case ColumnType::YesNo:
+      return QStringLiteral("YESNO");
   }
   return {};
 }
@@ -91,8 +96,10 @@ Result<TableSchema> readSchema(sqlite3* handle, const QString& path, const QStri
 Result<Value> columnValue(const TableSchema& schema, int column, const Value& value) {
   const QString& name = schema.name(column);
   switch (schema.type(column)) {
-    case ColumnType::YesNo: return yesNo(name, value);
-    case ColumnType::Integer: return wholeNumber(name, value);
+    case ColumnType::YesNo:
+      return yesNo(name, value);
+    case ColumnType::Integer:
+      return wholeNumber(name, value);
     case ColumnType::Text255:
       if (value.size() > kTextLimit)
         return refused(name, QStringLiteral("には%1文字までしか登録できません。今の文字数は%2文字です。")
@@ -104,7 +111,8 @@ Result<Value> columnValue(const TableSchema& schema, int column, const Value& va
       if (!ok || id < 1) return refused(name, QStringLiteral("には、1以上の整数しか登録できません。"));
       return QString::number(id);
     }
-    case ColumnType::LongText: break;
+    case ColumnType::LongText:
+      break;
   }
   return value;
 }

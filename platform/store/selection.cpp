@@ -37,8 +37,9 @@ Result<RowList> selectRows(Engine& engine, const QString& table, std::span<const
   rows.reserve(ids.size());
   for (size_t row = 0; row < fitting.size(); ++row)
     if (fitting[row]) rows.push_back(static_cast<uint32_t>(row));
-  return RowList(ids, rows,
-                 RowSorter(wanted, **schema, [&](int column) -> const SortColumn& { return (*copy)->sorted(column); }));
+  return RowList(ids, rows, RowSorter(wanted, **schema, [&](int column) -> const SortColumn& {
+                   return (*copy)->sorted(column);
+                 }));
 }
 
 }  // namespace store

@@ -11,7 +11,8 @@ QString reason(sqlite3* handle) {
   switch (sqlite3_errcode(handle) & 0xFF) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-      return QStringLiteral("は、ほかのコンピュータまたは画面で使用中です。しばらくしてからもう一度実行してください。");
+      return QStringLiteral(
+          "は、ほかのコンピュータまたは画面で使用中です。しばらくしてからもう一度実行してください。");
     case SQLITE_READONLY:
     case SQLITE_PERM:
       return QStringLiteral("は、読み取り専用のため書き込めません。");
@@ -58,7 +59,8 @@ Result<Statement> Statement::prepare(sqlite3* handle, const QString& path, const
 Statement::~Statement() { sqlite3_finalize(m_statement); }
 
 Statement::Statement(Statement&& other) noexcept
-    : m_handle(other.m_handle), m_path(std::move(other.m_path)),
+    : m_handle(other.m_handle),
+      m_path(std::move(other.m_path)),
       m_statement(std::exchange(other.m_statement, nullptr)) {}
 
 Statement& Statement::operator=(Statement&& other) noexcept {

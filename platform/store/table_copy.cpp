@@ -51,9 +51,10 @@ void FoldedColumn::markContaining(std::u16string_view needle, std::vector<char>&
   size_t row = 0;
   for (size_t hit = all.find(needle); hit != all.npos && row < rows();) {
     if (m_starts[row + 1] <= hit)
-      row = static_cast<size_t>(std::upper_bound(m_starts.begin() + static_cast<std::ptrdiff_t>(row),
-                                                 m_starts.end(), hit) -
-                                m_starts.begin()) - 1;
+      row = static_cast<size_t>(
+                std::upper_bound(m_starts.begin() + static_cast<std::ptrdiff_t>(row), m_starts.end(), hit) -
+                m_starts.begin()) -
+            1;
     if (row >= rows()) return;
     marks[row] = !m_null[row];
     hit = all.find(needle, m_starts[row + 1]);
@@ -77,7 +78,8 @@ uint32_t SortTexts::number(QStringView text) {
 const QByteArray& SortTexts::key(uint32_t number, bool byValue) {
   if (m_keys.size() < m_texts.size()) m_keys.resize(m_texts.size());
   QByteArray& key = m_keys[number];
-  if (key.isNull()) key = byValue ? numberSortKey(m_texts[number].toLongLong()) : japaneseSortKey(m_texts[number]);
+  if (key.isNull())
+    key = byValue ? numberSortKey(m_texts[number].toLongLong()) : japaneseSortKey(m_texts[number]);
   return key;
 }
 
@@ -93,7 +95,8 @@ QVector<int> TableCopy::missing(const QVector<int>& searched, const QVector<int>
 Result<bool> TableCopy::loadUnbrokenIds(StatementCache& statements) {
   const QString table = quotedName(schema().table());
   Result<Statement*> ends = statements.get(
-      QStringLiteral("SELECT (SELECT count(*) FROM %1), (SELECT min(\"ID\") FROM %1), (SELECT max(\"ID\") FROM %1)")
+      QStringLiteral(
+          "SELECT (SELECT count(*) FROM %1), (SELECT min(\"ID\") FROM %1), (SELECT max(\"ID\") FROM %1)")
           .arg(table));
   if (!ends) return ends.fault();
   if (const Result<bool> row = (*ends)->step(); !row) return row.fault();

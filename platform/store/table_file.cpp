@@ -22,7 +22,8 @@ Result<Statement*> StatementCache::get(const QString& sql) {
 }
 
 TableFile::TableFile(StatementCache& statements, QString qualifier, std::shared_ptr<const TableSchema> schema)
-    : m_statements(&statements), m_schema(std::move(schema)),
+    : m_statements(&statements),
+      m_schema(std::move(schema)),
       m_name(quotedName(qualifier) + QLatin1Char('.') + quotedName(m_schema->table())),
       m_allColumns(m_schema->count()) {
   std::iota(m_allColumns.begin(), m_allColumns.end(), 0);
@@ -66,8 +67,7 @@ Result<qint64> TableFile::insert(const RowValues& values) const {
   Result<Statement*> statement = m_statements->get(QStringLiteral("INSERT INTO ") + m_name + content);
   if (!statement) return statement.fault();
   int place = 0;
-  for (const auto& [column, value] : values)
-    (*statement)->bindValue(++place, value, m_schema->type(column));
+  for (const auto& [column, value] : values) (*statement)->bindValue(++place, value, m_schema->type(column));
   if (const Done done = (*statement)->run(); !done) return done.fault();
   return static_cast<qint64>(sqlite3_last_insert_rowid(m_statements->handle()));
 }
@@ -77,14 +77,13 @@ Done TableFile::update(qint64 id, const RowValues& values) const {
   QStringList pairs;
   for (const auto& [column, value] : values)
     pairs += quotedName(m_schema->name(column)) + QStringLiteral("=?") + QString::number(pairs.size() + 2);
-  Result<Statement*> statement = m_statements->get(QStringLiteral("UPDATE ") + m_name +
-                                                   QStringLiteral(" SET ") + pairs.join(u',') +
-                                                   QStringLiteral(" WHERE \"ID\"=?1"));
+  Result<Statement*> statement =
+      m_statements->get(QStringLiteral("UPDATE ") + m_name + QStringLiteral(" SET ") + pairs.join(u',') +
+                        QStringLiteral(" WHERE \"ID\"=?1"));
   if (!statement) return statement.fault();
   (*statement)->bind(1, id);
   int place = 1;
-  for (const auto& [column, value] : values)
-    (*statement)->bindValue(++place, value, m_schema->type(column));
+  for (const auto& [column, value] : values) (*statement)->bindValue(++place, value, m_schema->type(column));
   return (*statement)->run();
 }
 
@@ -111,8 +110,9 @@ Result<RowValues> TableFile::accept(const QHash<QString, Value>& columns) const 
 }
 
 Fault changedMeanwhile() {
-  return {QStringLiteral("このレコードは、表示した後でほかのコンピュータまたは画面で変更されたため、登録できません。"
-                         "表示し直してから、もう一度入力してください。")};
+  return {QStringLiteral(
+      "このレコードは、表示した後でほかのコンピュータまたは画面で変更されたため、登録できません。"
+      "表示し直してから、もう一度入力してください。")};
 }
 
 Fault rowIsGone() { return {QStringLiteral("このレコードは、すでに削除されています。")}; }

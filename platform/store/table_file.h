@@ -54,7 +54,6 @@ class TableFile {
   Result<RowValues> accept(const QHash<QString, Value>& columns) const;
 
  private:
-
   StatementCache* m_statements;
   std::shared_ptr<const TableSchema> m_schema;
   QString m_name;

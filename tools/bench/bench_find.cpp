@@ -30,8 +30,10 @@ struct Search {
   const char16_t* column;
   const char16_t* text;
 };
-constexpr Search kSearches[] = {{"find_name", u"氏名", u"花子77"}, {"find_name_two_letters", u"氏名", u"見本"},
-                                {"find_kana", u"ふりがな", u"ｱｲ"}, {"find_address", u"住所1", u"町3丁目17"}};
+constexpr Search kSearches[] = {{"find_name", u"氏名", u"花子77"},
+                                {"find_name_two_letters", u"氏名", u"見本"},
+                                {"find_kana", u"ふりがな", u"ｱｲ"},
+                                {"find_address", u"住所1", u"町3丁目17"}};
 
 /// The first search of a run reads the column, the later ones compare in memory. The floor of all is the scan
 /// of the same file; beside it stands the scan of a narrow table that holds nothing but the column.
@@ -83,8 +85,9 @@ int find(const QStringList& arguments) {
   const QString criteria = QStringLiteral("ETC1 like '*%1*' ").arg(key);
   const double first = middleMilliseconds(1, [&] { hits(*visitSet, criteria); });
   const double again = middleMilliseconds(kRuns, [&] { hits(*visitSet, criteria); });
-  const double scan = middleMilliseconds(
-      3, [&] { PlainFile(visits).run(QStringLiteral("SELECT ID FROM カルテ WHERE ETC1 LIKE '%%1%'").arg(key)); });
+  const double scan = middleMilliseconds(3, [&] {
+    PlainFile(visits).run(QStringLiteral("SELECT ID FROM カルテ WHERE ETC1 LIKE '%%1%'").arg(key));
+  });
   besideFloor("find_visits_first", first, scan);
   besideFloor("find_visits", again, scan);
   return 0;

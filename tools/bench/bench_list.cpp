@@ -13,8 +13,9 @@ namespace {
 
 constexpr int kShownRows = 50;
 const QString kTable = QStringLiteral("保険申請");
-const QStringList kShown = {QStringLiteral("ID"),         QStringLiteral("申請年月"),   QStringLiteral("氏名"),
-                            QStringLiteral("保険の種類"), QStringLiteral("保険者番号"), QStringLiteral("施術内容"),
+const QStringList kShown = {QStringLiteral("ID"),         QStringLiteral("申請年月"),
+                            QStringLiteral("氏名"),       QStringLiteral("保険の種類"),
+                            QStringLiteral("保険者番号"), QStringLiteral("施術内容"),
                             QStringLiteral("合計"),       QStringLiteral("請求額")};
 
 struct Listing {
@@ -67,7 +68,8 @@ int list(const QStringList& arguments) {
     return 2;
   }
   const QString path = arguments[0] + QStringLiteral("/保険申請2000_1.mdb");
-  PlainFile(path).run(QStringLiteral("SELECT count(氏名) FROM 保険申請"));  // both ways find the file read before
+  PlainFile(path).run(
+      QStringLiteral("SELECT count(氏名) FROM 保険申請"));  // both ways find the file read before
   for (const Listing& one : kListings) {
     const double floor = middleMilliseconds(3, [&] {
       PlainFile plain(path);
@@ -88,15 +90,19 @@ int list(const QStringList& arguments) {
     const QByteArray name(one.name);
     figure((name + "_rows").constData(), set->recordCount(), "rows");
     besideFloor((name + "_first50").constData(), first, floor);
-    figure((name + "_again").constData(), middleMilliseconds(5, [&] {
-             const auto again = opened(path, one);
-             if (again) show(*again, 0);
-           }),
+    figure((name + "_again").constData(),
+           middleMilliseconds(5,
+                              [&] {
+                                const auto again = opened(path, one);
+                                if (again) show(*again, 0);
+                              }),
            "ms");
-    figure((name + "_last_row").constData(), middleMilliseconds(5, [&] {
-             set->moveLast();
-             show(*set, set->recordCount() - kShownRows);
-           }),
+    figure((name + "_last_row").constData(),
+           middleMilliseconds(5,
+                              [&] {
+                                set->moveLast();
+                                show(*set, set->recordCount() - kShownRows);
+                              }),
            "ms");
   }
   return 0;

@@ -1,5 +1,5 @@
-// bench pair make|store|check DIR [STAMP]: the crash test of the two claim files, and the cost of a store beside
-// a bare transaction over two files.
+// bench pair make|store|check DIR [STAMP]: the crash test of the two claim files, and the cost of a store
+// beside a bare transaction over two files.
 
 #include <sqlite3.h>
 
@@ -37,9 +37,11 @@ int fault(const text::Fault& fault) {
 }
 
 int makePair(const Files& files) {
-  for (const auto& [path, stamp] : {std::pair(files.first, kFirstStamp), std::pair(files.second, kSecondStamp)}) {
+  for (const auto& [path, stamp] :
+       {std::pair(files.first, kFirstStamp), std::pair(files.second, kSecondStamp)}) {
     QFile::remove(path);
-    if (const auto made = store::createFresh(path, QFileInfo(path).fileName()); !made) return fault(made.fault());
+    if (const auto made = store::createFresh(path, QFileInfo(path).fileName()); !made)
+      return fault(made.fault());
     const auto added = store::addRows(
         path, kTable, {{{QStringLiteral("ID"), QString::number(kPair)}, {stamp, QStringLiteral("old")}}});
     if (!added) return fault(added.fault());

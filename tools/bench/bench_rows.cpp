@@ -5,12 +5,14 @@
 namespace bench {
 namespace {
 
-constexpr const char16_t* kSurnames[] = {u"見本", u"架空", u"例示", u"試験", u"仮名", u"模型", u"雛形", u"空想"};
+constexpr const char16_t* kSurnames[] = {u"見本", u"架空", u"例示", u"試験",
+                                         u"仮名", u"模型", u"雛形", u"空想"};
 constexpr const char16_t* kGiven[] = {u"太郎", u"花子", u"一郎", u"春子", u"次郎", u"夏子", u"三郎", u"秋子"};
 constexpr const char16_t* kSyllables[] = {u"ｱ", u"ｲ", u"ｳ", u"ｴ", u"ｵ", u"ｶ", u"ｷ", u"ｸ", u"ｹ", u"ｺ", u"ｻ",
                                           u"ｼ", u"ｽ", u"ｾ", u"ｿ", u"ﾀ", u"ﾁ", u"ﾂ", u"ﾃ", u"ﾄ", u"ﾅ", u"ﾆ",
                                           u"ﾇ", u"ﾈ", u"ﾉ", u"ﾊ", u"ﾋ", u"ﾌ", u"ﾍ", u"ﾎ", u"ﾏ", u"ﾐ"};
-constexpr const char16_t* kKinds[] = {u"国保", u"組合", u"共済", u"全国健康保険協会", u"後期高齢", u"退職国保"};
+constexpr const char16_t* kKinds[] = {u"国保",     u"組合",    u"共済", u"全国健康保険協会",
+                                      u"後期高齢", u"退職国保"};
 constexpr const char16_t* kRanks[] = {u"4", u"2", u"1", u"3", u"7", u"5"};
 constexpr const char16_t* kRelations[] = {u"本人", u"家族", u"妻", u"長男"};
 constexpr const char16_t* kShares[] = {u"1割", u"2割", u"3割"};
@@ -18,18 +20,37 @@ constexpr const char16_t* kCodes[] = {u"a", u"b", u"e", u"f"};
 
 /// Columns that every claim carries alike.
 constexpr std::pair<const char16_t*, const char16_t*> kShared[] = {
-    {u"申請年月", u"令和6年10月"}, {u"申請月", u"10"}, {u"施術内容", u"鍼灸"}, {u"施術科目", u"鍼灸"},
-    {u"保険の種類3", u"国民健保"}, {u"保険者住所", u"架空県みほん市見本町１－１"},
-    {u"発病又は負傷年月日", u"令和6年1月10日"}, {u"初療年月日", u"令和6年2月3日"},
-    {u"実際の同意の年月日", u"令和6年9月1日"}, {u"同意の傷病名", u"腰痛症"}, {u"同意症状", u"関節拘縮"},
-    {u"同意医師氏名", u"見本 医太郎"}, {u"同意医師住所", u"架空県みほん市医院町１－２"},
-    {u"医療機関名", u"架空みほん整形外科"}, {u"要加療期間1", u"令和6年9月1日"},
-    {u"要加療期間2", u"令和7年2月28日"}, {u"請求年月日", u"令和6年11月1日"}, {u"請求区分", u"継続"},
-    {u"転帰", u"継続"}, {u"業務上外のもの", u"その他"}, {u"第三者行為によるもの", u"いいえ"},
-    {u"入院入院外の別", u"入院外"}, {u"傷病名5", u"-1"}, {u"施術者氏名", u"架空 治子"},
-    {u"施術所の名称", u"架空はりきゅう院"}, {u"施術所の所在地", u"架空県みほん市仮町３"},
-    {u"施術所電話番号", u"00-0000-0002"}, {u"金融機関名", u"架空"}, {u"口座番号", u"0123456"},
-    {u"摘要1", u"往療は医師の指示による"}, {u"同意_患者", u"-1"}};
+    {u"申請年月", u"令和6年10月"},
+    {u"申請月", u"10"},
+    {u"施術内容", u"鍼灸"},
+    {u"施術科目", u"鍼灸"},
+    {u"保険の種類3", u"国民健保"},
+    {u"保険者住所", u"架空県みほん市見本町１－１"},
+    {u"発病又は負傷年月日", u"令和6年1月10日"},
+    {u"初療年月日", u"令和6年2月3日"},
+    {u"実際の同意の年月日", u"令和6年9月1日"},
+    {u"同意の傷病名", u"腰痛症"},
+    {u"同意症状", u"関節拘縮"},
+    {u"同意医師氏名", u"見本 医太郎"},
+    {u"同意医師住所", u"架空県みほん市医院町１－２"},
+    {u"医療機関名", u"架空みほん整形外科"},
+    {u"要加療期間1", u"令和6年9月1日"},
+    {u"要加療期間2", u"令和7年2月28日"},
+    {u"請求年月日", u"令和6年11月1日"},
+    {u"請求区分", u"継続"},
+    {u"転帰", u"継続"},
+    {u"業務上外のもの", u"その他"},
+    {u"第三者行為によるもの", u"いいえ"},
+    {u"入院入院外の別", u"入院外"},
+    {u"傷病名5", u"-1"},
+    {u"施術者氏名", u"架空 治子"},
+    {u"施術所の名称", u"架空はりきゅう院"},
+    {u"施術所の所在地", u"架空県みほん市仮町３"},
+    {u"施術所電話番号", u"00-0000-0002"},
+    {u"金融機関名", u"架空"},
+    {u"口座番号", u"0123456"},
+    {u"摘要1", u"往療は医師の指示による"},
+    {u"同意_患者", u"-1"}};
 
 /// A number that looks drawn by lot and depends on the row and the purpose alone.
 quint32 lot(int number, quint32 purpose) {
@@ -50,7 +71,8 @@ QString name(int patient) {
 
 QString reading(int patient) {
   QString kana;
-  for (quint32 at = 0; at < 7; ++at) kana += at == 3 ? QStringLiteral(" ") : any(kSyllables, patient, 10 + at);
+  for (quint32 at = 0; at < 7; ++at)
+    kana += at == 3 ? QStringLiteral(" ") : any(kSyllables, patient, 10 + at);
   return kana;
 }
 
@@ -95,8 +117,10 @@ Row visitRow(int number, int patients) {
   return {{QStringLiteral("ETC1"), patientKey(patient)},
           {QStringLiteral("氏名"), name(patient)},
           {QStringLiteral("生年月日"), birth(patient)},
-          {QStringLiteral("治療日時"), QStringLiteral("令和6年%1月%2日").arg(1 + day % 12).arg(1 + day / 12 % 28)},
-          {QStringLiteral("治療日チェック"), QStringLiteral("2024/%1/%2").arg(1 + day % 12).arg(1 + day / 12 % 28)},
+          {QStringLiteral("治療日時"),
+           QStringLiteral("令和6年%1月%2日").arg(1 + day % 12).arg(1 + day / 12 % 28)},
+          {QStringLiteral("治療日チェック"),
+           QStringLiteral("2024/%1/%2").arg(1 + day % 12).arg(1 + day / 12 % 28)},
           {QStringLiteral("治療概略"), QStringLiteral("腰部の施術。前回の後に変わりはない。")},
           {QStringLiteral("治療金額"), QStringLiteral("1610")},
           {QStringLiteral("保険の一部負担金"), QStringLiteral("483")},
@@ -120,7 +144,8 @@ Row firstHalfRow(int number, int patients) {
   row.insert(QStringLiteral("番号1"), patientKey(patient));
   row.insert(QStringLiteral("保険の種類"), QString::fromUtf16(kKinds[kind]));
   row.insert(QStringLiteral("保険順位"), QString::fromUtf16(kRanks[kind]));
-  row.insert(QStringLiteral("保険者番号"), QStringLiteral("99%1").arg(lot(number, 41) % 40, 4, 10, QLatin1Char('0')));
+  row.insert(QStringLiteral("保険者番号"),
+             QStringLiteral("99%1").arg(lot(number, 41) % 40, 4, 10, QLatin1Char('0')));
   row.insert(QStringLiteral("保険者名称"), QStringLiteral("みほん市%1").arg(lot(number, 41) % 40));
   row.insert(QStringLiteral("保険証番号"), QString::number(1000 + lot(number, 42) % 9000));
   row.insert(QStringLiteral("被保険者との続柄"), any(kRelations, number, 43));

@@ -36,13 +36,14 @@ void PlainFile::takeColumn(PlainFile& from, const QString& table, const QString&
   run(QStringLiteral("CREATE TABLE %1(ID INTEGER PRIMARY KEY, %2 TEXT)").arg(table, column));
   sqlite3_stmt* read = nullptr;
   sqlite3_stmt* write = nullptr;
-  sqlite3_prepare_v2(from.m_handle, QStringLiteral("SELECT ID, %1 FROM %2").arg(column, table).toUtf8(), -1, &read,
-                     nullptr);
-  sqlite3_prepare_v2(m_handle, QStringLiteral("INSERT INTO %1 VALUES (?1, ?2)").arg(table).toUtf8(), -1, &write,
-                     nullptr);
+  sqlite3_prepare_v2(from.m_handle, QStringLiteral("SELECT ID, %1 FROM %2").arg(column, table).toUtf8(), -1,
+                     &read, nullptr);
+  sqlite3_prepare_v2(m_handle, QStringLiteral("INSERT INTO %1 VALUES (?1, ?2)").arg(table).toUtf8(), -1,
+                     &write, nullptr);
   while (sqlite3_step(read) == SQLITE_ROW) {
     sqlite3_bind_value(write, 1, sqlite3_column_value(read, 0));
-    sqlite3_bind_text(write, 2, reinterpret_cast<const char*>(sqlite3_column_text(read, 1)), -1, SQLITE_TRANSIENT);
+    sqlite3_bind_text(write, 2, reinterpret_cast<const char*>(sqlite3_column_text(read, 1)), -1,
+                      SQLITE_TRANSIENT);
     sqlite3_step(write);
     sqlite3_reset(write);
   }

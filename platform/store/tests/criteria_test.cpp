@@ -73,8 +73,8 @@ TEST_F(CriteriaTest, EveryFormOfTheSubset) {
       {"yn1 = 0", "1 2 3 4 5"},
       {"yn1 = true", ""},
       {"yn1 <> -1", "1 2 3 4 5"},
-      {"氏名 like '*＊*'", "5"},           // a full-width star is a letter
-      {"住所1 like '*%*'", "4"},           // no wildcard in row-set criteria
+      {"氏名 like '*＊*'", "5"},  // a full-width star is a letter
+      {"住所1 like '*%*'", "4"},  // no wildcard in row-set criteria
       {"[氏名] like '*四'", "4"},
   };
   for (const Case& one : cases)
@@ -82,8 +82,8 @@ TEST_F(CriteriaTest, EveryFormOfTheSubset) {
 }
 
 TEST_F(CriteriaTest, AQuoteInASearchedTextGivesTheEnginesText) {
-  for (const char* text : {"'", "a'b", "''", "'''", "*'", "' ", "'; DROP TABLE 臨床QV; --", "' and", "' or", "x' y",
-                           "' or 1", "') or ('a'='a"}) {
+  for (const char* text : {"'", "a'b", "''", "'''", "*'", "' ", "'; DROP TABLE 臨床QV; --", "' and", "' or",
+                           "x' y", "' or 1", "') or ('a'='a"}) {
     const QString answer = hits(QStringLiteral("氏名 like '*%1*' ").arg(QString::fromUtf8(text)));
     EXPECT_TRUE(answer.contains(QStringLiteral("構文"))) << text << ": " << answer.toStdString();
   }
@@ -92,8 +92,9 @@ TEST_F(CriteriaTest, AQuoteInASearchedTextGivesTheEnginesText) {
 }
 
 TEST_F(CriteriaTest, WrongQueriesAreTold) {
-  for (const char* wrong : {"氏名", "氏名 like", "氏名 = 'a", "= 'a'", "氏名 == 'a'", "氏名 = 'a' 職業 = 'b'",
-                            "氏名 = 'a' order", "氏名 = 'a' order by", "氏名 = 'a' order by ID, ", "(氏名 = 'a')"})
+  for (const char* wrong :
+       {"氏名", "氏名 like", "氏名 = 'a", "= 'a'", "氏名 == 'a'", "氏名 = 'a' 職業 = 'b'", "氏名 = 'a' order",
+        "氏名 = 'a' order by", "氏名 = 'a' order by ID, ", "(氏名 = 'a')"})
     EXPECT_TRUE(hits(QString::fromUtf8(wrong)).contains(QStringLiteral("構文"))) << wrong;
   EXPECT_TRUE(hits(QStringLiteral("無い項目 = 'a'")).contains(QStringLiteral("無い項目")));
   EXPECT_TRUE(hits(QStringLiteral("氏名 = 'a' order by 無い項目")).contains(QStringLiteral("無い項目")));
@@ -130,11 +131,12 @@ TEST(LikePattern, MatchesWholeTextsWithRunsAndSingleLetters) {
     const char16_t* pattern;
     const char16_t* text;
     bool fits;
-  } cases[] = {{u"*", u"", true},        {u"?", u"", false},       {u"a*c", u"abbc", true}, {u"a*c", u"ac", true},
-               {u"a*c", u"acd", false},  {u"*ab*ab", u"abab", true}, {u"*ab*ab", u"ab", false},
-               {u"a?c", u"abc", true},   {u"a?c", u"ac", false},   {u"?", u"𠮷", true},     {u"??", u"𠮷", false},
-               {u"**", u"x", true},      {u"*a?", u"baab", true},  {u"", u"", true},        {u"", u"a", false},
-               {u"%", u"%", true},       {u"%", u"a", false}};
+  } cases[] = {{u"*", u"", true},         {u"?", u"", false},      {u"a*c", u"abbc", true},
+               {u"a*c", u"ac", true},     {u"a*c", u"acd", false}, {u"*ab*ab", u"abab", true},
+               {u"*ab*ab", u"ab", false}, {u"a?c", u"abc", true},  {u"a?c", u"ac", false},
+               {u"?", u"𠮷", true},       {u"??", u"𠮷", false},   {u"**", u"x", true},
+               {u"*a?", u"baab", true},   {u"", u"", true},        {u"", u"a", false},
+               {u"%", u"%", true},        {u"%", u"a", false}};
   for (const auto& one : cases)
     EXPECT_EQ(LikePattern(QString::fromUtf16(one.pattern), Wildcard::RowSet).matches(one.text), one.fits)
         << QString::fromUtf16(one.pattern).toStdString() << " " << QString::fromUtf16(one.text).toStdString();

@@ -136,7 +136,8 @@ TEST_F(DatabaseTest, ARowChangedElsewhereIsRefusedAndTheEntryKept) {
   EXPECT_EQ(set.value(name), QStringLiteral("前"));
   sqlite3* other = nullptr;
   ASSERT_EQ(sqlite3_open(QFile::encodeName(path(kDoctors)).constData(), &other), SQLITE_OK);
-  ASSERT_EQ(sqlite3_exec(other, "UPDATE \"同意医師\" SET \"住所\"='他'", nullptr, nullptr, nullptr), SQLITE_OK);
+  ASSERT_EQ(sqlite3_exec(other, "UPDATE \"同意医師\" SET \"住所\"='他'", nullptr, nullptr, nullptr),
+            SQLITE_OK);
   sqlite3_close(other);
   ASSERT_TRUE(set.edit().ok());
   ASSERT_TRUE(set.setValue(name, QStringLiteral("後")).ok());

@@ -31,7 +31,8 @@ struct Model {
 /// Names from a small alphabet of small letters, so that filters hit and miss.
 QString someName(std::mt19937& random) {
   QString name;
-  for (unsigned length = random() % 4; length > 0; --length) name += QChar(static_cast<char16_t>(u'a' + random() % 3));
+  for (unsigned length = random() % 4; length > 0; --length)
+    name += QChar(static_cast<char16_t>(u'a' + random() % 3));
   return name.isNull() ? QStringLiteral("") : name;
 }
 
@@ -60,8 +61,14 @@ class ModelTest : public StoreTest {
   void move(unsigned kind) {
     const int last = model.count() - 1;
     switch (kind) {
-      case 0: set.moveFirst(); model.position = last < 0 ? model.position : 0; break;
-      case 1: set.moveLast(); model.position = last < 0 ? model.position : last; break;
+      case 0:
+        set.moveFirst();
+        model.position = last < 0 ? model.position : 0;
+        break;
+      case 1:
+        set.moveLast();
+        model.position = last < 0 ? model.position : last;
+        break;
       case 2:
         set.moveNext();
         if (!model.rows.empty() && model.position <= last) ++model.position;
@@ -121,7 +128,8 @@ class ModelTest : public StoreTest {
     });
     ASSERT_EQ(copy->recordCount(), static_cast<int>(wanted.size()));
     for (int row = 0; row < copy->recordCount(); ++row)
-      ASSERT_EQ(copy->valueAt(row, QStringLiteral("ID")), QString::number(wanted[static_cast<size_t>(row)].id));
+      ASSERT_EQ(copy->valueAt(row, QStringLiteral("ID")),
+                QString::number(wanted[static_cast<size_t>(row)].id));
   }
   void findRow() {
     const QString part = someName(random);
@@ -143,12 +151,18 @@ class ModelTest : public StoreTest {
 TEST_F(ModelTest, RandomOperationsGoAsOnAPlainList) {
   for (int step = 0; step < 1500; ++step) {
     const unsigned kind = random() % 10;
-    if (kind < 4) move(random() % 5);
-    else if (kind < 6) addRow();
-    else if (kind == 6) editRow();
-    else if (kind == 7) { if (random() % 2) removeRow(); }
-    else if (kind == 8) filterRows();
-    else findRow();
+    if (kind < 4)
+      move(random() % 5);
+    else if (kind < 6)
+      addRow();
+    else if (kind == 6)
+      editRow();
+    else if (kind == 7) {
+      if (random() % 2) removeRow();
+    } else if (kind == 8)
+      filterRows();
+    else
+      findRow();
     expectSame(set, model);
     if (HasFatalFailure()) FAIL() << "step " << step;
   }

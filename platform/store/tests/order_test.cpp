@@ -64,8 +64,11 @@ TEST_F(OrderTest, AKeyBehindTheIdDecidesNothing) {
 }
 
 TEST_F(OrderTest, SeveralKeysDecideOneAfterAnother) {
-  const char* rows[][4] = {{"2", "国保", "本人", "ｱ"}, {"1", "組合", "妻", "ｲ"}, {"1", "組合", "本人", "ｳ"},
-                           {"1", "共済", "妻", "ｴ"},   {"1", "組合", "妻", "ｱ"}};
+  const char* rows[][4] = {{"2", "国保", "本人", "ｱ"},
+                           {"1", "組合", "妻", "ｲ"},
+                           {"1", "組合", "本人", "ｳ"},
+                           {"1", "共済", "妻", "ｴ"},
+                           {"1", "組合", "妻", "ｱ"}};
   for (const auto& [rank, kind, relation, kana] : rows)
     add(set, {{QStringLiteral("保険順位"), QString::fromUtf8(rank)},
               {QStringLiteral("保険の種類"), QString::fromUtf8(kind)},
@@ -84,8 +87,9 @@ TEST_F(OrderTest, WrongOrdersAreTold) {
 }
 
 TEST(Collation, KeysCompareAsTheTextsDo) {
-  const QStringList texts = {QStringLiteral("ア"), QStringLiteral("ｱ"), QStringLiteral("亜"), QStringLiteral("見本 太郎"),
-                             QStringLiteral(""), QStringLiteral("1"), QString(300, QChar(u'長'))};
+  const QStringList texts = {QStringLiteral("ア"),        QStringLiteral("ｱ"), QStringLiteral("亜"),
+                             QStringLiteral("見本 太郎"), QStringLiteral(""),  QStringLiteral("1"),
+                             QString(300, QChar(u'長'))};
   for (const QString& a : texts)
     for (const QString& b : texts) {
       const int byKey = japaneseSortKey(a).compare(japaneseSortKey(b));

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include "platform/store/catalogue.h"
@@ -39,7 +40,8 @@ class StoreTest : public testing::Test {
 
   static qint64 add(RecordSet& set, const QList<std::pair<QString, QString>>& columns) {
     EXPECT_TRUE(set.addNew().ok());
-    for (const auto& [column, value] : columns) EXPECT_TRUE(set.setValue(column, value).ok()) << column.toStdString();
+    for (const auto& [column, value] : columns)
+      EXPECT_TRUE(set.setValue(column, value).ok()) << column.toStdString();
     const Done done = set.update();
     EXPECT_TRUE(done.ok()) << (done ? "" : done.fault().message.toStdString());
     return set.lastModified();
@@ -52,7 +54,12 @@ class StoreTest : public testing::Test {
     return values;
   }
 
-  QTemporaryDir m_folder;
+  /// In memory where the system offers it: the tests do not wait for a disk.
+  static QString folderPattern() {
+    const QString memory = QStringLiteral("/dev/shm");
+    return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + QStringLiteral("/store-XXXXXX");
+  }
+  QTemporaryDir m_folder{folderPattern()};
 };
 
 }  // namespace store
