@@ -11,13 +11,13 @@ template <size_t N>
 void fill(std::array<QString, N>& boxes, const std::array<const char16_t*, N>& ticks,
           const ClaimRecord& claim, int days) {
   for (size_t i = 0; i < N; ++i)
-    if (claim.ticked(QString::fromUtf16(ticks[i]))) boxes[i] = countText(days);
+    if (claim.ticked(columnName(ticks[i]))) boxes[i] = countText(days);
 }
 
 template <size_t N>
 void read(std::array<QString, N>& boxes, const std::array<const char16_t*, N>& columns,
           const ClaimRecord& claim) {
-  for (size_t i = 0; i < N; ++i) boxes[i] = claim.get(QString::fromUtf16(columns[i]));
+  for (size_t i = 0; i < N; ++i) boxes[i] = claim.get(columnName(columns[i]));
 }
 
 }  // namespace

@@ -7,7 +7,7 @@ namespace claims {
 namespace {
 
 void copy(const ClaimRecord& from, ClaimRecord& to, const char16_t* name) {
-  const QString column = QString::fromUtf16(name);
+  const QString column = columnName(name);
   if (from.has(column)) to.set(column, from.get(column));
 }
 

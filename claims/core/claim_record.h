@@ -3,9 +3,16 @@
 #include <QHash>
 #include <QString>
 #include <array>
+#include <string>
 #include <utility>
 
 namespace claims {
+
+/// A column's name from a literal of the program, without a copy: the literal outlives every record.
+inline QString columnName(const char16_t* literal) {
+  return QString::fromRawData(reinterpret_cast<const QChar*>(literal),
+                              static_cast<qsizetype>(std::char_traits<char16_t>::length(literal)));
+}
 
 /// ClaimRecord: one patient's claim for one month and one kind of treatment, the columns of both halves by
 /// name in one flat map (no column name stands in both halves but ID). A null text is NULL in the file.

@@ -1,6 +1,5 @@
 #include "claims/core/claim_store.h"
 
-#include <QSet>
 #include <algorithm>
 
 #include "claims/core/amount_record.h"
@@ -48,23 +47,24 @@ class Writer {
  public:
   explicit Writer(StoredClaim& stored) : m_stored(stored) {}
 
-  QString get(const char16_t* column) const { return m_stored.claim.get(QString::fromUtf16(column)); }
+  QString get(const char16_t* column) const { return m_stored.claim.get(columnName(column)); }
   void set(const char16_t* column, const QString& value) {
-    const QString name = QString::fromUtf16(column);
+    const QString name = columnName(column);
     m_stored.claim.set(name, value);
-    if (!m_written.contains(name)) m_written.insert(name), m_stored.written.append(name);
+    m_stored.written.append(name);
   }
+  /// Sets the calculated columns to NULL; what has a value is filled in behind it.
   void clear(std::span<const char16_t* const> columns) {
     for (const char16_t* column : columns) set(column, QString());
   }
+  void fill(const char16_t* cleared, const QString& value) { m_stored.claim.set(columnName(cleared), value); }
   /// A number; 0 leaves the column NULL.
-  void setNumber(const char16_t* column, qint64 number) {
-    set(column, number == 0 ? QString() : QString::number(number));
+  void fill(const char16_t* cleared, qint64 number) {
+    if (number != 0) fill(cleared, QString::number(number));
   }
 
  private:
   StoredClaim& m_stored;
-  QSet<QString> m_written;
 };
 
 /// 老人 and 退職国保 were replaced by other kinds; a claim whose printed kind says so follows.
@@ -77,7 +77,7 @@ void rewriteInsurance(Writer& writer) {
 void writeDerived(const ClaimRecord& claim, Writer& writer) {
   rewriteInsurance(writer);
   const bool hasTicks = std::ranges::any_of(
-      kShareTicks, [&](const ShareTick& tick) { return claim.has(QString::fromUtf16(tick.column)); });
+      kShareTicks, [&](const ShareTick& tick) { return claim.has(columnName(tick.column)); });
   if (hasTicks) writer.set(u"負担割合", shareTicksText(tickValuesOf(claim)));
   const QString kind = writer.get(u"保険の種類");
   writer.set(u"保険順位", insuranceOrder(kind));
@@ -106,20 +106,20 @@ void writeOld(const ClaimAmounts& a, Writer& writer) {
                {u"温罨法合計金額", u"温罨法合計回数", a.warm, t.warm},
                {u"電気光線器具併用合計金額", u"電気光線器具併用合計回数", a.warmLight, t.warmLight}};
   for (const auto& kind : kinds) {
-    writer.setNumber(kind.amountColumn, kind.amount);
-    writer.setNumber(kind.countColumn, kind.count);
+    writer.fill(kind.amountColumn, kind.amount);
+    writer.fill(kind.countColumn, kind.count);
   }
-  writer.setNumber(u"初回費用", a.first);
-  if (t.first != 0) writer.set(u"初回", QString(QChar(t.first)));
-  writer.set(u"往療距離", distanceText(t, writer));
-  writer.setNumber(u"往療回数", t.nearVisits + t.farVisits);
-  writer.setNumber(u"往療金額1", a.visit1);
-  writer.setNumber(u"往療金額2", a.visit2);
+  writer.fill(u"初回費用", a.first);
+  if (t.first != 0) writer.fill(u"初回", QString(QChar(t.first)));
+  writer.fill(u"往療距離", distanceText(t, writer));
+  writer.fill(u"往療回数", t.nearVisits + t.farVisits);
+  writer.fill(u"往療金額1", a.visit1);
+  writer.fill(u"往療金額2", a.visit2);
 }
 
 void writeAmounts(const ClaimAmounts& a, const AreaBoxes& boxes, Writer& writer) {
   if (a.regime == Regime::TwoBand) writeOld(a, writer);
-  writer.setNumber(u"治療日数", a.treatmentDays);
+  writer.fill(u"治療日数", a.treatmentDays);
   // Blank, but never NULL: NULL says that the claim was never stored.
   writer.set(u"施術科目", a.subject.isNull() ? QString(QLatin1String("")) : a.subject);
   const bool massage = a.kind == Kind::Massage;
@@ -130,10 +130,10 @@ void writeAmounts(const ClaimAmounts& a, const AreaBoxes& boxes, Writer& writer)
               {u"一部負担金2", massage ? u"m3" : u"h3", a.share},
               {u"請求額", massage ? u"m4" : u"h4", a.claim}};
   for (const auto& sum : sums) {
-    writer.setNumber(sum.column, sum.yen);
-    if (a.kind != Kind::None) writer.setNumber(sum.own, sum.yen);
+    writer.fill(sum.column, sum.yen);
+    if (a.kind != Kind::None) writer.fill(sum.own, sum.yen);
   }
-  if (a.regime == Regime::Visits) writer.set(massage ? u"m1" : u"h1", amountRecord(a, boxes));
+  if (a.regime == Regime::Visits) writer.fill(massage ? u"m1" : u"h1", amountRecord(a, boxes));
 }
 
 AreaBoxes boxesFor(const ClaimRecord& claim, const std::optional<AreaBoxes>& given) {

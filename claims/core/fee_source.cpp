@@ -9,6 +9,8 @@
 namespace claims {
 namespace {
 
+constexpr qint64 kLookAgainMilliseconds = 1000;
+
 /// The row at the cursor. A fraction is dropped; a column that the file lacks is empty.
 FeeEdition editionAt(const store::Cursor& row) {
   FeeEdition edition;
@@ -35,11 +37,18 @@ text::Result<FeeEdition> readEdition(const QString& path) {
 }  // namespace
 
 text::Result<FeeEdition> StoredFees::load(const QString& path) {
+  const auto known = m_read.find(path);
+  if (known != m_read.end() && !known->looked.hasExpired(kLookAgainMilliseconds)) return known->edition;
   const QDateTime changed = QFileInfo(path).lastModified();
-  if (const auto known = m_read.constFind(path); known != m_read.constEnd() && known->changed == changed)
+  if (known != m_read.end() && known->changed == changed) {
+    known->looked.start();
     return known->edition;
+  }
   auto edition = readEdition(path);
-  if (edition && changed.isValid()) m_read.insert(path, {changed, edition.value()});
+  if (!edition || !changed.isValid()) return edition;
+  Entry& entry = m_read[path];
+  entry = {{}, changed, edition.value()};
+  entry.looked.start();
   return edition;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QHash>
 #include <QString>
 
@@ -19,13 +20,14 @@ class FeeSource {
 };
 
 /// Editions read from the fee files. An edition stays in memory until its file changes, so that a month's
-/// recompute opens each file once.
+/// recompute opens each file once. A file is looked at for a change once a second at most.
 class StoredFees final : public FeeSource {
  public:
   text::Result<FeeEdition> load(const QString& path) override;
 
  private:
   struct Entry {
+    QElapsedTimer looked;
     QDateTime changed;
     FeeEdition edition;
   };

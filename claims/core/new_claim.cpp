@@ -27,7 +27,7 @@ QString address(const QHash<QString, QString>& patient) {
 
 void setPerson(ClaimRecord& claim, const QString& stem, const QHash<QString, QString>& patient) {
   for (const PersonRow& row : kPerson)
-    claim.set(stem + QString::fromUtf16(row.column), patient.value(QString::fromUtf16(row.patient)));
+    claim.set(stem + columnName(row.column), patient.value(QString::fromUtf16(row.patient)));
   claim.set(stem + QStringLiteral("住所"), address(patient));
 }
 
@@ -36,7 +36,7 @@ void setDefaults(ClaimRecord& claim) {
   claim.set(QStringLiteral("第三者行為によるもの"), QStringLiteral("いいえ"));
   claim.set(QStringLiteral("入院入院外の別"), QStringLiteral("入院外"));
   for (const PrintSetting& setting : printSettings())
-    if (setting.newClaim) claim.set(QString::fromUtf16(setting.column), QString::fromUtf16(setting.newClaim));
+    if (setting.newClaim) claim.set(columnName(setting.column), QString::fromUtf16(setting.newClaim));
   for (const NewClaimDefault& hidden : hiddenPrintDefaults())
     claim.set(QString::fromUtf16(hidden.column), QString::fromUtf16(hidden.value));
 }

@@ -31,7 +31,7 @@ QHash<QString, QString> printFields(const ClaimRecord& claim) {
   QHash<QString, QString> fields;
   const bool isLocal = local(claim.get(QStringLiteral("保険の種類")));
   for (const FieldRow& row : kFields) {
-    const QString column = QString::fromUtf16(row.column);
+    const QString column = columnName(row.column);
     if (claim.blank(column) || (isLocal && row.taken == Taken::EmployeesOnly)) continue;
     fields.insert(column, text::toFullWidth(claim.get(column)));
   }

@@ -42,7 +42,7 @@ const PrintSetting* printSetting(const QString& column) {
 }
 
 int chosen(const ClaimRecord& claim, const PrintSetting& setting) {
-  const QString value = claim.get(QString::fromUtf16(setting.column));
+  const QString value = claim.get(columnName(setting.column));
   if (value == u"0") return 0;
   if (value == u"1") return 1;
   return setting.whenBlank;

@@ -20,8 +20,7 @@ ShareTicks shareTicksOf(const QString& text) {
 
 ShareTicks tickValuesOf(const ClaimRecord& claim) {
   ShareTicks ticks{};
-  for (size_t i = 0; i < ticks.size(); ++i)
-    ticks[i] = claim.ticked(QString::fromUtf16(kShareTicks[i].column));
+  for (size_t i = 0; i < ticks.size(); ++i) ticks[i] = claim.ticked(columnName(kShareTicks[i].column));
   return ticks;
 }
 

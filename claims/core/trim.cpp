@@ -72,7 +72,7 @@ TrimResult trimForPrint(const ClaimRecord& claim, TrimForm form) {
   const bool massage = kindOf(claim.get(QStringLiteral("施術内容"))) == Kind::Massage;
   for (const LimitRow& row : kLimits) {
     const int limit = limitOf(row, form, massage);
-    const QString column = QString::fromUtf16(row.column);
+    const QString column = columnName(row.column);
     const QString text = claim.get(column);
     if (limit == 0 || text.size() <= limit) continue;
     const QString cut = firstCharacters(text, limit);
@@ -92,7 +92,7 @@ int printLimit(const QString& column, TrimForm form, bool massage) {
 ClaimRecord trimInsurer(const ClaimRecord& claim) {
   ClaimRecord result = claim;
   for (const char16_t* name : kInsurerColumns) {
-    const QString column = QString::fromUtf16(name);
+    const QString column = columnName(name);
     const QString text = claim.get(column);
     qsizetype begin = 0, end = text.size();
     while (begin < end && text[begin] == u' ') ++begin;

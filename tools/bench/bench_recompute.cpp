@@ -2,7 +2,9 @@
 // reads and writes the same columns without reckoning.
 
 #include <QElapsedTimer>
+#include <algorithm>
 #include <cstdio>
+#include <utility>
 
 #include "claims/core/claim_file.h"
 #include "claims/core/claim_store.h"
@@ -14,6 +16,8 @@ namespace {
 
 using claims::ClaimFile;
 using claims::ClaimRecord;
+
+constexpr int kRounds = 3;
 
 text::Result<QVector<qint64>> firstClaims(const QString& path, int count) {
   auto database = store::Database::open(path);
@@ -72,21 +76,28 @@ int recompute(const QStringList& arguments) {
   const claims::FeeFiles files(folder, folder + QStringLiteral("/料金設定2000.mdb"));
   claims::StoredFees fees;
 
-  const auto plain = run(*file, ids.value(), overwritten);
-  if (!plain) return fault(plain.fault());
   int withoutFees = 0;
-  const auto computed = run(*file, ids.value(), [&](const ClaimRecord& claim) {
+  const auto recomputed = [&](const ClaimRecord& claim) {
     const claims::StoredClaim stored = claims::storeClaim(claim, {era, files, fees});
     if (stored.calculation) ++withoutFees;
     return stored.claim;
-  });
-  if (!computed) return fault(computed.fault());
+  };
+  // The best of some rounds in turn: the two are told apart by a few microseconds a claim, a disk is not so
+  // even.
+  double plain = 0, computed = 0;
+  for (int round = 0; round < kRounds; ++round) {
+    for (const auto& [best, time] : {std::pair(&plain, run(*file, ids.value(), overwritten)),
+                                     std::pair(&computed, run(*file, ids.value(), recomputed))}) {
+      if (!time) return fault(time.fault());
+      *best = round == 0 ? time.value() : std::min(*best, time.value());
+    }
+  }
   if (withoutFees != 0) return fault({QStringLiteral("%1 claims without a fee file").arg(withoutFees)});
 
   figure("recompute_claims", static_cast<double>(ids->size()), "claims");
-  figure("recompute_total", computed.value(), "ms");
-  figure("recompute_read_write_alone", plain.value(), "ms");
-  figure("recompute_ratio", computed.value() / plain.value(), "x");
+  figure("recompute_total", computed, "ms");
+  figure("recompute_read_write_alone", plain, "ms");
+  figure("recompute_ratio", computed / plain, "x");
   return 0;
 }
 
