@@ -103,7 +103,7 @@ class Control {
     m_quiet = before;
   }
   bool isQuiet() const { return m_quiet; }
-  void nameWidgets();
+  virtual void nameWidgets();
 
   Screen& m_screen;
   QString m_name;

@@ -97,6 +97,12 @@ void ComboControl::showText(const QString& text) {
   m_combo->setCurrentIndex(index);
 }
 
+void ComboControl::nameWidgets() {
+  Control::nameWidgets();
+  // The field inside an editable list is an object of its own for a screen reader.
+  if (QLineEdit* field = m_combo->lineEdit()) field->setAccessibleName(accessibleName());
+}
+
 void ComboControl::speakChoice(const QString& item) {
   if (!isQuiet()) m_voice.speakFocus(item, true);
 }

@@ -26,6 +26,7 @@ class ComboControl : public Control {
 
  protected:
   void showText(const QString& text) override;
+  void nameWidgets() override;
 
  private:
   void speakChoice(const QString& item);

@@ -63,7 +63,9 @@ QList<QWidget*> TabsControl::focusWidgets() const { return {m_tabs->tabBar()}; }
 
 QWidget* TabsControl::namedWidget() const { return m_tabs->tabBar(); }
 
-void TabsControl::speak(voice::VoiceGuide& voice, QWidget*) const { voice.speakFocus(spokenCaption(text())); }
+void TabsControl::speak(voice::VoiceGuide& voice, QWidget*) const {
+  if (!isQuiet()) voice.speakFocus(spokenCaption(text()));
+}
 
 QString TabsControl::text() const { return m_captions.value(m_tabs->currentIndex()); }
 
@@ -82,7 +84,8 @@ QWidget* TabsControl::addPage(const QString& caption) {
 void TabsControl::step(int by) {
   const int count = m_tabs->count();
   if (count == 0) return;
-  m_tabs->tabBar()->setFocus(Qt::OtherFocusReason);
+  // The bar takes the focus unheard, so that only the page that comes is said.
+  quietly([this] { m_tabs->tabBar()->setFocus(Qt::OtherFocusReason); });
   m_tabs->setCurrentIndex((m_tabs->currentIndex() + by + count) % count);
 }
 

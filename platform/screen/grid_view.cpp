@@ -15,6 +15,7 @@ GridView::GridView(QWidget* parent) : QTableView(parent) {
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() + 8);
   horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setStretchLastSection(true);
   setMinimumHeight(6 * (fontMetrics().lineSpacing() + 8));
 }
 

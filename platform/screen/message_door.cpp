@@ -72,6 +72,11 @@ void MessageDoor::answerFromQueue(const QList<bool>& answers) {
   m_answers += answers;
 }
 
+void MessageDoor::holdSpeech() {
+  m_voice.stopSpeech();
+  m_hold->begin();
+}
+
 void MessageDoor::forget() {
   m_texts.clear();
   m_titles.clear();
@@ -104,8 +109,7 @@ bool MessageDoor::show(const QString& text, Buttons buttons, const QString& titl
   m_hold->begin();
   box.exec();
   // Afterwards the focus returns to the screen; it must not cut the result that the caller says next.
-  m_voice.stopSpeech();
-  m_hold->begin();
+  holdSpeech();
   return box.clickedButton() == accept;
 }
 

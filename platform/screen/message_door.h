@@ -39,6 +39,10 @@ class MessageDoor {
   /// A fault of the engine behind the data-control label.
   void tellDataFault(const QString& engineText);
 
+  /// What is said next is heard to its end: until the user presses a key, the focus waits behind it. For a
+  /// result that is spoken while a window closes and the focus goes back.
+  void holdSpeech();
+
   /// Tests: answers for the coming questions, in order. With a queue (even an empty one after
   /// answerFromQueue()) nothing is shown; an unanswered question is refused.
   void answerFromQueue(const QList<bool>& answers = {});

@@ -51,6 +51,12 @@ FilePicker::FilePicker(QWidget* parent, const QString& title, const QString& cur
       if (qobject_cast<QAbstractButton*>(widget)) widget->setToolTip(caption);
     }
   }
+  // A combo box is heard by the name of its label.
+  for (const auto& [label, combo] :
+       {std::pair{"lookInLabel", "lookInCombo"}, {"fileTypeLabel", "fileTypeCombo"}}) {
+    if (auto* text = findChild<QLabel*>(QLatin1String(label)))
+      text->setBuddy(findChild<QComboBox*>(QLatin1String(combo)));
+  }
   const QFileInfo there(current);
   if (there.isDir()) {
     setDirectory(there.absoluteFilePath());

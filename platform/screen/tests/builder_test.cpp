@@ -74,6 +74,10 @@ TEST_F(Builder, EveryFieldHasALabelThatLeadsToIt) {
   }
 }
 
+TEST_F(Builder, FieldInsideAnEditableListBearsTheListsName) {
+  EXPECT_EQ(widget<QComboBox>("Combo2")->lineEdit()->accessibleName(), "区分");
+}
+
 TEST_F(Builder, TipIsTheAccessibleDescription) {
   EXPECT_EQ(widget<QWidget>("cmdUpdate")->accessibleDescription(), "患者を登録します");
   EXPECT_EQ(widget<QWidget>("txtFields(4)")->accessibleDescription(), "姓と名");

@@ -85,6 +85,7 @@ class Prompt : public ::testing::Test {
     actions.insert("store", [this](ConfirmPrompt& prompt) {
       ++stored;
       asked = prompt.request().value("asked").toString();
+      prompt.voice().speakText("登録しました");
     });
     desk.registry.add("見本の実行", [this](Services& services) {
       return std::make_unique<ConfirmPrompt>(kPrompt, actions, services);
@@ -111,6 +112,7 @@ TEST_F(Prompt, YesRunsItsActionAndCloses) {
   ScreenProbe(*screen, desk.spy).press(Qt::Key_Return);
   EXPECT_EQ(stored, 1);
   EXPECT_EQ(asked, "登録");
+  EXPECT_EQ(desk.spy.heardWhole(), QStringList{"登録しました"});
   EXPECT_EQ(desk.navigator.loaded("見本の実行"), nullptr);
 }
 
