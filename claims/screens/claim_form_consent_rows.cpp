@@ -60,7 +60,7 @@ constexpr Row kRows[] = {
     Bar{},
     Command{.name = {u"Command12"},
             .caption = u"同意医師登録",
-            .run = run<&Form::openDoctors>,
+            .run = run<&Form::openBeside>,
             .tip = u"同意医師の各項目に入力後押してください。"},
     Command{.name = {u"Command28"},
             .caption = u"西暦",

@@ -75,7 +75,7 @@ constexpr Row kRows[] = {
     Bar{},
     Command{.name = {u"Command14"},
             .caption = u"保険者登録",
-            .run = run<&Form::openInsurers>,
+            .run = run<&Form::openBeside>,
             .tip = u"保険者の所在地・名称・番号を入力してから押してください。"},
     Command{.name = {u"Command4"}, .caption = u"西暦", .run = run<&Form::datesToWestern>},
     Command{.name = {u"Command9"}, .caption = u"和暦", .run = run<&Form::datesToEra>},

@@ -33,7 +33,7 @@ class ClaimFormScreen : public screen::Screen {
   ClaimFormScreen(screen::Services& services, frame::RunState& run, ClaimsState& state);
   ~ClaimFormScreen() override;
 
-  // Life and moves: claim_form_screen.cpp, claim_form_moves.cpp.
+  // Life and moves: claim_form_screen.cpp.
   void onLoad() override;
   void opened(const screen::Request& request) override;
   bool onCloseBox() override;
@@ -77,7 +77,7 @@ class ClaimFormScreen : public screen::Screen {
   void datesToEra();
   void clearAgent();
 
-  // Calculation, carry-forward, printing: claim_form_print.cpp, claim_form_carry.cpp.
+  // Calculation, carry-forward, printing: claim_form_print.cpp.
   void previewFees();
   void carryForward();
   void printAcupuncture();
@@ -90,18 +90,9 @@ class ClaimFormScreen : public screen::Screen {
   void openReport();
   void openVisitTable();
   void openReasons();
-  void openFrequentPlan();
-  void openNewRemarks();
-  void openReceipts();
   void openPictureChart();
-  void openMemoConversion();
-  void openInsurers();
-  void openDoctors();
-  void openAddressHelper();
-  void openDateHelper();
-  void openStartPointHelper();
-  void openStartPointView();
-  void openRouteHelp();
+  /// Opens the screen that belongs to the running command.
+  void openBeside();
   void speakPrintGuide();
 
  private:
@@ -141,7 +132,6 @@ class ClaimFormScreen : public screen::Screen {
   /// A window that stands alone; refused while one of its kind is open, and for months before 2018/10
   /// where `since201810`.
   void openSingle(const QString& name, bool since201810);
-  void openBeside(const QString& name);
   void convertDates(QString (frame::EraDates::*conversion)(const QString&) const);
   void fillSiblings(const InsurerRow* insurer);
   void leaveTo(const QString& screenName);

@@ -101,8 +101,8 @@ constexpr Row kRows[] = {
              u"できません。"},
     Bar{},
     Command{.name = {u"Command32"}, .caption = u"施術料金計算", .run = run<&Form::previewFees>},
-    Command{.name = {u"Command8"}, .caption = u"住所代入→", .run = run<&Form::openAddressHelper>},
-    Command{.name = {u"Command19"}, .caption = u"日付代入→", .run = run<&Form::openDateHelper>},
+    Command{.name = {u"Command8"}, .caption = u"住所代入→", .run = run<&Form::openBeside>},
+    Command{.name = {u"Command19"}, .caption = u"日付代入→", .run = run<&Form::openBeside>},
     EndBar{},
 };
 

@@ -8,6 +8,31 @@
 
 namespace claims {
 
+namespace {
+
+/// A command that does nothing but open another screen on the claim.
+struct Beside {
+  const char16_t* command;
+  const char16_t* screen;
+  bool prints;  ///< stopped by the dirty marks, as all printing is
+};
+
+constexpr Beside kBeside[] = {
+    {u"Command22", u"領収証選択", true},
+    {u"Command30", u"頻回の理由と計画書", true},
+    {u"Command34", u"新摘要欄", false},
+    {u"Command33", u"メモデータ変換", false},
+    {u"Command8", u"往療時の住所代入", false},
+    {u"Command19", u"往療時の日付代入", false},
+    {u"Command25", u"往療起点への住所代入", false},
+    {u"Command26", u"往療起点の登録の表示", false},
+    {u"Command20", u"往療行程の記入の仕方", false},
+    {u"Command14", u"登録3", false},
+    {u"Command12", u"登録2", false},
+};
+
+}  // namespace
+
 void ClaimFormScreen::showHelp() {
   applyMonth();
   navigator().show(m_flags.isAfter202410   ? QStringLiteral("記入の仕方2024")
@@ -31,9 +56,13 @@ void ClaimFormScreen::openSingle(const QString& name, bool since201810) {
   navigator().show(name, {{QStringLiteral("ID"), m_id}});
 }
 
-void ClaimFormScreen::openBeside(const QString& name) {
-  if (m_id == 0 || dirty()) return;
-  navigator().show(name, {{QStringLiteral("ID"), m_id}});
+void ClaimFormScreen::openBeside() {
+  if (m_id == 0) return;
+  for (const Beside& row : kBeside) {
+    if (runningCommand() != QString::fromUtf16(row.command)) continue;
+    if (row.prints && dirty()) return;
+    navigator().show(QString::fromUtf16(row.screen), {{QStringLiteral("ID"), m_id}});
+  }
 }
 
 void ClaimFormScreen::openReport() { openSingle(QStringLiteral("施術報告書"), true); }
@@ -44,20 +73,8 @@ void ClaimFormScreen::openReasons() {
              false);
 }
 
-void ClaimFormScreen::openFrequentPlan() { openBeside(QStringLiteral("頻回の理由と計画書")); }
-void ClaimFormScreen::openNewRemarks() { openBeside(QStringLiteral("新摘要欄")); }
-void ClaimFormScreen::openReceipts() { openBeside(QStringLiteral("領収証選択")); }
-void ClaimFormScreen::openMemoConversion() { openBeside(QStringLiteral("メモデータ変換")); }
-void ClaimFormScreen::openAddressHelper() { openBeside(QStringLiteral("往療時の住所代入")); }
-void ClaimFormScreen::openDateHelper() { openBeside(QStringLiteral("往療時の日付代入")); }
-void ClaimFormScreen::openStartPointHelper() { openBeside(QStringLiteral("往療起点への住所代入")); }
-void ClaimFormScreen::openStartPointView() { openBeside(QStringLiteral("往療起点の登録の表示")); }
-void ClaimFormScreen::openInsurers() { navigator().show(QStringLiteral("登録3")); }
-void ClaimFormScreen::openDoctors() { navigator().show(QStringLiteral("登録2")); }
-void ClaimFormScreen::openRouteHelp() { navigator().show(QStringLiteral("往療行程の記入の仕方")); }
-
 void ClaimFormScreen::openPictureChart() {
-  if (m_id == 0 || dirty()) return;
+  if (m_id == 0) return;
   const QString serial = m_read.get(QStringLiteral("番号1"));
   const screen::Request patient = {{QStringLiteral("テキスト5"), serial}};
   navigator().show(QStringLiteral("治療台帳4"), patient);
