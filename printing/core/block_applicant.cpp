@@ -32,6 +32,7 @@ void insuredBlock(Sheet& sheet) {
   sheet.fields.show(u"Name12", address);
   if (!zip.isEmpty()) sheet.fields.show(u"yuubin1", u'〒' + zip);
   sheet.show(u"HHokenTel", u"被保険者の電話番号");
+  sheet.fields.show(u"HHokenAdd", address);
   if (!sheet.settings.on(Setting::Mandate)) return;
   sheet.fields.show(u"Name13", address);
   if (sheet.settings.on(Setting::MandateName)) sheet.fields.variant(kMandator, name);

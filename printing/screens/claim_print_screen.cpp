@@ -19,20 +19,26 @@ constexpr char16_t kForm2021[] = u"令和3年4月からの新用紙（丸印無�
 
 constexpr Choice kEditions[] = {{{u"Option9"}, kForm2024, u"Option9"}, {{u"Option8"}, kForm2021, u"Option8"}};
 
+/// One tick for each paper, told apart by the paper's name.
+constexpr Check eraTick(ControlName name, const char16_t* paper) {
+  return {.name = name,
+          .caption = u"申請年月に元号を追加",
+          .bind = Unbound{u"chosen for this print"},
+          .group = paper};
+}
+
 constexpr Row kRows[] = {
     Note{.name = {u"Label1"}, .caption = u"印刷する用紙を選択して、ＯＫを押してください。", .spoken = true},
     Options{.name = {u"Frame1"},
             .caption = u"印刷用紙",
             .bind = Unbound{u"chosen for this print"},
             .choices = kEditions},
-    Check{.name = {u"Check6"},
-          .caption = u"申請年月に元号を追加",
-          .bind = Unbound{u"chosen for this print"},
-          .group = kForm2024},
-    Check{.name = {u"Check4"},
-          .caption = u"申請年月に元号を追加",
-          .bind = Unbound{u"chosen for this print"},
-          .group = kForm2021},
+    Group{.name = {u"Frame2"}, .caption = kForm2024, .columns = 1},
+    eraTick({u"Check6"}, kForm2024),
+    EndGroup{},
+    Group{.name = {u"Frame3"}, .caption = kForm2021, .columns = 1},
+    eraTick({u"Check4"}, kForm2021),
+    EndGroup{},
     Check{.name = {u"Check2"},
           .caption = u"右上部の高齢９・高齢８→高齢ー・高齢７にした印刷",
           .bind = Unbound{u"chosen for this print"}},
@@ -90,7 +96,10 @@ PrintSource ClaimPrintScreen::source() const {
 }
 
 bool ClaimPrintScreen::claimStands(const claims::ClaimRecord& claim) {
-  const claims::CheckResult result = claims::checkClaimFast(claim, m_run.eraDates(), {});
+  QStringList open;
+  for (const claims::SingleWindow& window : claims::singleWindows())
+    if (const QString name = QString::fromUtf16(window.screen); navigator().isShown(name)) open << name;
+  const claims::CheckResult result = claims::checkClaimFast(claim, m_run.eraDates(), open);
   m_state.claimCheck = result.claimCheck();
   for (const QString& message : result.messages) messages().tell(message);
   return !result.stop;

@@ -21,30 +21,30 @@ constexpr Row kBefore2018[] = {
     Note{.name = {u"Label1"},
          .caption = u"平成３０年５月以前のレセプトの用紙は、この版ではまだ用意されていません。",
          .spoken = true},
-    nothingPrinted(), closing()};
+    nothingPrinted(), Bar{}, closing(), EndBar{}};
 constexpr Row kBefore2024[] = {
     Note{.name = {u"Label1"},
          .caption =
              u"平成３０年６月から令和６年９月までのレセプトの用紙は、この版ではまだ用意されていません。",
          .spoken = true},
-    nothingPrinted(), closing()};
+    nothingPrinted(), Bar{}, closing(), EndBar{}};
 constexpr Row kAssociation[] = {
     Note{.name = {u"Label1"},
          .caption = u"愛知県鍼灸マッサージ師会へ提出するレセプトの用紙は、この版ではまだ用意されていません。",
          .spoken = true},
-    nothingPrinted(), closing()};
+    nothingPrinted(), Bar{}, closing(), EndBar{}};
 constexpr Row kTokyoAid[] = {Note{.name = {u"Label1"},
                                   .caption = u"東京都の公費のレセプトの用紙は、この版ではまだ用意されていませ"
                                              u"ん。公費の印刷のチェックを外すと、"
                                              u"令和６年１０月以降のレセプトは一般の用紙で印刷できます。",
                                   .spoken = true},
-                             nothingPrinted(), closing()};
+                             nothingPrinted(), Bar{}, closing(), EndBar{}};
 constexpr Row kIshikawaAid[] = {Note{.name = {u"Label1"},
                                      .caption = u"石川県の公費のレセプトの用紙は、この版ではまだ用意されてい"
                                                 u"ません。公費の印刷のチェックを外すと、"
                                                 u"令和６年１０月以降のレセプトは一般の用紙で印刷できます。",
                                      .spoken = true},
-                                nothingPrinted(), closing()};
+                                nothingPrinted(), Bar{}, closing(), EndBar{}};
 
 constexpr ScreenRow kDeclarations[] = {
     {.name = u"レセプト印刷", .caption = u"レセプト印刷", .rows = kBefore2018, .heading = u"レセプト印刷"},

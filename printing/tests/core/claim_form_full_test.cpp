@@ -72,6 +72,7 @@ QStringList commonSheet() {
                     "Name12=北海道架空市見本町１－１",
                     "yuubin1=〒００１－０００１",
                     "HHokenTel=000-000-0001",
+                    "HHokenAdd=北海道架空市見本町１－１",
                     "Name13=北海道架空市見本町１－１",
                     "Name5_6=見本太郎",
                     "Name17=例示一郎",

@@ -86,9 +86,10 @@ TEST_P(ClaimPdf, FormsHoldAnItemForAllThatTheClaimPrints) {
                                                       ? QStringLiteral("HARI_900_R.PRP")
                                                       : QStringLiteral("Massage_900_R.PRP"));
   ASSERT_TRUE(form);
-  // What the mapping names beyond the papers: no box for the whole account number and the share of 7 of ten.
+  // What the mapping names beyond the papers: no box for the whole account number, the share of 7 of
+  // ten and the address a third time.
   // The counts of the body parts stand in boxes of their own names.
-  QSet<QString> elsewhere{"kouza2", "Kyuufu_3", "nyuuin2"};
+  QSet<QString> elsewhere{"kouza2", "Kyuufu_3", "HHokenAdd"};
   if (GetParam() == PrintKind::Massage)
     for (int n = 1; n <= 9; ++n) elsewhere.insert(QStringLiteral("dain%1").arg(n));
   for (const QString& line : filled.fill().sheet()) {

@@ -164,9 +164,12 @@ TEST(Person, LateElderlyNameByTheClinicsFlag) {
 
 TEST(Notes, NewRemarksTakeThePlaceOfTheLines) {
   Filled filled = fullAcupuncture();
-  filled.set({{u"memodummy14", u"新しい摘要"}});
-  EXPECT_EQ(filled["Name21"], QStringLiteral("摘要一"));  // not chosen for print
-  filled.set({{u"txtdummy25", u"1"}});
+  filled.set({{u"memodummy14", u"新しい摘要"}, {u"txtdummy25", u"0"}});
+  EXPECT_EQ(filled["Name21"], QStringLiteral("摘要一"));  // kept from the print
+  for (const char16_t* tick : {u"", u"1"}) {
+    filled.set({{u"txtdummy25", tick}});
+    EXPECT_EQ(filled["Name700"], QStringLiteral("新しい摘要"));
+  }
   EXPECT_EQ(filled["Name700"], QStringLiteral("新しい摘要"));
   for (int n = 21; n <= 26; ++n) {
     const QString item = QStringLiteral("Name%1").arg(n);
