@@ -11,23 +11,35 @@ constexpr int kMostOfBlock = 100;  // entries that one block of a text table may
 
 QByteArray hex4(unsigned number) { return QByteArray::number(number, 16).rightJustified(4, '0'); }
 
+QByteArray codesOf(const QString& text) {
+  QByteArray codes;
+  for (const QChar c : text) codes += hex4(c.unicode());
+  return codes.isEmpty() ? hex4(0xFFFD) : codes;
+}
+
+/// A range of numbers may not reach beyond a multiple of 256, nor may it be longer than 100.
+bool follows(unsigned first, unsigned number, qsizetype distance) {
+  return number == first + unsigned(distance) && number / 256 == first / 256 && distance < kMostOfBlock;
+}
+
 QByteArray textTable(const Font& font, const std::set<unsigned>& numbers) {
   QByteArray table =
       "/CIDInit /ProcSet findresource begin\n12 dict begin\nbegincmap\n/CMapType 2 def\n/CMapName /T def\n"
       "1 begincodespacerange\n<0000><ffff>\nendcodespacerange\n";
-  std::vector<QByteArray> entries;
-  for (const unsigned number : numbers) {
-    const QString& text = font.glyph(number).text;
-    if (text.isEmpty()) continue;
-    QByteArray codes;
-    for (const QChar c : text) codes += hex4(c.unicode());
-    entries.push_back('<' + hex4(number) + "><" + codes + ">\n");
+  std::vector<QByteArray> ranges;
+  for (auto first = numbers.begin(); first != numbers.end();) {
+    QByteArray texts;
+    auto last = first;
+    for (auto next = first; next != numbers.end() && follows(*first, *next, std::distance(first, next)); ++next)
+      texts += '<' + codesOf(font.glyph(*(last = next)).text) + '>';
+    ranges.push_back('<' + hex4(*first) + "><" + hex4(*last) + ">[" + texts + "]\n");
+    first = std::next(last);
   }
-  for (size_t i = 0; i < entries.size(); i += kMostOfBlock) {
-    const size_t end = std::min(entries.size(), i + kMostOfBlock);
-    table += QByteArray::number(qlonglong(end - i)) + " beginbfchar\n";
-    for (size_t k = i; k < end; ++k) table += entries[k];
-    table += "endbfchar\n";
+  for (size_t i = 0; i < ranges.size(); i += kMostOfBlock) {
+    const size_t end = std::min(ranges.size(), i + kMostOfBlock);
+    table += QByteArray::number(qlonglong(end - i)) + " beginbfrange\n";
+    for (size_t k = i; k < end; ++k) table += ranges[k];
+    table += "endbfrange\n";
   }
   return table + "endcmap\nCMapName currentdict /CMap defineresource pop\nend\nend\n";
 }

@@ -1,6 +1,8 @@
 #include "platform/report/page_painter.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
 
 namespace report {
 
@@ -36,6 +38,15 @@ void PagePainter::paint(Canvas& canvas, const Item& item, const ItemState& state
     case Kind::Choice: return paintChoice(canvas, item, state.text);
     case Kind::Picture: return paintPicture(canvas, item, state.text);
   }
+}
+
+void PagePainter::acquaint(const Form& form) {
+  std::map<Typeface, std::set<char32_t>> characters;
+  for (const Item& item : form.items)
+    if (item.kind == Kind::Label && !item.hidden)
+      for (const char32_t c : item.text.toStdU32String()) characters[item.face].insert(c);
+  for (const auto& [face, set] : characters)
+    for (const char32_t c : set) m_shaper.advance(face, c);
 }
 
 void PagePainter::paintText(Canvas& canvas, const Item& item, const ItemState& state) {

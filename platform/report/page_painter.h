@@ -22,6 +22,9 @@ class PagePainter {
 
   /// Does nothing for an item that is not shown.
   void paint(Canvas& canvas, const Item& item, const ItemState& state);
+  /// Numbers the glyphs of a form's captions in the order of the characters: kanji with the same parts come
+  /// to stand together, and the font compresses better.
+  void acquaint(const Form& form);
 
  private:
   void paintText(Canvas& canvas, const Item& item, const ItemState& state);

@@ -122,6 +122,7 @@ ItemLine readItemLine(const QString& kind, PrpLine& line, Typeface face) {
   item.align = row.align;
   item.hidden = row.hidden;
   item.face = face;
+  item.file = line.file();
   item.sourceLine = line.line();
   if (row.kind == Kind::Line) item.rect = readLineEnds(line);
   else if (row.kind != Kind::Choice) item.rect = readRect(line);
