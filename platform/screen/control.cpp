@@ -85,10 +85,6 @@ QString Control::accessibleName() const {
 
 void Control::nameWidgets() {
   if (QWidget* named = namedWidget()) named->setAccessibleName(accessibleName());
-  // The text of an editable list is an object of its own on the accessibility bus, and the one that has the
-  // focus there.
-  if (const auto* combo = qobject_cast<const QComboBox*>(widget()); combo && combo->lineEdit())
-    combo->lineEdit()->setAccessibleName(accessibleName());
   // A combo box loses a name of its own on the accessibility bus; it is heard by its label's.
   if (m_label) m_label->setAccessibleName(accessibleName());
 }

@@ -57,7 +57,11 @@ void PatientScreen::applyCaptions() {
 }
 
 void PatientScreen::opened(const screen::Request& request) {
-  if (request.value(u"新規"_s).toBool()) startNewPatient();
+  if (request.value(u"新規"_s).toBool()) return startNewPatient();
+  // A claim's カルテ3へ names its patient.
+  const QString serial = request.value(u"テキスト5"_s).toString();
+  if (!serial.isEmpty() && source().isOpen() && settlePatientRow(*this))
+    findPatient(*this, u"テキスト5 = '%1' "_s.arg(serial));
 }
 
 void PatientScreen::onActivate() { refreshAge(); }
@@ -92,6 +96,9 @@ void PatientScreen::askNewPatient() {
 
 void PatientScreen::startNewPatient() {
   if (!source().isOpen() || !settlePatientRow(*this)) return;
+  // Read again first: a patient whom another computer entered meanwhile must not get the same serial.
+  if (const text::Done read = source().rows().refresh(); !read)
+    return messages().tellDataFault(read.fault().message);
   QString last;
   if (source().rows().recordCount() > 0) {
     goLast();

@@ -35,6 +35,14 @@ TEST_F(PatientScreenTest, PatientsOfOneDayAreNumberedInOrderOfEntry) {
   EXPECT_EQ(stored(u"氏名"_s), (QStringList{u"見本 一郎"_s, u"見本 二郎"_s, u"見本 三郎"_s}));
 }
 
+TEST_F(PatientScreenTest, PatientOfAnotherComputerCountsInTheSerial) {
+  screen::Screen& screen = patients();
+  addPatient({{u"氏名"_s, u"見本 一郎"_s}, {u"テキスト5"_s, u"20240615001"_s}});
+  answer({true, true});
+  screen.trigger(u"Men_FA"_s);
+  EXPECT_EQ(screen.text(u"Text2"_s), u"20240615002"_s);
+}
+
 TEST_F(PatientScreenTest, NewPatientIsAskedForAndToldToBeStored) {
   screen::Screen& screen = patients();
   answer({true});
@@ -212,6 +220,16 @@ TEST_F(PatientScreenTest, MovesStayInsideTheTableAndTellTheirPlace) {
     screen.trigger(command);
     EXPECT_EQ(screen.caption(u"Data1"_s), place) << command.toStdString();
   }
+}
+
+TEST_F(PatientScreenTest, AClaimOpensItsOwnPatient) {
+  for (const auto& [serial, patient] : {std::pair(u"A1"_s, u"見本 一郎"_s), std::pair(u"A2"_s, u"見本 二郎"_s)})
+    addPatient({{u"テキスト5"_s, serial}, {u"氏名"_s, patient}});
+  screen::Screen& screen = patients();
+  navigator.show(u"治療台帳4"_s, {{u"テキスト5"_s, u"A2"_s}});
+  EXPECT_EQ(name(screen), u"見本 二郎"_s);
+  navigator.show(u"治療台帳4"_s, {{u"テキスト5"_s, u"A2"_s}});
+  EXPECT_EQ(name(screen), u"見本 二郎"_s);
 }
 
 TEST_F(PatientScreenTest, MovingWritesThePendingEdit) {
