@@ -9,12 +9,12 @@
 
 #include "claims/core/claim_file.h"
 #include "platform/report/prp_loader.h"
+#include "platform/report/recording_operations.h"
 #include "platform/report/report_engine.h"
 #include "printing/core/claim_form_900.h"
 #include "printing/core/claim_job.h"
 #include "tools/bench/claim_rows.h"
 #include "tools/bench/commands.h"
-#include "tools/bench/page_collector.h"
 #include "tools/bench/print_floor.h"
 #include "tools/bench/read_back.h"
 
@@ -78,21 +78,26 @@ double printPages(const Month& month, const QString& path) {
   return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
+/// Items that a page prints, with their texts ("" for a mark).
+using Sheet = QHash<QString, QString>;
+
 /// What each page prints, taken off the mapping outside of the measured time.
-QVector<QHash<QString, QString>> sheets(const Month& month) {
-  QVector<QHash<QString, QString>> pages;
-  PageCollector collector;
-  printing::ReportFields fields(collector);
+QVector<Sheet> sheets(const Month& month) {
+  QVector<Sheet> pages;
   for (int i = 0; i < month.size(); ++i) {
-    collector.next();
+    report::RecordingOperations recorder;
+    printing::ReportFields fields(recorder);
     printing::fillClaim900(fields, month.source(i), eraDates());
-    pages << collector.page();
+    Sheet page;
+    for (auto item = recorder.items().begin(); item != recorder.items().end(); ++item)
+      if (item->visible) page.insert(item.key(), item->text);
+    pages << page;
   }
   return pages;
 }
 
 /// The texts of the pages that the form has an item for.
-QVector<Page> pagesOn(const report::Form& form, const QVector<QHash<QString, QString>>& sheets) {
+QVector<Page> pagesOn(const report::Form& form, const QVector<Sheet>& sheets) {
   QVector<Page> pages;
   for (const auto& sheet : sheets) {
     Page page;

@@ -1,8 +1,11 @@
 // Printing of one claim: which screen, which form, what is called and what the sheet becomes.
 
+#include <QJsonArray>
+
 #include "claims/core/claim_store.h"
 #include "claims/core/kinds.h"
 #include "platform/report/prp_loader.h"
+#include "platform/report/recording_operations.h"
 #include "platform/report/report_engine.h"
 #include "printing/contract/prompts.h"
 #include "printing/core/claim_job.h"
@@ -11,7 +14,6 @@
 #include "printing/core/template_choice.h"
 #include "tools/rulecheck/claim_json.h"
 #include "tools/rulecheck/ops.h"
-#include "tools/rulecheck/print_recorder.h"
 
 namespace rulecheck {
 namespace {
@@ -76,13 +78,32 @@ QString takeScreen(const QJsonObject& request, const frame::RunState& run, print
   return screen;
 }
 
-QHash<QString, ItemOutcome> shownItems(const QString& folder, const QString& fileName) {
-  QHash<QString, ItemOutcome> items;
+/// What the template shows as it is stored, and over it what the run made of its items.
+QJsonObject itemsOf(const report::RecordingOperations& run, const QString& folder, const QString& fileName) {
+  QJsonObject items;
   const auto form = report::loadForm(folder, fileName);
   if (!form) return items;
-  for (const report::Item& item : form.value()->items)
-    if (!item.hidden) items.insert(item.name, {item.text, true});
+  for (const report::Item& item : form.value()->items) {
+    if (!item.hidden && !run.items().contains(item.name))
+      items[item.name] = QJsonObject{{"text", item.text}, {"visible", true}};
+  }
+  for (auto item = run.items().begin(); item != run.items().end(); ++item) {
+    const int stored = form.value()->find(item.key());
+    const bool own = !item->text.isNull() || stored < 0;
+    const QString& text = own ? item->text : form.value()->items[static_cast<size_t>(stored)].text;
+    items[item.key()] = QJsonObject{{"text", text}, {"visible", item->visible}};
+  }
   return items;
+}
+
+QJsonArray callsOf(const report::RecordingOperations& run) {
+  QJsonArray calls;
+  for (const report::RecordedCall& call : run.calls()) {
+    QJsonArray parts{call.name};
+    for (const QVariant& argument : call.arguments) parts.append(QJsonValue::fromVariant(argument));
+    calls.append(parts);
+  }
+  return calls;
 }
 
 void printInto(QJsonObject& reply, const printing::PrintSource& source, const QString& screen,
@@ -92,13 +113,10 @@ void printInto(QJsonObject& reply, const printing::PrintSource& source, const QS
     return pdf.isEmpty() ? std::unique_ptr<report::DocumentSink>(new report::MemorySink(documents))
                          : std::unique_ptr<report::DocumentSink>(new report::FileSink(pdf));
   });
-  PrintRecorder recorder(engine, context.programFolder, shownItems);
+  report::RecordingOperations recorder(&engine);
   printing::runPrint(recorder, printing::claimJob(source, screen, eraDates()));
-  QJsonObject items;
-  for (auto item = recorder.items().begin(); item != recorder.items().end(); ++item)
-    items[item.key()] = QJsonObject{{"text", item->text}, {"visible", item->visible}};
-  reply["calls"] = recorder.calls();
-  reply["items"] = items;
+  reply["calls"] = callsOf(recorder);
+  reply["items"] = itemsOf(recorder, context.programFolder, reply["template"].toString());
 }
 
 }  // namespace
