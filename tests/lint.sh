@@ -24,7 +24,7 @@ rule "rules name no widget" \
   "$(grep -nE '#include <(QtWidgets|QtGui/QWindow|Q(Application|Widget|Dialog|MessageBox|LineEdit|Label|MainWindow|TableView)\b)' $cores)"
 rule "rules name no screens folder" "$(grep -nE '#include "[a-z]+/screens/' $cores)"
 rule "screens open each other by name, never by header" \
-  "$(for f in $screens; do grep -HnE '#include "[a-z]+/screens/' "$f" | while IFS=: read -r file line text; do
+  "$(for f in $screens; do grep -HnE '#include "[a-z]+/screens/[a-z0-9_]+_screen\.h"' "$f" | while IFS=: read -r file line text; do
        case $file in *_screens.cpp) continue ;; esac
        included=$(printf '%s' "$text" | sed -E 's/.*"(.*)".*/\1/')
        stem=$(basename "$file" | sed -E 's/\.(cpp|h)$//')

@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include "frame/core/prefecture.h"
+#include "frame/core/web_pages.h"
 #include "platform/text/number.h"
 
 namespace frame {
@@ -48,8 +49,6 @@ constexpr FixedSlot kFixedSlots[] = {
     {slot::kMarkerTextBox, u"txtbox.ini"},
     {slot::kMarkerProfile, u"touroku.ini"},
 };
-
-constexpr char16_t kUpdatePage[] = u"https://daicho.example.invalid/koshin/";
 
 /// Values that early versions wrote into the licence numbers by mistake.
 constexpr char16_t kStaleHari[] = u"98ME";
@@ -115,7 +114,7 @@ SettingsSlots rebuildSettings(const RunState& run, SettingsWriter writer) {
   // Kept: saving the folders has always cleared 申請欄の氏名印刷.
   if (writer == SettingsWriter::Folders) rebuilt[slot::kPrintApplicantName] = blank();
   if (writer == SettingsWriter::Profile || writer == SettingsWriter::ProgramEnd)
-    rebuilt[slot::kUpdatePage] = QString::fromUtf16(kUpdatePage);
+    rebuilt[slot::kUpdatePage] = webAddress(WebPage::Update);
   return rebuilt;
 }
 
@@ -139,7 +138,7 @@ SettingsSlots freshSettings() {
   fresh[slot::kRunCounter] = QStringLiteral("0");
   fresh[12] =
       QStringLiteral("治療台帳");  // an entry of the folders that must not be blank, else no menu opens
-  fresh[slot::kUpdatePage] = QString::fromUtf16(kUpdatePage);
+  fresh[slot::kUpdatePage] = webAddress(WebPage::Update);
   for (const int flag : {slot::kPrintLicence, slot::kPrintApplicantName, profile::kRelationPrinted,
                          profile::kElderlyNamePrinted, slot::kTopics})
     fresh[flag] = QStringLiteral("0");

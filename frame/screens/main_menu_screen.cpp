@@ -5,7 +5,6 @@
 #include "frame/core/prefecture.h"
 #include "frame/screens/main_menu_rows.h"
 #include "frame/screens/settings_writer.h"
-#include "frame/screens/web_pages.h"
 #include "platform/shell/desktop.h"
 
 namespace frame {
@@ -114,14 +113,14 @@ void MainMenuScreen::openBeside(const QString& fileName) {
 void MainMenuScreen::openManual() { openBeside(u"help.PDF"_s); }
 void MainMenuScreen::openTextHelp() { openBeside(u"help.txt"_s); }
 
-void MainMenuScreen::openPage(const char16_t* entry) {
-  tellFault(services().desktop->openWebPage(words(addressOf(entry))));
+void MainMenuScreen::openPage(WebPage page) {
+  tellFault(services().desktop->openWebPage(webAddress(page)));
 }
 
-void MainMenuScreen::openAssociationPage() { openPage(u"Men_HHPN"); }
-void MainMenuScreen::openProductPage() { openPage(u"Men_HHPQVTOP"); }
-void MainMenuScreen::openUpdatePage() { openPage(u"Men_HHPQVVUP"); }
-void MainMenuScreen::openTroublePage() { openPage(u"Men_HHPQVE"); }
+void MainMenuScreen::openAssociationPage() { openPage(WebPage::Association); }
+void MainMenuScreen::openProductPage() { openPage(WebPage::Product); }
+void MainMenuScreen::openUpdatePage() { openPage(WebPage::Update); }
+void MainMenuScreen::openTroublePage() { openPage(WebPage::Trouble); }
 
 // Every tenth run ends with a copy of all data files.
 void MainMenuScreen::backUpGenerations() {

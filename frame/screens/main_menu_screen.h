@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frame/core/run_state.h"
+#include "frame/core/web_pages.h"
 #include "platform/screen/screen.h"
 
 namespace frame {
@@ -39,7 +40,7 @@ class MainMenuScreen : public screen::Screen {
   void showSubmissions();
   void tellFault(const text::Done& done);
   void openBeside(const QString& fileName);
-  void openPage(const char16_t* entry);
+  void openPage(WebPage page);
   void backUpGenerations();
   QString todayForReceipt() const;
   RunState& m_run;
