@@ -31,7 +31,7 @@ constexpr ScreenRow kDeclaration{.name = u"frmAbout", .caption = u"ﾊﾞｰｼ�
 
 }  // namespace
 
-AboutScreen::AboutScreen(Services& services, RunState&) : Screen(kDeclaration, services) {}
+AboutScreen::AboutScreen(Services& services) : Screen(kDeclaration, services) {}
 
 void AboutScreen::showSystemInformation() {
   for (const char16_t* program : kSystemPrograms) {

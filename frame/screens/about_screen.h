@@ -1,6 +1,5 @@
 #pragma once
 
-#include "frame/core/run_state.h"
 #include "platform/screen/screen.h"
 
 namespace frame {
@@ -8,7 +7,7 @@ namespace frame {
 /// Version information.
 class AboutScreen : public screen::Screen {
  public:
-  AboutScreen(screen::Services& services, RunState& run);
+  explicit AboutScreen(screen::Services& services);
 
   void showSystemInformation();
   void finish();

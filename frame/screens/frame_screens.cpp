@@ -10,6 +10,7 @@
 #include "frame/screens/prompts.h"
 #include "frame/screens/splash_screen.h"
 #include "frame/screens/topics_screen.h"
+#include "platform/screen/prompt_list.h"
 
 namespace frame {
 
@@ -19,18 +20,13 @@ void registerScreens(screen::ScreenRegistry& registry, screen::Services&, RunSta
   registry.add<SplashScreen>(u"frmSplash"_s, run);
   registry.add<MainMenuScreen>(u"選択3"_s, run);
   registry.add<TopicsScreen>(u"topics"_s, run);
-  registry.add<AboutScreen>(u"frmAbout"_s, run);
+  registry.add<AboutScreen>(u"frmAbout"_s);
   registry.add<FoldersScreen>(u"LANフォルダ指定"_s, run);
   registry.add<ProfileScreen>(u"登録"_s, run);
   registry.add<LicenceScreen>(u"登録4"_s, run);
   registry.add<CaptionsScreen>(u"txtbox"_s, run);
   registry.add<FeeScreen>(u"料金変更"_s, run);
-
-  const auto actions = std::make_shared<screen::PromptActions>(promptActions(run));
-  for (const screen::ConfirmRow& row : prompts())
-    registry.add(QString::fromUtf16(row.name.get()), [&row, actions](screen::Services& services) {
-      return std::make_unique<screen::ConfirmPrompt>(row, *actions, services);
-    });
+  screen::addPrompts(registry, prompts(), promptActions(run));
 }
 
 }  // namespace frame

@@ -1,5 +1,6 @@
 #include "records/screens/records_screens.h"
 
+#include "platform/screen/prompt_list.h"
 #include "records/screens/patient_screen.h"
 #include "records/screens/prompts.h"
 #include "records/screens/search_screen.h"
@@ -11,12 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 void registerScreens(screen::ScreenRegistry& registry, screen::Services&, frame::RunState& run) {
   registry.add<SearchScreen>(u"選択4"_s, run);
   registry.add<PatientScreen>(u"治療台帳4"_s, run);
-
-  const auto actions = std::make_shared<screen::PromptActions>(promptActions(run));
-  for (const screen::ConfirmRow& row : prompts())
-    registry.add(QString::fromUtf16(row.name.get()), [&row, actions](screen::Services& services) {
-      return std::make_unique<screen::ConfirmPrompt>(row, *actions, services);
-    });
+  screen::addPrompts(registry, prompts(), promptActions(run));
 }
 
 }  // namespace records
