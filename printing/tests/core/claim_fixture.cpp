@@ -17,7 +17,7 @@ SpyEngine& Filled::fill() {
   ReportFields fields(engine);
   if (source.itemsOnly) fields.hideFrame();
   hideClaim900(fields, source);
-  fillClaim900(fields, source, m_dates);
+  fillClaim900(fields, source, frame::EraDates(capability, m_clock));
   return engine;
 }
 

@@ -31,10 +31,10 @@ class Filled {
 
   PrintSource source;
   SpyEngine engine;
+  frame::EraCapability capability = frame::EraCapability::Supported;
 
  private:
   text::FixedClock m_clock{QDate(2024, 11, 5)};
-  frame::EraDates m_dates{frame::EraCapability::Supported, m_clock};
 };
 
 /// Claims with every block of the form filled; all names are made up.

@@ -133,6 +133,14 @@ TEST(Dates, AreCutIntoEraYearMonthAndDay) {
   }
 }
 
+TEST(Dates, PlatformWithoutReiwaPrintsTheSameSheet) {
+  for (Filled filled : {fullAcupuncture(), fullMassage()}) {
+    const QStringList sheet = filled.fill().sheet();
+    filled.capability = frame::EraCapability::Unsupported;
+    EXPECT_EQ(filled.fill().sheet(), sheet);
+  }
+}
+
 TEST(Dates, UnreadableDateLosesItsFieldAndTheFormStillPrints) {
   Filled filled = fullAcupuncture();
   filled.set({{u"初療年月日", u"不明"}});
