@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "platform/store/current_row.h"
 #include "platform/store/engine.h"
 #include "platform/store/scanner.h"
 #include "platform/store/selection.h"
@@ -47,7 +48,7 @@ Done runUpdate(Engine& engine, Scanner& scanner) {
     return {};
   });
   if (!done) return done;
-  for (const qint64 id : rows) engine.rowWritten(table, id, before);
+  engine.rowsWritten(table, rows, before);
   return {};
 }
 
@@ -111,19 +112,13 @@ struct Cursor::State {
   std::shared_ptr<Database> database;
   std::optional<TableFile> file;
   QVector<int> columns;
-  QString selectText;
   RowList ids;
   int at = 0;
-  Row row;
+  mutable CurrentRow row;
 
-  /// Reads the row at hand, going past rows that were deleted since.
-  void readRow() {
-    for (row.clear(); at < ids.size(); ++at) {
-      if (Result<Row> read = file->read(ids.at(at), columns, selectText); read && !read->isEmpty()) {
-        row = std::move(*read);
-        return;
-      }
-    }
+  /// Goes past rows that were deleted since.
+  void skipGone() {
+    while (at < ids.size() && !row.stands(*file, ids.at(at))) ++at;
   }
 };
 
@@ -162,8 +157,7 @@ Result<Cursor> Cursor::open(Connection& connection, const QString& source) {
   Result<RowList> rows = selectRows(engine, table, {&*criteria, 1});
   if (!rows) return rows.fault();
   state->ids = std::move(*rows);
-  state->selectText = state->file->selectText(state->columns);
-  state->readRow();
+  state->skipGone();
   Cursor cursor;
   cursor.m_state = std::move(state);
   return cursor;
@@ -174,13 +168,14 @@ bool Cursor::eof() const { return !m_state || m_state->at >= m_state->ids.size()
 void Cursor::moveNext() {
   if (eof()) return;
   ++m_state->at;
-  m_state->readRow();
+  m_state->skipGone();
 }
 
 Value Cursor::value(const QString& column) const {
   if (eof()) return {};
-  const qsizetype place = m_state->columns.indexOf(m_state->file->schema().find(column));
-  return place < 0 || m_state->row.isEmpty() ? Value() : m_state->row[place];
+  const int index = m_state->file->schema().find(column);
+  if (!m_state->columns.contains(index)) return {};
+  return m_state->row.value(*m_state->file, m_state->ids.at(m_state->at), index);
 }
 
 QStringList Cursor::columns() const {

@@ -80,6 +80,16 @@ void Engine::rowWritten(const QString& table, qint64 id, quint32 before) {
   if (place != m_copies.end() && !place->second.rowWritten(id)) m_copies.clear();
 }
 
+void Engine::rowsWritten(const QString& table, const std::vector<qint64>& ids, quint32 before) {
+  constexpr size_t kCheaperToReadAgain = 100;
+  if (ids.size() > kCheaperToReadAgain) {
+    m_copies.clear();
+    ++m_writes;
+    return;
+  }
+  for (const qint64 id : ids) rowWritten(table, id, before);
+}
+
 void Engine::rowRemoved(const QString& table, qint64 id, quint32 before) {
   noteOwnWrite(before);
   const auto place = m_copies.find(table.toStdU16String());

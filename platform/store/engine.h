@@ -28,6 +28,7 @@ class Engine {
   /// Tells of a row that this program wrote or removed inside a transaction that began at the counter
   /// `before`, whoever's handle it was.
   void rowWritten(const QString& table, qint64 id, quint32 before);
+  void rowsWritten(const QString& table, const std::vector<qint64>& ids, quint32 before);
   void rowRemoved(const QString& table, qint64 id, quint32 before);
   /// Forgets schemas and copies, after a change of the columns.
   void forget();

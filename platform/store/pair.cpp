@@ -106,7 +106,7 @@ void PairStore::State::tellRecordSets() {
   for (Half* half : halves()) {
     Engine& engine = half->database->engine();
     const QString& table = half->file.schema().table();
-    for (const qint64 id : half->written) engine.rowWritten(table, id, half->before);
+    engine.rowsWritten(table, half->written, half->before);
     for (const qint64 id : half->removed) engine.rowRemoved(table, id, half->before);
   }
 }
@@ -245,6 +245,7 @@ Result<std::pair<PairStore::Columns, PairStore::Columns>> PairStore::read(qint64
        {std::pair(&*m_state->first, &both.first), std::pair(&*m_state->second, &both.second)}) {
     const Result<Row> row = half->file.read(id);
     if (!row) return row.fault();
+    columns->reserve(row->size());
     for (int column = 0; column < row->size(); ++column)
       columns->insert(half->file.schema().name(column), (*row)[column]);
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "platform/store/current_row.h"
 #include "platform/store/database.h"
 #include "platform/store/row_cache.h"
 #include "platform/store/selection.h"
@@ -31,8 +32,7 @@ struct RecordSet::State {
   bool noMatch = false;
 
   mutable RowCache shown;
-  mutable Row current;  ///< the current row as it was read
-  mutable qint64 currentId = kNoBookmark;
+  mutable CurrentRow current;
   mutable quint64 currentWrites = 0;
 
   Buffer buffer = Buffer::None;
@@ -45,7 +45,7 @@ struct RecordSet::State {
   bool onRow() const { return position >= 0 && position < count(); }
   qint64 id() const { return onRow() ? ids.at(position) : kNoBookmark; }
 
-  const Row& row() const;
+  CurrentRow& row() const;
   void endEditing();
   void moveTo(int place);
   Done load();
@@ -55,15 +55,10 @@ struct RecordSet::State {
   Result<qint64> writeEdited(const RowValues& values);
 };
 
-/// The current row. It is read again when this program wrote to the file since, unless it is being edited.
-const Row& RecordSet::State::row() const {
-  const quint64 writes = engine().writes();
-  if (currentId == id() && (currentWrites == writes || buffer == Buffer::Editing)) return current;
-  currentId = id();
-  currentWrites = writes;
-  current.clear();
-  if (currentId == kNoBookmark) return current;
-  if (Result<Row> read = file->read(currentId)) current = std::move(*read);
+/// The current row. It is read again when this program wrote to the file since.
+CurrentRow& RecordSet::State::row() const {
+  if (currentWrites != engine().writes()) current.forget();
+  currentWrites = engine().writes();
   return current;
 }
 
@@ -86,7 +81,7 @@ Done RecordSet::State::load() {
   if (!found) return found.fault();
   ids = std::move(*found);
   shown.clear();
-  currentId = kNoBookmark;
+  current.forget();
   position = ids.empty() ? -1 : 0;
   return {};
 }
@@ -204,8 +199,8 @@ Value RecordSet::value(const QString& column) const {
     return *change;
   if (m_state->buffer == Buffer::Adding)
     return m_state->schema().type(index) == ColumnType::YesNo ? QStringLiteral("0") : Value();
-  const Row& row = m_state->row();
-  return row.isEmpty() ? Value() : row[index];
+  if (m_state->buffer == Buffer::Editing) return m_state->seen[index];
+  return m_state->onRow() ? m_state->row().value(*m_state->file, m_state->id(), index) : Value();
 }
 
 Value RecordSet::valueAt(int position, const QString& column) const {
@@ -225,7 +220,7 @@ Done RecordSet::addNew() {
 Done RecordSet::edit() {
   if (!isOpen() || !m_state->onRow()) return noCurrentRow();
   m_state->endEditing();
-  const Row& row = m_state->row();
+  const Row& row = m_state->row().whole(*m_state->file, m_state->id());
   if (row.isEmpty()) return rowIsGone();
   m_state->seen = row;
   m_state->buffer = Buffer::Editing;
@@ -265,7 +260,7 @@ Done RecordSet::update() {
 
 void RecordSet::cancelUpdate() {
   m_state->endEditing();
-  m_state->currentId = kNoBookmark;
+  m_state->current.forget();
 }
 
 Done RecordSet::remove() {

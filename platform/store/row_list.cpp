@@ -20,6 +20,19 @@ RowList::RowList(const std::vector<qint64>& ids, const std::vector<uint32_t>& ro
     std::reverse(m_entries.begin(), m_entries.end());
 }
 
+void RowList::copyIds() {
+  if (!m_ids) return;
+  m_entries.reserve(m_ids->size() + 1);
+  for (const qint64 id : *m_ids) m_entries.push_back({id, 0});
+  if (m_backwards) std::reverse(m_entries.begin(), m_entries.end());
+  m_ids.reset();
+}
+
+void RowList::append(qint64 id) {
+  copyIds();
+  m_entries.push_back({id, 0});
+}
+
 void RowList::settle(size_t position) const {
   auto stretch = m_unsorted.upper_bound(position);
   if (stretch == m_unsorted.begin()) return;
@@ -40,11 +53,18 @@ void RowList::settle(size_t position) const {
 
 qint64 RowList::at(int position) const {
   const size_t place = static_cast<size_t>(position);
+  if (m_ids) return (*m_ids)[m_backwards ? m_ids->size() - 1 - place : place];
   settle(place);
   return m_entries[place].id;
 }
 
 int RowList::find(qint64 id) const {
+  if (m_ids) {
+    const auto place = std::lower_bound(m_ids->begin(), m_ids->end(), id);
+    if (place == m_ids->end() || *place != id) return -1;
+    const auto forwards = static_cast<int>(place - m_ids->begin());
+    return m_backwards ? size() - 1 - forwards : forwards;
+  }
   const auto place =
       std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry& entry) { return entry.id == id; });
   if (place == m_entries.end()) return -1;
@@ -67,6 +87,7 @@ std::vector<qint64> RowList::ids() const {
 }
 
 void RowList::erase(int position) {
+  copyIds();
   const size_t place = static_cast<size_t>(position);
   settle(place);
   m_entries.erase(m_entries.begin() + position);

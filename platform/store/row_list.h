@@ -16,14 +16,18 @@ class RowList {
   /// `rows` are the numbers of rows in ID order, `ids` the IDs of all rows by number.
   RowList(const std::vector<qint64>& ids, const std::vector<uint32_t>& rows, RowSorter sorter);
 
-  int size() const { return static_cast<int>(m_entries.size()); }
-  bool empty() const { return m_entries.empty(); }
+  /// All rows of a table, forwards or backwards; nothing is copied.
+  RowList(std::shared_ptr<const std::vector<qint64>> ids, bool backwards)
+      : m_ids(std::move(ids)), m_backwards(backwards) {}
+
+  int size() const { return static_cast<int>(m_ids ? m_ids->size() : m_entries.size()); }
+  bool empty() const { return size() == 0; }
   qint64 at(int position) const;
   /// Position of the ID, -1 where it is not in the list.
   int find(qint64 id) const;
   /// All IDs in their order.
   std::vector<qint64> ids() const;
-  void append(qint64 id) { m_entries.push_back({id, 0}); }
+  void append(qint64 id);
   void erase(int position);
 
  private:
@@ -31,9 +35,13 @@ class RowList {
     qint64 id;
     uint32_t row;
   };
+  /// Makes entries of a whole table's list, to change them.
+  void copyIds();
   void settle(size_t position) const;
   bool before(const Entry& a, const Entry& b) const { return m_sorter->before(a.row, b.row); }
 
+  std::shared_ptr<const std::vector<qint64>> m_ids;  ///< a whole table's, else null
+  bool m_backwards = false;
   mutable std::vector<Entry> m_entries;
   std::shared_ptr<const RowSorter> m_sorter;
   /// Stretches that are not sorted yet, from start to end: whatever stands in one belongs into it.

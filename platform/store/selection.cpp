@@ -1,5 +1,7 @@
 #include "platform/store/selection.h"
 
+#include <algorithm>
+
 #include "platform/store/order.h"
 
 namespace store {
@@ -10,6 +12,10 @@ Order orderOf(std::span<const Criteria> all, const Order& order) {
   for (const Criteria& one : all)
     if (!one.order.empty()) return one.order;
   return {};
+}
+
+bool everyRow(std::span<const Criteria> all) {
+  return std::all_of(all.begin(), all.end(), [](const Criteria& one) { return one.anyOf.empty(); });
 }
 
 }  // namespace
@@ -29,6 +35,10 @@ Result<RowList> selectRows(Engine& engine, const QString& table, std::span<const
   }
   const Result<TableCopy*> copy = engine.copy(table, searched, *sorted);
   if (!copy) return copy.fault();
+  RowSorter sorter(wanted, **schema,
+                   [&](int column) -> const SortColumn& { return (*copy)->sorted(column); });
+  if (searched.isEmpty() && sorter.byIdAlone() && everyRow(all))
+    return RowList((*copy)->sharedIds(), sorter.idDescending());
   const std::vector<qint64>& ids = (*copy)->ids();
   std::vector<char> fitting(ids.size(), 1);
   for (const Criteria& one : all)
@@ -37,9 +47,7 @@ Result<RowList> selectRows(Engine& engine, const QString& table, std::span<const
   rows.reserve(ids.size());
   for (size_t row = 0; row < fitting.size(); ++row)
     if (fitting[row]) rows.push_back(static_cast<uint32_t>(row));
-  return RowList(ids, rows, RowSorter(wanted, **schema, [&](int column) -> const SortColumn& {
-                   return (*copy)->sorted(column);
-                 }));
+  return RowList(ids, rows, std::move(sorter));
 }
 
 }  // namespace store

@@ -8,6 +8,9 @@ namespace {
 
 /// The part of the sentence behind the file's name.
 QString reason(sqlite3* handle) {
+  if (sqlite3_extended_errcode(handle) == SQLITE_READONLY_DBMOVED)
+    return QStringLiteral(
+        "は、使用中にほかのファイルに置き換えられたか、移動されています。治療台帳を再起動してください。");
   switch (sqlite3_errcode(handle) & 0xFF) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:

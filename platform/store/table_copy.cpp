@@ -83,6 +83,11 @@ const QByteArray& SortTexts::key(uint32_t number, bool byValue) {
   return key;
 }
 
+std::vector<qint64>& TableCopy::ownIds() {
+  if (m_ids.use_count() > 1) m_ids = std::make_shared<std::vector<qint64>>(*m_ids);
+  return *m_ids;
+}
+
 QVector<int> TableCopy::missing(const QVector<int>& searched, const QVector<int>& sorted) const {
   QVector<int> columns;
   for (const int column : searched)
@@ -103,8 +108,8 @@ Result<bool> TableCopy::loadUnbrokenIds(StatementCache& statements) {
   const qint64 count = (*ends)->number(0), first = (*ends)->number(1), last = (*ends)->number(2);
   (*ends)->rewind();
   if (count > 0 && last - first + 1 != count) return false;
-  m_ids.resize(static_cast<size_t>(count));
-  std::iota(m_ids.begin(), m_ids.end(), first);
+  m_ids = std::make_shared<std::vector<qint64>>(static_cast<size_t>(count));
+  std::iota(m_ids->begin(), m_ids->end(), first);
   m_haveIds = true;
   return true;
 }
@@ -143,13 +148,13 @@ Done TableCopy::load(StatementCache& statements, const QVector<int>& searched, c
       if (wanted[at].second) coded[at].append(text);
     }
   }
-  if (m_haveIds && ids != m_ids) {  // another program wrote between: all columns must be of one moment
+  if (m_haveIds && ids != *m_ids) {  // another program wrote between: all columns must be of one moment
     m_searched.clear();
     m_sorted.clear();
     m_haveIds = false;
     return load(statements, searched, sorted);
   }
-  m_ids = std::move(ids);
+  m_ids = std::make_shared<std::vector<qint64>>(std::move(ids));
   m_haveIds = true;
   for (int place = 0; place < columns.size(); ++place) {
     const size_t at = static_cast<size_t>(place);
@@ -164,16 +169,16 @@ Done TableCopy::rowWritten(qint64 id) {
   const Result<Row> read = m_file.read(id);
   if (!read) return read.fault();
   const Row& row = *read;
-  const auto place = std::lower_bound(m_ids.begin(), m_ids.end(), id);
-  const size_t at = static_cast<size_t>(place - m_ids.begin());
-  const bool known = place != m_ids.end() && *place == id;
-  if (!known && at != m_ids.size()) {  // an ID in the middle: rare enough to read all again
+  const auto place = std::lower_bound(m_ids->begin(), m_ids->end(), id);
+  const size_t at = static_cast<size_t>(place - m_ids->begin());
+  const bool known = place != m_ids->end() && *place == id;
+  if (!known && at != m_ids->size()) {  // an ID in the middle: rare enough to read all again
     m_haveIds = false;
     m_searched.clear();
     m_sorted.clear();
     return {};
   }
-  if (!known) m_ids.push_back(id);
+  if (!known) ownIds().push_back(id);
   for (auto& [column, cells] : m_searched) {
     if (known)
       cells.replace(at, row[column]);
@@ -190,12 +195,13 @@ Done TableCopy::rowWritten(qint64 id) {
 }
 
 void TableCopy::rowRemoved(qint64 id) {
-  const auto place = std::lower_bound(m_ids.begin(), m_ids.end(), id);
-  if (place == m_ids.end() || *place != id) return;
-  const size_t at = static_cast<size_t>(place - m_ids.begin());
-  m_ids.erase(place);
-  for (auto& [column, cells] : m_searched) cells.erase(at);
-  for (auto& [column, cells] : m_sorted) cells.erase(at);
+  const auto place = std::lower_bound(m_ids->begin(), m_ids->end(), id);
+  if (place == m_ids->end() || *place != id) return;
+  const std::ptrdiff_t at = place - m_ids->begin();
+  std::vector<qint64>& ids = ownIds();
+  ids.erase(ids.begin() + at);
+  for (auto& [column, cells] : m_searched) cells.erase(static_cast<size_t>(at));
+  for (auto& [column, cells] : m_sorted) cells.erase(static_cast<size_t>(at));
 }
 
 }  // namespace store

@@ -75,7 +75,9 @@ class TableCopy {
   /// Reads what is missing of the columns, in one pass over the file.
   Done load(StatementCache& statements, const QVector<int>& searched, const QVector<int>& sorted);
 
-  const std::vector<qint64>& ids() const { return m_ids; }
+  const std::vector<qint64>& ids() const { return *m_ids; }
+  /// The same, as they stand now: later writes change another list.
+  std::shared_ptr<const std::vector<qint64>> sharedIds() const { return m_ids; }
   const FoldedColumn& searched(int column) const { return m_searched.at(column); }
   const SortColumn& sorted(int column) const { return m_sorted.at(column); }
 
@@ -86,11 +88,13 @@ class TableCopy {
  private:
   /// The IDs of a table from which no row was deleted are known by their ends, without walking through them.
   Result<bool> loadUnbrokenIds(StatementCache& statements);
+  /// The list of IDs to change; a new one where somebody holds it.
+  std::vector<qint64>& ownIds();
   QVector<int> missing(const QVector<int>& searched, const QVector<int>& sorted) const;
 
   TableFile m_file;
   bool m_haveIds = false;
-  std::vector<qint64> m_ids;
+  std::shared_ptr<std::vector<qint64>> m_ids = std::make_shared<std::vector<qint64>>();
   std::unordered_map<int, FoldedColumn> m_searched;
   std::unordered_map<int, SortColumn> m_sorted;
 };

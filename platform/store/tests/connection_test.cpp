@@ -61,6 +61,32 @@ TEST_F(ConnectionTest, EverySelectOfTheSubset) {
   EXPECT_TRUE(some->value(QStringLiteral("施術内容")).isNull());
 }
 
+TEST_F(ConnectionTest, AWalkReadsEveryColumnAndPassesRowsThatWereDeleted) {
+  const QString file = QStringLiteral("同意医師2000.mdb"), table = QStringLiteral("同意医師");
+  const QStringList columns = {QStringLiteral("氏名"), QStringLiteral("フリガナ"), QStringLiteral("病院名"),
+                               QStringLiteral("TEL"), QStringLiteral("住所")};
+  fresh(file);
+  RecordSet set = openSet(file, table);
+  for (int row = 1; row <= 6; ++row) {
+    QList<std::pair<QString, QString>> values;
+    for (const QString& name : columns) values += {name, name + QString::number(row)};
+    add(set, values);
+  }
+  Connection connection = connect("同意医師2000.mdb");
+  Result<Cursor> cursor = Cursor::open(connection, QStringLiteral("SELECT * FROM 同意医師"));
+  ASSERT_TRUE(cursor.ok());
+  set.setBookmark(4);
+  ASSERT_TRUE(set.remove().ok());
+  QStringList seen;
+  for (; !cursor->eof(); cursor->moveNext()) {
+    const QString number = cursor->value(QStringLiteral("ID"));
+    seen += number;
+    for (const QString& name : columns) EXPECT_EQ(cursor->value(name), name + number);
+    EXPECT_EQ(cursor->value(columns.last()), columns.last() + number);
+  }
+  EXPECT_EQ(seen.join(u' '), QStringLiteral("1 2 3 5 6"));
+}
+
 TEST_F(ConnectionTest, VisitsOfAMonthByNameAndText) {
   fresh(QStringLiteral("カルテ2データ2000.mdb"));
   RecordSet set = openSet(QStringLiteral("カルテ2データ2000.mdb"), QStringLiteral("カルテ"));

@@ -175,6 +175,18 @@ TEST_F(DatabaseTest, OpeningTwiceGivesOneHandleAndAReplacedFileAnother) {
   EXPECT_NE(*Database::open(path(kDoctors)), first);
 }
 
+// A backup put back while the program runs: what was opened is no longer the file at the path.
+TEST_F(DatabaseTest, AFileThatWasReplacedWhileOpenIsToldWhenWritten) {
+  fresh(kDoctors);
+  RecordSet set = openSet(kDoctors, kDoctorTable);
+  ASSERT_TRUE(QFile::rename(path(kDoctors), path(QStringLiteral("old"))));
+  fresh(kDoctors);
+  ASSERT_TRUE(set.addNew().ok());
+  const Done done = set.update();
+  ASSERT_FALSE(done.ok());
+  EXPECT_TRUE(done.fault().message.contains(QStringLiteral("再起動"))) << done.fault().message.toStdString();
+}
+
 TEST_F(DatabaseTest, AFreshFileNeverReplacesOneThatStands) {
   put(kDoctors, "kept");
   EXPECT_FALSE(createFresh(path(kDoctors), kDoctors).ok());
