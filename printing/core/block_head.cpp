@@ -1,4 +1,3 @@
-#include "claims/core/generic_columns.h"
 #include "platform/text/width.h"
 #include "printing/core/claim_blocks.h"
 
