@@ -60,7 +60,7 @@ class Control {
   // Looks.
   virtual void setCaption(const QString& caption);
   void setLabel(QLabel* label);
-  void setTip(const QString& tip);
+  virtual void setTip(const QString& tip);
   virtual void setShown(bool shown);
   bool isShown() const { return m_shown; }
   virtual void setEnabled(bool enabled);

@@ -7,9 +7,6 @@ class QPlainTextEdit;
 
 namespace screen {
 
-/// Number of characters as a user counts them: a surrogate pair is one.
-int characterCount(const QString& text);
-
 /// A one-line text field.
 class LineControl : public Control {
  public:

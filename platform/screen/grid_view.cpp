@@ -19,6 +19,12 @@ GridView::GridView(QWidget* parent) : QTableView(parent) {
   setMinimumHeight(6 * (fontMetrics().lineSpacing() + 8));
 }
 
+QSize GridView::sizeHint() const {
+  constexpr int kRowsShown = 14;
+  const int row = verticalHeader()->defaultSectionSize();
+  return {std::max(QTableView::sizeHint().width(), horizontalHeader()->length() + 2 * row), kRowsShown * row};
+}
+
 void GridView::fitColumns() {
   constexpr int kSampleRows = 20;
   const int widest = 24 * fontMetrics().horizontalAdvance(u'あ');

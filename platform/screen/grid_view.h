@@ -10,6 +10,7 @@ class GridView : public QTableView {
  public:
   explicit GridView(QWidget* parent);
   void keyboardSearch(const QString&) override {}
+  QSize sizeHint() const override;
   /// Gives each column room for its caption and for what the first rows hold.
   void fitColumns();
 };

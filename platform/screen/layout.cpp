@@ -6,6 +6,8 @@ namespace screen {
 namespace {
 
 constexpr int kGap = 6;
+/// Up to so many fields in a line stand behind their labels, more of them below.
+constexpr int kBesideAtMost = 3;
 
 QGridLayout* gridOf(QWidget* host, int margin) {
   auto* grid = new QGridLayout(host);
@@ -92,15 +94,21 @@ void Flow::add(QWidget* widget) {
   m_used += wanted;
 }
 
-Family::Family(QWidget* host, int perLine) : m_grid(gridOf(host, 0)), m_perLine(std::max(1, perLine)) {
-  m_grid->setColumnStretch(m_perLine, 1);
+Family::Family(QWidget* host, int perLine)
+    : m_grid(gridOf(host, 0)), m_perLine(std::max(1, perLine)), m_labelsBeside(perLine <= kBesideAtMost) {
+  m_grid->setColumnStretch(m_labelsBeside ? 2 * m_perLine : m_perLine, 1);
 }
 
 void Family::add(QLabel* label, QWidget* field) {
   const int line = m_count / m_perLine, column = m_count % m_perLine;
+  ++m_count;
+  if (m_labelsBeside) {
+    m_grid->addWidget(label, line, 2 * column, Qt::AlignRight | Qt::AlignVCenter);
+    m_grid->addWidget(field, line, 2 * column + 1);
+    return;
+  }
   m_grid->addWidget(label, 2 * line, column, Qt::AlignLeft | Qt::AlignBottom);
   m_grid->addWidget(field, 2 * line + 1, column, Qt::AlignLeft);
-  ++m_count;
 }
 
 }  // namespace screen

@@ -58,7 +58,7 @@ class Flow {
   int m_used = 0;
 };
 
-/// A family of fields, each under its label, so many in a line.
+/// A family of fields, so many in a line: each under its label, or behind it where the line has room.
 class Family {
  public:
   Family(QWidget* host, int perLine);
@@ -67,6 +67,7 @@ class Family {
  private:
   QGridLayout* m_grid;
   int m_perLine;
+  bool m_labelsBeside;
   int m_count = 0;
 };
 

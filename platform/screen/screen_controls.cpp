@@ -1,7 +1,9 @@
 // The half of Screen that addresses controls by their objectName.
 #include <QtWidgets/QtWidgets>
 
-#include "platform/screen/control_choice.h"
+#include "platform/screen/control_check.h"
+#include "platform/screen/control_combo.h"
+#include "platform/screen/control_options.h"
 #include "platform/screen/control_frame.h"
 #include "platform/screen/screen.h"
 #include "platform/screen/screen_parts.h"

@@ -1,8 +1,9 @@
+#include "platform/screen/text_limit.h"
+
 #include <gtest/gtest.h>
 
 #include <QtWidgets/QtWidgets>
 
-#include "platform/screen/control_text.h"
 #include "sample_screen.h"
 
 namespace screen::testing {
@@ -48,6 +49,14 @@ TEST_F(TextLimit, LongerStoredTextIsShownWholeAndMayOnlyShrink) {
   EXPECT_EQ(screen.text("txtFields(4)"), "一二三四五六");
   probe.press(Qt::Key_Backspace);
   EXPECT_EQ(screen.text("txtFields(4)"), "一二三四五");
+}
+
+TEST_F(TextLimit, HoldsForEditableListsToo) {
+  screen.focusOn("Combo2");  // 255 characters
+  probe.type(QString(300, u'あ'));
+  EXPECT_EQ(screen.text("Combo2").size(), 255);
+  screen.setText("Combo2", QString(300, u'い'));
+  EXPECT_EQ(screen.text("Combo2").size(), 300) << "what is stored is shown whole";
 }
 
 TEST_F(TextLimit, HoldsForMemosToo) {
