@@ -3,6 +3,7 @@
 #include "claims/screens/claims_screens.h"
 #include "frame/screens/frame_screens.h"
 #include "platform/report/font_store.h"
+#include "platform/screen/dialog_speech.h"
 #include "records/screens/records_screens.h"
 
 namespace app {
@@ -17,6 +18,7 @@ Desk::Desk(const QString& programFolder, Channels channels, const text::Clock& c
   m_run.programFolder = programFolder;
   m_run.clock = &clock;
   m_navigator.setServices(m_services);
+  m_desktop.setDialogGuide([this](QDialog& picker) { screen::letSpeak(picker, m_voice); });
   registerAllScreens();
 }
 
