@@ -12,11 +12,9 @@
 #include "claims/core/claim_file.h"
 #include "claims/core/claims_state.h"
 #include "claims/screens/claim_form_screen.h"
+#include "platform/screen/testing/print_text.h"
 #include "platform/store/database.h"
 #include "platform/voice/recording_channel.h"
-
-// Readable texts in failures.
-inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
 
 namespace claims {
 

@@ -2,6 +2,7 @@
 #include "claims/core/print_settings.h"
 #include "claims/screens/claim_form_rows.h"
 #include "claims/tests/screens/claim_form_fixture.h"
+#include "platform/screen/testing/screen_probe.h"
 #include "platform/store/catalogue.h"
 
 // The form as it is declared: every column in reach, names, speech.
@@ -104,20 +105,27 @@ TEST_F(ClaimFormPages, PrintSettingsAreThoseOfTheRules) {
   }
 }
 
-TEST_F(ClaimFormPages, NoTwoControlsShareAnAccessibleName) {
-  openNew(acupuncture());
-  QHash<QString, QString> seen;
-  for (QWidget* widget : m_form->findChildren<QWidget*>()) {
-    if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().isEmpty()) continue;
-    if (!qobject_cast<QLineEdit*>(widget) && !qobject_cast<QAbstractButton*>(widget) &&
-        !qobject_cast<QPlainTextEdit*>(widget))
-      continue;
-    const QString name = widget->accessibleName();
-    EXPECT_FALSE(name.isEmpty()) << widget->objectName().toStdString();
-    EXPECT_FALSE(seen.contains(name)) << name.toStdString() << ": " << seen.value(name).toStdString()
-                                      << " and " << widget->objectName().toStdString();
-    seen.insert(name, widget->objectName());
+TEST_F(ClaimFormPages, EveryControlOfEitherKindIsNamedSpokenAndReached) {
+  for (ClaimRecord claim : {acupuncture(), massage()}) {
+    m_form.reset();
+    claim.set(qs(u"yn1"), qs(u"-1"));  // with the rows of the visit table
+    openNew(claim);
+    screen::testing::ScreenProbe probe(*m_form, m_channel);
+    probe.open();
+    const QStringList faults = probe.faults();
+    EXPECT_TRUE(faults.isEmpty()) << faults.join(u'\n').toStdString();
   }
+}
+
+TEST_F(ClaimFormPages, EveryFieldOfTheSevenPagesIsATabStop) {
+  openNew(massage());
+  screen::testing::ScreenProbe probe(*m_form, m_channel);
+  probe.open();
+  QStringList stops;
+  for (const screen::testing::Stop& stop : probe.stops()) stops << stop.control;
+  for (const char16_t* control : {u"txtFields(0)", u"Combo1(3)", u"txtFields(71)", u"Text5(31)", u"Text6(31)",
+                                  u"Command23", u"FrameSet(15)", u"txtFields(144)", u"txtFields(231)"})
+    EXPECT_TRUE(stops.contains(qs(control))) << qs(control).toStdString();
 }
 
 TEST_F(ClaimFormPages, DayCellsSayTheirDayAndRow) {
