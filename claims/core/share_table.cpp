@@ -7,8 +7,8 @@ std::array<ShareLine, 6> shareTable(qint64 base) {
   for (size_t i = 0; i < lines.size(); ++i) {
     const int tenths = kShareTenths[i];
     const qint64 product = base * tenths;
-    const qint64 down = product / 10;
-    const qint64 rest = product % 10;
+    const qint64 rest = ((product % 10) + 10) % 10;  // below zero too, downwards is the smaller number
+    const qint64 down = (product - rest) / 10;
     lines[i] = {tenths, down + (rest > 0 ? 1 : 0), down, down + (rest >= 5 ? 1 : 0)};
   }
   return lines;

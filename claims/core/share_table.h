@@ -7,9 +7,9 @@ namespace claims {
 
 /// One line of the side calculator 計算式確認: a base amount times a rate in tenths, in whole yen.
 struct ShareLine {
-  int tenths;  ///< 1, 2, 3, 7, 8, 9: １割 to ３割 are the patient's part, ７割 to ９割 the insurer's
-  qint64 up;   ///< 切り上げ
-  qint64 down; ///< 切り捨て
+  int tenths;   ///< 1, 2, 3, 7, 8, 9: １割 to ３割 are the patient's part, ７割 to ９割 the insurer's
+  qint64 up;    ///< 切り上げ
+  qint64 down;  ///< 切り捨て
   qint64 nearest;  ///< 四捨五入
 };
 

@@ -1,6 +1,6 @@
 #include "claims/screens/claim_list_screen.h"
 
-#include "claims/core/claim_file.h"
+#include "claims/core/list_keys.h"
 #include "claims/screens/claim_list_rows.h"
 
 namespace claims {
@@ -11,6 +11,8 @@ const QString kTable = QStringLiteral("保険申請");
 const QString kNewestFirst = QStringLiteral("ID DESC");
 const QString kNoRows =
     QStringLiteral("検索データが０件です。「全患者表示及び再表示」をクリックして下さい。");
+const QString kNothingToDelete = QStringLiteral("削除するデータがありません。");
+const QString kDeleteQuestion = QStringLiteral("　現在の表示該当患者のレセプトを削除しますか？");
 
 }  // namespace
 
@@ -19,111 +21,116 @@ ClaimListScreen::ClaimListScreen(screen::Services& services, frame::RunState& ru
   source().writesOnMove = false;
 }
 
-void ClaimListScreen::onLoad() { openWhole(); }
+void ClaimListScreen::onLoad() {
+  setText("Combo1", QString::fromUtf16(kListKeys.front()));
+  openWhole();
+  claimFile();  // a second file that is missing or broken is told now, not at the first claim
+}
 
 void ClaimListScreen::opened(const screen::Request& request) {
   if (request.contains("criteria")) {
-    if (openWhole()) showPatient(request["criteria"].toString());
-  } else if (request.contains("sort")) {
-    if (!emptySet()) showSet(QString(), request["sort"].toString());
-  } else if (request.contains("refresh")) {
-    refresh();
+    if (openWhole()) showSet(request["criteria"].toString(), QString());
+  } else if (request.contains("sort") && holdsRows()) {
+    showSet(QString(), request["sort"].toString());
   }
+  m_tellsEmpty = !holdsRows();
+}
+
+// The notice of an empty list waits until the list has the keyboard: told before it, the focus would go back
+// to the screen behind, and that would be heard.
+void ClaimListScreen::onActivate() {
+  if (!std::exchange(m_tellsEmpty, false)) return;
+  QMetaObject::invokeMethod(
+      this, [this] { emptySet(); }, Qt::QueuedConnection);
 }
 
 bool ClaimListScreen::openWhole() {
   if (!source().open(m_run.folders[frame::folder::kClaims1], kTable)) return false;
-  source().rows().setSort(kNewestFirst);
-  auto sorted = source().rows().openRecordset();
-  if (!sorted) {
-    messages().tellDataFault(sorted.fault().message);
-    return false;
-  }
-  source().assign(std::move(*sorted));
-  return true;
+  return put(QString(), kNewestFirst);
 }
 
+bool ClaimListScreen::holdsRows() const { return source().isOpen() && source().rows().recordCount() > 0; }
+
 bool ClaimListScreen::emptySet() {
-  if (source().isOpen() && source().rows().recordCount() > 0) return false;
+  if (holdsRows()) return false;
   messages().tell(kNoRows);
   return true;
 }
 
-// Narrows or sorts the set on view. A criteria text that the engine refuses is told in the engine's words; no
-// hit leaves the list as it was.
-void ClaimListScreen::showSet(const QString& criteria, const QString& order) {
+bool ClaimListScreen::put(const QString& criteria, const QString& order) {
   auto& rows = source().rows();
-  if (!criteria.isEmpty()) rows.setFilter(criteria);
-  if (!order.isEmpty()) rows.setSort(order);
+  rows.setFilter(criteria);
+  rows.setSort(order);
   auto set = rows.openRecordset();
+  rows.setFilter(QString());
+  rows.setSort(QString());
   if (!set) {
-    rows.setFilter(QString());
     messages().tellDataFault(set.fault().message);
-    return;
+    return false;
   }
-  if (set->recordCount() == 0) {
-    rows.setFilter(QString());
+  if (set->recordCount() == 0 && !criteria.isEmpty()) {
     messages().tell(QString::fromUtf16(screen::kNotFoundText), QString::fromUtf16(screen::kNotFoundTitle),
                     screen::Icon::Exclamation);
-    return;
+    return false;
   }
   source().assign(std::move(*set));
-  focusOn("DBGrid1");
+  return true;
 }
 
-// The claims of one patient, asked for on the patient screen. None: told, and the whole list stands.
-void ClaimListScreen::showPatient(const QString& criteria) {
-  source().rows().setFilter(criteria);
-  const auto set = source().rows().openRecordset();
-  source().rows().setFilter(QString());
-  if (set && set->recordCount() == 0)
-    messages().tell(kNoRows);
-  else
-    showSet(criteria, QString());
+void ClaimListScreen::showSet(const QString& criteria, const QString& order) {
+  if (put(criteria, order)) focusOn("DBGrid1");
 }
 
 void ClaimListScreen::search() {
-  const QString word = text("Text1");
   if (emptySet()) return;
-  showSet(text("Combo1") + " like '*" + word + "*' order by ID", QString());
+  showSet(text("Combo1") + " like '*" + text("Text1") + "*' order by ID", QString());
 }
 
-void ClaimListScreen::showAll() { openWhole(); }
+void ClaimListScreen::showAll() {
+  if (openWhole() && !emptySet()) focusOn("DBGrid1");
+}
 
 // 更新: claims made meanwhile come in; a narrowed list becomes whole.
-void ClaimListScreen::refresh() { openWhole(); }
+void ClaimListScreen::refresh() { showAll(); }
 
 void ClaimListScreen::askSort() {
   if (!emptySet()) navigator().show(QStringLiteral("ソート3"));
 }
 
-QString ClaimListScreen::currentId() const { return source().rows().value(QStringLiteral("ID")); }
+qint64 ClaimListScreen::currentId() const {
+  return holdsRows() ? source().rows().value(QStringLiteral("ID")).toLongLong() : 0;
+}
 
-// A first half without its second half gets one on the spot, so that the pair exists.
+std::optional<ClaimFile> ClaimListScreen::claimFile() {
+  auto file = ClaimFile::open(m_run.folders);
+  if (file) return std::move(*file);
+  messages().tellDataFault(file.fault().message);
+  return std::nullopt;
+}
+
 void ClaimListScreen::openClaim() {
   if (emptySet()) return;
-  const QString id = currentId();
-  if (id.isEmpty()) return;
-  auto file = ClaimFile::open(m_run.folders);
-  const text::Done repaired = file ? file->repairSecond(id.toLongLong()) : text::Done(file.fault());
-  if (!repaired) {
-    messages().tellDataFault(repaired.fault().message);
-    return;
-  }
+  const qint64 id = currentId();
+  if (id == 0) return;
+  auto file = claimFile();
+  if (!file) return;
+  if (const text::Done repaired = file->repairSecond(id); !repaired)
+    return messages().tellDataFault(repaired.fault().message);
   navigator().show(kForm, {{"ID", id}});
 }
 
 void ClaimListScreen::removeClaim() {
-  if (!source().isOpen() || source().rows().recordCount() == 0) {
-    messages().tell(QStringLiteral("削除するデータがありません。"));
-    return;
-  }
-  if (!messages().ask(QStringLiteral("　現在の表示該当患者のレセプトを削除しますか？"), screen::Buttons::YesNo))
-    return;
-  auto file = ClaimFile::open(m_run.folders);
-  const text::Done removed = file ? file->remove(currentId().toLongLong()) : text::Done(file.fault());
+  const qint64 id = currentId();
+  if (id == 0) return messages().tell(kNothingToDelete);
+  if (!messages().ask(kDeleteQuestion, screen::Buttons::YesNo)) return;
+  auto file = claimFile();
+  if (!file) return;
+  const bool onDisplay =
+      m_state.display != nullptr && m_state.display->record().get(QStringLiteral("ID")).toLongLong() == id;
+  const text::Done removed = file->remove(id);
   if (!removed) messages().tellDataFault(removed.fault().message);
-  openWhole();
+  if (removed && onDisplay) navigator().unload(kForm);
+  if (openWhole()) focusOn("DBGrid1");
 }
 
 void ClaimListScreen::finish() {
@@ -137,13 +144,5 @@ bool ClaimListScreen::onCloseBox() {
 }
 
 void ClaimListScreen::rowShown(int) { setText("Text2", source().positionText()); }
-
-void ClaimListScreen::printMonth() { navigator().show(QStringLiteral("年月")); }
-void ClaimListScreen::printSummary() { navigator().show(QStringLiteral("施術録")); }
-void ClaimListScreen::printCollective() { navigator().show(QStringLiteral("レセプト一覧表2")); }
-void ClaimListScreen::printSheets() { navigator().show(QStringLiteral("総括表700_1")); }
-void ClaimListScreen::printRoutes() { navigator().show(QStringLiteral("往療行程の印刷")); }
-void ClaimListScreen::watchConsents() { navigator().show(QStringLiteral("同意期限一ヶ月")); }
-void ClaimListScreen::printBodyCharts() { navigator().show(QStringLiteral("jintaizu")); }
 
 }  // namespace claims

@@ -1,24 +1,33 @@
 #pragma once
 
+#include <optional>
+
+#include "claims/core/claim_file.h"
 #include "claims/core/claims_state.h"
 #include "frame/core/run_state.h"
 #include "platform/screen/screen.h"
 
 namespace claims {
 
-/// レセプト一覧表: the door to all claims. It lists the first halves, newest at the top; opening, deleting and
-/// making a claim keep the second halves in step.
+/// レセプト一覧表: the door to all claims. It lists the first halves, newest at the top; opening, deleting
+/// and making a claim keep the second halves in step.
 ///
-/// Request keys: "sort" (an order of the list), "criteria" (a filter, from the patient screen), "refresh".
+/// A search narrows the set on view; 全患者表示及び再表示 and 更新 read the whole table again. A claim made
+/// elsewhere meanwhile is not in the list before that.
+///
+/// Request keys: "sort" (an order of the list), "criteria" (a filter, from the patient screen).
 class ClaimListScreen : public screen::Screen {
  public:
   ClaimListScreen(screen::Services& services, frame::RunState& run, ClaimsState& state);
 
   void onLoad() override;
   void opened(const screen::Request& request) override;
+  void onActivate() override;
   bool onCloseBox() override;
   void rowShown(int sourceNumber) override;
 
+  /// Opens the form on the row. A first half without its second half gets one on the spot, so that the pair
+  /// exists.
   void openClaim();
   void showAll();
   void askSort();
@@ -27,24 +36,22 @@ class ClaimListScreen : public screen::Screen {
   void removeClaim();
   void finish();
 
-  // Rooms around the list, opened by their names.
-  void printMonth();
-  void printSummary();
-  void printCollective();
-  void printSheets();
-  void printRoutes();
-  void watchConsents();
-  void printBodyCharts();
-
  private:
   bool openWhole();
-  void showPatient(const QString& criteria);
+  /// Puts the narrowed or sorted set in the list's place. A criteria text that the engine refuses is told in
+  /// the engine's words, no hit is told too: both leave the list as it was and give false.
+  bool put(const QString& criteria, const QString& order);
   void showSet(const QString& criteria, const QString& order);
+  bool holdsRows() const;
+  /// Tells an empty list; true where it was one.
   bool emptySet();
-  QString currentId() const;
+  qint64 currentId() const;
+  /// Both files; nothing where one of them cannot be opened, which was told.
+  std::optional<ClaimFile> claimFile();
 
   frame::RunState& m_run;
   ClaimsState& m_state;
+  bool m_tellsEmpty = false;
 };
 
 }  // namespace claims

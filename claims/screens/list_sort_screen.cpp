@@ -8,12 +8,17 @@ namespace {
 using namespace screen;
 
 constexpr Row kRows[] = {
-    Combo{.name = u"Combo1", .caption = u"並び替える項目:", .bind = Unbound{u"the column to sort by"},
-          .items = kListKeys, .say = u"カーソルで並び替える項目を選択して下さい"},
+    Combo{.name = u"Combo1",
+          .caption = u"並び替える項目:",
+          .bind = Unbound{u"the column to sort by"},
+          .items = kListKeys,
+          .say = u"カーソルで並び替える項目を選択して下さい"},
     Bar{},
-    Command{.name = u"Command1", .caption = u"昇順", .run = run<&ListSortScreen::ascending>, .standard = true},
+    Command{
+        .name = u"Command1", .caption = u"昇順", .run = run<&ListSortScreen::ascending>, .standard = true},
     Command{.name = u"Command3", .caption = u"降順", .run = run<&ListSortScreen::descending>},
-    Command{.name = u"Command2", .caption = u"キャンセル", .run = run<&ListSortScreen::cancel>, .key = u"Esc"},
+    Command{
+        .name = u"Command2", .caption = u"キャンセル", .run = run<&ListSortScreen::cancel>, .key = u"Esc"},
     EndBar{},
 };
 
@@ -23,14 +28,14 @@ constexpr ScreenRow kScreen{.name = u"ソート3", .caption = u"ソート", .row
 
 ListSortScreen::ListSortScreen(screen::Services& services) : Screen(kScreen, services) {}
 
+void ListSortScreen::onLoad() { setText("Combo1", QString::fromUtf16(kListKeys.front())); }
+
 void ListSortScreen::ascending() { sort(QStringLiteral("ASC")); }
 void ListSortScreen::descending() { sort(QStringLiteral("DESC")); }
 void ListSortScreen::cancel() { close(); }
 
 void ListSortScreen::sort(const QString& direction) {
-  const QString column = text("Combo1");
-  if (column.isEmpty()) return;
-  navigator().show(QStringLiteral("レセプト一覧表"), {{"sort", column + ' ' + direction}});
+  navigator().show(QStringLiteral("レセプト一覧表"), {{"sort", text("Combo1") + ' ' + direction}});
   close();
 }
 

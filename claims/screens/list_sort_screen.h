@@ -9,6 +9,7 @@ class ListSortScreen : public screen::Screen {
  public:
   explicit ListSortScreen(screen::Services& services);
 
+  void onLoad() override;
   void ascending();
   void descending();
   void cancel();

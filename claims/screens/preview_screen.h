@@ -1,5 +1,6 @@
 #pragma once
 
+#include "claims/core/amounts.h"
 #include "claims/core/claims_state.h"
 #include "frame/core/run_state.h"
 #include "platform/screen/screen.h"
@@ -7,19 +8,18 @@
 namespace claims {
 
 /// The six fee previews of 施術料金計算, one class under six names: each line of the claim's money is a field
-/// that Tab speaks, then the total, the share and the amount claimed. Nothing is written.
+/// that Tab speaks, with a caption of its own; lines of no use are hidden. Then the total, the share with its
+/// rate and the amount claimed. Nothing is written.
 class PreviewScreen : public screen::Screen {
  public:
   PreviewScreen(const screen::ScreenRow& declaration, screen::Services& services, frame::RunState& run,
                 ClaimsState& state);
 
   void opened(const screen::Request& request) override;
-  void onClosed() override;
   void finish();
-  void openShareTable();
 
  private:
-  void showLine(int index, const QString& caption, const QString& value);
+  void show(const ClaimAmounts& money, const QString& rate);
 
   frame::RunState& m_run;
   ClaimsState& m_state;

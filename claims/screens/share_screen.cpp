@@ -8,42 +8,57 @@ namespace {
 
 using namespace screen;
 
+/// Bases of more digits are not doubled any more.
+constexpr qint64 kLargestBase = 999'999'999'999;
+
+consteval Row cell(ControlName name, Words caption) {
+  return TextField{
+      .name = name, .caption = caption, .bind = Unbound{u"result"}, .width = 14, .readOnly = true};
+}
+
 constexpr Row kRows[] = {
     Group{.name = u"Frame1", .caption = u"元数値", .columns = 1},
-    TextField{.name = u"Text1", .caption = u"元数値:", .bind = Unbound{u"the base amount is typed"}, .limit = 12,
+    TextField{.name = u"Text1",
+              .caption = u"元数値:",
+              .bind = Unbound{u"the base amount is typed"},
+              .limit = 12,
+              .width = 14,
               .onEnter = call<&ShareScreen::calculate>},
     Bar{},
     Command{.name = u"Command1", .caption = u"計算", .run = run<&ShareScreen::calculate>},
-    Command{.name = u"Command2", .caption = u"倍々", .run = run<&ShareScreen::doubleUp>,
+    Command{.name = u"Command2",
+            .caption = u"倍々",
+            .run = run<&ShareScreen::doubleUp>,
             .tip = u"元数値を２倍にして計算します。"},
     EndBar{},
     EndGroup{},
     Group{.name = u"Frame2", .caption = u"計算結果", .columns = 3},
-    TextField{.name = {u"Text2", 0}, .caption = u"１割 切り上げ:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text3", 0}, .caption = u"１割 切り捨て:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text4", 0}, .caption = u"１割 四捨五入:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text2", 1}, .caption = u"２割 切り上げ:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text3", 1}, .caption = u"２割 切り捨て:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text4", 1}, .caption = u"２割 四捨五入:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text2", 2}, .caption = u"３割 切り上げ:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text3", 2}, .caption = u"３割 切り捨て:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text4", 2}, .caption = u"３割 四捨五入:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text2", 3}, .caption = u"７割 切り上げ:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text3", 3}, .caption = u"７割 切り捨て:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text4", 3}, .caption = u"７割 四捨五入:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text2", 4}, .caption = u"８割 切り上げ:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text3", 4}, .caption = u"８割 切り捨て:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text4", 4}, .caption = u"８割 四捨五入:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text2", 5}, .caption = u"９割 切り上げ:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text3", 5}, .caption = u"９割 切り捨て:", .bind = Unbound{u"result"}, .readOnly = true},
-    TextField{.name = {u"Text4", 5}, .caption = u"９割 四捨五入:", .bind = Unbound{u"result"}, .readOnly = true},
+    cell({u"Text2", 0}, u"１割 切り上げ:"),
+    cell({u"Text3", 0}, u"１割 切り捨て:"),
+    cell({u"Text4", 0}, u"１割 四捨五入:"),
+    cell({u"Text2", 1}, u"２割 切り上げ:"),
+    cell({u"Text3", 1}, u"２割 切り捨て:"),
+    cell({u"Text4", 1}, u"２割 四捨五入:"),
+    cell({u"Text2", 2}, u"３割 切り上げ:"),
+    cell({u"Text3", 2}, u"３割 切り捨て:"),
+    cell({u"Text4", 2}, u"３割 四捨五入:"),
+    cell({u"Text2", 3}, u"７割 切り上げ:"),
+    cell({u"Text3", 3}, u"７割 切り捨て:"),
+    cell({u"Text4", 3}, u"７割 四捨五入:"),
+    cell({u"Text2", 4}, u"８割 切り上げ:"),
+    cell({u"Text3", 4}, u"８割 切り捨て:"),
+    cell({u"Text4", 4}, u"８割 四捨五入:"),
+    cell({u"Text2", 5}, u"９割 切り上げ:"),
+    cell({u"Text3", 5}, u"９割 切り捨て:"),
+    cell({u"Text4", 5}, u"９割 四捨五入:"),
     EndGroup{},
     Bar{},
-    Command{.name = u"Command3", .caption = u"閉じる", .run = run<&ShareScreen::finish>},
+    Command{.name = u"Command3", .caption = u"閉じる", .run = run<&ShareScreen::finish>, .key = u"Esc"},
     EndBar{},
 };
 
-constexpr ScreenRow kScreen{.name = u"計算式確認", .caption = u"計算式確認", .rows = kRows, .heading = u"計算式確認"};
+constexpr ScreenRow kScreen{
+    .name = u"計算式確認", .caption = u"計算式確認", .rows = kRows, .heading = u"計算式確認"};
 
 QString shown(qint64 yen) { return yen == 0 ? QStringLiteral("0") : text::thousands(yen); }
 
@@ -63,8 +78,10 @@ void ShareScreen::calculate() {
 }
 
 void ShareScreen::doubleUp() {
-  setText("Text1", QString::number(text::intOf(text("Text1")) * 2));
+  const qint64 base = text::intOf(text("Text1"));
+  if (base <= kLargestBase / 2) setText("Text1", QString::number(base * 2));
   calculate();
+  voice().speakText(caption("Text1") + voice::kSpeechSeparator + text("Text1"));
 }
 
 void ShareScreen::finish() { close(); }
