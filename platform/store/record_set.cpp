@@ -221,7 +221,10 @@ Done RecordSet::edit() {
   if (!isOpen() || !m_state->onRow()) return noCurrentRow();
   m_state->endEditing();
   const Row& row = m_state->row().whole(*m_state->file, m_state->id());
-  if (row.isEmpty()) return rowIsGone();
+  if (row.isEmpty()) {
+    const Result<Row> again = m_state->file->read(m_state->id());
+    return again ? rowIsGone() : again.fault();
+  }
   m_state->seen = row;
   m_state->buffer = Buffer::Editing;
   return {};

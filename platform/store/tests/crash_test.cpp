@@ -139,5 +139,34 @@ TEST_F(CrashTest, AMonthsRecomputeIsWholeOrNotAtAll) {
   }
 }
 
+// Two computers on one shared folder.
+TEST_F(CrashTest, ProgramsThatAddPairsAtOnceNeverShareAnId) {
+  constexpr int kEach = 25;
+  pid_t children[2];
+  for (pid_t& child : children) {
+    child = ::fork();
+    if (child != 0) continue;
+    auto pair = PairStore::open(path(kFirst), path(kSecond), kTable);
+    bool done = pair.ok();
+    for (int row = 0; done && row < kEach; ++row)
+      done =
+          (*pair)->add({{kNote1, QString::number(::getpid())}}, {{kNote2, QString::number(::getpid())}}).ok();
+    ::_exit(done ? 0 : 3);
+  }
+  for (const pid_t child : children) {
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+  }
+  auto pair = PairStore::open(path(kFirst), path(kSecond), kTable);
+  ASSERT_TRUE(pair.ok());
+  EXPECT_EQ(openSet(kFirst, kTable).recordCount(), 20 + 2 * kEach);
+  for (qint64 id = 21; id <= 20 + 2 * kEach; ++id) {
+    const auto halves = (*pair)->read(id);
+    ASSERT_FALSE(halves->first.isEmpty()) << id;
+    EXPECT_EQ(halves->first.value(kNote1), halves->second.value(kNote2)) << id;
+  }
+}
+
 }  // namespace
 }  // namespace store
