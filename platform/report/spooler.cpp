@@ -4,6 +4,9 @@
 
 #include <cups/cups.h>
 
+#include <algorithm>
+#include <span>
+
 namespace report {
 
 namespace {
@@ -88,7 +91,11 @@ std::vector<MediaSize> listMedia(const QString& printer) {
       cups_size_t size;
       if (!cupsGetDestMediaByIndex(CUPS_HTTP_DEFAULT, dest, info.get(), i, 0, &size)) continue;
       const char* caption = cupsLocalizeDestMedia(CUPS_HTTP_DEFAULT, dest, info.get(), 0, &size);
-      sizes.push_back({QString::fromUtf8(size.media), QString::fromUtf8(caption ? caption : size.media)});
+      // The same paper printed to its edges is the same paper to the forms.
+      const QString media = QString::fromUtf8(size.media).remove(QStringLiteral("_borderless"));
+      const auto same = [&](const MediaSize& known) { return known.media == media; };
+      if (std::none_of(sizes.begin(), sizes.end(), same))
+        sizes.push_back({media, QString::fromUtf8(caption ? caption : size.media)});
     }
   }
   if (sizes.empty())
