@@ -17,7 +17,23 @@ QGridLayout* gridOf(QWidget* host, int margin) {
   return grid;
 }
 
+/// Width of the desk that the program stands on.
+int deskWidth() {
+  const QScreen* desk = QGuiApplication::primaryScreen();
+  return desk ? desk->availableGeometry().width() : 1280;
+}
+
 }  // namespace
+
+int fittingColumns(int declared, int character, int room) {
+  constexpr double kDefaultCharactersInARow = 1280.0 / 13;
+  const double share = static_cast<double>(room) / character / kDefaultCharactersInARow;
+  return std::clamp(static_cast<int>(std::lround(declared * share)), 1, declared);
+}
+
+int fittingColumns(int declared) {
+  return fittingColumns(declared, QFontMetrics(QApplication::font()).horizontalAdvance(u'あ'), deskWidth());
+}
 
 void fitWidth(QWidget* field, int characters) {
   const int character = field->fontMetrics().horizontalAdvance(u'あ');
@@ -34,7 +50,7 @@ void fitMemo(QWidget* field, int characters, int lines) {
 }
 
 Shelf::Shelf(QWidget* host, int columns)
-    : m_host(host), m_grid(gridOf(host, kGap)), m_columns(std::max(1, columns)) {
+    : m_host(host), m_grid(gridOf(host, kGap)), m_columns(fittingColumns(std::max(1, columns))) {
   for (int i = 0; i < m_columns; ++i) m_grid->setColumnStretch(2 * i + 1, 1);
 }
 
@@ -76,14 +92,14 @@ void Shelf::newLine() {
   m_at = 0;
 }
 
-Flow::Flow(QWidget* host) : m_host(host), m_lines(new QVBoxLayout(host)) {
+Flow::Flow(QWidget* host) : m_host(host), m_lines(new QVBoxLayout(host)), m_room(deskWidth() - 80) {
   m_lines->setContentsMargins(kGap, 0, kGap, 0);
   m_lines->setSpacing(kGap);
 }
 
 void Flow::add(QWidget* widget) {
   const int wanted = widget->sizeHint().width() + kGap;
-  if (!m_line || m_used + wanted > kLineRoom) {
+  if (!m_line || m_used + wanted > m_room) {
     m_line = new QHBoxLayout;
     m_line->setSpacing(kGap);
     m_line->addStretch(1);
@@ -95,7 +111,9 @@ void Flow::add(QWidget* widget) {
 }
 
 Family::Family(QWidget* host, int perLine)
-    : m_grid(gridOf(host, 0)), m_perLine(std::max(1, perLine)), m_labelsBeside(perLine <= kBesideAtMost) {
+    : m_grid(gridOf(host, 0)),
+      m_perLine(fittingColumns(std::max(1, perLine))),
+      m_labelsBeside(perLine <= kBesideAtMost) {
   m_grid->setColumnStretch(m_labelsBeside ? 2 * m_perLine : m_perLine, 1);
 }
 

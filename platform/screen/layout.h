@@ -14,8 +14,11 @@ namespace screen {
 /// Width of a field for so many characters of the present font.
 void fitWidth(QWidget* field, int characters);
 void fitMemo(QWidget* field, int characters, int lines);
-/// Room that one line of controls may take: a window of 1280 pixels less its margins.
-inline constexpr int kLineRoom = 1200;
+/// How many of the declared columns stand beside each other: all of them at the default font on a desk 1280
+/// pixels wide; fewer where a larger font or a smaller desk leaves less room, so that nothing has to be
+/// scrolled sideways. `character` is the width of a full-width character, `room` that of the desk.
+int fittingColumns(int declared, int character, int room);
+int fittingColumns(int declared);
 
 /// Fields beside each other in columns of label and field; a wide one has a line of its own. Nothing is
 /// placed by pixels: all sizes follow the font.
@@ -53,6 +56,7 @@ class Flow {
  private:
   QWidget* m_host;
   QVBoxLayout* m_lines;
+  int m_room;  ///< width that one line may take
   QHBoxLayout* m_line = nullptr;
   int m_at = 0;
   int m_used = 0;

@@ -1,0 +1,30 @@
+#include "platform/screen/layout.h"
+
+#include <gtest/gtest.h>
+
+namespace screen {
+namespace {
+
+struct ColumnsCase {
+  int declared, character, room, fitting;
+};
+
+class FittingColumns : public ::testing::TestWithParam<ColumnsCase> {};
+
+TEST_P(FittingColumns, FollowFontAndDesk) {
+  const ColumnsCase& each = GetParam();
+  EXPECT_EQ(fittingColumns(each.declared, each.character, each.room), each.fitting);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FittingColumns,
+                         ::testing::Values(ColumnsCase{5, 13, 1280, 5},   // the default
+                                           ColumnsCase{5, 12, 1920, 5},   // never more than declared
+                                           ColumnsCase{5, 26, 1280, 3},   // twice the font: 2.5
+                                           ColumnsCase{2, 26, 1280, 1},   // twice the font
+                                           ColumnsCase{5, 26, 2560, 5},   // twice the font on twice the desk
+                                           ColumnsCase{11, 13, 1024, 9},  // a small desk: 8.8
+                                           ColumnsCase{2, 13, 1024, 2},   // 1.6
+                                           ColumnsCase{1, 60, 800, 1}));  // at least one
+
+}  // namespace
+}  // namespace screen
