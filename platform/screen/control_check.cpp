@@ -3,6 +3,7 @@
 #include <QtWidgets/QtWidgets>
 
 #include "platform/screen/captions.h"
+#include "platform/screen/layout.h"
 #include "platform/screen/screen.h"
 
 namespace screen {
@@ -21,7 +22,7 @@ bool meansYes(const QString& value) {
 
 CheckControl::CheckControl(Screen& screen, const Check& row, QWidget* parent)
     : Control(screen, row.name, QString::fromUtf16(row.caption.get())),
-      m_box(new QCheckBox(shownCaption(m_caption), parent)),
+      m_box(new QCheckBox(wrapped(shownCaption(m_caption)), parent)),
       m_on(QString::fromUtf16(row.on)),
       m_off(QString::fromUtf16(row.off)),
       m_group(row.group ? QString::fromUtf16(row.group) : QString()),
@@ -46,7 +47,7 @@ void CheckControl::speak(voice::VoiceGuide& voice, QWidget*) const {
 QString CheckControl::text() const { return checked() ? m_on : m_off; }
 
 void CheckControl::setCaption(const QString& caption) {
-  m_box->setText(shownCaption(caption));
+  m_box->setText(wrapped(shownCaption(caption)));
   Control::setCaption(caption);
 }
 

@@ -28,17 +28,30 @@ int deskWidth() {
 int fittingColumns(int declared, int character, int room) {
   constexpr double kDefaultCharactersInARow = 1280.0 / 13;
   const double share = static_cast<double>(room) / character / kDefaultCharactersInARow;
-  return std::clamp(static_cast<int>(std::lround(declared * share)), 1, declared);
+  return std::clamp(static_cast<int>(std::ceil(declared * share - 0.5)), 1, declared);
 }
 
 int fittingColumns(int declared) {
   return fittingColumns(declared, QFontMetrics(QApplication::font()).horizontalAdvance(u'あ'), deskWidth());
 }
 
+QString wrapped(const QString& text, int charactersInALine) {
+  QString lines;
+  for (qsizetype at = 0; at < text.size(); at += charactersInALine)
+    lines += (at > 0 ? QStringLiteral("\n") : QString()) + text.mid(at, charactersInALine);
+  return lines;
+}
+
+QString wrapped(const QString& text) {
+  constexpr double kShareOfDesk = 0.85;
+  const int character = QFontMetrics(QApplication::font()).horizontalAdvance(u'あ');
+  return wrapped(text, static_cast<int>(kShareOfDesk * deskWidth() / character));
+}
+
 void fitWidth(QWidget* field, int characters) {
   const int character = field->fontMetrics().horizontalAdvance(u'あ');
   const int shown = std::clamp(characters, 2, 40);
-  field->setMinimumWidth(std::min(shown, 12) * character + character);
+  field->setMinimumWidth(std::min(shown, 8) * character + character);
   if (characters < 12) field->setMaximumWidth(std::max(4, 2 * characters) * character + 2 * character);
 }
 

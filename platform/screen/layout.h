@@ -11,6 +11,9 @@ class QWidget;
 
 namespace screen {
 
+/// The caption of a tick that is longer than the desk is wide, in lines (the toolkit does not wrap it).
+QString wrapped(const QString& text, int charactersInALine);
+QString wrapped(const QString& text);
 /// Width of a field for so many characters of the present font.
 void fitWidth(QWidget* field, int characters);
 void fitMemo(QWidget* field, int characters, int lines);

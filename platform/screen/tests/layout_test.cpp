@@ -19,12 +19,18 @@ TEST_P(FittingColumns, FollowFontAndDesk) {
 INSTANTIATE_TEST_SUITE_P(All, FittingColumns,
                          ::testing::Values(ColumnsCase{5, 13, 1280, 5},   // the default
                                            ColumnsCase{5, 12, 1920, 5},   // never more than declared
-                                           ColumnsCase{5, 26, 1280, 3},   // twice the font: 2.5
+                                           ColumnsCase{5, 26, 1280, 2},   // twice the font: 2.5
                                            ColumnsCase{2, 26, 1280, 1},   // twice the font
                                            ColumnsCase{5, 26, 2560, 5},   // twice the font on twice the desk
                                            ColumnsCase{11, 13, 1024, 9},  // a small desk: 8.8
                                            ColumnsCase{2, 13, 1024, 2},   // 1.6
                                            ColumnsCase{1, 60, 800, 1}));  // at least one
+
+TEST(WrappedCaption, BreaksWhereTheLineIsFull) {
+  EXPECT_EQ(wrapped(QStringLiteral("一二三四五"), 5), QStringLiteral("一二三四五"));
+  EXPECT_EQ(wrapped(QStringLiteral("一二三四五六七"), 3), QStringLiteral("一二三\n四五六\n七"));
+  EXPECT_EQ(wrapped(QString(), 3), QString());
+}
 
 }  // namespace
 }  // namespace screen
