@@ -4,6 +4,7 @@
 #include "frame/screens/captions_screen.h"
 #include "frame/screens/fee_screen.h"
 #include "frame/screens/folders_screen.h"
+#include "frame/screens/help_text_screen.h"
 #include "frame/screens/licence_screen.h"
 #include "frame/screens/main_menu_screen.h"
 #include "frame/screens/profile_screen.h"
@@ -26,6 +27,7 @@ void registerScreens(screen::ScreenRegistry& registry, screen::Services&, RunSta
   registry.add<LicenceScreen>(u"登録4"_s, run);
   registry.add<CaptionsScreen>(u"txtbox"_s, run);
   registry.add<FeeScreen>(u"料金変更"_s, run);
+  registry.add<HelpTextScreen>(u"テキストヘルプ"_s, run);
   screen::addPrompts(registry, prompts(), promptActions(run));
 }
 

@@ -1,6 +1,7 @@
 #include "frame/screens/main_menu_screen.h"
 
 #include <QDir>
+#include <QFile>
 
 #include "frame/core/prefecture.h"
 #include "frame/screens/main_menu_rows.h"
@@ -111,11 +112,17 @@ void MainMenuScreen::openBeside(const QString& fileName) {
 }
 
 void MainMenuScreen::openManual() { openBeside(u"help.PDF"_s); }
-void MainMenuScreen::openTextHelp() { openBeside(u"help.txt"_s); }
-
-void MainMenuScreen::openPage(WebPage page) {
-  tellFault(services().desktop->openWebPage(webAddress(page)));
+// Where the desktop has no viewer for text files the program reads the help out itself.
+void MainMenuScreen::openTextHelp() {
+  const QString path = QDir(m_run.programFolder).filePath(u"help.txt"_s);
+  const text::Done done = services().desktop->openFile(path);
+  if (!done && QFile::exists(path))
+    navigator().show(u"テキストヘルプ"_s);
+  else
+    tellFault(done);
 }
+
+void MainMenuScreen::openPage(WebPage page) { tellFault(services().desktop->openWebPage(webAddress(page))); }
 
 void MainMenuScreen::openAssociationPage() { openPage(WebPage::Association); }
 void MainMenuScreen::openProductPage() { openPage(WebPage::Product); }

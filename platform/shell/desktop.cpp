@@ -11,20 +11,49 @@ text::Fault cannotOpen(const QString& what) {
   return {QStringLiteral("%1 を開くことが出来ません。").arg(what)};
 }
 
+bool isInstalled(const QString& program) { return !QStandardPaths::findExecutable(program).isEmpty(); }
+
+/// A viewer that writes into a terminal needs one.
+bool isUsable(const QString& desktopFile) {
+  QFile file(QStandardPaths::locate(QStandardPaths::ApplicationsLocation, desktopFile));
+  if (!file.open(QIODevice::ReadOnly) || !file.readAll().contains("Terminal=true")) return true;
+  return isInstalled(QStringLiteral("x-terminal-emulator"));
+}
+
+/// Whether this desktop has anything to open such a thing with. Its opener would start and give up without a
+/// word, and the user would wait for a window that never comes.
+bool hasViewer(const QString& mimeType) {
+  constexpr int kPatience = 2000;
+  const QString asker = QStringLiteral("xdg-mime");
+  if (!isInstalled(asker)) return true;  // nobody to ask: the opener tells by itself
+  QProcess question;
+  question.start(asker, {QStringLiteral("query"), QStringLiteral("default"), mimeType});
+  if (!question.waitForFinished(kPatience)) return true;
+  const QByteArray viewer = question.readAllStandardOutput().trimmed();
+  if (!viewer.isEmpty()) return isUsable(QString::fromUtf8(viewer));
+  // Where no program is named for the kind, the opener falls back on a browser.
+  const QStringList browsers{QStringLiteral("x-www-browser"), QStringLiteral("firefox"),
+                             QStringLiteral("chromium")};
+  return qEnvironmentVariableIsSet("BROWSER") || std::any_of(browsers.begin(), browsers.end(), isInstalled);
+}
+
 }  // namespace
 
-text::Done Desktop::open(const QString& what, const QString& address) {
+text::Done Desktop::open(const QString& what, const QString& address, const QString& mimeType) {
   m_opened += what;
-  if (m_queued || QDesktopServices::openUrl(QUrl(address))) return {};
+  if (m_queued || (hasViewer(mimeType) && QDesktopServices::openUrl(QUrl(address)))) return {};
   return cannotOpen(what);
 }
 
 text::Done Desktop::openFile(const QString& path) {
   if (!QFileInfo::exists(path)) return cannotOpen(path);
-  return open(path, QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toString(QUrl::FullyEncoded));
+  return open(path, QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toString(QUrl::FullyEncoded),
+              QMimeDatabase().mimeTypeForFile(path).name());
 }
 
-text::Done Desktop::openWebPage(const QString& address) { return open(address, address); }
+text::Done Desktop::openWebPage(const QString& address) {
+  return open(address, address, QStringLiteral("x-scheme-handler/") + QUrl(address).scheme());
+}
 
 text::Done Desktop::openText(const QString& title, const QString& content) {
   const QString path =

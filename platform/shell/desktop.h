@@ -43,7 +43,7 @@ class Desktop {
   const QStringList& opened() const { return m_opened; }
 
  private:
-  text::Done open(const QString& what, const QString& address);
+  text::Done open(const QString& what, const QString& address, const QString& mimeType);
   QString pick(FilePicker& picker);
   QStringList m_answers, m_opened;
   std::function<void(QDialog&)> m_guide;

@@ -1,4 +1,5 @@
 #include <QCheckBox>
+#include <QComboBox>
 
 #include "frame/tests/screens/frame_fixture.h"
 
@@ -68,6 +69,18 @@ TEST_F(NoticesTest, MenuOpensHelpFilesAndWebPages) {
   EXPECT_TRUE(desktop.opened().at(1).startsWith(u"https://"_s));
   menu.trigger(u"Command15"_s);  // help.PDF is not there
   EXPECT_TRUE(lastMessage().contains(u"help.PDF"_s)) << lastMessage().toStdString();
+}
+
+TEST_F(NoticesTest, TextHelpIsReadChapterByChapter) {
+  QFile help(path(u"help.txt"_s));
+  ASSERT_TRUE(help.open(QIODevice::WriteOnly));
+  help.write(u"題名\n\n第１章　甲\n甲の説明\n第二の行\n\n第１２章　乙\n乙の説明\n"_s.toUtf8());
+  help.close();
+  screen::Screen& reader = shown(u"テキストヘルプ");
+  EXPECT_EQ(reader.items(u"Combo1"_s), (QStringList{u"題名"_s, u"第１章　甲"_s, u"第１２章　乙"_s}));
+  EXPECT_EQ(reader.text(u"Text1"_s), u"題名"_s);
+  reader.findChild<QComboBox*>(u"Combo1"_s)->setCurrentIndex(1);
+  EXPECT_EQ(reader.text(u"Text1"_s), u"第１章　甲\n甲の説明\n第二の行"_s);
 }
 
 class FeeTest : public NoticesTest {
