@@ -85,10 +85,10 @@ void PreviewScreen::opened(const Request&) {
     else
       messages().tellDataFault(computed.fault().message);
   }
-  show(money, rate);
+  showMoney(money, rate);
 }
 
-void PreviewScreen::show(const ClaimAmounts& money, const QString& rate) {
+void PreviewScreen::showMoney(const ClaimAmounts& money, const QString& rate) {
   for (int i = 0; i < kLines; ++i) {
     const QString control = QStringLiteral("Text1(%1)").arg(i);
     setShown(control, i < money.rows.size());

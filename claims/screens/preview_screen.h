@@ -19,7 +19,7 @@ class PreviewScreen : public screen::Screen {
   void finish();
 
  private:
-  void show(const ClaimAmounts& money, const QString& rate);
+  void showMoney(const ClaimAmounts& money, const QString& rate);
 
   frame::RunState& m_run;
   ClaimsState& m_state;
