@@ -174,5 +174,17 @@ TEST_F(ClaimFormShow, PrintSettingsWithoutAValueShowTheirDefault) {
   EXPECT_FALSE(m_form->checkChanged());
 }
 
+TEST_F(ClaimFormShow, ThePracticesOwnFlagsGoBeforeTheDefaults) {
+  m_run.profile[frame::profile::kRelationPrinted] = qs(u"0");
+  m_run.profile[frame::slot::kPrintApplicantName] = qs(u"1");
+  ClaimRecord claim = acupuncture();
+  openNew(claim);
+  EXPECT_EQ(m_form->chosen(qs(u"FrameSet(9)")), qs(u"1"));   // 続柄を印刷しない
+  EXPECT_EQ(m_form->chosen(qs(u"FrameSet(10)")), qs(u"0"));  // 申請欄の氏名を印刷する
+  claim.set(qs(u"txtdummy26"), qs(u"0"));                    // what the claim keeps rules
+  openNew(claim);
+  EXPECT_EQ(m_form->chosen(qs(u"FrameSet(9)")), qs(u"0"));
+}
+
 }  // namespace
 }  // namespace claims
