@@ -48,7 +48,7 @@ Done runUpdate(Engine& engine, Scanner& scanner) {
     return {};
   });
   if (!done) return done;
-  engine.rowsWritten(table, rows, before);
+  engine.rowsWritten((*schema)->table(), rows, before);
   return {};
 }
 

@@ -25,7 +25,17 @@ void Engine::forget() {
   m_copies.clear();
   m_statements.clear();
   m_schemaVersion = -1;
-  ++m_writes;
+  noteManyWrites();
+}
+
+void Engine::noteManyWrites() {
+  m_copies.clear();
+  m_lastWrites.clear();
+  m_lastWriteToAll = ++m_writes;
+}
+
+quint64 Engine::lastWriteTo(const QString& table, qint64 id) const {
+  return m_lastWrites.value({table, id}, m_lastWriteToAll);
 }
 
 quint32 Engine::changeCounter() const {
@@ -50,8 +60,8 @@ Result<TableCopy*> Engine::copy(const QString& table, const QVector<int>& search
       m_copies.clear();
       m_copiesCounter = changeCounter();
     }
-    const auto [place, made] =
-        m_copies.try_emplace(table.toStdU16String(), TableFile(m_statements, QStringLiteral("main"), *known));
+    const auto [place, made] = m_copies.try_emplace((*known)->table().toStdU16String(),
+                                                    TableFile(m_statements, QStringLiteral("main"), *known));
     if (const Done loaded = place->second.load(m_statements, searched, sorted); !loaded)
       return loaded.fault();
     constexpr int kAttempts = 3;
@@ -76,22 +86,20 @@ void Engine::noteOwnWrite(quint32 before) {
 
 void Engine::rowWritten(const QString& table, qint64 id, quint32 before) {
   noteOwnWrite(before);
+  m_lastWrites.insert({table, id}, m_writes);
   const auto place = m_copies.find(table.toStdU16String());
   if (place != m_copies.end() && !place->second.rowWritten(id)) m_copies.clear();
 }
 
 void Engine::rowsWritten(const QString& table, const std::vector<qint64>& ids, quint32 before) {
   constexpr size_t kCheaperToReadAgain = 100;
-  if (ids.size() > kCheaperToReadAgain) {
-    m_copies.clear();
-    ++m_writes;
-    return;
-  }
+  if (ids.size() > kCheaperToReadAgain) return noteManyWrites();
   for (const qint64 id : ids) rowWritten(table, id, before);
 }
 
 void Engine::rowRemoved(const QString& table, qint64 id, quint32 before) {
   noteOwnWrite(before);
+  m_lastWrites.insert({table, id}, m_writes);
   const auto place = m_copies.find(table.toStdU16String());
   if (place != m_copies.end()) place->second.rowRemoved(id);
 }

@@ -35,12 +35,16 @@ class Engine {
 
   /// The file's own count of its transactions, 0 where it cannot be read.
   quint32 changeCounter() const;
-  /// Counts this program's own writes; a record set that read under another number reads again.
+  /// Counts this program's own writes; a list that read under another number reads again.
   quint64 writes() const { return m_writes; }
+  /// The number of this program's last write to a row. A row that was read before it is read again; one that
+  /// somebody else changed stays as it was read, so that the store of it is refused.
+  quint64 lastWriteTo(const QString& table, qint64 id) const;
 
  private:
   bool copiesAreTrue();
   void noteOwnWrite(quint32 before);
+  void noteManyWrites();
 
   StatementCache m_statements;
   QHash<QString, std::shared_ptr<const TableSchema>> m_schemas;
@@ -48,6 +52,8 @@ class Engine {
   std::unordered_map<std::u16string, TableCopy> m_copies;
   quint32 m_copiesCounter = 0;  ///< the file's counter that the copies stand for
   quint64 m_writes = 0;
+  quint64 m_lastWriteToAll = 0;
+  QHash<std::pair<QString, qint64>, quint64> m_lastWrites;
 };
 
 }  // namespace store

@@ -55,9 +55,9 @@ struct RecordSet::State {
   Result<qint64> writeEdited(const RowValues& values);
 };
 
-/// The current row. It is read again when this program wrote to the file since.
+/// The current row. It is read again when this program wrote to it since.
 CurrentRow& RecordSet::State::row() const {
-  if (currentWrites != engine().writes()) current.forget();
+  if (engine().lastWriteTo(schema().table(), id()) > currentWrites) current.forget();
   currentWrites = engine().writes();
   return current;
 }

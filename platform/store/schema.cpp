@@ -36,6 +36,22 @@ Result<Value> wholeNumber(const QString& column, const Value& value) {
   return QString::number(number);
 }
 
+/// The table's name as the file writes it, whatever the case in which it was asked for; blank where the file
+/// has no such table of data.
+Result<QString> nameInFile(sqlite3* handle, const QString& path, const QString& qualifier,
+                           const QString& table) {
+  Result<Statement> found = Statement::prepare(
+      handle, path,
+      QStringLiteral("SELECT name FROM %1.sqlite_master WHERE type='table' AND name=?1 COLLATE NOCASE "
+                     "AND name NOT LIKE 'sqlite%'")
+          .arg(quotedName(qualifier)));
+  if (!found) return found.fault();
+  found->bindText(1, table);
+  const Result<bool> row = found->step();
+  if (!row) return row.fault();
+  return *row ? found->text(0) : QString();
+}
+
 }  // namespace
 
 QString columnKey(const QString& name) {
@@ -78,9 +94,11 @@ Result<TableSchema> readSchema(sqlite3* handle, const QString& path, const QStri
   Result<Statement> rows = Statement::prepare(
       handle, path, QStringLiteral("SELECT name, type, pk FROM pragma_table_info(?1, ?2)"));
   if (!rows) return rows.fault();
-  rows->bindText(1, table);
+  const Result<QString> name = nameInFile(handle, path, qualifier, table);
+  if (!name) return name.fault();
+  rows->bindText(1, *name);
   rows->bindText(2, qualifier);
-  TableSchema schema(table);
+  TableSchema schema(*name);
   for (;;) {
     const Result<bool> row = rows->step();
     if (!row) return row.fault();

@@ -134,6 +134,24 @@ TEST_F(ConnectionTest, WhatIsOutsideTheSubsetIsRefused) {
   EXPECT_EQ(column(set, QStringLiteral("氏名")), QStringList(QStringLiteral("架空")));
 }
 
+TEST_F(ConnectionTest, TablesAreFoundWhateverTheCaseAndTheEnginesOwnAreNot) {
+  fresh(QStringLiteral("CLmoji2000.mdb"));
+  RecordSet set = openSet(QStringLiteral("CLmoji2000.mdb"), QStringLiteral("CLmoji"));
+  add(set, {{QStringLiteral("moji"), QStringLiteral("前")}});
+  set.moveFirst();
+  Connection connection = connect("CLmoji2000.mdb");
+  EXPECT_EQ(
+      read(connection, QStringLiteral("select * from clmoji where moji like '%前%'"), QStringLiteral("moji")),
+      QStringLiteral("前"));
+  ASSERT_TRUE(connection.execute(QStringLiteral("update CLMOJI set MOJI = '後' where id = 1")).ok());
+  EXPECT_EQ(set.value(QStringLiteral("moji")), QStringLiteral("後"));
+  EXPECT_EQ(
+      read(connection, QStringLiteral("select * from clmoji where moji like '%後%'"), QStringLiteral("ID")),
+      QStringLiteral("1"));
+  for (const char* own : {"sqlite_sequence", "sqlite_master", "sqlite_schema"})
+    EXPECT_FALSE(Cursor::open(connection, QStringLiteral("SELECT * FROM ") + QLatin1String(own)).ok()) << own;
+}
+
 TEST_F(ConnectionTest, AGrowthRunAddsColumnsOnceAndInAnyType) {
   fresh(QStringLiteral("同意医師2000.mdb"));
   RecordSet set = openSet(QStringLiteral("同意医師2000.mdb"), QStringLiteral("同意医師"));

@@ -152,6 +152,28 @@ TEST_F(DatabaseTest, ARowChangedElsewhereIsRefusedAndTheEntryKept) {
   EXPECT_TRUE(set.update().ok());
 }
 
+TEST_F(DatabaseTest, AnotherRowsStoreDoesNotHideThatARowWasChangedElsewhere) {
+  const QString name = QStringLiteral("氏名");
+  fresh(kDoctors);
+  RecordSet set = openSet(kDoctors, kDoctorTable);
+  add(set, {{name, QStringLiteral("一")}});
+  add(set, {{name, QStringLiteral("二")}});
+  set.moveFirst();
+  EXPECT_TRUE(set.value(QStringLiteral("住所")).isNull());
+  sqlite3* other = nullptr;
+  ASSERT_EQ(sqlite3_open(QFile::encodeName(path(kDoctors)).constData(), &other), SQLITE_OK);
+  ASSERT_EQ(
+      sqlite3_exec(other, "UPDATE \"同意医師\" SET \"住所\"='他' WHERE ID=1", nullptr, nullptr, nullptr),
+      SQLITE_OK);
+  sqlite3_close(other);
+  RecordSet second = openSet(kDoctors, kDoctorTable);
+  second.moveLast();
+  ASSERT_TRUE(second.edit().ok() && second.setValue(name, QStringLiteral("二の二")).ok() &&
+              second.update().ok());
+  ASSERT_TRUE(set.edit().ok() && set.setValue(name, QStringLiteral("一の二")).ok());
+  EXPECT_FALSE(set.update().ok());
+}
+
 TEST_F(DatabaseTest, ARowDeletedElsewhereIsTold) {
   fresh(kDoctors);
   RecordSet set = openSet(kDoctors, kDoctorTable);
