@@ -95,7 +95,7 @@ void MainMenuScreen::openReceipts() {
 QString MainMenuScreen::todayForReceipt() const {
   const EraDates dates = m_run.eraDates();
   const QDate today = m_run.clock->today();
-  // Kept: this place compares strictly with the day before the new era's last eve.
+  // Kept: this place compares strictly with the last day of the old era.
   if (m_run.eraCapability == EraCapability::Unsupported && today > QDate(2019, 4, 30))
     return dates.todayEraPartsMenu().reiwaDate;
   return dates.formatEra(today);
@@ -112,6 +112,7 @@ void MainMenuScreen::openBeside(const QString& fileName) {
 }
 
 void MainMenuScreen::openManual() { openBeside(u"help.PDF"_s); }
+
 // Where the desktop has no viewer for text files the program reads the help out itself.
 void MainMenuScreen::openTextHelp() {
   const QString path = QDir(m_run.programFolder).filePath(u"help.txt"_s);
