@@ -104,7 +104,7 @@ void Builder::tellApart() {
   QHash<QString, int> seen;
   for (const Spot& spot : m_spots) {
     const int number = ++seen[spot.control->accessibleName()];
-    if (number > 1) spot.control->setPrefix(QString::number(number));
+    if (number > 1) spot.control->setNumber(number);
   }
 }
 

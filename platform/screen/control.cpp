@@ -78,8 +78,14 @@ void Control::setPrefix(const QString& prefix) {
   nameWidgets();
 }
 
+void Control::setNumber(int number) {
+  m_number = number;
+  nameWidgets();
+}
+
 QString Control::accessibleName() const {
-  const QString own = accessibleCaption(m_caption);
+  const QString own =
+      accessibleCaption(m_caption) + (m_number ? QStringLiteral(" %1").arg(m_number) : QString());
   return m_prefix.isEmpty() ? own : m_prefix + u' ' + own;
 }
 

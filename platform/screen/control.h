@@ -68,6 +68,8 @@ class Control {
   bool isRed() const { return m_red; }
   /// The word before the accessible name of a control whose caption alone occurs twice in the window.
   virtual void setPrefix(const QString& prefix);
+  /// A number behind the accessible name where no word around the control tells it apart.
+  void setNumber(int number);
   virtual QString accessibleName() const;
 
   // Binding to a column of a source.
@@ -116,6 +118,7 @@ class Control {
   QString m_column;
   int m_source = 0;
   store::Value m_loaded;
+  int m_number = 0;
   bool m_quiet = false, m_shown = true, m_red = false;
 };
 

@@ -3,8 +3,8 @@
 
 #include "platform/screen/control_check.h"
 #include "platform/screen/control_combo.h"
-#include "platform/screen/control_options.h"
 #include "platform/screen/control_frame.h"
+#include "platform/screen/control_options.h"
 #include "platform/screen/screen.h"
 #include "platform/screen/screen_parts.h"
 

@@ -65,6 +65,27 @@ TEST_F(Builder, CaptionThatOccursTwiceIsToldApartByItsGroup) {
   EXPECT_EQ(screen.caption("txtFields(6)"), "住所:");
 }
 
+TEST(BuilderDoubles, AreNumberedWhereNoWordTellsThemApart) {
+  static constexpr Row rows[] = {
+      TextField{.name = {u"Text1"}, .caption = u"日付:", .bind = Unbound{u"first"}},
+      TextField{.name = {u"Text2"}, .caption = u"日付:", .bind = Unbound{u"second"}},
+      Group{.name = {u"Frame1"}, .caption = u"同意"},
+      TextField{.name = {u"Text3"}, .caption = u"日付:", .bind = Unbound{u"third"}},
+      TextField{.name = {u"Text4"}, .caption = u"日付:", .bind = Unbound{u"fourth"}},
+      EndGroup{},
+  };
+  static constexpr ScreenRow declaration{.name = u"見本2", .caption = u"見本", .rows = rows};
+  Desk desk;
+  Screen screen(declaration, desk.services);
+  const auto name = [&](const char* control) {
+    return screen.findChild<QWidget*>(control)->accessibleName();
+  };
+  EXPECT_EQ(name("Text1"), "日付");
+  EXPECT_EQ(name("Text2"), "日付 2");
+  EXPECT_EQ(name("Text3"), "同意 日付");
+  EXPECT_EQ(name("Text4"), "同意 日付 2");
+}
+
 TEST_F(Builder, EveryFieldHasALabelThatLeadsToIt) {
   for (const char* name : {"txtFields(4)", "txtDay(61)", "txtMemo", "Combo1", "Combo2", "DBGrid1"}) {
     const auto labels = screen.findChildren<QLabel*>();

@@ -4,6 +4,8 @@
 #include <QtWidgets/QtWidgets>
 
 #include "platform/screen/grid_model.h"
+#include "platform/screen/grid_view.h"
+#include "platform/store/database.h"
 #include "sample_screen.h"
 
 namespace screen::testing {
@@ -90,6 +92,42 @@ TEST_F(GridRows, TypingDoesNotSearchTheTable) {
   probe.type("見本三");
   QTest::keyClick(view(), Qt::Key_A);
   EXPECT_EQ(view()->currentIndex().row(), 0);
+}
+
+/// Notes which rows a grid looks at.
+class WatchedModel : public GridModel {
+ public:
+  using GridModel::GridModel;
+  QVariant data(const QModelIndex& index, int role) const override {
+    if (role == Qt::DisplayRole) read.insert(index.row());
+    return GridModel::data(index, role);
+  }
+  mutable QSet<int> read;
+};
+
+TEST(GridReading, IsLimitedToTheRowsThatAreSeen) {
+  constexpr int kRows = 400;
+  constexpr GridColumn kColumns[] = {{u"氏名", u"氏名"}};
+  Desk desk;
+  QStringList names;
+  for (int i = 0; i < kRows; ++i) names += QStringLiteral("見本%1").arg(i);
+  const QString path = desk.patientsFile(names);
+  auto database = store::Database::open(path);
+  auto rows = store::RecordSet::open(database.value(), "臨床QV");
+  ASSERT_TRUE(rows);
+  WatchedModel model(*rows, kColumns, nullptr);
+  model.follow();
+  GridView view(nullptr);
+  view.setModel(&model);
+  view.resize(400, 300);
+  view.fitColumns();
+  view.show();
+  (void)QTest::qWaitForWindowExposed(&view);
+  view.setCurrentIndex(model.index(kRows - 1, 0));
+  view.grab();
+  EXPECT_EQ(model.rowCount(), kRows);
+  EXPECT_TRUE(model.read.contains(kRows - 1));
+  EXPECT_LT(model.read.size(), kRows / 4) << "the first and the last screenful, not the table";
 }
 
 }  // namespace

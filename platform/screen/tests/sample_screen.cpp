@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/store/bulk.h"
 #include "platform/store/database.h"
 
 namespace screen::testing {
@@ -113,15 +114,11 @@ Desk::Desk() {
 QString Desk::patientsFile(const QStringList& names) {
   const QString path = folder.filePath(QStringLiteral("臨床QV2000N.mdb"));
   EXPECT_TRUE(store::createFresh(path, QStringLiteral("臨床QV2000N.mdb")));
-  auto database = store::Database::open(path);
-  EXPECT_TRUE(database);
-  auto rows = store::RecordSet::open(database.value(), QStringLiteral("臨床QV"));
-  EXPECT_TRUE(rows);
-  for (const QString& name : names) {
-    EXPECT_TRUE(rows->addNew());
-    EXPECT_TRUE(rows->setValue(QStringLiteral("氏名"), name));
-    EXPECT_TRUE(rows->update());
-  }
+  const bool added =
+      store::addRows(path, QStringLiteral("臨床QV"), static_cast<int>(names.size()), [&](int number) {
+        return QHash<QString, store::Value>{{QStringLiteral("氏名"), names.value(number)}};
+      }).ok();
+  EXPECT_TRUE(added);
   return path;
 }
 
