@@ -3,7 +3,7 @@
 namespace store {
 namespace {
 
-constexpr qsizetype kMostFirstColumns = 4;
+constexpr qsizetype kMostFirstColumns = 9;
 
 }  // namespace
 
