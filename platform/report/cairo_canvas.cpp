@@ -46,7 +46,8 @@ void CairoCanvas::stroke(double width) {
 void CairoCanvas::picture(cairo_surface_t* image, double x, double y, double w, double h) {
   cairo_save(m_page.get());
   cairo_translate(m_page.get(), x, y);
-  cairo_scale(m_page.get(), w / cairo_image_surface_get_width(image), h / cairo_image_surface_get_height(image));
+  cairo_scale(m_page.get(), w / cairo_image_surface_get_width(image),
+              h / cairo_image_surface_get_height(image));
   cairo_set_source_surface(m_page.get(), image, 0, 0);
   cairo_paint(m_page.get());
   cairo_restore(m_page.get());

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/report/text_shaper.h"
-
 #include <QByteArray>
+
+#include "platform/report/text_shaper.h"
 
 namespace report {
 

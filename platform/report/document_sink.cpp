@@ -1,9 +1,9 @@
 #include "platform/report/document_sink.h"
 
+#include <QSaveFile>
+
 #include "platform/report/file_printer.h"
 #include "platform/report/spooler.h"
-
-#include <QSaveFile>
 
 namespace report {
 

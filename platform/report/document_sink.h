@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/report/printer_choice.h"
-
 #include <QByteArray>
 #include <functional>
 #include <memory>
+
+#include "platform/report/printer_choice.h"
 
 namespace report {
 

@@ -34,8 +34,8 @@ bool FilePrinter::open(const QString& title) {
 bool FilePrinter::take(const QByteArray& pdf) {
   if (!m_file || m_file->write(pdf) != pdf.size() || !m_file->flush()) return false;
   m_file->setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-  const QString stem = QDir(m_folder).filePath(
-      QStringLiteral("%1_%2").arg(fileStem(m_title), m_clock->now().toString(QStringLiteral("yyyyMMdd_HHmmss"))));
+  const QString stem = QDir(m_folder).filePath(QStringLiteral("%1_%2").arg(
+      fileStem(m_title), m_clock->now().toString(QStringLiteral("yyyyMMdd_HHmmss"))));
   for (int n = 1; n <= kMostOfOneSecond; ++n) {
     const QString name = n == 1 ? stem : QStringLiteral("%1_%2").arg(stem).arg(n);
     if (!QFile::exists(name + QStringLiteral(".pdf")) && m_file->rename(name + QStringLiteral(".pdf"))) {

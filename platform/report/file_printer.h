@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QTemporaryFile>
+
 #include "platform/report/document_sink.h"
 #include "platform/text/clock.h"
-
-#include <QTemporaryFile>
 
 namespace report {
 

@@ -1,15 +1,18 @@
 #include "platform/report/font.h"
 
-#include "platform/report/slim_outline.h"
+#include <cairo-ft.h>
+#include <hb-ft.h>
 
 #include <QFile>
-#include <cairo-ft.h>
 #include <cmath>
-#include <hb-ft.h>
+
+#include "platform/report/slim_outline.h"
 
 namespace report {
 
 namespace {
+
+constexpr size_t kMostGlyphs = 65000;  // documents tell glyphs by two bytes
 
 /// The drawing library keeps fonts for a while after we let them go: the file goes with them.
 FontFace faceOf(const std::shared_ptr<FT_FaceRec_>& file) {
@@ -18,7 +21,8 @@ FontFace faceOf(const std::shared_ptr<FT_FaceRec_>& file) {
   static const cairo_user_data_key_t key = {};
   auto kept = std::make_unique<Kept>(file);
   const auto release = [](void* data) { delete static_cast<Kept*>(data); };
-  if (cairo_font_face_set_user_data(face.get(), &key, kept.get(), release) != CAIRO_STATUS_SUCCESS) return nullptr;
+  if (cairo_font_face_set_user_data(face.get(), &key, kept.get(), release) != CAIRO_STATUS_SUCCESS)
+    return nullptr;
   kept.release();
   return face;
 }
@@ -46,9 +50,7 @@ QByteArray Font::name() const {
   return name.isEmpty() ? QByteArray("Font") : name;
 }
 
-bool Font::has(char32_t character) {
-  return m_glyphs[number(character)].original != 0;
-}
+bool Font::has(char32_t character) { return m_glyphs[number(character)].original != 0; }
 
 unsigned Font::number(char32_t character) {
   const auto known = m_byCharacter.constFind(character);
@@ -66,6 +68,7 @@ unsigned Font::number(unsigned original, const QString& text) {
 }
 
 unsigned Font::add(unsigned original, const QString& text) {
+  if (m_glyphs.size() > kMostGlyphs) return 0;
   SlimGlyph glyph{original, text, kSlimEm, {}};
   FT_Face face = m_file.get();
   if (FT_Load_Glyph(face, original, FT_LOAD_NO_SCALE | FT_LOAD_NO_BITMAP) == 0) {

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "platform/report/cairo_handles.h"
+#include <ft2build.h>
 
 #include <QHash>
 #include <QString>
-#include <ft2build.h>
 #include <vector>
+
+#include "platform/report/cairo_handles.h"
 #include FT_FREETYPE_H
 
 struct hb_font_t;

@@ -1,12 +1,12 @@
 #include "platform/report/font_file.h"
 
-#include "platform/report/slim_outline.h"
-
 #include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <initializer_list>
 #include <vector>
+
+#include "platform/report/slim_outline.h"
 
 namespace report {
 
@@ -47,15 +47,16 @@ QByteArray headTable(const Extent& extent, bool longPlaces) {
   append16(table, 0);
   append16(table, kSlimEm);
   table.append(16, '\0');  // times of making and changing
-  for (const int value : {extent.left, extent.low, extent.right, extent.high, 0, 6, 2, int(longPlaces), 0}) append16(table, value);
+  for (const int value : {extent.left, extent.low, extent.right, extent.high, 0, 6, 2, int(longPlaces), 0})
+    append16(table, value);
   return table;
 }
 
 QByteArray hheaTable(const Extent& extent, int glyphs) {
   QByteArray table;
   append32(table, 0x00010000);
-  for (const int value : {int(kAscent * kSlimEm), int(kDescent * kSlimEm), 0, extent.advance, extent.left, 0, extent.right,
-                          1, 0, 0, 0, 0, 0, 0, 0, glyphs})
+  for (const int value : {int(kAscent * kSlimEm), int(kDescent * kSlimEm), 0, extent.advance, extent.left, 0,
+                          extent.right, 1, 0, 0, 0, 0, 0, 0, 0, glyphs})
     append16(table, value);
   return table;
 }
@@ -63,7 +64,8 @@ QByteArray hheaTable(const Extent& extent, int glyphs) {
 QByteArray maxpTable(const Extent& extent, int glyphs) {
   QByteArray table;
   append32(table, 0x00010000);
-  for (const int value : {glyphs, extent.points, extent.contours, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0}) append16(table, value);
+  for (const int value : {glyphs, extent.points, extent.contours, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0})
+    append16(table, value);
   return table;
 }
 
@@ -95,14 +97,19 @@ QByteArray trueTypeFile(const Font& font, const std::set<unsigned>& numbers) {
   places.push_back(glyf.size());
   const bool longPlaces = glyf.size() > 2 * 65535;
   QByteArray loca;
-  for (const qsizetype place : places) longPlaces ? append32(loca, quint32(place)) : append16(loca, int(place / 2));
+  for (const qsizetype place : places)
+    longPlaces ? append32(loca, quint32(place)) : append16(loca, int(place / 2));
 
   struct Table {
     const char* tag;
     QByteArray bytes;
   };
-  std::array tables{Table{"glyf", glyf}, Table{"head", headTable(extent, longPlaces)}, Table{"hhea", hheaTable(extent, glyphs)},
-                    Table{"hmtx", hmtx}, Table{"loca", loca}, Table{"maxp", maxpTable(extent, glyphs)}};
+  std::array tables{Table{"glyf", glyf},
+                    Table{"head", headTable(extent, longPlaces)},
+                    Table{"hhea", hheaTable(extent, glyphs)},
+                    Table{"hmtx", hmtx},
+                    Table{"loca", loca},
+                    Table{"maxp", maxpTable(extent, glyphs)}};
   QByteArray file;
   append32(file, 0x00010000);
   for (const int value : {int(tables.size()), 64, 2, 32}) append16(file, value);

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/report/font.h"
-
 #include <set>
+
+#include "platform/report/font.h"
 
 namespace report {
 

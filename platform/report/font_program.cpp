@@ -30,7 +30,8 @@ QByteArray textTable(const Font& font, const std::set<unsigned>& numbers) {
   for (auto first = numbers.begin(); first != numbers.end();) {
     QByteArray texts;
     auto last = first;
-    for (auto next = first; next != numbers.end() && follows(*first, *next, std::distance(first, next)); ++next)
+    for (auto next = first; next != numbers.end() && follows(*first, *next, std::distance(first, next));
+         ++next)
       texts += '<' + codesOf(font.glyph(*(last = next)).text) + '>';
     ranges.push_back('<' + hex4(*first) + "><" + hex4(*last) + ">[" + texts + "]\n");
     first = std::next(last);
@@ -78,12 +79,15 @@ FontProgram makeProgram(const Font& font, const std::set<unsigned>& numbers) {
 int FontProgram::write(PdfWriter& writer) const {
   const int fileNumber = writer.stream(file);
   const int textsNumber = writer.stream(texts);
-  const int descriptor = writer.add("<</Type/FontDescriptor/FontName/" + name +
-                                    "/Flags 4/FontBBox[-300 -300 1100 1000]/ItalicAngle 0/Ascent 880/Descent -120"
-                                    "/CapHeight 760/StemV 80/FontFile2 " + reference(fileNumber) + ">>");
-  const int descendant = writer.add("<</Type/Font/Subtype/CIDFontType2/BaseFont/" + name +
-                                    "/CIDSystemInfo<</Registry(Adobe)/Ordering(Identity)/Supplement 0>>/FontDescriptor " +
-                                    reference(descriptor) + "/CIDToGIDMap/Identity/DW 1000/W" + widths + ">>");
+  const int descriptor =
+      writer.add("<</Type/FontDescriptor/FontName/" + name +
+                 "/Flags 4/FontBBox[-300 -300 1100 1000]/ItalicAngle 0/Ascent 880/Descent -120"
+                 "/CapHeight 760/StemV 80/FontFile2 " +
+                 reference(fileNumber) + ">>");
+  const int descendant =
+      writer.add("<</Type/Font/Subtype/CIDFontType2/BaseFont/" + name +
+                 "/CIDSystemInfo<</Registry(Adobe)/Ordering(Identity)/Supplement 0>>/FontDescriptor " +
+                 reference(descriptor) + "/CIDToGIDMap/Identity/DW 1000/W" + widths + ">>");
   return writer.add("<</Type/Font/Subtype/Type0/BaseFont/" + name + "/Encoding/Identity-H/DescendantFonts[" +
                     reference(descendant) + "]/ToUnicode " + reference(textsNumber) + ">>");
 }

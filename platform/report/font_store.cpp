@@ -37,7 +37,8 @@ FontFile nearest(const char* family, char32_t character) {
   FcCharSet* has = nullptr;
   FontFile file;
   if (!found || FcPatternGetString(found.get(), FC_FILE, 0, &path) != FcResultMatch) return file;
-  if (character && (FcPatternGetCharSet(found.get(), FC_CHARSET, 0, &has) != FcResultMatch || !FcCharSetHasChar(has, character)))
+  if (character && (FcPatternGetCharSet(found.get(), FC_CHARSET, 0, &has) != FcResultMatch ||
+                    !FcCharSetHasChar(has, character)))
     return file;
   file.path = QString::fromUtf8(reinterpret_cast<const char*>(path));
   FcPatternGetInteger(found.get(), FC_INDEX, 0, &file.number);
@@ -57,7 +58,8 @@ FontStore::FontStore() {
 Font* FontStore::open(const QString& path, int faceNumber) {
   if (path.isEmpty()) return nullptr;
   const auto key = std::pair(path, faceNumber);
-  if (!m_opened.contains(key)) m_opened[key] = Font::open(m_library, path, faceNumber & 0xffff, int(m_opened.size()));
+  if (!m_opened.contains(key))
+    m_opened[key] = Font::open(m_library, path, faceNumber & 0xffff, int(m_opened.size()));
   return m_opened[key].get();
 }
 

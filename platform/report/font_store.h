@@ -1,9 +1,9 @@
 #pragma once
 
+#include <map>
+
 #include "platform/report/font.h"
 #include "platform/report/form.h"
-
-#include <map>
 
 namespace report {
 

@@ -61,8 +61,8 @@ struct Form {
   Paper paper;
   bool landscape = false;
   Typeface face = Typeface::Mincho;  ///< of items that name none
-  QStringList files;   ///< the file itself and its bases
-  QStringList blocks;  ///< captions of the blocks; Item::block points here
+  QStringList files;                 ///< the file itself and its bases
+  QStringList blocks;                ///< captions of the blocks; Item::block points here
   std::vector<Item> items;
   QHash<QString, int> index;
 

@@ -50,8 +50,10 @@ class Checker {
   // would vanish from it. Texts may have either: some labels carry data.
   void checkName(const Item& item) {
     const bool frame = item.kind == Kind::Label || item.kind == Kind::Box || item.kind == Kind::Line;
-    if (frame && !isFrameName(item.name)) tell(item, QStringLiteral("is part of the frame but not named Text, Box, Line or waku_"));
-    if (!frame && item.kind != Kind::Text && isFrameName(item.name)) tell(item, QStringLiteral("is a data item with a name of the frame"));
+    if (frame && !isFrameName(item.name))
+      tell(item, QStringLiteral("is part of the frame but not named Text, Box, Line or waku_"));
+    if (!frame && item.kind != Kind::Text && isFrameName(item.name))
+      tell(item, QStringLiteral("is a data item with a name of the frame"));
   }
 
   const Form& m_form;

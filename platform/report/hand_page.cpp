@@ -9,14 +9,16 @@ constexpr double kAscent = 0.88;  // of the forms' fonts, in em
 }  // namespace
 
 void HandPage::setFont(const QString& family) {
-  const bool gothic = family.contains(QStringLiteral("ゴシック")) || family.contains(QStringLiteral("Gothic"));
+  const bool gothic =
+      family.contains(QStringLiteral("ゴシック")) || family.contains(QStringLiteral("Gothic"));
   m_face = gothic ? Typeface::Gothic : Typeface::Mincho;
 }
 
 void HandPage::output(Canvas& canvas, TextShaper& shaper, double x, double y, const QString& text) const {
   const double left = (m_originX + x) * kPointsPerMm;
   const double baseline = (m_originY + y + kAscent * m_size) * kPointsPerMm;
-  for (const Run& run : shaper.shape(m_face, text)->runs) canvas.text(run, left, baseline, m_size * kPointsPerMm);
+  for (const Run& run : shaper.shape(m_face, text)->runs)
+    canvas.text(run, left, baseline, m_size * kPointsPerMm);
 }
 
 void HandPage::line(Canvas& canvas, double x1, double y1, double x2, double y2) const {

@@ -1,9 +1,9 @@
 #include "platform/report/loaded_form.h"
 
+#include <algorithm>
+
 #include "platform/report/pdf_document.h"
 #include "platform/report/rule_merger.h"
-
-#include <algorithm>
 
 namespace report {
 
@@ -11,7 +11,9 @@ namespace {
 
 constexpr size_t kMostParts = 64;  // of one template; labels with data in them could make any number
 
-bool isFrame(const Item& item) { return item.kind == Kind::Label || item.kind == Kind::Box || item.kind == Kind::Line; }
+bool isFrame(const Item& item) {
+  return item.kind == Kind::Label || item.kind == Kind::Box || item.kind == Kind::Line;
+}
 
 bool anyShown(const std::vector<int>& items, const std::vector<ItemState>& states) {
   return std::any_of(items.begin(), items.end(), [&](int i) { return states[size_t(i)].shown; });
@@ -24,7 +26,8 @@ std::vector<ItemState> storedStates(const Form& form) {
   return states;
 }
 
-void paintFrame(Canvas& canvas, const FrameStore& frames, const std::vector<ItemState>& states, PagePainter& painter) {
+void paintFrame(Canvas& canvas, const FrameStore& frames, const std::vector<ItemState>& states,
+                PagePainter& painter) {
   RuleMerger rules;
   for (int block = 0; block < frames.blocks(); ++block) {
     const std::vector<int>& items = frames.frame()[size_t(block)];
@@ -60,7 +63,8 @@ std::shared_ptr<const FramePart> FrameStore::part(const std::vector<ItemState>& 
   if (const auto known = m_parts.find(key); known != m_parts.end()) return known->second;
   if (m_parts.size() >= kMostParts) m_parts.clear();
   std::shared_ptr<const FramePart>& made = m_parts[key];
-  const bool any = std::any_of(m_frame.begin(), m_frame.end(), [&](const auto& items) { return anyShown(items, states); });
+  const bool any =
+      std::any_of(m_frame.begin(), m_frame.end(), [&](const auto& items) { return anyShown(items, states); });
   if (!any) return made;
   auto part = std::make_shared<FramePart>();
   part->fonts = fonts(painter);

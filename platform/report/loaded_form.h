@@ -20,7 +20,8 @@ class FrameStore {
   const std::vector<std::vector<int>>& frame() const { return m_frame; }
   const std::vector<std::vector<int>>& data() const { return m_data; }
   /// nullptr if nothing of the frame is shown.
-  std::shared_ptr<const FramePart> part(const std::vector<ItemState>& states, bool asStored, PagePainter& painter);
+  std::shared_ptr<const FramePart> part(const std::vector<ItemState>& states, bool asStored,
+                                        PagePainter& painter);
 
  private:
   QByteArray signature(const std::vector<ItemState>& states) const;

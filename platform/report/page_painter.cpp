@@ -31,12 +31,17 @@ void PagePainter::paint(Canvas& canvas, const Item& item, const ItemState& state
   switch (item.kind) {
     case Kind::Label:
     case Kind::Text:
-    case Kind::Digit: return paintText(canvas, item, state);
+    case Kind::Digit:
+      return paintText(canvas, item, state);
     case Kind::Box:
-    case Kind::Line: return;
-    case Kind::Mark: return paintMark(canvas, item.rect, item.shape, item.rule);
-    case Kind::Choice: return paintChoice(canvas, item, state.text);
-    case Kind::Picture: return paintPicture(canvas, item, state.text);
+    case Kind::Line:
+      return;
+    case Kind::Mark:
+      return paintMark(canvas, item.rect, item.shape, item.rule);
+    case Kind::Choice:
+      return paintChoice(canvas, item, state.text);
+    case Kind::Picture:
+      return paintPicture(canvas, item, state.text);
   }
 }
 

@@ -55,8 +55,10 @@ void PdfCanvas::text(const Run& run, double x, double y, double pt) {
     if (!m_inString) m_out += '(', m_inString = true;
     for (const char c : {char(glyph.number >> 8), char(glyph.number)}) {
       if (c == '(' || c == ')' || c == '\\') m_out += '\\';
-      if (c == '\r') m_out += "\\r";
-      else m_out += c;
+      if (c == '\r')
+        m_out += "\\r";
+      else
+        m_out += c;
     }
     m_penX += run.font->advance(glyph.number) * pt;
     if (span != run.spans.end() && i + 1 == span->first + span->count) {

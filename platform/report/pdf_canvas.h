@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/report/canvas.h"
-
 #include <map>
 #include <memory>
 #include <set>
+
+#include "platform/report/canvas.h"
 
 namespace report {
 
@@ -56,7 +56,7 @@ class PdfCanvas final : public Canvas {
   QByteArray m_out;
   bool m_inText = false;
   bool m_inString = false;
-  double m_penX = 0;   // where the next glyph would stand, from the upper left corner
+  double m_penX = 0;  // where the next glyph would stand, from the upper left corner
   double m_penY = 0;
   double m_lineX = 0;  // start of the line, which the next one is told from
   double m_lineY = 0;

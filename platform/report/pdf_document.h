@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/report/font_program.h"
-
 #include <optional>
+
+#include "platform/report/font_program.h"
 
 namespace report {
 
@@ -14,7 +14,8 @@ class PdfDocument {
 
   /// Starts a page of this size (mm), on the frame if there is one. Paragraph b of the frame and paragraph
   /// frameParagraphs + b of the page are read together.
-  Canvas& beginPage(double width, double height, std::shared_ptr<const FramePart> frame = {}, int frameParagraphs = 0);
+  Canvas& beginPage(double width, double height, std::shared_ptr<const FramePart> frame = {},
+                    int frameParagraphs = 0);
   void endPage();
   /// The page that is open; nullptr if none is.
   Canvas* page() { return m_canvas ? &*m_canvas : nullptr; }

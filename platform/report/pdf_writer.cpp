@@ -13,7 +13,9 @@ QByteArray deflated(const QByteArray& bytes) { return qCompress(bytes, 6).mid(4)
 
 QByteArray reference(int number) { return QByteArray::number(number) + " 0 R"; }
 
-PackedStream PackedStream::of(const QByteArray& plain, const QByteArray& entries) { return {deflated(plain), entries}; }
+PackedStream PackedStream::of(const QByteArray& plain, const QByteArray& entries) {
+  return {deflated(plain), entries};
+}
 
 PdfWriter::PdfWriter() : m_out("%PDF-1.5\n%\xE3\x81\x82\n"), m_entries(1) {}
 
@@ -38,8 +40,8 @@ int PdfWriter::stream(const PackedStream& stream) {
 
 void PdfWriter::writeStream(int number, const QByteArray& entries, const QByteArray& data) {
   m_entries[size_t(number)] = {1, quint32(m_out.size()), 0};
-  m_out += QByteArray::number(number) + " 0 obj\n<<" + entries + "/Length " + QByteArray::number(data.size()) +
-           ">>\nstream\n" + data + "\nendstream\nendobj\n";
+  m_out += QByteArray::number(number) + " 0 obj\n<<" + entries + "/Length " +
+           QByteArray::number(data.size()) + ">>\nstream\n" + data + "\nendstream\nendobj\n";
 }
 
 void PdfWriter::writeSmallObjects() {
@@ -83,7 +85,8 @@ QByteArray PdfWriter::finish(int catalog, int info) {
   writeStream(number,
               "/Type/XRef/Size " + QByteArray::number(qlonglong(m_entries.size())) + "/W[1 4 2]/Root " +
                   reference(catalog) + "/Info " + reference(info) +
-                  "/Filter/FlateDecode/DecodeParms<</Predictor 12/Columns " + QByteArray::number(kColumns) + ">>",
+                  "/Filter/FlateDecode/DecodeParms<</Predictor 12/Columns " + QByteArray::number(kColumns) +
+                  ">>",
               deflated(referenceRows()));
   m_out += "startxref\n" + QByteArray::number(place) + "\n%%EOF\n";
   return std::move(m_out);

@@ -31,9 +31,9 @@ class PdfWriter {
  private:
   /// What a number in the cross reference says.
   struct Entry {
-    int kind = 0;        ///< 1: place in the file, 2: number of an object stream
+    int kind = 0;  ///< 1: place in the file, 2: number of an object stream
     quint32 place = 0;
-    int position = 0;    ///< in the object stream
+    int position = 0;  ///< in the object stream
   };
   void writeStream(int number, const QByteArray& entries, const QByteArray& data);
   void writeSmallObjects();

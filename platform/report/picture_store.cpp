@@ -33,7 +33,8 @@ bool readHeader(const QByteArray& bytes, Header& header) {
   header.height = std::abs(header.height);
   constexpr int kMost = 20000;
   if (header.width < 1 || header.width > kMost || header.height < 1 || header.height > kMost) return false;
-  const bool known = header.bits == 1 || header.bits == 4 || header.bits == 8 || header.bits == 24 || header.bits == 32;
+  const bool known =
+      header.bits == 1 || header.bits == 4 || header.bits == 8 || header.bits == 24 || header.bits == 32;
   if (!known || (compression != 0 && !(compression == 3 && header.bits == 32))) return false;
   header.rowBytes = (qsizetype(header.width) * header.bits + 31) / 32 * 4;
   return bytes.size() >= qsizetype(header.pixels) + header.rowBytes * header.height;
@@ -59,7 +60,8 @@ Surface readBitmap(const QByteArray& bytes) {
   const int stride = cairo_image_surface_get_stride(picture.get());
   for (int y = 0; y < header.height; ++y) {
     const int from = header.topDown ? y : header.height - 1 - y;
-    const auto* row = reinterpret_cast<const uchar*>(bytes.constData()) + header.pixels + header.rowBytes * from;
+    const auto* row =
+        reinterpret_cast<const uchar*>(bytes.constData()) + header.pixels + header.rowBytes * from;
     auto* to = reinterpret_cast<quint32*>(out + qsizetype(stride) * y);
     for (int x = 0; x < header.width; ++x) to[x] = colourAt(bytes, header, row, x);
   }

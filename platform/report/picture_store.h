@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/report/cairo_handles.h"
-
 #include <QString>
 #include <map>
+
+#include "platform/report/cairo_handles.h"
 
 namespace report {
 

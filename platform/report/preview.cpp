@@ -41,7 +41,8 @@ Surface previewForm(const FormPtr& form, const PreviewOptions& options) {
   PagePainter painter(shaper, pictures);
   LoadedForm loaded(std::make_shared<FrameStore>(form));
   for (const auto& [name, text] : options.values)
-    if (ItemState* state = loaded.change(name)) *state = {true, state->align, text.isNull() ? state->text : text};
+    if (ItemState* state = loaded.change(name))
+      *state = {true, state->align, text.isNull() ? state->text : text};
   CairoCanvas canvas(form->width(), form->height(), options.dpi);
   loaded.paint(canvas, painter);
   if (options.names) drawNames(canvas, *form, shaper);

@@ -15,10 +15,14 @@ struct KindRow {
 
 // Printed parts are shown, data are hidden until the program shows them.
 constexpr std::array kKinds = {
-    KindRow{"label", Kind::Label, Align::Left, false},    KindRow{"box", Kind::Box, Align::Left, false},
-    KindRow{"line", Kind::Line, Align::Left, false},      KindRow{"text", Kind::Text, Align::Left, true},
-    KindRow{"digits", Kind::Digit, Align::Centre, true},  KindRow{"days", Kind::Digit, Align::Centre, true},
-    KindRow{"mark", Kind::Mark, Align::Centre, true},     KindRow{"choice", Kind::Choice, Align::Centre, true},
+    KindRow{"label", Kind::Label, Align::Left, false},
+    KindRow{"box", Kind::Box, Align::Left, false},
+    KindRow{"line", Kind::Line, Align::Left, false},
+    KindRow{"text", Kind::Text, Align::Left, true},
+    KindRow{"digits", Kind::Digit, Align::Centre, true},
+    KindRow{"days", Kind::Digit, Align::Centre, true},
+    KindRow{"mark", Kind::Mark, Align::Centre, true},
+    KindRow{"choice", Kind::Choice, Align::Centre, true},
     KindRow{"picture", Kind::Picture, Align::Left, true},
 };
 
@@ -80,7 +84,8 @@ void setTexts(PrpLine& line, std::vector<Item>& items, const QStringList& texts)
   if (texts.isEmpty()) return;
   if (texts.size() != 1 && texts.size() != qsizetype(items.size()))
     line.fail(QStringLiteral("one text, or one for each of the %1 items").arg(items.size()));
-  for (size_t i = 0; i < items.size(); ++i) items[i].text = texts.size() == 1 ? texts[0] : texts[qsizetype(i)];
+  for (size_t i = 0; i < items.size(); ++i)
+    items[i].text = texts.size() == 1 ? texts[0] : texts[qsizetype(i)];
 }
 
 }  // namespace
@@ -94,22 +99,38 @@ QStringList readNames(PrpLine& line) {
 }
 
 bool readOption(PrpLine& line, Item& item) {
-  if (line.take("left")) item.align = Align::Left;
-  else if (line.take("centre")) item.align = Align::Centre;
-  else if (line.take("right")) item.align = Align::Right;
-  else if (line.take("mincho")) item.face = Typeface::Mincho;
-  else if (line.take("gothic")) item.face = Typeface::Gothic;
-  else if (line.take("shrink")) item.lines = 1;
-  else if (line.take("wrap")) item.lines = line.count("the number of lines");
-  else if (line.take("vertical")) item.vertical = true;
-  else if (line.take("hidden")) item.hidden = true;
-  else if (line.take("shown")) item.hidden = false;
-  else if (line.take("ellipse")) item.shape = Shape::Ellipse;
-  else if (line.take("circle")) item.shape = Shape::Circle;
-  else if (line.take("check")) item.shape = Shape::Check;
-  else if (line.take("pt")) item.pt = line.number("the type size in points");
-  else if (line.take("rule")) item.rule = line.number("the width of the rule in mm");
-  else return false;
+  if (line.take("left"))
+    item.align = Align::Left;
+  else if (line.take("centre"))
+    item.align = Align::Centre;
+  else if (line.take("right"))
+    item.align = Align::Right;
+  else if (line.take("mincho"))
+    item.face = Typeface::Mincho;
+  else if (line.take("gothic"))
+    item.face = Typeface::Gothic;
+  else if (line.take("shrink"))
+    item.lines = 1;
+  else if (line.take("wrap"))
+    item.lines = line.count("the number of lines");
+  else if (line.take("vertical"))
+    item.vertical = true;
+  else if (line.take("hidden"))
+    item.hidden = true;
+  else if (line.take("shown"))
+    item.hidden = false;
+  else if (line.take("ellipse"))
+    item.shape = Shape::Ellipse;
+  else if (line.take("circle"))
+    item.shape = Shape::Circle;
+  else if (line.take("check"))
+    item.shape = Shape::Check;
+  else if (line.take("pt"))
+    item.pt = line.number("the type size in points");
+  else if (line.take("rule"))
+    item.rule = line.number("the width of the rule in mm");
+  else
+    return false;
   if (item.pt <= 0 || item.rule <= 0) line.fail(QStringLiteral("a size above zero"));
   return true;
 }
@@ -124,19 +145,27 @@ ItemLine readItemLine(const QString& kind, PrpLine& line, Typeface face) {
   item.face = face;
   item.file = line.file();
   item.sourceLine = line.line();
-  if (row.kind == Kind::Line) item.rect = readLineEnds(line);
-  else if (row.kind != Kind::Choice) item.rect = readRect(line);
+  if (row.kind == Kind::Line)
+    item.rect = readLineEnds(line);
+  else if (row.kind != Kind::Choice)
+    item.rect = readRect(line);
 
   ItemLine result;
   QStringList texts;
   bool down = false;
   while (!line.empty()) {
-    if (row.kind == Kind::Choice && line.nextIsText()) readPlacements(line, item);
-    else if (line.nextIsText()) texts << line.text("a text");
-    else if (line.take("down")) down = true;
-    else if (line.take("before")) result.neighbour = line.word("the name of the next item");
-    else if (line.take("after")) result.neighbour = line.word("the name of the item before"), result.before = false;
-    else if (!readOption(line, item)) line.fail(QStringLiteral("an option or a text in quotes"));
+    if (row.kind == Kind::Choice && line.nextIsText())
+      readPlacements(line, item);
+    else if (line.nextIsText())
+      texts << line.text("a text");
+    else if (line.take("down"))
+      down = true;
+    else if (line.take("before"))
+      result.neighbour = line.word("the name of the next item");
+    else if (line.take("after"))
+      result.neighbour = line.word("the name of the item before"), result.before = false;
+    else if (!readOption(line, item))
+      line.fail(QStringLiteral("an option or a text in quotes"));
   }
   if (row.kind == Kind::Choice && item.placements.empty()) readPlacements(line, item);
   if (names.size() > 1 && (row.kind == Kind::Choice || row.kind == Kind::Line))

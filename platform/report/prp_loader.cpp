@@ -1,11 +1,11 @@
 #include "platform/report/prp_loader.h"
 
-#include "platform/report/prp_item_line.h"
-
 #include <QDir>
 #include <QFile>
 #include <QStringDecoder>
 #include <algorithm>
+
+#include "platform/report/prp_item_line.h"
 
 namespace report {
 
@@ -47,7 +47,8 @@ class Loader {
       readPaper(line, form);
     } else if (word == u"typeface") {
       form.face = line.take("gothic") ? Typeface::Gothic : Typeface::Mincho;
-      if (form.face == Typeface::Mincho && !line.take("mincho")) line.fail(QStringLiteral("mincho or gothic"));
+      if (form.face == Typeface::Mincho && !line.take("mincho"))
+        line.fail(QStringLiteral("mincho or gothic"));
       line.end();
     } else if (word == u"block") {
       form.blocks << line.rest();
@@ -96,9 +97,11 @@ class Loader {
       place = form.items.begin() + at + (added.before ? 0 : 1);
     }
     if (form.blocks.isEmpty()) form.blocks << QString();
-    const int block = added.neighbour.isEmpty() ? int(form.blocks.size()) - 1 : form.items[form.find(added.neighbour)].block;
+    const int block = added.neighbour.isEmpty() ? int(form.blocks.size()) - 1
+                                                : form.items[form.find(added.neighbour)].block;
     for (Item& item : added.items) {
-      if (form.index.contains(item.name)) line.fail(QStringLiteral("a new name, %1 stands already").arg(item.name));
+      if (form.index.contains(item.name))
+        line.fail(QStringLiteral("a new name, %1 stands already").arg(item.name));
       item.block = block;
       form.index.insert(item.name, -1);
     }
@@ -153,7 +156,8 @@ class Loader {
         item.text = line.text("a text in quotes");
       } else if (word == u"font") {
         if (!readOption(line, item)) line.fail(QStringLiteral("a font, a size, an align or a fit"));
-        while (readOption(line, item)) {}
+        while (readOption(line, item)) {
+        }
       } else {
         item.hidden = word == u"hide";
       }

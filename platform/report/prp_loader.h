@@ -1,9 +1,9 @@
 #pragma once
 
+#include <functional>
+
 #include "platform/report/form.h"
 #include "platform/text/result.h"
-
-#include <functional>
 
 namespace report {
 

@@ -64,10 +64,16 @@ void RecordingOperations::PR_PrinterSetupDlg(quintptr window) {
   if (m_engine) m_engine->PR_PrinterSetupDlg(window);
 }
 
-void RecordingOperations::PR_SetMargin(int left, int top) { relay("PR_SetMargin", &ReportOperations::PR_SetMargin, left, top); }
+void RecordingOperations::PR_SetMargin(int left, int top) {
+  relay("PR_SetMargin", &ReportOperations::PR_SetMargin, left, top);
+}
 void RecordingOperations::PR_SetScale() { relay("PR_SetScale", &ReportOperations::PR_SetScale); }
-void RecordingOperations::PR_SetFont(const QString& family) { relay("PR_SetFont", &ReportOperations::PR_SetFont, family); }
-void RecordingOperations::PR_SetFontSize(int size) { relay("PR_SetFontSize", &ReportOperations::PR_SetFontSize, size); }
+void RecordingOperations::PR_SetFont(const QString& family) {
+  relay("PR_SetFont", &ReportOperations::PR_SetFont, family);
+}
+void RecordingOperations::PR_SetFontSize(int size) {
+  relay("PR_SetFontSize", &ReportOperations::PR_SetFontSize, size);
+}
 void RecordingOperations::PR_Output(float x, float y, const QString& text) {
   relay("PR_Output", &ReportOperations::PR_Output, x, y, text);
 }

@@ -61,7 +61,8 @@ class RecordingOperations final : public ReportOperations {
 
  private:
   template <class... Parameters, class... Arguments>
-  void relay(const char* name, void (ReportOperations::*operation)(Parameters...), const Arguments&... arguments);
+  void relay(const char* name, void (ReportOperations::*operation)(Parameters...),
+             const Arguments&... arguments);
 
   ReportOperations* m_engine;
   std::vector<RecordedCall> m_calls;

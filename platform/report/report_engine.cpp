@@ -3,8 +3,12 @@
 namespace report {
 
 ReportEngine::ReportEngine(const QString& programFolder, OpenSink sinks, PrinterDialog dialog)
-    : m_shaper(m_fonts), m_pictures(programFolder), m_painter(m_shaper, m_pictures), m_templates(programFolder),
-      m_sinks(sinks ? std::move(sinks) : printerSinks(programFolder)), m_dialog(std::move(dialog)) {}
+    : m_shaper(m_fonts),
+      m_pictures(programFolder),
+      m_painter(m_shaper, m_pictures),
+      m_templates(programFolder),
+      m_sinks(sinks ? std::move(sinks) : printerSinks(programFolder)),
+      m_dialog(std::move(dialog)) {}
 
 int ReportEngine::PR_StartDC(quintptr, qint64, const QString& title, int) {
   PR_AbortDoc();

@@ -1,14 +1,14 @@
 #pragma once
 
+#include <functional>
+#include <optional>
+
 #include "platform/report/document_sink.h"
 #include "platform/report/hand_page.h"
 #include "platform/report/loaded_form.h"
 #include "platform/report/pdf_document.h"
 #include "platform/report/report_operations.h"
 #include "platform/report/template_store.h"
-
-#include <functional>
-#include <optional>
 
 namespace report {
 
@@ -37,6 +37,7 @@ class ReportEngine final : public ReportOperations {
   int PR_LoadReport(int a, int b, const QString& fileName) override;
   void PR_RepSetText(const QString& item, const QString& text) override;
   void PR_RepSetVisible(const QString& item, int flag) override;
+  /// 0 left, 1 centre, 2 right; the forms' insurer name box is set to 1.
   void PR_RepSetTextAlign(const QString& item, int align) override;
   void PR_PlayReport() override;
   void PR_EndDoc() override;

@@ -31,9 +31,12 @@ void RuleMerger::addBox(const Rect& rect, double rule) {
 void RuleMerger::addLine(const Rect& ends, double rule) {
   Width& width = m_widths[rule];
   const auto span = [](double a, double b) { return Span{onGrid(std::min(a, b)), onGrid(std::max(a, b))}; };
-  if (ends.h == 0) spansAt(width.across, onGrid(ends.y)).push_back(span(ends.x, ends.x + ends.w));
-  else if (ends.w == 0) spansAt(width.down, onGrid(ends.x)).push_back(span(ends.y, ends.y + ends.h));
-  else width.slanting.push_back(ends);
+  if (ends.h == 0)
+    spansAt(width.across, onGrid(ends.y)).push_back(span(ends.x, ends.x + ends.w));
+  else if (ends.w == 0)
+    spansAt(width.down, onGrid(ends.x)).push_back(span(ends.y, ends.y + ends.h));
+  else
+    width.slanting.push_back(ends);
 }
 
 std::vector<RuleMerger::Span> RuleMerger::joined(std::vector<Span> spans) {
@@ -41,8 +44,10 @@ std::vector<RuleMerger::Span> RuleMerger::joined(std::vector<Span> spans) {
   std::vector<Span> result;
   for (const Span& span : spans) {
     // Edges of neighbouring boxes may miss each other by the rounding of the drawing.
-    if (!result.empty() && span.from <= result.back().to + 1) result.back().to = std::max(result.back().to, span.to);
-    else result.push_back(span);
+    if (!result.empty() && span.from <= result.back().to + 1)
+      result.back().to = std::max(result.back().to, span.to);
+    else
+      result.push_back(span);
   }
   return result;
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/report/canvas.h"
-#include "platform/report/form.h"
-
 #include <map>
 #include <vector>
+
+#include "platform/report/canvas.h"
+#include "platform/report/form.h"
 
 namespace report {
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QByteArray>
 #include <ft2build.h>
+
+#include <QByteArray>
 #include FT_FREETYPE_H
 
 namespace report {

@@ -1,11 +1,11 @@
 #include "platform/report/spooler.h"
 
-#include "platform/report/form.h"
-
 #include <cups/cups.h>
 
 #include <algorithm>
 #include <span>
+
+#include "platform/report/form.h"
 
 namespace report {
 
@@ -51,11 +51,14 @@ void addChoice(Options& options, const PrinterChoice& choice) {
   if (choice.copies > 1) options.add(CUPS_COPIES, QString::number(choice.copies));
   if (!choice.media.isEmpty()) options.add(CUPS_MEDIA, choice.media);
   if (choice.sides != Sides::AsPrinter) {
-    const char* sides[] = {"", CUPS_SIDES_ONE_SIDED, CUPS_SIDES_TWO_SIDED_PORTRAIT, CUPS_SIDES_TWO_SIDED_LANDSCAPE};
+    const char* sides[] = {"", CUPS_SIDES_ONE_SIDED, CUPS_SIDES_TWO_SIDED_PORTRAIT,
+                           CUPS_SIDES_TWO_SIDED_LANDSCAPE};
     options.add(CUPS_SIDES, QString::fromLatin1(sides[int(choice.sides)]));
   }
-  if (choice.orientation == Orientation::Portrait) options.add(CUPS_ORIENTATION, QStringLiteral(CUPS_ORIENTATION_PORTRAIT));
-  if (choice.orientation == Orientation::Landscape) options.add(CUPS_ORIENTATION, QStringLiteral(CUPS_ORIENTATION_LANDSCAPE));
+  if (choice.orientation == Orientation::Portrait)
+    options.add(CUPS_ORIENTATION, QStringLiteral(CUPS_ORIENTATION_PORTRAIT));
+  if (choice.orientation == Orientation::Landscape)
+    options.add(CUPS_ORIENTATION, QStringLiteral(CUPS_ORIENTATION_LANDSCAPE));
 }
 
 }  // namespace
@@ -66,10 +69,13 @@ std::vector<PrinterEntry> listPrinters() {
   for (const cups_dest_t& dest : destinations.all()) {
     if (dest.instance) continue;
     const char* info = cupsGetOption("printer-info", dest.num_options, dest.options);
-    printers.push_back({QString::fromUtf8(dest.name), QString::fromUtf8(info ? info : dest.name), dest.is_default != 0});
+    printers.push_back(
+        {QString::fromUtf8(dest.name), QString::fromUtf8(info ? info : dest.name), dest.is_default != 0});
   }
-  const bool chosen = std::any_of(printers.begin(), printers.end(), [](const PrinterEntry& p) { return p.isDefault; });
-  printers.push_back({kFilePrinter, QStringLiteral("PDFファイル（フォルダ 印刷）"), printers.empty() && !chosen});
+  const bool chosen =
+      std::any_of(printers.begin(), printers.end(), [](const PrinterEntry& p) { return p.isDefault; });
+  printers.push_back(
+      {kFilePrinter, QStringLiteral("PDFファイル（フォルダ 印刷）"), printers.empty() && !chosen});
   return printers;
 }
 
@@ -118,15 +124,17 @@ bool Spooler::take(const QByteArray& pdf) {
   addChoice(options, m_choice);
   const QByteArray title = m_title.toUtf8();
   int job = 0;
-  if (cupsCreateDestJob(CUPS_HTTP_DEFAULT, dest, info.get(), &job, title.constData(), options.count(), options.all()) >
-      IPP_STATUS_OK_EVENTS_COMPLETE)
+  if (cupsCreateDestJob(CUPS_HTTP_DEFAULT, dest, info.get(), &job, title.constData(), options.count(),
+                        options.all()) > IPP_STATUS_OK_EVENTS_COMPLETE)
     return false;
-  const auto started = cupsStartDestDocument(CUPS_HTTP_DEFAULT, dest, info.get(), job, title.constData(), CUPS_FORMAT_PDF,
-                                             options.count(), options.all(), 1);
-  bool sent = started == HTTP_STATUS_CONTINUE &&
-              cupsWriteRequestData(CUPS_HTTP_DEFAULT, pdf.constData(), size_t(pdf.size())) == HTTP_STATUS_CONTINUE;
+  const auto started = cupsStartDestDocument(CUPS_HTTP_DEFAULT, dest, info.get(), job, title.constData(),
+                                             CUPS_FORMAT_PDF, options.count(), options.all(), 1);
+  bool sent =
+      started == HTTP_STATUS_CONTINUE &&
+      cupsWriteRequestData(CUPS_HTTP_DEFAULT, pdf.constData(), size_t(pdf.size())) == HTTP_STATUS_CONTINUE;
   if (started == HTTP_STATUS_CONTINUE)
-    sent = cupsFinishDestDocument(CUPS_HTTP_DEFAULT, dest, info.get()) <= IPP_STATUS_OK_EVENTS_COMPLETE && sent;
+    sent =
+        cupsFinishDestDocument(CUPS_HTTP_DEFAULT, dest, info.get()) <= IPP_STATUS_OK_EVENTS_COMPLETE && sent;
   if (!sent) cupsCancelDestJob(CUPS_HTTP_DEFAULT, dest, job);
   return sent;
 }

@@ -1,10 +1,10 @@
 #include "platform/report/template_store.h"
 
-#include "platform/report/prp_loader.h"
-
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+
+#include "platform/report/prp_loader.h"
 
 namespace report {
 

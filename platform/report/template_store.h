@@ -1,9 +1,9 @@
 #pragma once
 
+#include <map>
+
 #include "platform/report/loaded_form.h"
 #include "platform/text/result.h"
-
-#include <map>
 
 namespace report {
 

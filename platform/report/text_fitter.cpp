@@ -7,9 +7,9 @@ namespace report {
 
 namespace {
 
-constexpr double kFloorPt = 2.5;      // smaller type cannot be read on paper
-constexpr double kLeading = 1.15;     // distance of baselines, in em, where there is room
-constexpr double kBaseline = 0.38;    // of the baseline below the middle of the line, in em
+constexpr double kFloorPt = 2.5;    // smaller type cannot be read on paper
+constexpr double kLeading = 1.15;   // distance of baselines, in em, where there is room
+constexpr double kBaseline = 0.38;  // of the baseline below the middle of the line, in em
 constexpr double kShrinkStep = 0.96;
 
 /// Characters that do not open a line.
@@ -18,7 +18,11 @@ bool clings(QChar c) { return QStringView(u"、。，．・）」』】〕ー～
 class Fitter {
  public:
   Fitter(TextShaper& shaper, const Item& item, Align align)
-      : m_shaper(shaper), m_item(item), m_align(align), m_width(item.rect.w * kPointsPerMm), m_height(item.rect.h * kPointsPerMm) {}
+      : m_shaper(shaper),
+        m_item(item),
+        m_align(align),
+        m_width(item.rect.w * kPointsPerMm),
+        m_height(item.rect.h * kPointsPerMm) {}
 
   std::vector<PlacedLine> fit(const QString& text) {
     if (text.isEmpty()) return {};
@@ -102,7 +106,8 @@ class Fitter {
     if (m_item.lines > 2) middle = upper() + step / 2;
     for (const QString& line : lines) {
       ShapedTextPtr shaped = m_shaper.shape(m_item.face, line);
-      if (shaped->length * pt > m_width * 1.001 + 0.01) shaped = m_shaper.shapeCut(m_item.face, line, shownIn(line, pt), false);
+      if (shaped->length * pt > m_width * 1.001 + 0.01)
+        shaped = m_shaper.shapeCut(m_item.face, line, shownIn(line, pt), false);
       const double spare = m_width - shaped->length * pt;
       const double x = m_align == Align::Left ? 0 : m_align == Align::Right ? spare : spare / 2;
       if (!line.isEmpty()) placed.push_back({shaped, left() + x, middle + kBaseline * pt, pt});

@@ -1,7 +1,8 @@
 #include "platform/report/text_shaper.h"
 
-#include <algorithm>
 #include <hb.h>
+
+#include <algorithm>
 
 namespace report {
 
@@ -77,8 +78,10 @@ Run plainRun(const FontSpan& span, double& pen) {
   const bool blanks = std::any_of(span.characters.begin(), span.characters.end(), isBlank);
   for (const char32_t c : span.characters) {
     const unsigned number = span.font->number(c);
-    if (blanks) draft.add({number, pen, 0}, QString::fromUcs4(&c, 1), false);
-    else draft.run.glyphs.push_back({number, pen, 0});
+    if (blanks)
+      draft.add({number, pen, 0}, QString::fromUcs4(&c, 1), false);
+    else
+      draft.run.glyphs.push_back({number, pen, 0});
     pen += span.font->advance(number);
   }
   return draft.finish();
@@ -113,11 +116,13 @@ Run shapedRun(const FontSpan& span, bool vertical, double& pen) {
   return draft.finish();
 }
 
-std::shared_ptr<ShapedText> shapeNow(FontStore& fonts, Typeface face, const std::u32string& text, bool vertical) {
+std::shared_ptr<ShapedText> shapeNow(FontStore& fonts, Typeface face, const std::u32string& text,
+                                     bool vertical) {
   auto shaped = std::make_shared<ShapedText>();
   for (const FontSpan& span : spansByFont(fonts, face, text)) {
     const bool plain = !vertical && std::all_of(span.characters.begin(), span.characters.end(), isPlain);
-    shaped->runs.push_back(plain ? plainRun(span, shaped->length) : shapedRun(span, vertical, shaped->length));
+    shaped->runs.push_back(plain ? plainRun(span, shaped->length)
+                                 : shapedRun(span, vertical, shaped->length));
   }
   return shaped;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/report/font_store.h"
-
 #include <vector>
+
+#include "platform/report/font_store.h"
 
 namespace report {
 

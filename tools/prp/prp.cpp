@@ -22,7 +22,8 @@ int check(const QStringList& files, QTextStream& out, QTextStream& err) {
   int faults = 0;
   for (const QString& file : files) {
     const auto form = load(file);
-    const QStringList found = form.ok() ? report::checkForm(*form.value()) : QStringList{form.fault().message};
+    const QStringList found =
+        form.ok() ? report::checkForm(*form.value()) : QStringList{form.fault().message};
     for (const QString& fault : found) err << fault << '\n';
     if (found.isEmpty()) out << file << ": " << form.value()->items.size() << " items\n";
     faults += int(found.size());
@@ -31,7 +32,8 @@ int check(const QStringList& files, QTextStream& out, QTextStream& err) {
 }
 
 int dump(const report::Form& form, QTextStream& out) {
-  out << "form " << form.name << "  " << form.paper.word << ' ' << form.width() << " x " << form.height() << " mm\n";
+  out << "form " << form.name << "  " << form.paper.word << ' ' << form.width() << " x " << form.height()
+      << " mm\n";
   int block = -1;
   for (const report::Item& item : form.items) {
     if (item.block != block) out << "block " << form.blocks.value(block = item.block) << '\n';
@@ -40,8 +42,8 @@ int dump(const report::Form& form, QTextStream& out) {
         << (item.vertical ? " vertical" : "") << (item.hidden ? " hidden" : " shown");
     if (!item.text.isEmpty()) out << " \"" << item.text << '"';
     for (const report::Placement& place : item.placements)
-      out << " \"" << place.words.join(u'|') << "\" " << place.rect.x << ' ' << place.rect.y << ' ' << place.rect.w
-          << ' ' << place.rect.h;
+      out << " \"" << place.words.join(u'|') << "\" " << place.rect.x << ' ' << place.rect.y << ' '
+          << place.rect.w << ' ' << place.rect.h;
     out << '\n';
   }
   return 0;
@@ -64,7 +66,8 @@ int main(int argc, char** argv) {
   const QStringList arguments = application.arguments().mid(1);
   const QString command = arguments.value(0);
   if (command == u"check" && arguments.size() > 1) return check(arguments.mid(1), out, err);
-  const bool known = (command == u"dump" && arguments.size() == 2) || (command == u"preview" && arguments.size() == 3);
+  const bool known =
+      (command == u"dump" && arguments.size() == 2) || (command == u"preview" && arguments.size() == 3);
   if (!known) {
     err << "prp check FILE... | prp dump FILE | prp preview FILE OUT.png\n";
     return 2;

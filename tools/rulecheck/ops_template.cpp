@@ -9,9 +9,11 @@ namespace rulecheck {
 namespace {
 
 QJsonObject describe(const report::Item& item) {
-  QJsonObject row{{"name", item.name}, {"kind", report::kindWord(item.kind)}, {"x", item.rect.x},
-                  {"y", item.rect.y},  {"w", item.rect.w},                    {"h", item.rect.h},
-                  {"pt", item.pt},     {"hidden", item.hidden},               {"text", item.text}};
+  QJsonObject row{{"name", item.name}, {"kind", report::kindWord(item.kind)},
+                  {"x", item.rect.x},  {"y", item.rect.y},
+                  {"w", item.rect.w},  {"h", item.rect.h},
+                  {"pt", item.pt},     {"hidden", item.hidden},
+                  {"text", item.text}};
   QJsonArray places;
   for (const report::Placement& placement : item.placements)
     places.append(QJsonObject{{"words", QJsonArray::fromStringList(placement.words)},

@@ -18,7 +18,8 @@ class EngineTest : public ::testing::Test {
 
   /// One page of the template with these items shown and set, as a document.
   QByteArray printed(const QString& name, const std::vector<std::pair<QString, QString>>& items) {
-    EXPECT_LE(m_engine.PR_StartDC(0, m_engine.PR_GetPrinterDC(), QStringLiteral("見本"), kStartFlags), kStartFailureAbove);
+    EXPECT_LE(m_engine.PR_StartDC(0, m_engine.PR_GetPrinterDC(), QStringLiteral("見本"), kStartFlags),
+              kStartFailureAbove);
     EXPECT_EQ(m_engine.PR_LoadReport(0, 0, name), 0);
     for (const auto& [item, text] : items) {
       m_engine.PR_RepSetVisible(item, kShown);

@@ -12,7 +12,8 @@ namespace {
 class FilePrinterTest : public ::testing::Test {
  protected:
   bool print(const QString& title, const QByteArray& pdf) {
-    FilePrinter printer(m_folder.path(), std::make_shared<text::FixedClock>(QDate(2024, 11, 5), QTime(9, 8, 7)));
+    FilePrinter printer(m_folder.path(),
+                        std::make_shared<text::FixedClock>(QDate(2024, 11, 5), QTime(9, 8, 7)));
     return printer.open(title) && printer.take(pdf);
   }
   QStringList files() const {

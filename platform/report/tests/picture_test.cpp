@@ -42,7 +42,8 @@ TEST(Bitmap, isReadFromTheBottomUp) {
 
 TEST(Bitmap, damageIsNoPicture) {
   const QByteArray good = bitmap();
-  for (qsizetype length = 0; length < good.size() - 2; ++length) EXPECT_FALSE(readBitmap(good.left(length))) << length;
+  for (qsizetype length = 0; length < good.size() - 2; ++length)
+    EXPECT_FALSE(readBitmap(good.left(length))) << length;
   for (const auto& [place, value] : {std::pair(18, -1), {22, 0}, {28, 7}, {30, 1}, {10, 127}}) {
     QByteArray bad = good;
     bad[place] = char(value);
@@ -61,7 +62,9 @@ TEST_F(PictureItem, drawsTheFileThatTheTextNames) {
   file.write(bitmap());
   file.close();
   writeTemplate("F.PRP", "form F\npicture stamp 10 10 20 20\n");
-  const auto images = [](const QByteArray& pdf) { return runOnPdf("pdfimages", {"-list"}, pdf).count(" rgb "); };
+  const auto images = [](const QByteArray& pdf) {
+    return runOnPdf("pdfimages", {"-list"}, pdf).count(" rgb ");
+  };
   EXPECT_EQ(images(printed("F.PRP", {{"stamp", "#BMP=GDATA\\in.bmp"}})), 1);
   EXPECT_EQ(images(printed("F.PRP", {{"stamp", "#BMP=" + m_folder.filePath("GDATA/in.bmp")}})), 1);
   EXPECT_EQ(images(printed("F.PRP", {{"stamp", "#BMP=GDATA/none.bmp"}})), 0);

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <map>
+#include <random>
 
 #include "platform/report/form_check.h"
 
@@ -41,7 +43,8 @@ struct FaultRow {
 class LoaderFault : public ::testing::TestWithParam<FaultRow> {};
 
 TEST_P(LoaderFault, namesFileLineAndWhatWasExpected) {
-  const auto form = load({{"A.PRP", QString::fromUtf8(GetParam().content)}, {"B.PRP", "form B\nbase A\n"}}, "A.PRP");
+  const auto form =
+      load({{"A.PRP", QString::fromUtf8(GetParam().content)}, {"B.PRP", "form B\nbase A\n"}}, "A.PRP");
   ASSERT_FALSE(form.ok());
   EXPECT_EQ(form.fault().message.toStdString(), GetParam().fault);
 }
@@ -55,11 +58,13 @@ INSTANTIATE_TEST_SUITE_P(
         FaultRow{"form A\ntext T 1 1 1\n", "A.PRP:2: expected the height in mm"},
         FaultRow{"form A\ntext T 1 x 1 1\n", "A.PRP:2: expected the upper edge in mm"},
         FaultRow{"form A\ntext T 1 nan 1 1\n", "A.PRP:2: expected the upper edge in mm"},
+        FaultRow{"form A\ntext T 1 1 3000 1\n", "A.PRP:2: expected the width in mm"},
         FaultRow{"form A\ntext T 1 1 0 1\n", "A.PRP:2: expected a width and a height above zero"},
         FaultRow{"form A\ntext T 1 1 1 1 pt 0\n", "A.PRP:2: expected a size above zero"},
         FaultRow{"form A\n\ntext T 1 1 1 1 \"open\n", "A.PRP:3: expected a closing quote"},
         FaultRow{"form A\ntext T 1 1 1 1 bold\n", "A.PRP:2: expected an option or a text in quotes"},
-        FaultRow{"form A\ntext T 1 1 1 1\ntext T 2 2 1 1\n", "A.PRP:3: expected a new name, T stands already"},
+        FaultRow{"form A\ntext T 1 1 1 1\ntext T 2 2 1 1\n",
+                 "A.PRP:3: expected a new name, T stands already"},
         FaultRow{"form A\ntext T 1 1 1 1 before U\n", "A.PRP:2: expected the name of an item above, not U"},
         FaultRow{"form A\ntext T9..1 1 1 1 1\n", "A.PRP:2: expected a family like day1..31"},
         FaultRow{"form A\nlabel Text1..3 1 1 9 1 \"a\" \"b\"\n",
@@ -73,7 +78,8 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Loader, keepsDataHiddenAndTheFrameShown) {
   const FormPtr form = one(
       "label Text1 1 1 9 5 \"a\"\nbox Box1 1 1 9 5\nline Line1 1 1 9 1\ntext T 1 1 9 5\ndigits N 1 1 9 5\n"
-      "mark M 1 1 9 5\nchoice C \"x\" 1 1 9 5\npicture P 1 1 9 5\ntext S 1 1 9 5 shown\nlabel Text2 1 1 9 5 hidden");
+      "mark M 1 1 9 5\nchoice C \"x\" 1 1 9 5\npicture P 1 1 9 5\ntext S 1 1 9 5 shown\nlabel Text2 1 1 9 5 "
+      "hidden");
   for (const char* name : {"Text1", "Box1", "Line1", "S"}) EXPECT_FALSE(item(form, name).hidden) << name;
   for (const char* name : {"T", "N", "M", "C", "P", "Text2"}) EXPECT_TRUE(item(form, name).hidden) << name;
 }
@@ -109,21 +115,24 @@ TEST(Loader, namesDifferByEveryLetter) {
 TEST(Loader, readsTheSpellingsOfAChoice) {
   const Item c = item(one("choice C circle \"業務上\" 1 2 3 4 \"第三者行為である|第三者行為\" 5 6 7 8"), "C");
   ASSERT_EQ(c.placements.size(), 2u);
-  EXPECT_EQ(c.placements[1].words, (QStringList{QStringLiteral("第三者行為である"), QStringLiteral("第三者行為")}));
+  EXPECT_EQ(c.placements[1].words,
+            (QStringList{QStringLiteral("第三者行為である"), QStringLiteral("第三者行為")}));
   EXPECT_DOUBLE_EQ(c.placements[1].rect.x, 5);
   EXPECT_EQ(c.shape, Shape::Circle);
 }
 
 const QString kBase = QStringLiteral(
-    "form A\ntitle 元の様式\npaper A4\nblock 頭\ntext T 1 1 9 5 pt 9\ntext U 1 9 9 5\nlabel Text1 1 1 9 5 \"a\"\n"
+    "form A\ntitle 元の様式\npaper A4\nblock 頭\ntext T 1 1 9 5 pt 9\ntext U 1 9 9 5\nlabel Text1 1 1 9 5 "
+    "\"a\"\n"
     "digits d1..3 10 10 30 5");
 
 TEST(Base, inheritsAllAndChangesWhatIsTold) {
-  const FormPtr form = good({{"A.PRP", kBase},
-                             {"B.PRP",
-                              "form B\nbase A\nmove T 20 30\nsize T 40 6\nfont T pt 7 gothic right\ntext Text1 \"new\"\n"
-                              "drop U\nshow d2\nhide Text1\n"}},
-                            "B.PRP");
+  const FormPtr form =
+      good({{"A.PRP", kBase},
+            {"B.PRP",
+             "form B\nbase A\nmove T 20 30\nsize T 40 6\nfont T pt 7 gothic right\ntext Text1 \"new\"\n"
+             "drop U\nshow d2\nhide Text1\n"}},
+           "B.PRP");
   EXPECT_EQ(form->name, "B");
   EXPECT_EQ(form->title, QStringLiteral("元の様式"));
   const Item t = item(form, "T");
@@ -147,7 +156,8 @@ TEST(Base, movesAFamilyAsAWhole) {
 }
 
 TEST(Base, putsANewItemIntoTheReadingOrder) {
-  const FormPtr form = good({{"A.PRP", kBase}, {"B.PRP", "form B\nbase A\ntext G 1 1 4 4 before U\n"}}, "B.PRP");
+  const FormPtr form =
+      good({{"A.PRP", kBase}, {"B.PRP", "form B\nbase A\ntext G 1 1 4 4 before U\n"}}, "B.PRP");
   EXPECT_EQ(form->find("G") + 1, form->find("U"));
   EXPECT_EQ(item(form, "G").block, item(form, "U").block);
 }
@@ -168,6 +178,33 @@ TEST(Base, refusesToChangeAnItemThatIsNotThere) {
   EXPECT_EQ(form.fault().message, "B.PRP:3: expected the name of an item of the base, not X");
 }
 
+TEST(Loader, anyDamageIsAFaultAndNeverMore) {
+  QFile file(QStringLiteral(SOURCE_FOLDER "/templates/HARI_900.PRP"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray whole = file.readAll();
+  const QByteArray letters =
+      "\"#|.-09 \n\t\xFF"
+      "az";
+  std::mt19937 random(900);
+  int faults = 0;
+  for (int round = 0; round < 300; ++round) {
+    QByteArray bytes = whole;
+    for (int i = 0; i < 5; ++i) {
+      const qsizetype at = qsizetype(random() % size_t(bytes.size()));
+      if (random() % 3 == 0)
+        bytes.remove(at, qsizetype(random() % 40));
+      else
+        bytes[at] = letters[qsizetype(random() % size_t(letters.size()))];
+    }
+    const auto form = load({{"A.PRP", QString::fromUtf8(bytes)}}, "A.PRP");
+    if (form.ok()) continue;
+    ++faults;
+    EXPECT_TRUE(form.fault().message.startsWith("A.PRP:") && form.fault().message.contains(": expected "))
+        << form.fault().message.toStdString();
+  }
+  EXPECT_GT(faults, 50);
+}
+
 TEST(Papers, jisSizesAreNotTheIsoOnes) {
   EXPECT_DOUBLE_EQ(findPaper("JIS-B5")->w, 182);
   EXPECT_DOUBLE_EQ(findPaper("JIS-B5")->h, 257);
@@ -176,14 +213,16 @@ TEST(Papers, jisSizesAreNotTheIsoOnes) {
 
 TEST(FrameNames, areTheFourFamiliesWithANumber) {
   for (const char* name : {"Text1", "Box1000", "Line7", "waku_12"}) EXPECT_TRUE(isFrameName(name)) << name;
-  for (const char* name : {"Text", "Text1a", "Texts1", "Name1", "waku1", "day1"}) EXPECT_FALSE(isFrameName(name)) << name;
+  for (const char* name : {"Text", "Text1a", "Texts1", "Name1", "waku1", "day1"})
+    EXPECT_FALSE(isFrameName(name)) << name;
 }
 
 TEST(Check, tellsWhatIsWrongWithAReadableForm) {
-  const FormPtr form = good({{"A.PRP",
-                              "form A\ntext T 200 10 20 5\ntext U 10 10 20 2 pt 10\nlabel Caption 1 1 9 5 \"x\"\n"
-                              "mark Text9 1 1 5 5\ntext V 10 20 20 5 pt 9 wrap 2\ntext W 10 290 20 7 pt 9"}},
-                            "A.PRP");
+  const FormPtr form =
+      good({{"A.PRP",
+             "form A\ntext T 200 10 20 5\ntext U 10 10 20 2 pt 10\nlabel Caption 1 1 9 5 \"x\"\n"
+             "mark Text9 1 1 5 5\ntext V 10 20 20 5 pt 9 wrap 2\ntext W 10 290 20 7 pt 9"}},
+           "A.PRP");
   EXPECT_EQ(checkForm(*form).join("\n").toStdString(),
             "A.PRP:2: T is off the page\n"
             "A.PRP:3: U is 2 mm for type of 3.53 mm\n"

@@ -13,9 +13,10 @@ TEST(Recording, keepsCallsInOrderWithTheirArguments) {
   recording.PR_RepSetText("Name8", QStringLiteral("見本"));
   recording.PR_Output(1.5f, -2.0f, "x");
   recording.PR_EndDoc();
-  EXPECT_EQ(recording.names(), (QStringList{"PR_GetPrinterDC", "PR_StartDC", "PR_LoadReport", "PR_RepSetVisible",
-                                            "PR_RepSetText", "PR_Output", "PR_EndDoc"}));
-  EXPECT_EQ(recording.calls()[1].arguments, (QVariantList{quint64(7), qint64(1), QStringLiteral("申請書鍼"), 262144}));
+  EXPECT_EQ(recording.names(), (QStringList{"PR_GetPrinterDC", "PR_StartDC", "PR_LoadReport",
+                                            "PR_RepSetVisible", "PR_RepSetText", "PR_Output", "PR_EndDoc"}));
+  EXPECT_EQ(recording.calls()[1].arguments,
+            (QVariantList{quint64(7), qint64(1), QStringLiteral("申請書鍼"), 262144}));
   EXPECT_EQ(recording.calls()[5].arguments, (QVariantList{1.5f, -2.0f, "x"}));
 }
 

@@ -1,12 +1,13 @@
-#include "platform/report/tests/engine_fixture.h"
-
 #include <QRegularExpression>
+
+#include "platform/report/tests/engine_fixture.h"
 
 namespace report::testing {
 namespace {
 
 const QString kForm = QStringLiteral(
-    "form F\npaper A4\nblock 一\nlabel Text1 20 20 60 6 \"固定の文字\"\nlabel Text2 20 30 60 6 \"隠れた文字\" hidden\n"
+    "form F\npaper A4\nblock 一\nlabel Text1 20 20 60 6 \"固定の文字\"\nlabel Text2 20 30 60 6 "
+    "\"隠れた文字\" hidden\n"
     "box Box1 20 20 60 6\nline Line1 20 40 80 40\nline waku_1 20 45 80 45\ntext Name1 20 50 80 6\n"
     "text Name2 20 60 80 6\ntext note 20 70 80 6 \"控えの文字\"\ndigits no1..3 20 80 30 6\n"
     "mark M 20 90 10 5\nchoice seikyu2 \"新規\" 20 100 10 5 \"継続\" 40 100 10 5\n");
@@ -54,18 +55,21 @@ TEST_F(Engine, showingAnItemPrintsTheTextThatTheTemplateStores) {
   m_engine.PR_PlayReport();
   m_engine.PR_EndDoc();
   EXPECT_EQ(linesOf(m_documents.at(0).pdf),
-            (QStringList{QStringLiteral("固定の文字"), QStringLiteral("隠れた文字"), QStringLiteral("控えの文字")}));
+            (QStringList{QStringLiteral("固定の文字"), QStringLiteral("隠れた文字"),
+                         QStringLiteral("控えの文字")}));
 }
 
 TEST_F(Engine, aLabelCanGetAnotherText) {
   const QStringList lines = linesOf(printed("F.PRP", {{"Text1", QStringLiteral("住　所")}}));
   EXPECT_EQ(lines, QStringList{QStringLiteral("住　所")});
-  EXPECT_EQ(linesOf(printed("F.PRP", {})), QStringList{QStringLiteral("固定の文字")}) << "and the next page has its own";
+  EXPECT_EQ(linesOf(printed("F.PRP", {})), QStringList{QStringLiteral("固定の文字")})
+      << "and the next page has its own";
 }
 
 TEST_F(Engine, itemsThatTheTemplateLacksDoNoHarm) {
   m_engine.PR_RepSetText("Name1", "no template is loaded");
-  const QByteArray pdf = printed("F.PRP", {{"Name1", "A"}, {"nyuuin2", QStringLiteral("入院")}, {"Name１", "B"}});
+  const QByteArray pdf =
+      printed("F.PRP", {{"Name1", "A"}, {"nyuuin2", QStringLiteral("入院")}, {"Name１", "B"}});
   EXPECT_EQ(linesOf(pdf), (QStringList{QStringLiteral("固定の文字"), "A"}));
 }
 
@@ -73,7 +77,8 @@ TEST_F(Engine, hidingTheFramesFourFamiliesLeavesOnlyTheData) {
   m_engine.PR_StartDC(0, 1, "x", kStartFlags);
   ASSERT_EQ(m_engine.PR_LoadReport(0, 0, "F.PRP"), 0);
   for (int n = 1; n <= 1000; ++n)
-    for (const char* stem : {"waku_", "Box", "Line", "Text"}) m_engine.PR_RepSetVisible(stem + QString::number(n), kHidden);
+    for (const char* stem : {"waku_", "Box", "Line", "Text"})
+      m_engine.PR_RepSetVisible(stem + QString::number(n), kHidden);
   m_engine.PR_RepSetVisible("Name1", kShown);
   m_engine.PR_RepSetText("Name1", QStringLiteral("項目のみ"));
   m_engine.PR_PlayReport();
@@ -95,6 +100,20 @@ TEST_F(Engine, digitsStandInTheirBoxes) {
     const double at = (match.captured(1).toDouble() + match.captured(2).toDouble()) / 2 * kMmPerPoint;
     EXPECT_NEAR(at, middle, 0.2);
   }
+}
+
+TEST_F(Engine, aTextCanBeCentredInItsPlace) {
+  m_engine.PR_StartDC(0, 1, "x", kStartFlags);
+  ASSERT_EQ(m_engine.PR_LoadReport(0, 0, "F.PRP"), 0);
+  m_engine.PR_RepSetVisible("Name1", kShown);
+  m_engine.PR_RepSetText("Name1", QStringLiteral("国"));
+  m_engine.PR_RepSetTextAlign("Name1", 1);
+  m_engine.PR_PlayReport();
+  m_engine.PR_EndDoc();
+  const auto match = QRegularExpression(QStringLiteral("xMin=\"([\\d.]+)\".*xMax=\"([\\d.]+)\".*>国<"))
+                         .match(textOf(m_documents.at(0).pdf, {"-bbox"}));
+  // The place is 80 mm wide from 20 mm on.
+  EXPECT_NEAR((match.captured(1).toDouble() + match.captured(2).toDouble()) / 2 * kMmPerPoint, 60, 0.1);
 }
 
 TEST_F(Engine, aMarkNeedsNoTextAndAChoiceNeedsOneOfItsWords) {
@@ -127,7 +146,8 @@ TEST_F(Engine, aDamagedTemplateIsToldByTheResultAndItsRepairIsSeen) {
 TEST_F(Engine, aTemplateIsReadAgainWhenItsBaseChanges) {
   writeTemplate("G.PRP", "form G\nbase F\n");
   EXPECT_EQ(linesOf(printed("G.PRP", {})), QStringList{QStringLiteral("固定の文字")});
-  writeTemplate("F.PRP", QString(kForm).replace(QStringLiteral("固定の文字"), QStringLiteral("変わった文字列")));
+  writeTemplate("F.PRP",
+                QString(kForm).replace(QStringLiteral("固定の文字"), QStringLiteral("変わった文字列")));
   EXPECT_EQ(linesOf(printed("G.PRP", {})), QStringList{QStringLiteral("変わった文字列")});
 }
 

@@ -11,9 +11,10 @@ class Exactness : public EngineTest, public ::testing::WithParamInterface<const 
  protected:
   void SetUp() override {
     if (!canReadPdf()) GTEST_SKIP() << "pdftotext is not installed";
-    writeTemplate("F.PRP",
-                  "form F\ntext wide 10 10 190 8 pt 10\ntext thin 10 20 12 4 pt 10\ntext two 10 30 40 8 pt 9 wrap 2\n"
-                  "text tall 10 50 5 200 pt 10 vertical\ntext gothic 30 50 160 8 gothic\n");
+    writeTemplate(
+        "F.PRP",
+        "form F\ntext wide 10 10 190 8 pt 10\ntext thin 10 20 12 4 pt 10\ntext two 10 30 40 8 pt 9 wrap 2\n"
+        "text tall 10 50 5 200 pt 10 vertical\ntext gothic 30 50 160 8 gothic\n");
   }
 };
 
@@ -24,14 +25,14 @@ TEST_P(Exactness, readsBackAsItWasSet) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, Exactness,
-                         ::testing::Values("支給氏名生年月日用金高",            // share glyphs with radicals
-                                           "⽀⽒⽣⽇⽉",                        // the radicals themselves
-                                           "支⽀支",                            // both in one text
-                                           "東京都　架空区　見本町",            // ideographic blanks
-                                           "10時～12時", "波〜線",             // the two waves
-                                           "－−―ー‐-", "①②③○◎", "ｶﾅﾊﾝｶｸ ﾀﾞﾐｰ",
-                                           "A B  C", "(\\)<>[]/%", "髙﨑神德", "𠮷野家𡈽𠮟", "鄧小平鰯",
-                                           "が゙は゜", "葛󠄀城 辻󠄀", "한글", "Ωμέγα"));
+                         ::testing::Values("支給氏名生年月日用金高",  // share glyphs with radicals
+                                           "⽀⽒⽣⽇⽉",              // the radicals themselves
+                                           "支⽀支",                  // both in one text
+                                           "東京都　架空区　見本町",  // ideographic blanks
+                                           "10時～12時", "波〜線",    // the two waves
+                                           "－−―ー‐-", "①②③○◎", "ｶﾅﾊﾝｶｸ ﾀﾞﾐｰ", "A B  C", "(\\)<>[]/%",
+                                           "髙﨑神德", "𠮷野家𡈽𠮟", "鄧小平鰯", "が゙は゜",
+                                           "葛󠄀城 辻󠄀", "한글", "Ωμέγα"));
 
 using Fitting = Exactness;
 
@@ -43,7 +44,8 @@ TEST_F(Fitting, overlongTextShrinksAndIsNeverLost) {
 
 TEST_F(Fitting, overlongTextStaysInsideItsRectangle) {
   const QByteArray pdf = printed("F.PRP", {{"thin", QString(80, u'国')}});
-  const auto match = QRegularExpression("xMin=\"([\\d.]+)\".*xMax=\"([\\d.]+)\"").match(textOf(pdf, {"-bbox"}));
+  const auto match =
+      QRegularExpression("xMin=\"([\\d.]+)\".*xMax=\"([\\d.]+)\"").match(textOf(pdf, {"-bbox"}));
   ASSERT_TRUE(match.hasMatch());
   EXPECT_GE(match.captured(1).toDouble() * kMmPerPoint, 10 - 0.1);
   EXPECT_LE(match.captured(2).toDouble() * kMmPerPoint, 22 + 0.1);
@@ -78,8 +80,10 @@ TEST_F(Fitting, verticalTextRunsDownAndReadsBack) {
 }
 
 TEST_F(Fitting, textsOfManyDocumentsDoNotDisturbEachOther) {
-  EXPECT_EQ(linesOf(printed("F.PRP", {{"wide", QStringLiteral("⽣⽇")}})), QStringList{QStringLiteral("⽣⽇")});
-  EXPECT_EQ(linesOf(printed("F.PRP", {{"wide", QStringLiteral("生日")}})), QStringList{QStringLiteral("生日")});
+  EXPECT_EQ(linesOf(printed("F.PRP", {{"wide", QStringLiteral("⽣⽇")}})),
+            QStringList{QStringLiteral("⽣⽇")});
+  EXPECT_EQ(linesOf(printed("F.PRP", {{"wide", QStringLiteral("生日")}})),
+            QStringList{QStringLiteral("生日")});
 }
 
 }  // namespace

@@ -1,15 +1,15 @@
 // Against a print service of its own: cupsd on a socket in a temporary folder, with one queue whose
 // backend keeps what it is sent.
 
+#include <cups/cups.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QThread>
-#include <cups/cups.h>
 #include <functional>
-#include <unistd.h>
 
 #include "platform/report/report_engine.h"
 #include "platform/report/tests/pdf_reading.h"
@@ -157,11 +157,13 @@ class SpoolerTest : public ::testing::Test {
     for (const char* folder : {"etc/ppd", "spool/tmp", "cache", "state", "log", "bin/backend", "out"})
       QDir().mkpath(path(folder));
     for (const char* part : {"filter", "daemon", "monitor", "notifier", "driver", "cgi-bin"})
-      if (QFile::exists(kSystemBin + u'/' + part)) QFile::link(kSystemBin + u'/' + part, path(QStringLiteral("bin/") + part));
+      if (QFile::exists(kSystemBin + u'/' + part))
+        QFile::link(kSystemBin + u'/' + part, path(QStringLiteral("bin/") + part));
     const bool root = geteuid() == 0;
-    const QString who = root ? QStringLiteral("User lp\nGroup lp\nSystemGroup lpadmin\n")
-                             : QStringLiteral("User %1\nGroup %2\nSystemGroup %2\n")
-                                   .arg(QFileInfo(m_folder.path()).owner(), QFileInfo(m_folder.path()).group());
+    const QString who =
+        root ? QStringLiteral("User lp\nGroup lp\nSystemGroup lpadmin\n")
+             : QStringLiteral("User %1\nGroup %2\nSystemGroup %2\n")
+                   .arg(QFileInfo(m_folder.path()).owner(), QFileInfo(m_folder.path()).group());
     put("etc/cupsd.conf", QString::fromUtf8(kConf).arg(m_folder.path()));
     put("etc/cups-files.conf", QString::fromUtf8(kFilesConf).arg(m_folder.path(), who));
     put("etc/printers.conf", QString::fromUtf8(kPrinters));
@@ -211,7 +213,8 @@ TEST_F(SpoolerTest, aDocumentArrivesWithTitleOptionsAndText) {
   engine.printerChoice().media = QStringLiteral("jis_b5_182x257mm");
   engine.printerChoice().sides = Sides::LongEdge;
   engine.printerChoice().orientation = Orientation::Landscape;
-  ASSERT_LE(engine.PR_StartDC(0, engine.PR_GetPrinterDC(), QStringLiteral("申請書鍼"), kStartFlags), kStartFailureAbove);
+  ASSERT_LE(engine.PR_StartDC(0, engine.PR_GetPrinterDC(), QStringLiteral("申請書鍼"), kStartFlags),
+            kStartFailureAbove);
   ASSERT_EQ(engine.PR_LoadReport(0, 0, "F.PRP"), 0);
   engine.PR_RepSetVisible("Name8", kShown);
   engine.PR_RepSetText("Name8", QStringLiteral("支給　見本～"));
@@ -220,7 +223,8 @@ TEST_F(SpoolerTest, aDocumentArrivesWithTitleOptionsAndText) {
   const QStringList told = job();
   EXPECT_EQ(told.value(0), QStringLiteral("申請書鍼"));
   EXPECT_EQ(told.value(1), "2");
-  EXPECT_TRUE(told.value(2).contains("jis_b5_182x257mm") || told.value(2).contains("PageSize=B5")) << told.value(2).toStdString();
+  EXPECT_TRUE(told.value(2).contains("jis_b5_182x257mm") || told.value(2).contains("PageSize=B5"))
+      << told.value(2).toStdString();
   EXPECT_TRUE(told.value(2).contains("two-sided-long-edge")) << told.value(2).toStdString();
   EXPECT_TRUE(told.value(2).contains("orientation-requested=4")) << told.value(2).toStdString();
   EXPECT_EQ(linesOf(page()), QStringList{QStringLiteral("支給　見本～")});
@@ -234,7 +238,8 @@ TEST_F(SpoolerTest, aServiceThatDiesBetweenStartAndEndDoesNotLoseTheDocument) {
   form.write("form F\ntext Name8 20 20 100 8\n");
   form.close();
   ReportEngine engine(program.path());
-  ASSERT_LE(engine.PR_StartDC(0, engine.PR_GetPrinterDC(), QStringLiteral("申請書マ"), kStartFlags), kStartFailureAbove);
+  ASSERT_LE(engine.PR_StartDC(0, engine.PR_GetPrinterDC(), QStringLiteral("申請書マ"), kStartFlags),
+            kStartFailureAbove);
   ASSERT_EQ(engine.PR_LoadReport(0, 0, "F.PRP"), 0);
   engine.PR_PlayReport();
   m_cupsd.kill();
