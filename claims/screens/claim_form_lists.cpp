@@ -1,6 +1,7 @@
 #include "claims/screens/claim_form_lists.h"
 
 #include "claims/core/form_lists.h"
+#include "platform/store/sources.h"
 #include "platform/store/connection.h"
 
 namespace claims {
@@ -43,13 +44,13 @@ const Row* at(const QVector<Row>& rows, int position) {
 
 ClaimFormLists ClaimFormLists::read(const frame::DataFolders& folders) {
   ClaimFormLists lists;
-  eachRow(folders[frame::folder::kDoctors], QStringLiteral("SELECT * FROM 同意医師 ORDER BY ID"),
+  eachRow(folders[frame::folder::kDoctors], QString::fromUtf16(store::source::kDoctors),
           lists.faults, [&](const store::Cursor& row) {
             lists.doctors.append({row.value(QStringLiteral("氏名")), row.value(QStringLiteral("フリガナ")),
                                   row.value(QStringLiteral("住所")), row.value(QStringLiteral("TEL")),
                                   row.value(QStringLiteral("病院名"))});
           });
-  eachRow(folders[frame::folder::kInsurers], QStringLiteral("SELECT * FROM 保険者"), lists.faults,
+  eachRow(folders[frame::folder::kInsurers], QString::fromUtf16(store::source::kInsurers), lists.faults,
           [&](const store::Cursor& row) {
             lists.insurers.append({row.value(QStringLiteral("名称")), row.value(QStringLiteral("番号")),
                                    row.value(QStringLiteral("所在地"))});

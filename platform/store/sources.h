@@ -7,5 +7,8 @@ namespace store::source {
 
 /// Fee editions of a file, the ruling one first.
 inline constexpr char16_t kFeesNewestFirst[] = u"SELECT * FROM 料金設定 ORDER BY ID desc";
+/// The registers behind the lists of the claim form.
+inline constexpr char16_t kDoctors[] = u"SELECT * FROM 同意医師 ORDER BY ID";
+inline constexpr char16_t kInsurers[] = u"SELECT * FROM 保険者";
 
 }  // namespace store::source
