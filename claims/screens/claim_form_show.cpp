@@ -111,6 +111,7 @@ bool ClaimFormScreen::showClaim(qint64 id) {
 
 void ClaimFormScreen::showPair() {
   const qint64 id = source(1).rows().bookmark();
+  if (id != m_id) markCut({});  // red captions stay over a store of the claim that they belong to
   m_id = id;
   if (!showSecond()) return showNothing();
   auto read = m_file->read(id);
@@ -172,7 +173,6 @@ void ClaimFormScreen::takeValuesOfShow() {
   applyMonth();
   applyVisitTable();
   applyAreaWarning(false);
-  markCut({});
 }
 
 void ClaimFormScreen::applyKind() {

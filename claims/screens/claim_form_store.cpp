@@ -21,13 +21,12 @@ void ClaimFormScreen::store() {
   const frame::EraDates era = m_run.eraDates();
   const FeeFiles files(m_run.programFolder, m_run.folders);
   const StoredClaim stored = storeClaim(record(), {era, files, m_fees});
-  const bool written = stored.calculation ? false : writeClaim(stored.claim);
-  if (stored.calculation) messages().tellDataFault(stored.calculation->message);
-  if (!written) return;
+  if (!writeClaim(stored.claim)) return;
 
   if (const text::Done done = source(1).rows().refresh(); !done)
     messages().tellDataFault(done.fault().message);
   showClaim(m_id);
+  if (stored.calculation) messages().tellDataFault(stored.calculation->message);
   sayStored(stored.amounts);
   if (m_opener == u"治療台帳3") navigator().show(m_opener);
 }

@@ -167,6 +167,10 @@ TEST_F(ClaimFormStore, OverlongTextsAreCutMarkedAndTold) {
                             u"削った項目名は赤字になっています。"),
                          kQuestion}));
   EXPECT_EQ(stored(id).get(qs(u"被保険者との続柄")), qs(u"あいうえ"));
+  EXPECT_TRUE(m_form->isCaptionRed(qs(u"txtFields(29)")));
+  add(acupuncture());
+  open(id + 1);
+  EXPECT_FALSE(m_form->isCaptionRed(qs(u"txtFields(29)")));
   EXPECT_EQ(stored(id).get(qs(u"傷病名8")).size(), 10);
 }
 
@@ -234,15 +238,24 @@ TEST_F(ClaimFormStore, AClaimThatChangedMeanwhileIsRefused) {
   EXPECT_EQ(stored(id).get(qs(u"摘要1")), qs(u"別の計算機"));
 }
 
-TEST_F(ClaimFormStore, AMissingFeeFileIsToldAndNothingIsWritten) {
+TEST_F(ClaimFormStore, AMissingFeeFileIsToldAndLeavesTheClaimWithoutAmounts) {
   const qint64 id = add(acupuncture());
   open(id);
+  answer({true});
+  press(qs(u"cmdUpdate"));
+  EXPECT_EQ(stored(id).get(qs(u"合計")), qs(u"4600"));
+  told();
   QFile::remove(m_run.folders[frame::folder::kFees]);
+  m_form.reset();  // the form keeps the edition that it has read
+  open(id);
   type(qs(u"txtFields(27)"), qs(u"例示 花子"));
   answer({true});
   press(qs(u"cmdUpdate"));
-  EXPECT_EQ(told().size(), 2);
-  EXPECT_EQ(stored(id).get(qs(u"被保険者の氏名")), qs(u"見本 太郎"));
+  const QStringList texts = told();
+  ASSERT_EQ(texts.size(), 2);
+  EXPECT_TRUE(texts[1].startsWith(qs(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :")));
+  EXPECT_EQ(stored(id).get(qs(u"被保険者の氏名")), qs(u"例示 花子"));
+  EXPECT_TRUE(stored(id).get(qs(u"合計")).isNull());
 }
 
 TEST_F(ClaimFormStore, TheMonthDecidesTheRulesOfTheMoney) {
