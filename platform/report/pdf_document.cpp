@@ -1,12 +1,12 @@
 #include "platform/report/pdf_document.h"
 
-#include <QDateTime>
 #include <algorithm>
 
 namespace report {
 
-PdfDocument::PdfDocument(const QString& title)
+PdfDocument::PdfDocument(const QString& title, const QDateTime& made)
     : m_title(title),
+      m_made(made),
       m_catalog(m_writer.reserve()),
       m_pageTree(m_writer.reserve()),
       m_info(m_writer.reserve()),
@@ -148,8 +148,7 @@ QByteArray PdfDocument::finish() {
                               "/Lang(ja-JP)/MarkInfo<</Marked true>>" +
                               "/ViewerPreferences<</DisplayDocTitle true>>/StructTreeRoot " +
                               reference(m_structure) + ">>");
-  const QByteArray now =
-      QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMddHHmmss")).toLatin1();
+  const QByteArray now = m_made.toUTC().toString(QStringLiteral("yyyyMMddHHmmss")).toLatin1();
   m_writer.put(m_info, "<</Title " + pdfText(m_title) + "/Producer " + pdfText(QStringLiteral("治療台帳")) +
                            "/CreationDate(D:" + now + "Z)>>");
   return m_writer.finish(m_catalog, m_info);

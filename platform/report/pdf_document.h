@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <optional>
 
 #include "platform/report/font_program.h"
@@ -10,7 +11,7 @@ namespace report {
 /// captions of a block of the form, then what was filled in there.
 class PdfDocument {
  public:
-  explicit PdfDocument(const QString& title);
+  PdfDocument(const QString& title, const QDateTime& made);
 
   /// Starts a page of this size (mm), on the frame if there is one. Paragraph b of the frame and paragraph
   /// frameParagraphs + b of the page are read together.
@@ -33,6 +34,7 @@ class PdfDocument {
   void writeStructure();
 
   QString m_title;
+  QDateTime m_made;
   PdfWriter m_writer;
   int m_catalog, m_pageTree, m_info, m_structure, m_root, m_parents;
   std::optional<PdfCanvas> m_canvas;

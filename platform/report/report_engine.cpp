@@ -1,5 +1,7 @@
 #include "platform/report/report_engine.h"
 
+#include "platform/text/clock.h"
+
 namespace report {
 
 ReportEngine::ReportEngine(const QString& programFolder, OpenSink sinks, PrinterDialog dialog)
@@ -15,7 +17,7 @@ int ReportEngine::PR_StartDC(quintptr, qint64, const QString& title, int) {
   auto sink = m_sinks(m_choice);
   if (!sink || !sink->open(title)) return kCannotStart;
   m_sink = std::move(sink);
-  m_document = std::make_unique<PdfDocument>(title);
+  m_document = std::make_unique<PdfDocument>(title, text::SystemClock().now());
   m_hand = HandPage();
   return kStarted;
 }

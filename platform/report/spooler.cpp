@@ -20,14 +20,21 @@ class Destinations {
   Destinations& operator=(const Destinations&) = delete;
 
   std::span<cups_dest_t> all() const { return {m_all, size_t(m_count)}; }
-  cups_dest_t* find(const QString& name) const {
-    return cupsGetDest(name.toUtf8().constData(), nullptr, m_count, m_all);
-  }
 
  private:
   cups_dest_t* m_all = nullptr;
   int m_count = 0;
 };
+
+using Destination = std::unique_ptr<cups_dest_t, decltype([](cups_dest_t* dest) { cupsFreeDests(1, dest); })>;
+
+/// One printer by name, the default one for an empty name: asking for one is much faster than listing what
+/// stands in the network.
+Destination find(const QString& name) {
+  const QByteArray bytes = name.toUtf8();
+  return Destination(
+      cupsGetNamedDest(CUPS_HTTP_DEFAULT, name.isEmpty() ? nullptr : bytes.constData(), nullptr));
+}
 
 using DestInfo = std::unique_ptr<cups_dinfo_t, decltype([](cups_dinfo_t* info) { cupsFreeDestInfo(info); })>;
 
@@ -67,7 +74,8 @@ std::vector<PrinterEntry> listPrinters() {
   std::vector<PrinterEntry> printers;
   const Destinations destinations;
   for (const cups_dest_t& dest : destinations.all()) {
-    if (dest.instance) continue;
+    // A queue that is called like the file printer cannot be told from it, and writes PDF files, too.
+    if (dest.instance || QString::fromUtf8(dest.name) == kFilePrinter) continue;
     const char* info = cupsGetOption("printer-info", dest.num_options, dest.options);
     printers.push_back(
         {QString::fromUtf8(dest.name), QString::fromUtf8(info ? info : dest.name), dest.is_default != 0});
@@ -80,6 +88,7 @@ std::vector<PrinterEntry> listPrinters() {
 }
 
 QString defaultPrinter() {
+  if (const Destination usual = find(QString())) return QString::fromUtf8(usual->name);
   const std::vector<PrinterEntry> printers = listPrinters();
   for (const PrinterEntry& printer : printers)
     if (printer.isDefault) return printer.name;
@@ -88,8 +97,8 @@ QString defaultPrinter() {
 
 std::vector<MediaSize> listMedia(const QString& printer) {
   std::vector<MediaSize> sizes;
-  const Destinations destinations;
-  cups_dest_t* dest = printer == kFilePrinter ? nullptr : destinations.find(printer);
+  const Destination found = printer == kFilePrinter ? nullptr : find(printer);
+  cups_dest_t* dest = found.get();
   if (dest) {
     const DestInfo info = infoOf(dest);
     const int count = info ? cupsGetDestMediaCount(CUPS_HTTP_DEFAULT, dest, info.get(), 0) : 0;
@@ -111,12 +120,12 @@ std::vector<MediaSize> listMedia(const QString& printer) {
 
 bool Spooler::open(const QString& title) {
   m_title = title;
-  return Destinations().find(m_choice.printer) != nullptr;
+  return find(m_choice.printer) != nullptr;
 }
 
 bool Spooler::take(const QByteArray& pdf) {
-  const Destinations destinations;
-  cups_dest_t* dest = destinations.find(m_choice.printer);
+  const Destination found = find(m_choice.printer);
+  cups_dest_t* dest = found.get();
   if (!dest) return false;
   const DestInfo info = infoOf(dest);
   if (!info) return false;
