@@ -12,14 +12,19 @@ namespace {
 
 constexpr double kNamePt = 3.5;
 
+void outline(cairo_t* page, const Rect& rect) {
+  cairo_rectangle(page, rect.x * kPointsPerMm, rect.y * kPointsPerMm, rect.w * kPointsPerMm,
+                  rect.h * kPointsPerMm);
+}
+
 void drawNames(CairoCanvas& canvas, const Form& form, TextShaper& shaper) {
   cairo_t* page = canvas.context();
   for (const Item& item : form.items) {
     if (isFrameName(item.name) && item.kind != Kind::Text) continue;
     cairo_set_source_rgb(page, 0.1, 0.3, 0.9);
     cairo_set_line_width(page, 0.2);
-    cairo_rectangle(page, item.rect.x * kPointsPerMm, item.rect.y * kPointsPerMm, item.rect.w * kPointsPerMm,
-                    item.rect.h * kPointsPerMm);
+    outline(page, item.rect);
+    for (const Placement& placement : item.placements) outline(page, placement.rect);
     cairo_stroke(page);
     cairo_set_source_rgb(page, 0.8, 0, 0);
     Item label = item;

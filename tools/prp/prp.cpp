@@ -14,7 +14,7 @@
 namespace {
 
 text::Result<report::FormPtr> load(const QString& path) {
-  const QFileInfo info(path);
+  const QFileInfo info(path.contains(u'.') ? path : path + QStringLiteral(".PRP"));
   return report::loadForm(info.path(), info.fileName());
 }
 
