@@ -13,7 +13,18 @@ constexpr double kBaseline = 0.38;  // of the baseline below the middle of the l
 constexpr double kShrinkStep = 0.96;
 
 /// Characters that do not open a line.
-bool clings(QChar c) { return QStringView(u"、。，．・）」』】〕ー～々ゃゅょっャュョッ,.)").contains(c); }
+bool clings(char32_t c) {
+  constexpr QStringView letters = u"、。，．・）」』】〕ー～々ゃゅょっャュョッ,.)";
+  return c < 0x10000 && letters.contains(QChar(char16_t(c)));
+}
+
+/// Control characters have no form: a tab, or a line end that has no place, is a blank.
+QString printable(QString text, bool lineEnds) {
+  text.remove(u'\r');
+  for (QChar& c : text)
+    if (c < u' ' && !(c == u'\n' && lineEnds)) c = u' ';
+  return text;
+}
 
 class Fitter {
  public:
@@ -31,7 +42,7 @@ class Fitter {
 
  private:
   std::vector<PlacedLine> fitVertical(const QString& raw) {
-    const QString text = QString(raw).replace(u'\n', u' ');
+    const QString text = printable(raw, false);
     ShapedTextPtr line = m_shaper.shape(m_item.face, text, true);
     double pt = std::min(m_item.pt, m_width);
     if (line->length * pt > m_height) pt = std::max(std::min(kFloorPt, pt), m_height / line->length);
@@ -44,9 +55,7 @@ class Fitter {
   }
 
   std::vector<PlacedLine> fitHorizontal(const QString& raw) {
-    QString text = raw;
-    text.remove(u'\r');
-    if (m_item.lines == 1) text.replace(u'\n', u' ');
+    const QString text = printable(raw, m_item.lines > 1);
     const double floor = std::min(kFloorPt, m_item.pt);
     const double roof = m_height / m_item.lines;
     double pt = std::min(m_item.pt, std::max(floor, roof));
@@ -70,32 +79,32 @@ class Fitter {
   QStringList wrap(const QString& text, double pt) {
     QStringList lines;
     const double width = m_width / pt + 1e-6;
-    QString line;
+    std::u32string line;
     double length = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-      if (text[i] == u'\n') {
-        lines << line;
-        line.clear(), length = 0;
+    const auto end = [&] { lines << QString::fromStdU32String(line); };
+    for (const char32_t c : text.toStdU32String()) {
+      if (c == U'\n') {
+        end();
+        line.clear();
+        length = 0;
         continue;
       }
-      char32_t c = text[i].unicode();
-      if (text[i].isHighSurrogate() && i + 1 < text.size()) c = QChar::surrogateToUcs4(text[i], text[i + 1]);
       const double advance = m_shaper.advance(m_item.face, c);
-      if (length + advance > width && !line.isEmpty()) {
-        QString carried;
-        if (clings(text[i]) && line.size() > 1) {
-          carried = line.right(1);
-          line.chop(1);
+      if (length + advance > width && !line.empty()) {
+        std::u32string carried;
+        if (clings(c) && line.size() > 1) {
+          carried = line.back();
+          line.pop_back();
         }
-        lines << line;
+        end();
         line = carried;
-        length = carried.isEmpty() ? 0 : m_shaper.advance(m_item.face, carried[0].unicode());
+        length = carried.empty() ? 0 : m_shaper.advance(m_item.face, carried[0]);
       }
-      line += text[i];
-      if (c > 0xFFFF) line += text[++i];
+      line += c;
       length += advance;
     }
-    return lines << line;
+    end();
+    return lines;
   }
 
   std::vector<PlacedLine> place(const QStringList& lines, double pt) {

@@ -28,6 +28,7 @@ struct FontSpan {
 
 std::vector<FontSpan> spansByFont(FontStore& fonts, Typeface face, const std::u32string& text) {
   std::vector<FontSpan> spans;
+  if (!fonts.font(face)) return spans;  // a machine without any font
   for (const char32_t c : text) {
     // A mark or a selector belongs to the character before it, whatever its own font.
     const bool joins = !spans.empty() && !isPlain(c) && !fonts.font(face)->has(c);

@@ -63,6 +63,18 @@ TEST_F(Fitting, aLineDoesNotStartWithAFullStop) {
             (QStringList{QStringLiteral("一二三四五六七八九十百"), QStringLiteral("千。万")}));
 }
 
+TEST_F(Fitting, aKanjiOfFourBytesIsNotTornAtTheEndOfALine) {
+  EXPECT_EQ(linesOf(printed("F.PRP", {{"two", QStringLiteral("一二三四五六七八九十百𠮷。万")}})),
+            (QStringList{QStringLiteral("一二三四五六七八九十百"), QStringLiteral("𠮷。万")}));
+}
+
+TEST_F(Fitting, lineEndsPartLinesWhereThereAreSeveralAndAreBlanksElsewhere) {
+  EXPECT_EQ(linesOf(printed("F.PRP", {{"two", QStringLiteral("一\r\n二")}})),
+            (QStringList{QStringLiteral("一"), QStringLiteral("二")}));
+  EXPECT_EQ(linesOf(printed("F.PRP", {{"wide", QStringLiteral("一\n二\t三")}})),
+            QStringList{QStringLiteral("一 二 三")});
+}
+
 TEST_F(Fitting, shrinksWhenTheLinesAreFull) {
   QString text;
   for (int i = 0; i < 40; ++i) text += QChar(u'一' + i * 7);
