@@ -106,6 +106,20 @@ void Builder::tellApart() {
     const int number = ++seen[spot.control->accessibleName()];
     if (number > 1) spot.control->setNumber(number);
   }
+  nameParts();
+}
+
+// An option button carries its group's word only where its own caption is not enough.
+void Builder::nameParts() {
+  QHash<QString, int> taken;
+  for (const Spot& spot : m_spots) {
+    ++taken[spot.control->accessibleName()];
+    for (const QString& caption : spot.control->partCaptions()) ++taken[caption];
+  }
+  QSet<QString> alone;
+  for (auto name = taken.cbegin(); name != taken.cend(); ++name)
+    if (name.value() == 1) alone.insert(name.key());
+  for (const Spot& spot : m_spots) spot.control->namePartsAlone(alone);
 }
 
 void Builder::chainTabs() {

@@ -68,6 +68,7 @@ class Builder {
   void closeToBase();
 
   void tellApart();
+  void nameParts();
   void chainTabs();
   void addKeys();
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <utility>
@@ -68,6 +69,10 @@ class Control {
   bool isRed() const { return m_red; }
   /// The word before the accessible name of a control whose caption alone occurs twice in the window.
   virtual void setPrefix(const QString& prefix);
+  /// Captions of the parts of a control that has several (option buttons).
+  virtual QStringList partCaptions() const { return {}; }
+  /// Parts whose caption no other name of the window has: they need no word of their group before it.
+  virtual void namePartsAlone(const QSet<QString>& /*captions*/) {}
   /// A number behind the accessible name where no word around the control tells it apart.
   void setNumber(int number);
   virtual QString accessibleName() const;

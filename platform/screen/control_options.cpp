@@ -61,6 +61,17 @@ void OptionsControl::setPrefix(const QString& prefix) {
   nameButtons();
 }
 
+QStringList OptionsControl::partCaptions() const {
+  QStringList captions;
+  for (const Choice& choice : m_choices) captions += accessibleCaption(QString::fromUtf16(choice.caption.get()));
+  return captions;
+}
+
+void OptionsControl::namePartsAlone(const QSet<QString>& captions) {
+  m_alone = captions;
+  nameButtons();
+}
+
 bool OptionsControl::key(int key) {
   const bool forward = key == Qt::Key_Down || key == Qt::Key_Right;
   if (!forward && key != Qt::Key_Up && key != Qt::Key_Left) return false;
@@ -100,9 +111,8 @@ void OptionsControl::chooseTabStop() {
 void OptionsControl::nameButtons() {
   nameWidgets();
   for (QAbstractButton* button : m_buttons->buttons()) {
-    const QString own =
-        QString::fromUtf16(m_choices[static_cast<size_t>(m_buttons->id(button))].caption.get());
-    button->setAccessibleName(accessibleName() + u' ' + accessibleCaption(own));
+    const QString own = partCaptions().value(m_buttons->id(button));
+    button->setAccessibleName(m_alone.contains(own) ? own : accessibleName() + u' ' + own);
   }
 }
 

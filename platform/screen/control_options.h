@@ -18,6 +18,8 @@ class OptionsControl : public Control {
   QString text() const override;
   void setCaption(const QString& caption) override;
   void setPrefix(const QString& prefix) override;
+  QStringList partCaptions() const override;
+  void namePartsAlone(const QSet<QString>& captions) override;
   /// The arrow keys choose the next or the previous button, however the buttons lie on the screen.
   bool key(int key) override;
 
@@ -30,6 +32,7 @@ class OptionsControl : public Control {
   std::span<const Choice> m_choices;
   QGroupBox* m_frame;
   QButtonGroup* m_buttons;
+  QSet<QString> m_alone;
   bool m_marksDirty;
 };
 

@@ -53,10 +53,30 @@ TEST_F(Builder, AccessibleNameIsTheCaptionWithoutColonAndAccessKey) {
   EXPECT_EQ(accessible("Check1"), "印刷する");
 }
 
-TEST_F(Builder, TickAndOptionCarryTheWordOfTheirGroup) {
-  EXPECT_EQ(accessible("Check2"), "往療 要");
-  EXPECT_EQ(accessible("Option1(0)"), "性別 男性");
-  EXPECT_EQ(accessible("Option1(1)"), "性別 女性");
+TEST_F(Builder, TickCarriesTheWordOfItsGroup) { EXPECT_EQ(accessible("Check2"), "往療 要"); }
+
+TEST_F(Builder, OptionWhoseCaptionStandsOnceNeedsNoWordOfItsGroup) {
+  EXPECT_EQ(accessible("Option1(0)"), "男性");
+  EXPECT_EQ(accessible("Option1(1)"), "女性");
+}
+
+TEST(BuilderOptions, OfOneCaptionAreToldApartByTheirGroups) {
+  static constexpr Choice first[] = {{{u"Option1", 0}, u"する", u"0"}, {{u"Option1", 1}, u"しない", u"1"}};
+  static constexpr Choice second[] = {{{u"Option2", 0}, u"する", u"0"}, {{u"Option2", 1}, u"隠す", u"1"}};
+  static constexpr Row rows[] = {
+      Options{.name = {u"Frame1"}, .caption = u"男女", .bind = Unbound{u"a sample"}, .choices = first},
+      Options{.name = {u"Frame2"}, .caption = u"続柄", .bind = Unbound{u"a sample"}, .choices = second},
+  };
+  static constexpr ScreenRow declaration{.name = u"選択肢", .caption = u"選択肢", .rows = rows};
+  Desk desk;
+  Screen screen(declaration, desk.services);
+  const auto name = [&](const char* button) {
+    return screen.findChild<QWidget*>(QLatin1String(button))->accessibleName();
+  };
+  EXPECT_EQ(name("Option1(0)"), "男女 する");
+  EXPECT_EQ(name("Option2(0)"), "続柄 する");
+  EXPECT_EQ(name("Option1(1)"), "しない");
+  EXPECT_EQ(name("Option2(1)"), "隠す");
 }
 
 TEST_F(Builder, CaptionThatOccursTwiceIsToldApartByItsGroup) {
