@@ -33,14 +33,18 @@ constexpr Choice kHolder[] = {
 
 constexpr Row kRows[] = {
     Note{.name = u"Label1", .caption = kAsk, .spoken = true},
-    Options{.name = u"Frame1", .caption = u"保険の種類", .bind = Unbound{u"an answer"}, .choices = kInsurance},
+    Options{
+        .name = u"Frame1", .caption = u"保険の種類", .bind = Unbound{u"an answer"}, .choices = kInsurance},
     Options{.name = u"Frame2", .caption = u"治療方法", .bind = Unbound{u"an answer"}, .choices = kTreatment},
-    Options{.name = u"Frame3", .caption = u"保険証（本証）の本人又は家族", .bind = Unbound{u"an answer"},
+    Options{.name = u"Frame3",
+            .caption = u"保険証（本証）の本人又は家族",
+            .bind = Unbound{u"an answer"},
             .choices = kHolder},
     Bar{},
-    Command{.name = u"Command1", .caption = u"ＯＫ", .run = run<&ClaimChoiceScreen::accept>, .standard = true},
-    Command{.name = u"Command2", .caption = u"キャンセル", .run = run<&ClaimChoiceScreen::cancel>,
-            .key = u"Esc"},
+    Command{
+        .name = u"Command1", .caption = u"ＯＫ", .run = run<&ClaimChoiceScreen::accept>, .standard = true},
+    Command{
+        .name = u"Command2", .caption = u"キャンセル", .run = run<&ClaimChoiceScreen::cancel>, .key = u"Esc"},
     EndBar{},
 };
 

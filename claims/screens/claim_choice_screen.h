@@ -9,7 +9,8 @@
 
 namespace claims {
 
-/// レセプト選択: kind of insurance, treatment and card holder of a new claim; OK makes the claim and opens it.
+/// レセプト選択: kind of insurance, treatment and card holder of a new claim; OK makes the claim and opens
+/// it.
 class ClaimChoiceScreen : public screen::Screen {
  public:
   ClaimChoiceScreen(screen::Services& services, frame::RunState& run, ClaimsState& state);

@@ -9,7 +9,8 @@ constexpr Row kRows[] = {
     Note{.name = u"Label1", .caption = u"表示患者の新規のレセプトを作成します。", .spoken = true},
     Bar{},
     Command{.name = u"Command1", .caption = u"ＯＫ", .run = run<&NewClaimScreen::accept>, .standard = true},
-    Command{.name = u"Command2", .caption = u"キャンセル", .run = run<&NewClaimScreen::cancel>, .key = u"Esc"},
+    Command{
+        .name = u"Command2", .caption = u"キャンセル", .run = run<&NewClaimScreen::cancel>, .key = u"Esc"},
     EndBar{},
 };
 

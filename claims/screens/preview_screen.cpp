@@ -16,9 +16,18 @@ constexpr int kLines = 30;
 
 constexpr Unbound kComputed{u"computed, never stored from here"};
 
-consteval Row line(int index) {
-  return TextField{
-      .name = {u"Text1", index}, .caption = u"施術:", .bind = kComputed, .width = 32, .readOnly = true};
+/// "01行:", the caption of a line before a claim gives it its own. No two are alike: the kit would tell like
+/// captions apart by their group, and that word would stay.
+template <int Index>
+constexpr char16_t kLineCaption[] = {u'0' + (Index + 1) / 10, u'0' + (Index + 1) % 10, u'行', u':', u'\0'};
+
+template <int Index>
+consteval Row line() {
+  return TextField{.name = {u"Text1", Index},
+                   .caption = kLineCaption<Index>,
+                   .bind = kComputed,
+                   .width = 32,
+                   .readOnly = true};
 }
 
 consteval Row sum(ControlName name, Words caption) {
@@ -29,7 +38,7 @@ template <int... Index>
 consteval auto allRows(std::integer_sequence<int, Index...>) {
   return std::to_array<Row>({
       Group{.name = u"Frame1", .caption = u"施術料金", .columns = 1},
-      line(Index)...,
+      line<Index>()...,
       EndGroup{},
       Group{.name = u"Frame2", .caption = u"合計", .columns = 3},
       sum(u"Text2", u"合計:"),
