@@ -173,9 +173,9 @@ class Road:
         self.press("ＯＫ")
         self.at("選択チェック", "各ラジオボタンからそれぞれ選択してください。")
         self.walk(2, "選択チェック")
-        self.desk.check("保険の種類 " + insurance)
-        self.desk.check("治療方法 " + treatment)
-        self.desk.check(re.compile(".*" + holder + "$"))
+        self.desk.check(insurance)
+        self.desk.check(treatment)
+        self.desk.check(holder)
         self.press("ＯＫ")
         self.at("保険申請", "保険申請、コメジルシは必ず入力してください")
 
