@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QMap>
+#include <algorithm>
 
 #include "frame/core/csv_table.h"
 #include "frame/core/prefecture.h"
@@ -31,6 +32,16 @@ constexpr FilledFile kDictionaries[] = {{u"Keiraku2000.mdb", u"acupoints.csv"},
                                         {u"CLmoji2000.mdb", u"phrases1.csv"},
                                         {u"CL2moji2000.mdb", u"phrases2.csv"}};
 constexpr char16_t kFees[] = u"fees/editions.csv";
+constexpr char16_t kFeeTable[] = u"料金設定";
+
+/// Whether the user fills the file: the patients, visits, claims and the other registers. The dictionaries and
+/// the fee files are shipped filled.
+bool isRegister(const store::TableRow& row) {
+  const auto fills = [&](const FilledFile& dictionary) {
+    return QStringView(dictionary.file) == QStringView(row.file);
+  };
+  return QStringView(row.table) != kFeeTable && std::ranges::none_of(kDictionaries, fills);
+}
 
 class Layout {
  public:
@@ -70,10 +81,13 @@ Done Layout::folders() {
   return {};
 }
 
+/// A folder with settings has been worked in: a register that is missing there is lost or lies elsewhere. An
+/// empty one in its place would hide that, so it stays missing and the screens tell it.
 Done Layout::databases() {
+  const bool workedIn = QFileInfo::exists(settingsPath(m_program));
   for (const store::TableRow& row : store::catalogue()) {
     const QString file = QString::fromUtf16(row.file);
-    if (QFileInfo::exists(beside(file))) continue;
+    if (QFileInfo::exists(beside(file)) || (workedIn && isRegister(row))) continue;
     if (const Done made = createFilled(file); !made) return made;
     m_made += file;
   }
@@ -107,6 +121,7 @@ Done Layout::fill(const QString& path, const QString& file, const QString& sourc
 
 /// Adds to each fee file the editions that it lacks: those with a higher ID than any that stands. The first
 /// columns of the shipped table tell the file, the ID and the date; a fee that the edition had not is NULL.
+/// A file that cannot be read is left alone: the screens that need it tell it by name, the others work.
 Done Layout::fees() {
   const Result<CsvTable> table = readCsvTable(shipped(QString::fromUtf16(kFees)));
   if (!table) return table.fault();
@@ -118,11 +133,11 @@ Done Layout::fees() {
         row.insert(table->columns[column], values[column]);
     editions[values[0] + QStringLiteral(".mdb")] += row;
   }
-  const QString feeTable = QStringLiteral("料金設定");
+  const QString feeTable = QString::fromUtf16(kFeeTable);
   for (auto edition = editions.cbegin(); edition != editions.cend(); ++edition) {
     const QString path = beside(edition.key());
     const Result<qint64> last = store::lastId(path, feeTable);
-    if (!last) return last.fault();
+    if (!last) continue;
     QList<QHash<QString, QString>> newer;
     for (const QHash<QString, QString>& row : *edition)
       if (row.value(QStringLiteral("ID")).toLongLong() > *last) newer += row;

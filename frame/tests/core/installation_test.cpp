@@ -165,6 +165,43 @@ TEST_F(InstallationTest, AFileThatWasCutOffWhileItWasMadeIsMadeAgain) {
   EXPECT_EQ(open(QStringLiteral("CLmoji2000.mdb")).recordCount(), 60);
 }
 
+TEST_F(InstallationTest, ALostRegisterIsNotMadeAnewWhereTheProgramHasRun) {
+  layOutHere();
+  for (const char* name : {"臨床QV2000N.mdb", "予約2000.mdb", "保険申請2000_1.mdb", "保険申請2000_2.mdb",
+                           "カルテ2データ2000.mdb", "同意医師2000.mdb", "保険者2000.mdb"}) {
+    const QString file = QString::fromUtf8(name);
+    ASSERT_TRUE(QFile::remove(path(file))) << name;
+    EXPECT_EQ(layOutHere(), QStringList()) << name;
+    EXPECT_FALSE(QFile::exists(path(file))) << name << ": an empty register would hide the loss";
+  }
+}
+
+TEST_F(InstallationTest, WhatIsShippedComesBackWhereTheProgramHasRun) {
+  layOutHere();
+  const QStringList shipped{QStringLiteral("Keiraku2000.mdb"), QStringLiteral("料金設定2024.mdb"),
+                            QStringLiteral("help.txt")};
+  for (const QString& file : shipped) ASSERT_TRUE(QFile::remove(path(file))) << file.toStdString();
+  EXPECT_EQ(layOutHere(), shipped);
+  EXPECT_EQ(open(QStringLiteral("Keiraku2000.mdb")).recordCount(), 361);
+  EXPECT_GT(open(QStringLiteral("料金設定2024.mdb")).recordCount(), 0);
+}
+
+TEST_F(InstallationTest, AFirstLayoutThatWasCutOffIsCompleted) {
+  layOutHere();
+  for (const char* name : {"qv.dat", "保険者2000.mdb"})
+    ASSERT_TRUE(QFile::remove(path(QString::fromUtf8(name))));
+  EXPECT_EQ(layOutHere(), QStringList({QStringLiteral("保険者2000.mdb"), QStringLiteral("qv.dat")}))
+      << "the settings are written behind the registers: without them the folder is not laid out yet";
+}
+
+TEST_F(InstallationTest, ADamagedFeeFileIsLeftAsItIs) {
+  layOutHere();
+  const QString damaged = QStringLiteral("料金設定2018.mdb");
+  write(path(damaged), "another kind of file");
+  EXPECT_EQ(layOutHere(), QStringList()) << "the screen that reads it tells the fault, the others work";
+  EXPECT_EQ(read(path(damaged)), "another kind of file");
+}
+
 TEST_F(InstallationTest, AWrongTableIsToldWithItsRow) {
   QTemporaryDir data;
   m_data = data.path();
