@@ -72,12 +72,16 @@ std::optional<NewClaimChoice> ClaimChoiceScreen::choice() const {
   return answer;
 }
 
+// The focus goes to the first group without an answer, so that the ear finds what is missing.
+void ClaimChoiceScreen::tellUnanswered() {
+  messages().tell(QString::fromUtf16(kAsk));
+  for (const char* group : {"Frame1", "Frame2", "Frame3"})
+    if (chosen(group).isEmpty()) return focusOn(group);
+}
+
 void ClaimChoiceScreen::accept() {
   const auto answer = choice();
-  if (!answer) {
-    messages().tell(QString::fromUtf16(kAsk));
-    return;
-  }
+  if (!answer) return tellUnanswered();
   auto file = ClaimFile::open(m_run.folders);
   const auto id = file ? file->add(newClaim(m_state.newClaim.columns(), *answer, m_run.profile))
                        : text::Result<qint64>(file.fault());

@@ -21,6 +21,7 @@ class ClaimChoiceScreen : public screen::Screen {
 
  private:
   std::optional<NewClaimChoice> choice() const;
+  void tellUnanswered();
 
   frame::RunState& m_run;
   ClaimsState& m_state;

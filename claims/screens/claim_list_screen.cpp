@@ -29,10 +29,11 @@ void ClaimListScreen::onLoad() {
 
 void ClaimListScreen::opened(const screen::Request& request) {
   if (request.contains("criteria")) {
-    if (openWhole()) showSet(request["criteria"].toString(), QString());
+    if (openWhole()) put(request["criteria"].toString(), QString());
   } else if (request.contains("sort") && holdsRows()) {
-    showSet(QString(), request["sort"].toString());
+    put(QString(), request["sort"].toString());
   }
+  if (!request.isEmpty() && holdsRows()) focusOn("DBGrid1");
   m_tellsEmpty = !holdsRows();
 }
 
@@ -57,33 +58,33 @@ bool ClaimListScreen::emptySet() {
   return true;
 }
 
-bool ClaimListScreen::put(const QString& criteria, const QString& order) {
+std::optional<store::RecordSet> ClaimListScreen::setOf(const QString& criteria, const QString& order) {
   auto& rows = source().rows();
   rows.setFilter(criteria);
   rows.setSort(order);
   auto set = rows.openRecordset();
   rows.setFilter(QString());
   rows.setSort(QString());
-  if (!set) {
-    messages().tellDataFault(set.fault().message);
-    return false;
-  }
-  if (set->recordCount() == 0 && !criteria.isEmpty()) {
-    messages().tell(QString::fromUtf16(screen::kNotFoundText), QString::fromUtf16(screen::kNotFoundTitle),
-                    screen::Icon::Exclamation);
-    return false;
-  }
-  source().assign(std::move(*set));
-  return true;
+  if (set) return std::move(*set);
+  messages().tellDataFault(set.fault().message);
+  return std::nullopt;
 }
 
-void ClaimListScreen::showSet(const QString& criteria, const QString& order) {
-  if (put(criteria, order)) focusOn("DBGrid1");
+bool ClaimListScreen::put(const QString& criteria, const QString& order) {
+  auto set = setOf(criteria, order);
+  if (set) source().assign(std::move(*set));
+  return set.has_value();
 }
 
 void ClaimListScreen::search() {
   if (emptySet()) return;
-  showSet(text("Combo1") + " like '*" + text("Text1") + "*' order by ID", QString());
+  auto hits = setOf(text("Combo1") + " like '*" + text("Text1") + "*' order by ID", QString());
+  if (!hits) return;
+  if (hits->recordCount() == 0)
+    return messages().tell(QString::fromUtf16(screen::kNotFoundText),
+                           QString::fromUtf16(screen::kNotFoundTitle), screen::Icon::Exclamation);
+  source().assign(std::move(*hits));
+  focusOn("DBGrid1");
 }
 
 void ClaimListScreen::showAll() {

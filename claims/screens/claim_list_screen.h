@@ -12,8 +12,9 @@ namespace claims {
 /// レセプト一覧表: the door to all claims. It lists the first halves, newest at the top; opening, deleting
 /// and making a claim keep the second halves in step.
 ///
-/// A search narrows the set on view; 全患者表示及び再表示 and 更新 read the whole table again. A claim made
-/// elsewhere meanwhile is not in the list before that.
+/// A search narrows the set on view and leaves it where there is no hit; the filter by a patient shows an
+/// empty list too. 全患者表示及び再表示 and 更新 read the whole table again; a claim made elsewhere meanwhile
+/// is not in the list before that.
 ///
 /// Request keys: "sort" (an order of the list), "criteria" (a filter, from the patient screen).
 class ClaimListScreen : public screen::Screen {
@@ -38,10 +39,11 @@ class ClaimListScreen : public screen::Screen {
 
  private:
   bool openWhole();
-  /// Puts the narrowed or sorted set in the list's place. A criteria text that the engine refuses is told in
-  /// the engine's words, no hit is told too: both leave the list as it was and give false.
+  /// The narrowed or sorted copy of the set on view. A criteria text that the engine refuses is told in the
+  /// engine's words and gives nothing.
+  std::optional<store::RecordSet> setOf(const QString& criteria, const QString& order);
+  /// Puts that copy in the list's place; false where it was refused and the list is as it was.
   bool put(const QString& criteria, const QString& order);
-  void showSet(const QString& criteria, const QString& order);
   bool holdsRows() const;
   /// Tells an empty list; true where it was one.
   bool emptySet();

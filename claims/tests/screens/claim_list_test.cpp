@@ -142,9 +142,20 @@ TEST_F(ClaimListTest, SortsBothWaysWhatIsOnView) {
 }
 
 TEST_F(ClaimListTest, ThePatientsScreenOpensItNarrowed) {
-  addNamed(u"見本 太郎");
-  addNamed(u"見本 太郎丸");
-  openList({{qs(u"criteria"), qs(u"氏名='見本 太郎' ")}});
+  addClaim({{u"番号1", u"20240401001"}});
+  addClaim({{u"番号1", u"20240401002"}});
+  addClaim({{u"番号1", u"20240401001"}});
+  openList({{qs(u"criteria"), qs(u"番号1 ='20240401001' ")}});
+  EXPECT_EQ(shown(), QStringList({qs(u"3"), qs(u"1")})) << "newest first";
+}
+
+TEST_F(ClaimListTest, APatientWithoutClaimsGivesAnEmptyList) {
+  addClaim({{u"番号1", u"20240401001"}});
+  openList({{qs(u"criteria"), qs(u"番号1 ='20240401009' ")}});
+  EXPECT_EQ(shown(), QStringList());
+  activate();
+  EXPECT_EQ(told(), QStringList(qs(kNoRows)));
+  press(u"cmdRefresh");
   EXPECT_EQ(shown(), QStringList(qs(u"1")));
 }
 

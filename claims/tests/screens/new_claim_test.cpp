@@ -154,12 +154,14 @@ TEST_F(NewClaimTest, EveryGroupMustBeAnswered) {
       {u"Frame1", u"国保"}, {u"Frame2", u"鍼灸"}, {u"Frame3", u"本人"}};
   for (size_t missing = 0; missing < std::size(answers); ++missing) {
     choice();
+    QApplication::setActiveWindow(m_choice.get());
     for (size_t i = 0; i < std::size(answers); ++i)
       if (i != missing) m_choice->choose(qs(answers[i].first), qs(answers[i].second));
     m_choice->trigger(qs(u"Command1"));
     EXPECT_EQ(told(), QStringList(qs(u"各ラジオボタンからそれぞれ選択してください。")));
     EXPECT_TRUE(m_navigator.shows.isEmpty());
     EXPECT_TRUE(m_choice->isVisible());
+    EXPECT_EQ(m_choice->focused(), qs(answers[missing].first)) << "what is missing";
   }
 }
 
