@@ -5,6 +5,7 @@
 #include "frame/core/prefecture.h"
 #include "frame/core/web_pages.h"
 #include "platform/text/number.h"
+#include "platform/text/whole_file.h"
 
 namespace frame {
 namespace {
@@ -69,9 +70,8 @@ text::Done keepBeside(const QString& path) {
   if (!QFile::exists(path)) return {};
   QString kept = path + QStringLiteral(".old");
   for (int n = 2; QFile::exists(kept); ++n) kept = path + QStringLiteral(".old") + QString::number(n);
-  QFile file(path);
-  if (!file.copy(kept)) return text::Fault{kept + u'\n' + file.errorString()};
-  return {};
+  const auto bytes = text::readWholeFile(path);
+  return bytes ? text::writeWholeFile(kept, *bytes) : text::Done(bytes.fault());
 }
 
 }  // namespace

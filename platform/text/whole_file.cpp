@@ -8,14 +8,11 @@
 #include <QFile>
 #include <QFileInfo>
 #include <cerrno>
-#include <cstring>
+
+#include "platform/text/system_fault.h"
 
 namespace text {
 namespace {
-
-Fault systemFault(const QString& path) {
-  return Fault{path + QStringLiteral("\n") + QString::fromLocal8Bit(std::strerror(errno))};
-}
 
 /// An open file that closes itself.
 class Descriptor {
@@ -31,6 +28,14 @@ class Descriptor {
   bool isOpen() const { return m_number >= 0; }
   int number() const { return m_number; }
   bool sync() const { return ::fsync(m_number) == 0; }
+  bool readTo(QByteArray& bytes) const {
+    for (char part[16384];;) {
+      const ssize_t step = ::read(m_number, part, sizeof part);
+      if (step == 0) return true;
+      if (step < 0 && errno != EINTR) return false;
+      if (step > 0) bytes.append(part, step);
+    }
+  }
   bool write(const QByteArray& bytes) const {
     for (qsizetype done = 0; done < bytes.size();) {
       const ssize_t step =
@@ -76,10 +81,9 @@ bool replace(const QString& beside, const QString& target, const QByteArray& byt
 }  // namespace
 
 Result<QByteArray> readWholeFile(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return Fault{path + QStringLiteral("\n") + file.errorString()};
-  const QByteArray bytes = file.readAll();
-  if (file.error() != QFileDevice::NoError) return Fault{path + QStringLiteral("\n") + file.errorString()};
+  const Descriptor file(path, O_RDONLY);
+  QByteArray bytes;
+  if (!file.isOpen() || !file.readTo(bytes)) return systemFault(FileAction::Read, path, errno);
   return bytes;
 }
 
@@ -88,7 +92,7 @@ Done writeWholeFile(const QString& path, const QByteArray& bytes) {
   const QString target = info.isSymLink() ? info.canonicalFilePath() : info.absoluteFilePath();
   const QString beside = target + QStringLiteral(".~");
   if (!replace(beside, target, bytes)) {
-    const Fault fault = systemFault(path);
+    const Fault fault = systemFault(FileAction::Write, path, errno);
     QFile::remove(beside);
     return fault;
   }

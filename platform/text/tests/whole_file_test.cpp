@@ -25,8 +25,26 @@ TEST(WholeFile, ReplacesTheOldContentsAndLeavesNothingBeside) {
 TEST(WholeFile, AFaultNamesTheFileAndTheOldContentsStay) {
   QTemporaryDir folder;
   const QString lost = folder.filePath("none/qv.dat");
-  EXPECT_TRUE(writeWholeFile(lost, "x").fault().message.startsWith(lost));
-  EXPECT_TRUE(readWholeFile(lost).fault().message.startsWith(lost));
+  EXPECT_EQ(writeWholeFile(lost, "x").fault().message,
+            QStringLiteral("「qv.dat」に書き込むことができません。見つかりません。（%1）").arg(lost));
+  EXPECT_EQ(readWholeFile(lost).fault().message,
+            QStringLiteral("「qv.dat」を読むことができません。見つかりません。（%1）").arg(lost));
+}
+
+TEST(WholeFile, AFolderInTheFilesPlaceIsTold) {
+  QTemporaryDir folder;
+  EXPECT_TRUE(readWholeFile(folder.path()).fault().message.contains(QStringLiteral("フォルダです。")));
+  EXPECT_TRUE(
+      writeWholeFile(folder.path(), "x").fault().message.contains(QStringLiteral("フォルダです。")));
+}
+
+TEST(WholeFile, AnEmptyAndALongFileAreReadWhole) {
+  QTemporaryDir folder;
+  const QString path = folder.filePath("long");
+  for (const QByteArray& bytes : {QByteArray(), QByteArray("\0\xFF\r\n", 4), QByteArray(1'000'003, 'x')}) {
+    ASSERT_TRUE(writeWholeFile(path, bytes));
+    EXPECT_EQ(*readWholeFile(path), bytes);
+  }
 }
 
 TEST(WholeFile, PermissionsStayAndLinksAreFollowed) {
