@@ -13,10 +13,10 @@ bool hasDigit(const QString& text) {
 }
 
 /// The number of a late-elderly insurer behind its 39: stored without it, but taken where it was typed.
-QString behind39(const QString& number) {
-  if (number.size() < kNumberBoxes) return number;
-  // Eight characters and more do not go behind the printed 39; the claim screen says so.
-  return number.size() == kNumberBoxes && number.startsWith(u"39") ? number.mid(2) : QString();
+QString behind39(const QString& typed) {
+  if (typed.size() < kNumberBoxes) return typed.trimmed();
+  // Eight characters and more, blanks among them, do not go behind the printed 39; the claim screen says so.
+  return typed.size() == kNumberBoxes && typed.startsWith(u"39") ? typed.mid(2) : QString();
 }
 
 void lateElderlyNumber(Sheet& sheet, const QString& number) {
@@ -70,8 +70,9 @@ void claimMonth(Sheet& sheet) {
 }
 
 void insurerNumber(Sheet& sheet) {
-  const QString number = sheet.value(u"保険者番号").trimmed();
-  if (sheet.lateElderly()) return lateElderlyNumber(sheet, behind39(number));
+  const QString typed = sheet.value(u"保険者番号");
+  if (sheet.lateElderly()) return lateElderlyNumber(sheet, behind39(typed));
+  const QString number = typed.trimmed();
   sheet.fields.digits(u"Name0_", number, kNumberBoxes, number.size() == kShortNumber ? 3 : 1);
 }
 
