@@ -117,11 +117,15 @@ void writeOld(const ClaimAmounts& a, Writer& writer) {
   writer.fill(u"往療金額2", a.visit2);
 }
 
+/// 施術科目, blank but never NULL: NULL says that the claim was never stored.
+void writeSubject(const QString& subject, Writer& writer) {
+  writer.set(u"施術科目", subject.isNull() ? QString(QLatin1String("")) : subject);
+}
+
 void writeAmounts(const ClaimAmounts& a, const AreaBoxes& boxes, Writer& writer) {
   if (a.regime == Regime::TwoBand) writeOld(a, writer);
   writer.fill(u"治療日数", a.treatmentDays);
-  // Blank, but never NULL: NULL says that the claim was never stored.
-  writer.set(u"施術科目", a.subject.isNull() ? QString(QLatin1String("")) : a.subject);
+  writeSubject(a.subject, writer);
   const bool massage = a.kind == Kind::Massage;
   const struct {
     const char16_t *column, *own;
@@ -168,6 +172,7 @@ StoredClaim storeClaim(const ClaimRecord& claim, const StoreContext& context,
       writeAmounts(stored.amounts, boxes, writer);
     } else {
       stored.calculation = computed.fault();
+      writeSubject(writer.get(u"施術科目"), writer);
     }
   }
   writeDerived(claim, writer);

@@ -129,6 +129,15 @@ TEST(StoreClaim, AMissingFeeFileClearsAndIsTold) {
                                  {testing::era(), files, fees});
   ASSERT_TRUE(stored.calculation);
   expectColumns(stored.claim, {{u"合計", nullptr}, {u"h2", nullptr}});
+  EXPECT_FALSE(stored.claim.get(QStringLiteral("施術科目")).isNull());  // it was stored, and may be closed
+}
+
+TEST(StoreClaim, AMissingFeeFileLeavesTheSubjectOfTheLastStore) {
+  const FeeFiles files(QStringLiteral("/p"), QStringLiteral("/p/none.mdb"));
+  testing::CsvFees fees;
+  const auto stored = storeClaim(makeClaim(u"令和6年10月", u"鍼灸", u"3割", u"1=a", {{u"施術科目", u"鍼"}}),
+                                 {testing::era(), files, fees});
+  expectColumns(stored.claim, {{u"施術科目", u"鍼"}});
 }
 
 TEST(StoreClaim, KeysAndKinds) {
