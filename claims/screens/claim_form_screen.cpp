@@ -49,7 +49,8 @@ void ClaimFormScreen::closeForm() {
     messages().tell(open);
     return;
   }
-  if (m_read.blank(QStringLiteral("施術科目"))) {
+  // NULL, not blank: a claim whose days fit no kind is blank there once it is stored.
+  if (m_read.get(QStringLiteral("施術科目")).isNull()) {
     messages().tell(QString::fromUtf16(says::kNeverStored));
     return;
   }

@@ -232,6 +232,20 @@ TEST_F(ClaimFormGuard, AClaimThatWasNeverStoredCannotBeClosed) {
   EXPECT_EQ(m_state.display, nullptr);
 }
 
+TEST_F(ClaimFormGuard, AClaimWhoseDaysFitNoKindIsClosedOnceItIsStored) {
+  ClaimRecord claim = acupuncture();
+  for (const int day : {1, 8, 15}) claim.set(ClaimRecord::codeColumn(day), qs(u"z"));
+  const qint64 id = add(claim);
+  open(id);
+  answer({true});
+  press(qs(u"cmdUpdate"));
+  told();
+  EXPECT_EQ(stored(id).get(qs(u"施術科目")), qs(u""));
+  press(qs(u"cmdClose"));
+  EXPECT_TRUE(told().isEmpty());
+  EXPECT_EQ(m_navigator.unloads, QStringList(qs(u"frmレセプトフォーム")));
+}
+
 TEST_F(ClaimFormGuard, AClaimThatWasNeverStoredCanBeDeleted) {
   const qint64 first = add(acupuncture());
   const qint64 second = add(massage());
