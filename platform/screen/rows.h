@@ -116,13 +116,17 @@ inline constexpr Run run{&detail::thunk<Method>};
 template <auto Method>
 inline constexpr Handler call = &detail::thunk<Method>;
 
+/// Limit of a field that has none of its own. What its column cannot hold is refused with a message when the
+/// row is stored: cutting it while it is typed or pasted would go unheard.
+inline constexpr int kNoLimit = 1 << 20;
+
 /// A text field, of one line or more. `lines` above 1 makes a memo.
 struct TextField {
   ControlName name;
   Words caption;  ///< as on the screen, colon included; spoken and accessible name
   Binding bind;
-  int limit = 255;  ///< characters that can be typed
-  int width = 20;   ///< characters shown, a hint for the layout
+  int limit = kNoLimit;  ///< characters that can be typed
+  int width = 20;        ///< characters shown, a hint for the layout
   int lines = 1;
   bool readOnly = false;
   const char16_t* say = nullptr;  ///< spoken on focus instead of caption and value
@@ -139,7 +143,7 @@ struct TextRun {
   int count;
   Words caption;  ///< u"%1日 治療内容"
   Binding bind;   ///< Column{u"治療内容%1"}
-  int limit = 255;
+  int limit = kNoLimit;
   int width = 4;
   int perLine = 7;  ///< fields beside each other
   bool readOnly = false;
@@ -157,7 +161,7 @@ struct Combo {
   Binding bind;
   std::span<const char16_t* const> items = {};  ///< fixed items; further ones by setItems()
   bool editable = false;
-  int limit = 255;
+  int limit = kNoLimit;
   int width = 16;
   const char16_t* say = nullptr;
   const char16_t* tip = nullptr;

@@ -54,6 +54,7 @@ constexpr Row kRows[] = {
           .caption = u"区分:",
           .bind = Column{u"区分"},
           .editable = true,
+          .limit = 255,
           .say = u"検索の文字選択と文字入力"},
     Check{.name = {u"Check1"},
           .caption = u"印刷する",

@@ -59,6 +59,20 @@ TEST_F(TextLimit, HoldsForEditableListsToo) {
   EXPECT_EQ(screen.text("Combo2").size(), 300) << "what is stored is shown whole";
 }
 
+TEST_F(TextLimit, AFieldWithoutOneTakesAllAndTheFileRefusesWhatItsColumnCannotHold) {
+  const QString path = desk.patientsFile({"見本一"});
+  ASSERT_TRUE(screen.source().open(path, "臨床QV"));
+  screen.focusOn("txtDay(60)");
+  probe.type(QString(256, u'あ'));
+  ASSERT_EQ(screen.text("txtDay(60)").size(), 256) << "nothing is cut unheard";
+  EXPECT_FALSE(screen.source().write());
+  ASSERT_EQ(desk.messages.texts().size(), 1);
+  EXPECT_TRUE(desk.messages.texts()[0].contains("255文字")) << desk.messages.texts()[0].toStdString();
+  EXPECT_EQ(screen.text("txtDay(60)").size(), 256) << "what was typed stays";
+  probe.press(Qt::Key_Backspace);
+  EXPECT_TRUE(screen.source().write());
+}
+
 TEST_F(TextLimit, HoldsForMemosToo) {
   screen.focusOn("txtMemo");  // a thousand characters
   probe.type(QString(1200, u'あ'));
