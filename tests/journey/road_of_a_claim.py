@@ -87,8 +87,34 @@ def carried_to_the_next_month(on):
     rows = [row[:8] for row in on.desk.rows()]
     assert rows == [["令和6年11月", "見本　太郎", "鍼灸", "国保", "継続", "1610", "483", "1127"],
                     ["令和6年10月", "見本　太郎", "鍼灸", "国保", "新規", "7140", "2142", "4998"]], rows
+    found_and_sorted(on)
     on.press("閉じる")
     on.at("選択")
+
+
+def found_and_sorted(on):
+    """抽出 and 並び替え of the two claims; a search without a hit leaves the list."""
+    months = lambda: [row[0] for row in on.desk.rows()]
+    on.desk.choose("抽出する項目", "氏名")
+    on.write("抽出する文字", "ほかの人")
+    on.press("抽出")
+    on.question("該当がありません。", "OK")
+    on.at("レセプトの一覧表")
+    assert months() == ["令和6年11月", "令和6年10月"], months()
+    on.press("並び替え")
+    on.at("ソート", "ソート")
+    on.desk.choose("並び替える項目", "申請年月")
+    on.press("昇順")
+    on.at("レセプトの一覧表")
+    assert months() == ["令和6年10月", "令和6年11月"], months()
+    on.desk.choose("抽出する項目", "申請年月")
+    on.write("抽出する文字", "１１月")  # full width finds the half-width month
+    on.desk.keys("Return")
+    on.hears_the_focus("レセプトの一覧表")
+    assert months() == ["令和6年11月"], months()
+    on.press("全患者表示及び再表示")
+    on.hears_the_focus("レセプトの一覧表")
+    assert months() == ["令和6年11月", "令和6年10月"], months()
 
 
 def road_of_a_massage_claim(on):
