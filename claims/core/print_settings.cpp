@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "frame/core/settings_slots.h"
+
 namespace claims {
 namespace {
 
@@ -18,8 +20,20 @@ constexpr std::array<PrintSetting, 15> kSettings = {{
     {u"txt dummy10", u"Option6", u"委任欄（償還払い時）", {kPrint, u"すべて印刷しない"}, nullptr, 0},
     {u"txt dummy11", u"Option7", u"申請欄（保険者の頭に○）", {kPrint, kNoPrint}, nullptr, 0},
     {u"txt dummy13", u"Option8", u"委任欄の被保険者の氏名の印字", {kPrint, kNoPrint}, nullptr, 0},
-    {u"txtdummy26", u"Option13", u"続柄の印字", {kPrint, kNoPrint}, nullptr, 0},
-    {u"c8", u"Option9", u"申請欄の氏名の印字", {kPrint, kNoPrint}, nullptr, 0},
+    {u"txtdummy26",
+     u"Option13",
+     u"続柄の印字",
+     {kPrint, kNoPrint},
+     nullptr,
+     0,
+     frame::profile::kRelationPrinted},
+    {u"c8",
+     u"Option9",
+     u"申請欄の氏名の印字",
+     {kPrint, kNoPrint},
+     nullptr,
+     0,
+     frame::slot::kPrintApplicantName},
     {u"c9", u"Option10", u"右上の給付割合の○", {kPrint, kNoPrint}, nullptr, 0},
     {u"c10", u"Option11", u"施術証明欄に代表者委任の印字", {kPrint, kNoPrint}, nullptr, 1},
     {u"c11", u"Option12", u"一部負担金を", {u"標準計算", u"公費があるため０円にする"}, nullptr, 0},
@@ -31,6 +45,12 @@ constexpr std::array<PrintSetting, 15> kSettings = {{
 constexpr std::array<NewClaimDefault, 4> kHidden = {
     {{u"txt dummy5", u"1"}, {u"txt dummy6", u"1"}, {u"txt dummy7", u"1"}, {u"txt dummy8", u"1"}}};
 
+bool flagRules(const PrintSetting& setting, const ClaimRecord& claim) {
+  if (setting.flag != frame::profile::kRelationPrinted) return setting.flag >= 0;
+  return claim.get(QStringLiteral("被保険者との続柄")) == u"本人" ||
+         claim.ticked(QStringLiteral("保険の種類2"));
+}
+
 }  // namespace
 
 std::span<const PrintSetting> printSettings() { return kSettings; }
@@ -41,10 +61,12 @@ const PrintSetting* printSetting(const QString& column) {
   return nullptr;
 }
 
-int chosen(const ClaimRecord& claim, const PrintSetting& setting) {
+int chosen(const ClaimRecord& claim, const PrintSetting& setting, const frame::ClinicProfile& profile) {
   const QString value = claim.get(columnName(setting.column));
   if (value == u"0") return 0;
   if (value == u"1") return 1;
+  if (flagRules(setting, claim) && !profile[setting.flag].isEmpty())
+    return profile[setting.flag] == u"1" ? 0 : 1;
   return setting.whenBlank;
 }
 

@@ -194,13 +194,8 @@ void ClaimFormScreen::applyPrintDefaults() {
   for (const NewClaimDefault& row : hiddenPrintDefaults())
     defaults.insert(QString::fromUtf16(row.column), QString::fromUtf16(row.value));
   for (const PrintSetting& setting : printSettings())
-    defaults.insert(QString::fromUtf16(setting.column), QString::number(setting.whenBlank));
-  // The practice's own flags, "1" for 印刷する, go before.
-  const std::pair<const char16_t*, int> flags[] = {{u"txtdummy26", frame::profile::kRelationPrinted},
-                                                   {u"c8", frame::slot::kPrintApplicantName}};
-  for (const auto& [column, slot] : flags)
-    if (const QString& flag = m_run.profile[slot]; !flag.isEmpty())
-      defaults.insert(QString::fromUtf16(column), flag == u"1" ? QStringLiteral("0") : QStringLiteral("1"));
+    defaults.insert(QString::fromUtf16(setting.column),
+                    QString::number(claims::chosen(m_read, setting, m_run.profile)));
   for (const BoundControl& bound : m_controls)
     if (bound.kind == BoundControl::Kind::Choice && chosen(bound.control).isEmpty())
       choose(bound.control, defaults.value(bound.column));

@@ -1,13 +1,10 @@
 #include "printing/core/print_settings.h"
 
 #include "claims/core/print_settings.h"
-#include "frame/core/settings_slots.h"
 
 namespace printing {
 
 namespace {
-
-constexpr int kNoFlag = -1;
 
 /// What a column says that holds neither "0" nor "1".
 enum class Blank { Default, Unchosen };
@@ -15,15 +12,14 @@ enum class Blank { Default, Unchosen };
 struct SettingRow {
   Setting setting;
   const char16_t* column;
-  int flag = kNoFlag;  ///< slot of the practice's own flag, "1" or "0"
   Blank blank = Blank::Default;
 };
 
 // The two ends of the period have a rule of their own where nobody chose; the first one's column also keeps
 // the link of the two halves in claims that were never stored, which is no choice either.
 constexpr SettingRow kSettings[] = {
-    {Setting::PeriodFrom, u"txt dummy1", kNoFlag, Blank::Unchosen},
-    {Setting::PeriodTo, u"txt dummy2", kNoFlag, Blank::Unchosen},
+    {Setting::PeriodFrom, u"txt dummy1", Blank::Unchosen},
+    {Setting::PeriodTo, u"txt dummy2", Blank::Unchosen},
     {Setting::LeftMargin, u"txt dummy3"},
     {Setting::PublicExpense, u"txt dummy4"},
     {Setting::Bank, u"txt dummy5"},
@@ -33,8 +29,8 @@ constexpr SettingRow kSettings[] = {
     {Setting::Sex, u"txt dummy9"},
     {Setting::Mandate, u"txt dummy10"},
     {Setting::MandateName, u"txt dummy13"},
-    {Setting::Relation, u"txtdummy26", frame::profile::kRelationPrinted},
-    {Setting::ApplicantName, u"c8", frame::slot::kPrintApplicantName},
+    {Setting::Relation, u"txtdummy26"},
+    {Setting::ApplicantName, u"c8"},
     {Setting::ShareCircles, u"c9"},
     {Setting::ProxyWords, u"c10"},
     {Setting::ShareAsComputed, u"c11"},
@@ -53,13 +49,11 @@ Switch wordOf(const QString& value) {
 Switch PrintSettings::of(Setting setting) const {
   const SettingRow& row = kSettings[static_cast<size_t>(setting)];
   const QString column = QString::fromUtf16(row.column);
-  if (m_claim.blank(column) && row.flag != kNoFlag && !m_profile[row.flag].isEmpty())
-    return wordOf(m_profile[row.flag]);
   const QString value = m_claim.get(column);
   if (row.blank == Blank::Unchosen && value != u"0" && value != u"1") return Switch::Empty;
   const claims::PrintSetting* buttons = claims::printSetting(column);
   if (buttons == nullptr) return wordOf(value);
-  return claims::chosen(m_claim, *buttons) == 0 ? Switch::On : Switch::Off;
+  return claims::chosen(m_claim, *buttons, m_profile) == 0 ? Switch::On : Switch::Off;
 }
 
 }  // namespace printing

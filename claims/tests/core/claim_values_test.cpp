@@ -122,11 +122,11 @@ TEST(PrintSettings, OneRowASwitch) {
 TEST(PrintSettings, ChosenByTheColumnElseTheDefault) {
   ClaimRecord claim;
   const PrintSetting& setting = *printSetting(QStringLiteral("c10"));
-  EXPECT_EQ(chosen(claim, setting), 1);
+  EXPECT_EQ(chosen(claim, setting, {}), 1);
   claim.set(QStringLiteral("c10"), QStringLiteral("0"));
-  EXPECT_EQ(chosen(claim, setting), 0);
+  EXPECT_EQ(chosen(claim, setting, {}), 0);
   claim.set(QStringLiteral("txt dummy1"), QStringLiteral("77"));  // the ID of a repaired half
-  EXPECT_EQ(chosen(claim, *printSetting(QStringLiteral("txt dummy1"))), 1);
+  EXPECT_EQ(chosen(claim, *printSetting(QStringLiteral("txt dummy1")), {}), 1);
 }
 
 TEST(PrintFields, FullWidthNumbersByKind) {

@@ -186,5 +186,13 @@ TEST_F(ClaimFormShow, ThePracticesOwnFlagsGoBeforeTheDefaults) {
   EXPECT_EQ(m_form->chosen(qs(u"FrameSet(9)")), qs(u"0"));
 }
 
+TEST_F(ClaimFormShow, TheInsuredsFlagLeavesARelativesRelationPrinted) {
+  m_run.profile[frame::profile::kRelationPrinted] = qs(u"0");
+  ClaimRecord claim = acupuncture();
+  claim.set(qs(u"被保険者との続柄"), qs(u"妻"));
+  openNew(claim);
+  EXPECT_EQ(m_form->chosen(qs(u"FrameSet(9)")), qs(u"0"));  // 続柄を印刷する
+}
+
 }  // namespace
 }  // namespace claims

@@ -110,9 +110,18 @@ TEST(Switches, PublicAidSetsTheShareToZero) {
 TEST(Switches, PracticesFlagsRuleWhereTheClaimIsBlank) {
   Filled filled = fullAcupuncture();
   filled.source.profile[frame::profile::kRelationPrinted] = QStringLiteral("0");
+  EXPECT_EQ(filled["Zokugara"], QStringLiteral("妻"));  // the flag is 本人の続柄印刷
+  filled.set({{u"被保険者との続柄", u"本人"}});
   EXPECT_FALSE(filled.marked("Zokugara"));
   filled.set({{u"txtdummy26", u"0"}});  // the claim's own choice: printed
-  EXPECT_EQ(filled["Zokugara"], QStringLiteral("妻"));
+  EXPECT_EQ(filled["Zokugara"], QStringLiteral("本人"));
+}
+
+TEST(Switches, TheFlagOfTheInsuredRulesOnesNotHeadOfTheHousehold) {
+  Filled filled = fullAcupuncture();
+  filled.source.profile[frame::profile::kRelationPrinted] = QStringLiteral("0");
+  filled.set({{u"保険の種類2", u"-1"}});  // prints as 本人
+  EXPECT_FALSE(filled.marked("Zokugara"));
 }
 
 TEST(Switches, PeriodByFirstAndLastDay) {
