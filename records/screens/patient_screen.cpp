@@ -176,9 +176,19 @@ void PatientScreen::focusTreatment() { focusOn(u"txtFields(27)"_s); }
 
 // ---- Leaving ----
 
+// A row that the file keeps refusing (read only, or deleted by another computer) must not lock the user in.
+bool PatientScreen::mayLeave() {
+  if (settlePatientRow(*this)) return true;
+  const bool yes = messages().ask(
+      u"登録出来ませんでした。入力した内容を捨てて、メインメニューへ戻りますか？"_s, screen::Buttons::YesNo);
+  m_run.lastAnswer = yes ? 1 : 0;
+  if (yes) source().drop();
+  return yes;
+}
+
 void PatientScreen::leave() {
   if (source().isOpen()) {
-    if (!settlePatientRow(*this)) return;
+    if (!mayLeave()) return;
     m_run.patientOnView = source().rows().recordCount() > 0 ? source().rows().bookmark() : -1;
   }
   navigator().show(u"選択3"_s);

@@ -50,6 +50,7 @@ class PatientScreen : public screen::Screen {
 
  private:
   void move(void (screen::DataSource::*step)());
+  bool mayLeave();
   void convertDates(QString (frame::EraDates::*conversion)(const QString&) const);
   void applyCaptions();
   screen::Request patientColumns() const;

@@ -223,7 +223,8 @@ TEST_F(PatientScreenTest, MovesStayInsideTheTableAndTellTheirPlace) {
 }
 
 TEST_F(PatientScreenTest, AClaimOpensItsOwnPatient) {
-  for (const auto& [serial, patient] : {std::pair(u"A1"_s, u"見本 一郎"_s), std::pair(u"A2"_s, u"見本 二郎"_s)})
+  for (const auto& [serial, patient] :
+       {std::pair(u"A1"_s, u"見本 一郎"_s), std::pair(u"A2"_s, u"見本 二郎"_s)})
     addPatient({{u"テキスト5"_s, serial}, {u"氏名"_s, patient}});
   screen::Screen& screen = patients();
   navigator.show(u"治療台帳4"_s, {{u"テキスト5"_s, u"A2"_s}});
@@ -385,6 +386,26 @@ TEST_F(PatientScreenTest, CloseBoxTurnsTheDatesIntoEraNotationFirst) {
   EXPECT_TRUE(isShown(u"選択3"));
   EXPECT_EQ(stored(u"生年月日"_s), QStringList{u"昭和28年3月5日"_s});
   EXPECT_EQ(stored(u"初診日"_s), QStringList{u"令和6年4月1日"_s});
+}
+
+TEST_F(PatientScreenTest, ARowThatCannotBeWrittenDoesNotLockTheUserIn) {
+  addNamed({u"見本 一郎"_s, u"見本 二郎"_s});
+  screen::Screen& screen = patients();
+  screen.setText(u"txtFields(16)"_s, u"自営"_s);
+  store::RecordSet other = table();  // another computer deletes the patient on view
+  ASSERT_TRUE(other.remove());
+  answer({false, true});
+  screen.trigger(u"cmdClose"_s);
+  EXPECT_TRUE(isShown(u"治療台帳4"));
+  EXPECT_EQ(screen.text(u"txtFields(16)"_s), u"自営"_s) << "what was typed stays until it is given up";
+  screen.trigger(u"cmdClose"_s);
+  EXPECT_FALSE(isShown(u"治療台帳4"));
+  EXPECT_TRUE(isShown(u"選択3"));
+  EXPECT_EQ(
+      messages.texts().count(u"登録出来ませんでした。入力した内容を捨てて、メインメニューへ戻りますか？"_s),
+      2);
+  EXPECT_EQ(run.lastAnswer, 1);
+  EXPECT_EQ(stored(u"氏名"_s), QStringList{u"見本 二郎"_s});
 }
 
 TEST_F(PatientScreenTest, NewClaimIsHandedThePatient) {
