@@ -153,7 +153,7 @@ TEST_F(ClaimFormFields, DifferingNumbersOfAreasAreWarnedOfOnce) {
   m_channel.clear();
   type(qs(u"Text5(9)"), qs(u"g3"));
   EXPECT_TRUE(m_form->isControlShown(qs(u"LabelAreas")));
-  EXPECT_TRUE(m_channel.lastSaid().startsWith(qs(u"※マッサージの局数が異なる日がある場合")));
+  EXPECT_TRUE(m_channel.lastSaid().startsWith(qs(u"※マッサージの局所数が異なる日がある場合")));
   m_channel.clear();
   type(qs(u"Text5(10)"), qs(u"g3"));
   EXPECT_TRUE(m_channel.said().isEmpty());
