@@ -1,5 +1,7 @@
 #include "claims/screens/preview_screen.h"
 
+#include <QFontMetrics>
+#include <QLineEdit>
 #include <array>
 #include <utility>
 
@@ -97,6 +99,13 @@ void PreviewScreen::opened(const Request&) {
   showMoney(money, rate);
 }
 
+// A line is read as a whole: it is never shorter than its text, whatever the font.
+void PreviewScreen::widen(const QString& control) {
+  auto* field = findChild<QLineEdit*>(control);
+  const QFontMetrics metrics = field->fontMetrics();
+  field->setMinimumWidth(metrics.horizontalAdvance(field->text()) + 2 * metrics.horizontalAdvance(u'あ'));
+}
+
 void PreviewScreen::showMoney(const ClaimAmounts& money, const QString& rate) {
   for (int i = 0; i < kLines; ++i) {
     const QString control = QStringLiteral("Text1(%1)").arg(i);
@@ -106,6 +115,7 @@ void PreviewScreen::showMoney(const ClaimAmounts& money, const QString& rate) {
     setCaption(control, row.label + ':');
     setText(control,
             QStringLiteral("%1 × %2回 ＝ %3").arg(yen(row.unit)).arg(row.count).arg(yen(row.amount)));
+    widen(control);
   }
   setCaption("Text3", QStringLiteral("一部負担金") + (rate.isEmpty() ? QString() : ' ' + rate) + ':');
   setText("Text2", yen(money.total));

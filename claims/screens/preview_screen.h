@@ -19,6 +19,7 @@ class PreviewScreen : public screen::Screen {
   void finish();
 
  private:
+  void widen(const QString& control);
   void showMoney(const ClaimAmounts& money, const QString& rate);
 
   frame::RunState& m_run;

@@ -253,6 +253,17 @@ TEST_P(Preview, SpeaksEveryLineByTab) {
   EXPECT_EQ(heard, wanted);
 }
 
+TEST_P(Preview, NoLineIsCut) {
+  m_run.clock = &m_clock;
+  open(GetParam());
+  m_screen->show();
+  for (const QLineEdit* field : m_screen->findChildren<QLineEdit*>()) {
+    if (!field->isVisible()) continue;
+    EXPECT_GT(field->width(), field->fontMetrics().horizontalAdvance(field->text()))
+        << field->text().toStdString();
+  }
+}
+
 std::string nameOf(const testing::TestParamInfo<PreviewCase>& info) { return info.param.name; }
 INSTANTIATE_TEST_SUITE_P(Months, Preview, testing::ValuesIn(kCases), nameOf);
 
