@@ -144,6 +144,34 @@ bool ClaimListScreen::onCloseBox() {
   return false;
 }
 
+void ClaimListScreen::goFirst() {
+  Screen::goFirst();
+  announce();
+}
+
+void ClaimListScreen::goPrevious() {
+  Screen::goPrevious();
+  announce();
+}
+
+void ClaimListScreen::goNext() {
+  Screen::goNext();
+  announce();
+}
+
+void ClaimListScreen::goLast() {
+  Screen::goLast();
+  announce();
+}
+
+void ClaimListScreen::announce() {
+  if (!holdsRows()) return;
+  QStringList parts;
+  for (const QString& column : {QStringLiteral("申請年月"), QStringLiteral("氏名")})
+    parts << column << source().rows().value(column);
+  voice().speakHeading(parts);
+}
+
 void ClaimListScreen::rowShown(int) { setText("Text2", source().positionText()); }
 
 }  // namespace claims

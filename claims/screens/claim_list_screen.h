@@ -26,6 +26,10 @@ class ClaimListScreen : public screen::Screen {
   void onActivate() override;
   bool onCloseBox() override;
   void rowShown(int sourceNumber) override;
+  void goFirst() override;
+  void goPrevious() override;
+  void goNext() override;
+  void goLast() override;
 
   /// Opens the form on the row. A first half without its second half gets one on the spot, so that the pair
   /// exists.
@@ -47,6 +51,8 @@ class ClaimListScreen : public screen::Screen {
   bool holdsRows() const;
   /// Tells an empty list; true where it was one.
   bool emptySet();
+  /// Says which claim the record keys led to.
+  void announce();
   qint64 currentId() const;
   /// Both files; nothing where one of them cannot be opened, which was told.
   std::optional<ClaimFile> claimFile();

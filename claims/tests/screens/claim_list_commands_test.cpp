@@ -201,6 +201,26 @@ TEST_F(ClaimListCommands, ARowIsHeardCellByCell) {
   EXPECT_EQ(m_channel.lastSaid(), qs(u"氏名") + separator + qs(u"見本 太郎"));
 }
 
+TEST_F(ClaimListCommands, TheRecordKeysSayWhereTheyLedTo) {
+  addClaim({{u"申請年月", u"令和6年9月"}, {u"氏名", u"見本 太郎"}});
+  addClaim({{u"申請年月", u"令和6年10月"}, {u"氏名", u"架空 次郎"}});
+  addClaim({{u"申請年月", u"令和6年11月"}, {u"氏名", u"例示 花子"}});
+  openList();
+  activate();
+  const QString separator(voice::kSpeechSeparator);
+  const auto said = [&](const char16_t* month, const char16_t* name) {
+    return QStringList({qs(u"申請年月"), qs(month), qs(u"氏名"), qs(name)}).join(separator);
+  };
+  QTest::keyClick(m_list.get(), Qt::Key_F4);
+  EXPECT_EQ(m_channel.lastSaid(), said(u"令和6年9月", u"見本 太郎"));
+  QTest::keyClick(m_list.get(), Qt::Key_F2);
+  EXPECT_EQ(m_channel.lastSaid(), said(u"令和6年10月", u"架空 次郎"));
+  QTest::keyClick(m_list.get(), Qt::Key_F3);
+  EXPECT_EQ(m_channel.lastSaid(), said(u"令和6年9月", u"見本 太郎"));
+  QTest::keyClick(m_list.get(), Qt::Key_F1);
+  EXPECT_EQ(m_channel.lastSaid(), said(u"令和6年11月", u"例示 花子"));
+}
+
 TEST_F(ClaimListCommands, TheSortDialogHandsItsColumnAndDirectionToTheList) {
   const std::pair<const char16_t*, const char16_t*> cases[] = {{u"Command1", u"氏名 ASC"},
                                                                {u"Command3", u"氏名 DESC"}};
