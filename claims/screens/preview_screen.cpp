@@ -42,6 +42,9 @@ consteval auto allRows(std::integer_sequence<int, Index...>) {
       Group{.name = u"Frame1", .caption = u"施術料金", .columns = 1},
       line<Index>()...,
       EndGroup{},
+      Note{.name = u"Label1",
+           .caption = u"通所及び訪問施術は、異なる局数は２つまで対応。それ以外は表示しませんし、合計にも、"
+                      u"含まれません。"},
       Group{.name = u"Frame2", .caption = u"合計", .columns = 3},
       sum(u"Text2", u"合計:"),
       sum(u"Text3", u"一部負担金:"),
@@ -107,6 +110,7 @@ void PreviewScreen::widen(const QString& control) {
 }
 
 void PreviewScreen::showMoney(const ClaimAmounts& money, const QString& rate) {
+  setShown(QStringLiteral("Label1"), QStringView(declaration().name.get()) == u"施術料金2024A");
   for (int i = 0; i < kLines; ++i) {
     const QString control = QStringLiteral("Text1(%1)").arg(i);
     setShown(control, i < money.rows.size());

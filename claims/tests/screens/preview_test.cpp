@@ -231,6 +231,14 @@ TEST_P(Preview, ShowsTheLinesThatCountAndTheSums) {
   EXPECT_EQ(m_screen->text(qs(u"Text4")), qs(row.claim));
 }
 
+TEST_P(Preview, TellsOfTheTwoNumbersOfAreasOnlyWhereTheyRule) {
+  m_run.clock = &m_clock;
+  open(GetParam());
+  EXPECT_EQ(m_screen->isControlShown(qs(u"Label1")), qs(GetParam().screen) == qs(u"施術料金2024A"));
+  EXPECT_EQ(m_screen->caption(qs(u"Label1")),
+            qs(u"通所及び訪問施術は、異なる局数は２つまで対応。それ以外は表示しませんし、合計にも、含まれません。"));
+}
+
 TEST_P(Preview, SpeaksEveryLineByTab) {
   const PreviewCase& row = GetParam();
   m_run.clock = &m_clock;
