@@ -65,9 +65,12 @@ void MainMenuScreen::showSubmissions() {
 
 void MainMenuScreen::changePrefecture() {
   const QString typed = text(u"Text2"_s);
-  if (typed.isEmpty()) return;
-  m_run.prefectureCode = twoDigitPrefecture(typed);
-  setText(u"Text2"_s, m_run.prefectureCode);
+  if (!typed.isEmpty()) {
+    m_run.prefectureCode = twoDigitPrefecture(typed);
+    setText(u"Text2"_s, m_run.prefectureCode);
+  }
+  // What holds now, also where a blank field changed nothing.
+  voice().speakText(caption(u"Text2"_s) + voice::kSpeechSeparator + m_run.prefectureCode);
 }
 
 void MainMenuScreen::chooseAichi() {

@@ -17,6 +17,13 @@ namespace {
 constexpr char16_t kBirth[] = u"txtF6";
 constexpr char16_t kFirstVisit[] = u"txtF24";
 constexpr char16_t kSerial[] = u"Text2";
+constexpr char16_t kName[] = u"txtFields(4)";
+
+/// Results, spoken when the work is done.
+constexpr char16_t kStored[] = u"登録しました";
+constexpr char16_t kDeleted[] = u"削除しました";
+constexpr char16_t kWesternDone[] = u"日付を西暦にしました";
+constexpr char16_t kEraDone[] = u"日付を和暦にしました";
 
 QString name(const char16_t* control) { return QString::fromUtf16(control); }
 
@@ -78,10 +85,28 @@ void PatientScreen::move(void (screen::DataSource::*step)()) {
   (source().*step)();
 }
 
-void PatientScreen::goFirst() { move(&screen::DataSource::moveFirst); }
-void PatientScreen::goPrevious() { move(&screen::DataSource::movePrevious); }
-void PatientScreen::goNext() { move(&screen::DataSource::moveNext); }
-void PatientScreen::goLast() { move(&screen::DataSource::moveLast); }
+void PatientScreen::step(void (screen::DataSource::*step)()) {
+  move(step);
+  voice().speakHeading(onView());
+}
+
+void PatientScreen::goFirst() { step(&screen::DataSource::moveFirst); }
+void PatientScreen::goPrevious() { step(&screen::DataSource::movePrevious); }
+void PatientScreen::goNext() { step(&screen::DataSource::moveNext); }
+void PatientScreen::goLast() { step(&screen::DataSource::moveLast); }
+
+QStringList PatientScreen::onView() const {
+  if (!source().isOpen() || source().rows().recordCount() == 0)
+    return {caption(u"LabelCount"_s), caption(u"Label14"_s)};
+  return {caption(u"Data1"_s), text(name(kName))};
+}
+
+void PatientScreen::say(const QStringList& parts) {
+  QStringList spoken;
+  for (const QString& part : parts)
+    if (!part.isEmpty()) spoken << part;
+  voice().speakText(spoken.join(voice::kSpeechSeparator));
+}
 
 // ---- The record ----
 
@@ -101,7 +126,7 @@ void PatientScreen::startNewPatient() {
     return messages().tellDataFault(read.fault().message);
   QString last;
   if (source().rows().recordCount() > 0) {
-    goLast();
+    move(&screen::DataSource::moveLast);
     last = source().rows().value(u"テキスト5"_s);
   }
   if (!source().addNew()) return;
@@ -113,7 +138,7 @@ void PatientScreen::startNewPatient() {
 void PatientScreen::storePatient() {
   if (!source().isOpen() || !messages().ask(u"       　　    登録しますか？"_s)) return;
   refreshAge();
-  source().write();
+  if (source().write()) say({name(kStored)});
 }
 
 void PatientScreen::deletePatient() {
@@ -124,8 +149,9 @@ void PatientScreen::deletePatient() {
   // A row that was never stored only leaves the screen: the patient before it must not go instead.
   if (rows.adding())
     source().drop();
-  else
-    source().remove();
+  else if (!source().remove())
+    return;
+  say(QStringList{name(kDeleted)} + onView());
 }
 
 void PatientScreen::search() {
@@ -136,7 +162,8 @@ void PatientScreen::search() {
   (void)history.remember(word);
   setItems(u"Combo3"_s, history.words());
   setText(u"Combo3"_s, word);
-  findPatient(*this, likeCriterion(columnOfCaption(text(u"Combo1"_s)), word));
+  if (findPatient(*this, likeCriterion(columnOfCaption(text(u"Combo1"_s)), word)))
+    voice().speakHeading(onView());
 }
 
 void PatientScreen::chooseSex() { setText(u"txtFields(5)"_s, text(u"Combo2"_s)); }
@@ -159,12 +186,20 @@ void PatientScreen::convertDates(QString (frame::EraDates::*conversion)(const QS
   refreshAge();
 }
 
-void PatientScreen::toSeireki() { convertDates(&frame::EraDates::seireki); }
-void PatientScreen::toWareki() { convertDates(&frame::EraDates::wareki); }
+void PatientScreen::toSeireki() {
+  convertDates(&frame::EraDates::seireki);
+  say({name(kWesternDone), text(name(kBirth)), text(name(kFirstVisit))});
+}
+
+void PatientScreen::toWareki() {
+  convertDates(&frame::EraDates::wareki);
+  say({name(kEraDone), text(name(kBirth)), text(name(kFirstVisit))});
+}
 
 void PatientScreen::fillFirstVisit() {
   if (text(name(kFirstVisit)).isEmpty())
     setText(name(kFirstVisit), m_run.eraDates().formatEra(m_run.clock->today()));
+  say({caption(name(kFirstVisit)), text(name(kFirstVisit))});
 }
 
 void PatientScreen::copyToday() {
@@ -197,7 +232,7 @@ void PatientScreen::leave() {
 
 // The close box converts the dates to era notation first, then leaves like the button.
 bool PatientScreen::onCloseBox() {
-  if (source().isOpen() && source().rows().recordCount() > 0) toWareki();
+  if (source().isOpen() && source().rows().recordCount() > 0) convertDates(&frame::EraDates::wareki);
   leave();
   return false;
 }

@@ -50,6 +50,12 @@ class PatientScreen : public screen::Screen {
 
  private:
   void move(void (screen::DataSource::*step)());
+  /// A move of the user's: says who is on view then.
+  void step(void (screen::DataSource::*step)());
+  /// Position and name of the patient on view; of an empty register the number of patients.
+  QStringList onView() const;
+  /// Speaks a result; blank parts are left out.
+  void say(const QStringList& parts);
   bool mayLeave();
   void convertDates(QString (frame::EraDates::*conversion)(const QString&) const);
   void applyCaptions();

@@ -38,6 +38,16 @@ TEST_F(MainMenuTest, PrefectureOfOneCharacterGetsAZeroABlankChangesNothing) {
   EXPECT_EQ(run.prefectureCode, u"27"_s);
 }
 
+TEST_F(MainMenuTest, ChangedPrefectureIsSaid) {
+  screen::Screen& menu = shown(u"選択3");
+  menu.setText(u"Text2"_s, u"7"_s);
+  menu.trigger(u"Command20"_s);
+  EXPECT_EQ(channel.lastSaid(), u"都道府県番号:"_s + QChar(254) + u"07"_s);
+  menu.setText(u"Text2"_s, u""_s);
+  menu.trigger(u"Command20"_s);
+  EXPECT_EQ(channel.lastSaid(), u"都道府県番号:"_s + QChar(254) + u"07"_s);
+}
+
 struct SubmissionCase {
   QString aichi, aichiText, tokyo, tokyoText;
   bool aichiTicked, tokyoTicked;
