@@ -34,8 +34,8 @@ constexpr FilledFile kDictionaries[] = {{u"Keiraku2000.mdb", u"acupoints.csv"},
 constexpr char16_t kFees[] = u"fees/editions.csv";
 constexpr char16_t kFeeTable[] = u"料金設定";
 
-/// Whether the user fills the file: the patients, visits, claims and the other registers. The dictionaries and
-/// the fee files are shipped filled.
+/// Whether the user fills the file: the patients, visits, claims and the other registers. The dictionaries
+/// and the fee files are shipped filled.
 bool isRegister(const store::TableRow& row) {
   const auto fills = [&](const FilledFile& dictionary) {
     return QStringView(dictionary.file) == QStringView(row.file);

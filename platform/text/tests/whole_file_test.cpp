@@ -34,8 +34,7 @@ TEST(WholeFile, AFaultNamesTheFileAndTheOldContentsStay) {
 TEST(WholeFile, AFolderInTheFilesPlaceIsTold) {
   QTemporaryDir folder;
   EXPECT_TRUE(readWholeFile(folder.path()).fault().message.contains(QStringLiteral("フォルダです。")));
-  EXPECT_TRUE(
-      writeWholeFile(folder.path(), "x").fault().message.contains(QStringLiteral("フォルダです。")));
+  EXPECT_TRUE(writeWholeFile(folder.path(), "x").fault().message.contains(QStringLiteral("フォルダです。")));
 }
 
 TEST(WholeFile, AnEmptyAndALongFileAreReadWhole) {
