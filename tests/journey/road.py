@@ -61,6 +61,15 @@ class Road:
         self.hears_the_focus(title)
         return self
 
+    def back_at(self, title):
+        """The window has the keyboard again after a message. Whether its focus is heard then depends on when the
+        window manager gives it back, so a Tab and one back tell where the ear is."""
+        self.desk.wait_window(title)
+        for back in (False, True):
+            self.mark = self.desk.mark()
+            self.desk.tab(back)
+            self.hears_the_focus(title)
+
     def hears_the_focus(self, title):
         """The last thing said is the control that has the keyboard, with its contents."""
         desk = self.desk

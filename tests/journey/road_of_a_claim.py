@@ -99,7 +99,7 @@ def found_and_sorted(on):
     on.write("抽出する文字", "ほかの人")
     on.press("抽出")
     on.question("該当がありません。", "OK")
-    on.at("レセプトの一覧表")
+    on.back_at("レセプトの一覧表")
     assert months() == ["令和6年11月", "令和6年10月"], months()
     on.press("並び替え")
     on.at("ソート", "ソート")
