@@ -180,7 +180,11 @@ QMenu* Builder::menu(const char16_t* caption) {
   if (menu) return menu;
   voice::VoiceGuide& voice = m_screen.voice();
   const auto speakEntry = [&voice](const QAction* entry) { voice.speakFocus(spokenCaption(entry->text())); };
-  if (m_menus.size() == 1) QObject::connect(m_screen.menuBar(), &QMenuBar::hovered, &m_screen, speakEntry);
+  // The bar passes the entries of its menus on, which speak themselves.
+  const auto speakTitle = [speakEntry](const QAction* entry) {
+    if (entry->menu()) speakEntry(entry);
+  };
+  if (m_menus.size() == 1) QObject::connect(m_screen.menuBar(), &QMenuBar::hovered, &m_screen, speakTitle);
   menu = m_screen.menuBar()->addMenu(shownCaption(title));
   menu->setObjectName(title);
   QObject::connect(menu, &QMenu::hovered, &m_screen, speakEntry);

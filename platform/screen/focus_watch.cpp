@@ -9,6 +9,16 @@
 #include "platform/screen/scroll_pane.h"
 
 namespace screen {
+namespace {
+
+/// Whether a window that opened over the screen still waits for the keyboard: the focus that the screen is
+/// handed for a moment is not heard then.
+bool coveredByOpening(Screen& screen) {
+  const Screen* front = screen.navigator().front();
+  return front && front != &screen && front->awaitsKeyboard();
+}
+
+}  // namespace
 
 FocusWatch::FocusWatch(Screen& screen, ControlBook& book, const OpeningHold& opening)
     : m_screen(screen), m_book(book), m_opening(opening) {
@@ -27,11 +37,26 @@ void FocusWatch::changed(QWidget* old, QWidget* now) {
   if (from && from != to && !m_returning && sendsBack(*from, old)) return;
   if (QApplication::focusWidget() != now) return;  // the leave handler moved it on
   bringIntoView(now);
+  if (coveredByOpening(m_screen)) return;
   const bool fromOwnList = old && old->window() != &m_screen && old->window()->parentWidget() == now;
   // While the opening sentence is heard the window may be handed the focus twice; it speaks once.
   const bool again = m_opening.isHeld() && now == m_spokeLast;
   m_spokeLast = now;
-  if (!fromOwnList && !again) to->speak(m_screen.voice(), now);
+  if (fromOwnList || again) return;
+  if (qobject_cast<QMenuBar*>(old))
+    speakAfterMenu(*to, now);
+  else
+    to->speak(m_screen.voice(), now);
+}
+
+// The toolkit hands the focus back before it runs the entry that was chosen: the control is heard only where
+// the menu was left without a choice.
+void FocusWatch::speakAfterMenu(const Control& control, QWidget* widget) {
+  const auto speak = [this, &control, widget, before = m_commands] {
+    if (m_ended || m_commands != before || QApplication::focusWidget() != widget) return;
+    control.speak(m_screen.voice(), widget);
+  };
+  QMetaObject::invokeMethod(this, speak, Qt::QueuedConnection);
 }
 
 bool FocusWatch::sendsBack(Control& left, QWidget* widget) {

@@ -23,6 +23,8 @@ class Navigator {
   /// The loaded screen, nullptr where it is not loaded.
   virtual Screen* loaded(const QString& screenName) const = 0;
   virtual bool isShown(const QString& screenName) const = 0;
+  /// The screen that was shown last, nullptr where it has closed since.
+  virtual Screen* front() const { return nullptr; }
   /// Closes and forgets the screen (deleted when control returns to the event loop).
   virtual void unload(const QString& screenName) = 0;
   /// Ends the program.

@@ -63,6 +63,7 @@ Screen* ScreenNavigator::show(const QString& screenName, const Request& request)
   // A screen may refuse to open by unloading itself in its own handlers.
   if (loaded(screenName) == screen) screen->opened(request);
   if (loaded(screenName) != screen) return nullptr;
+  m_front = screen;
   if (screen->isMinimized()) screen->showNormal();
   screen->show();
   screen->raise();

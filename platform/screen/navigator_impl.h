@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <functional>
 #include <map>
 #include <memory>
@@ -42,6 +43,7 @@ class ScreenNavigator : public Navigator {
   Screen* load(const QString& screenName) override;
   Screen* loaded(const QString& screenName) const override;
   bool isShown(const QString& screenName) const override;
+  Screen* front() const override { return m_front; }
   void unload(const QString& screenName) override;
   void quit() override;
 
@@ -50,6 +52,7 @@ class ScreenNavigator : public Navigator {
   const ScreenRegistry& m_registry;
   Services* m_services = nullptr;
   std::map<QString, Screen*> m_loaded;
+  QPointer<Screen> m_front;
   bool m_quitting = false;
 };
 

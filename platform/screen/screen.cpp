@@ -49,6 +49,10 @@ void Screen::speakOpening() {
     voice().speakHeading(texts);
 }
 
+bool Screen::awaitsKeyboard() const {
+  return isVisible() && !m_parts->activated && m_parts->opening.isHeld();
+}
+
 QStringList Screen::openingTexts() const {
   QStringList texts{m_declaration.heading ? QString::fromUtf16(m_declaration.heading) : windowTitle()};
   for (const auto& control : m_parts->book.all()) {
@@ -59,6 +63,7 @@ QStringList Screen::openingTexts() const {
 }
 
 bool Screen::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) m_parts->activated = true;
   const bool handled = QMainWindow::event(event);
   if (event->type() == QEvent::WindowActivate && !m_parts->closed) onActivate();
   return handled;
@@ -105,6 +110,7 @@ void Screen::trigger(const QString& command) {
 
 void Screen::runCommand(const QString& name, Handler action, int index) {
   const QPointer<Screen> alive(this);
+  m_parts->focus.commandRuns();
   const QString outer = std::exchange(m_parts->running, name);
   action(*this, index);
   if (alive) m_parts->running = outer;

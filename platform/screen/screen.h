@@ -107,6 +107,9 @@ class Screen : public QMainWindow {
   void speakOpening();
   /// Before loading: the speech of the screen before is cut, what is said from now on waits its turn.
   void prepareOpening();
+  /// Shown and never yet the active window, and no key was pressed since: the desk still has to hand it the
+  /// keyboard.
+  bool awaitsKeyboard() const;
   /// What speakOpening() says: the heading (where none is declared the caption) and the spoken notes.
   /// Screens with their own sentence override it; an empty list says nothing.
   virtual QStringList openingTexts() const;

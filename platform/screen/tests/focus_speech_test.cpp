@@ -138,5 +138,39 @@ TEST_F(Speech, MenuEntriesAreSaidAsTheyAreWalked) {
   EXPECT_EQ(desk.spy.lastSaid(), "終わる");
 }
 
+TEST_F(Speech, MenuEntryIsSaidOnceWhereTheBarOpenedItsMenu) {
+  auto* menu = screen.findChild<QMenu*>("ファイル(&F)");
+  ASSERT_NE(menu, nullptr);
+  screen.menuBar()->setActiveAction(menu->menuAction());
+  desk.spy.clear();
+  menu->setActiveAction(menu->actions().at(1));
+  EXPECT_EQ(desk.spy.said(), QStringList("終わる"));
+  menu->close();
+}
+
+/// The menu bar takes the focus from a field and gives it back, as the toolkit does around a menu.
+class AfterTheMenu : public Speech {
+ protected:
+  void SetUp() override {
+    Speech::SetUp();
+    screen.focusOn("txtFields(4)");
+    QWidget* field = QApplication::focusWidget();
+    screen.menuBar()->setFocus(Qt::MenuBarFocusReason);
+    desk.spy.clear();
+    field->setFocus(Qt::MenuBarFocusReason);
+  }
+};
+
+TEST_F(AfterTheMenu, FieldIsHeardWhereNothingWasChosen) {
+  QCoreApplication::processEvents();
+  EXPECT_EQ(desk.spy.said(), QStringList("※氏名:" + kPart));
+}
+
+TEST_F(AfterTheMenu, FieldIsSilentWhereAnEntryRuns) {
+  screen.trigger("Men_X");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(desk.spy.said(), QStringList());
+}
+
 }  // namespace
 }  // namespace screen::testing

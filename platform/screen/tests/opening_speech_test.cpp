@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
+
 #include "sample_screen.h"
 
 namespace screen::testing {
@@ -48,6 +50,23 @@ TEST(OpeningSpeechThroughTheNavigator, KeepsWhatIsSaidWhileLoading) {
   ASSERT_NE(screen, nullptr);
   ScreenProbe(*screen, desk.spy).open();
   EXPECT_EQ(desk.spy.heardWhole(), QStringList({"読み込みました", kOpening, "登録"}));
+}
+
+TEST(OpeningSpeechThroughTheNavigator, WindowBehindIsSilentUntilTheOneThatOpensHasTheKeyboard) {
+  Desk desk;
+  desk.registry.add<SampleScreen>("見本1");
+  desk.registry.add<SampleScreen>("見本2");
+  Screen* behind = desk.navigator.show("見本1");
+  Screen* front = desk.navigator.show("見本2");
+  desk.spy.clear();
+  QApplication::setActiveWindow(behind);
+  EXPECT_TRUE(behind->isActiveWindow());
+  EXPECT_EQ(desk.spy.said(), QStringList());
+  QApplication::setActiveWindow(front);
+  EXPECT_EQ(desk.spy.said(), QStringList("登録"));
+  desk.navigator.unload("見本2");
+  QApplication::setActiveWindow(behind);
+  EXPECT_EQ(desk.spy.said(), QStringList({"登録", "登録"}));
 }
 
 }  // namespace
