@@ -51,7 +51,10 @@ QString wrapped(const QString& text) {
 void fitWidth(QWidget* field, int characters) {
   const int character = field->fontMetrics().horizontalAdvance(u'あ');
   const int shown = std::clamp(characters, 2, 40);
-  field->setMinimumWidth(std::min(shown, 8) * character + character);
+  // A field declared wider than any text of a person holds paths and lists, half-width for the most part: it
+  // is seen whole.
+  const int whole = characters > shown ? characters / 2 : std::min(shown, 8);
+  field->setMinimumWidth(whole * character + character);
   if (characters < 12) field->setMaximumWidth(std::max(4, 2 * characters) * character + 2 * character);
 }
 
@@ -127,7 +130,8 @@ Family::Family(QWidget* host, int perLine)
     : m_grid(gridOf(host, 0)),
       m_perLine(fittingColumns(std::max(1, perLine))),
       m_labelsBeside(perLine <= kBesideAtMost) {
-  m_grid->setColumnStretch(m_labelsBeside ? 2 * m_perLine : m_perLine, 1);
+  // A field that has the line for itself takes what is left of it.
+  m_grid->setColumnStretch(perLine <= 1 ? 1 : m_labelsBeside ? 2 * m_perLine : m_perLine, 1);
 }
 
 void Family::add(QLabel* label, QWidget* field) {
@@ -135,7 +139,8 @@ void Family::add(QLabel* label, QWidget* field) {
   ++m_count;
   if (m_labelsBeside) {
     m_grid->addWidget(label, line, 2 * column, Qt::AlignRight | Qt::AlignVCenter);
-    m_grid->addWidget(field, line, 2 * column + 1);
+    const bool bounded = field->maximumWidth() < QWIDGETSIZE_MAX;
+    m_grid->addWidget(field, line, 2 * column + 1, bounded ? Qt::AlignLeft : Qt::Alignment());
     return;
   }
   m_grid->addWidget(label, 2 * line, column, Qt::AlignLeft | Qt::AlignBottom);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QtWidgets/QtWidgets>
+
 namespace screen {
 namespace {
 
@@ -30,6 +32,27 @@ TEST(WrappedCaption, BreaksWhereTheLineIsFull) {
   EXPECT_EQ(wrapped(QStringLiteral("一二三四五"), 5), QStringLiteral("一二三四五"));
   EXPECT_EQ(wrapped(QStringLiteral("一二三四五六七"), 3), QStringLiteral("一二三\n四五六\n七"));
   EXPECT_EQ(wrapped(QString(), 3), QString());
+}
+
+TEST(FieldWidth, PathOfSixtyFourHalfWidthCharactersIsSeenWhole) {
+  QLineEdit field;
+  fitWidth(&field, 64);
+  const QString path = QStringLiteral("/home/mihon/clinic/data/").leftJustified(64, u'n');
+  EXPECT_GE(field.minimumWidth(), field.fontMetrics().horizontalAdvance(u'あ') * path.size() / 2);
+}
+
+TEST(FamilyOfOneALine, FieldTakesTheLineBesideItsCaption) {
+  QWidget host;
+  Family family(&host, 1);
+  auto* label = new QLabel(QStringLiteral("見本"), &host);
+  auto* field = new QLineEdit(&host);
+  fitWidth(field, 40);
+  family.add(label, field);
+  host.resize(900, 60);
+  host.layout()->activate();
+  EXPECT_GT(field->geometry().left(), label->geometry().right());
+  EXPECT_LT(std::abs(field->geometry().center().y() - label->geometry().center().y()), 3);
+  EXPECT_GE(field->geometry().right(), 890);
 }
 
 }  // namespace
