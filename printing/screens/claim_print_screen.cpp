@@ -60,6 +60,7 @@ constexpr ScreenRow kDeclaration{
 
 constexpr char16_t kNoClaim[] = u"印刷するレセプトが開かれていません。";
 constexpr char16_t kNoPaper[] = u"印刷する用紙を選択してください。";
+constexpr char16_t kSent[] = u"印刷に送りました。";
 constexpr char16_t kNotBuilt[] =
     u"選択された用紙の印刷は、まだ用意されていません。他の用紙を選択してください。";
 
@@ -123,7 +124,8 @@ void ClaimPrintScreen::print() {
   };
   job.prepare = [this, &claim] { return claimStands(claim.claim); };
   job.cleanUp = [this] { leave(); };
-  runPrint(m_engine, job);
+  voice::VoiceGuide& guide = voice();  // the screen is gone when the print has ended
+  if (runPrint(m_engine, job) == RunEnd::Printed) guide.speakText(QString::fromUtf16(kSent));
 }
 
 void ClaimPrintScreen::leave() {

@@ -35,6 +35,7 @@ TEST_F(ClaimPrint, OkAsksPrintsAndLeaves) {
   EXPECT_EQ(engine.printed(u"Name8"_s), u"見本花子"_s);
   EXPECT_EQ(run.lastAnswer, 1);
   EXPECT_FALSE(isLoaded(kScreen));
+  EXPECT_EQ(channel.lastSaid(), u"印刷に送りました。"_s);
 }
 
 TEST_F(ClaimPrint, MassageButtonPrintsTheMassageForm) {
@@ -81,6 +82,7 @@ TEST_F(ClaimPrint, EngineFailuresAreSilent) {
       engine.missingTemplates << u"HARI_900.PRP"_s;
     open(kScreen).trigger(u"Command1"_s);
     EXPECT_EQ(messages.texts().size(), 1);  // the prompt alone
+    EXPECT_FALSE(channel.said().contains(u"印刷に送りました。"_s));
     EXPECT_EQ(engine.calls.last(), start ? u"PR_StartDC 42 7 申請書鍼 262144"_s : u"PR_AbortDoc"_s);
     EXPECT_TRUE(isLoaded(kScreen));
   }
