@@ -250,6 +250,17 @@ QList<Word> wordsByLength() {
 bool isHalfKana(QChar c) { return c >= QChar(0xFF61) && c <= QChar(0xFF9F); }
 bool isFullAscii(QChar c) { return c > QChar(0xFF00) && c < QChar(0xFF5F); }
 
+/// Whether the × at the place stands in a product, "1,610円 × 2回", and is no cross of a form.
+bool multiplies(const QString& text, qsizetype at) {
+  qsizetype before = at - 1, behind = at + 1;
+  while (before >= 0 && text[before] == u' ') --before;
+  while (behind < text.size() && text[behind] == u' ') ++behind;
+  constexpr QStringView kUnits = u"円回人日枚通%";
+  const auto figure = [](QChar c) { return c >= u'0' && c <= u'9'; };
+  return before >= 0 && behind < text.size() && figure(text[behind]) &&
+         (figure(text[before]) || kUnits.contains(text[before]));
+}
+
 }  // namespace
 
 QString readableWidth(const QString& text) {
@@ -276,7 +287,9 @@ QString spokenSigns(const QString& text) {
     const bool pair = text[at].isHighSurrogate() && at + 1 < text.size();
     const QString sign = text.mid(at, pair ? 2 : 1);
     at += pair ? 1 : 0;
-    if (const auto said = table.constFind(sign); said != table.constEnd())
+    if (sign == u"×" && multiplies(text, at))
+      result += QStringLiteral("カケル");
+    else if (const auto said = table.constFind(sign); said != table.constEnd())
       result += *said;
     else if (sign[0] == kSpeechSeparator || kPauses.contains(sign))
       result += kPause;

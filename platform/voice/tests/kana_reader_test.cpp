@@ -89,8 +89,18 @@ TEST(SpokenWords, SignsAreSaidAndSeparatorsPause) {
   const Row rows[] = {{u"※", u"コメジルシ"},  {u"①⑳", u"マル1マル20"},
                       {u"～", u"カラ"},       {u"氏名:\u00FE見本", u"氏名、、見本"},
                       {u"（注）", u"、注、"}, {u"𠮷", u"吉"},
-                      {u"㈱", u"カブ"}};
+                      {u"㈱", u"カブ"},
+                      {u"×", u"バツ"},
+                      {u"1:× 2", u"1、バツ 2"},
+                      {u"3 × 往療", u"3 バツ 往療"},
+                      {u"1610円 × 2回 = 3220円", u"1610円 カケル 2回 イコール 3220円"},
+                      {u"12×3", u"12カケル3"}};
   for (const Row& row : rows) EXPECT_EQ(spokenSigns(u(row.written)).toStdString(), u(row.said).toStdString());
+}
+
+TEST_F(KanaReaderTest, ProductOfAmountsIsReadAsOne) {
+  EXPECT_EQ(reader.read(u(u"はり 1,610円 × 2回 ＝ 3,220円")).toStdString(),
+            u(u"ハリ 1610エン カケル 2カイ イコール 3220エン").toStdString());
 }
 
 TEST(SpokenWords, WidthsBecomeReadable) {
