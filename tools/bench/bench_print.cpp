@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cstdio>
 
 #include "claims/core/claim_file.h"
@@ -82,9 +83,9 @@ double printPages(const Month& month, const QString& path) {
 using Sheet = QHash<QString, QString>;
 
 /// What each page prints, taken off the mapping outside of the measured time.
-QVector<Sheet> sheets(const Month& month) {
+QVector<Sheet> sheets(const Month& month, int count) {
   QVector<Sheet> pages;
-  for (int i = 0; i < month.size(); ++i) {
+  for (int i = 0; i < count; ++i) {
     report::RecordingOperations recorder;
     printing::ReportFields fields(recorder);
     printing::fillClaim900(fields, month.source(i), eraDates());
@@ -130,6 +131,17 @@ text::Result<Month> makeMonth(const QString& folder, int count) {
   return Month(std::move(file.value()), std::move(stored.value()));
 }
 
+/// Milliseconds that the toolkit's PDF writer takes for one document of the same items: the mean of up to 50
+/// documents, each a file of its own.
+double jobsFloor(const report::Form& form, const Month& month, const QString& folder) {
+  constexpr int kDocuments = 50;
+  const QVector<Page> pages = pagesOn(form, sheets(month, std::min(month.size(), kDocuments)));
+  double spent = 0;
+  for (int i = 0; i < pages.size(); ++i)
+    spent += drawFloor(form, {pages[i]}, QDir(folder).filePath(QStringLiteral("floor_%1.pdf").arg(i)));
+  return spent / static_cast<double>(pages.size());
+}
+
 void tellSizes(const QString& pdf, const QString& floor, int pages) {
   const double ours = static_cast<double>(QFileInfo(pdf).size()),
                bare = static_cast<double>(QFileInfo(floor).size());
@@ -152,7 +164,7 @@ int print(const QStringList& arguments) {
 
   const double spent = printPages(month.value(), path);
   if (spent < 0) return failed(QStringLiteral("nothing was printed"));
-  const auto sheet = sheets(month.value());
+  const auto sheet = sheets(month.value(), month->size());
   const QVector<Page> pages = pagesOn(*form.value(), sheet);
   const QString floorPath = folder.filePath(QStringLiteral("floor.pdf"));
   const double floor = drawFloor(*form.value(), pages, floorPath);
@@ -177,6 +189,8 @@ int jobs(const QStringList& arguments) {
   const QTemporaryDir folder;
   const auto month = makeMonth(folder.path(), count);
   if (!month) return failed(month.fault().message);
+  const auto form = report::loadForm(programFolder(), QString::fromUtf16(kTemplate));
+  if (!form) return failed(form.fault().message);
 
   QElapsedTimer timer;
   timer.start();
@@ -192,11 +206,18 @@ int jobs(const QStringList& arguments) {
       return failed(QStringLiteral("nothing was printed"));
   }
   const double spent = static_cast<double>(timer.nsecsElapsed()) / 1e6;
-  qint64 bytes = 0;
-  for (const QFileInfo& file : target.entryInfoList({QStringLiteral("claim_*.pdf")})) bytes += file.size();
+  const double floor = jobsFloor(*form.value(), month.value(), folder.path());
+  qint64 bytes = 0, largest = 0;
+  for (const QFileInfo& file : target.entryInfoList({QStringLiteral("claim_*.pdf")})) {
+    bytes += file.size();
+    largest = std::max(largest, file.size());
+  }
   figure("jobs_documents", count, "documents");
   figure("jobs_per_document", spent / count, "ms");
+  figure("jobs_floor_per_document", floor, "ms");
+  figure("jobs_time_ratio", spent / count / floor, "x");
   figure("jobs_bytes_per_document", static_cast<double>(bytes) / count, "bytes");
+  figure("jobs_largest_document", static_cast<double>(largest), "bytes");
   return 0;
 }
 

@@ -26,9 +26,11 @@ constexpr CommandRow kCommands[] = {
     {"list", list},   {"recompute", recompute}, {"pair", pair}, {"settings", settings},
 };
 
-/// The print workload is held against the toolkit's PDF writer, which needs its fonts; all others do without.
+/// The print workloads are held against the toolkit's PDF writer, which needs its fonts; all others do
+/// without.
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
-  if (argc < 2 || qstrcmp(argv[1], "print") != 0) return std::make_unique<QCoreApplication>(argc, argv);
+  const bool prints = argc > 1 && (qstrcmp(argv[1], "print") == 0 || qstrcmp(argv[1], "jobs") == 0);
+  if (!prints) return std::make_unique<QCoreApplication>(argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");
   return std::make_unique<QGuiApplication>(argc, argv);
 }
