@@ -11,8 +11,8 @@
 namespace screen {
 namespace {
 
-/// Whether a window that opened over the screen still waits for the keyboard: the focus that the screen is
-/// handed for a moment is not heard then.
+/// Whether a window opened over the screen and no key was pressed since: the focus that the screen is handed
+/// for a moment, before that window or between, is not heard.
 bool coveredByOpening(Screen& screen) {
   const Screen* front = screen.navigator().front();
   return front && front != &screen && front->awaitsKeyboard();

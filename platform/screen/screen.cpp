@@ -49,9 +49,7 @@ void Screen::speakOpening() {
     voice().speakHeading(texts);
 }
 
-bool Screen::awaitsKeyboard() const {
-  return isVisible() && !m_parts->activated && m_parts->opening.isHeld();
-}
+bool Screen::awaitsKeyboard() const { return isVisible() && m_parts->opening.isHeld(); }
 
 QStringList Screen::openingTexts() const {
   QStringList texts{m_declaration.heading ? QString::fromUtf16(m_declaration.heading) : windowTitle()};
@@ -63,7 +61,6 @@ QStringList Screen::openingTexts() const {
 }
 
 bool Screen::event(QEvent* event) {
-  if (event->type() == QEvent::WindowActivate) m_parts->activated = true;
   const bool handled = QMainWindow::event(event);
   if (event->type() == QEvent::WindowActivate && !m_parts->closed) onActivate();
   return handled;

@@ -107,8 +107,7 @@ class Screen : public QMainWindow {
   void speakOpening();
   /// Before loading: the speech of the screen before is cut, what is said from now on waits its turn.
   void prepareOpening();
-  /// Shown and never yet the active window, and no key was pressed since: the desk still has to hand it the
-  /// keyboard.
+  /// Shown, and no key was pressed since: the desk may still hand the keyboard to and fro before it stays here.
   bool awaitsKeyboard() const;
   /// What speakOpening() says: the heading (where none is declared the caption) and the spoken notes.
   /// Screens with their own sentence override it; an empty list says nothing.

@@ -19,7 +19,6 @@ struct Screen::Parts {
   QString running;               ///< objectName of the command whose action runs
   QPointer<QWidget> firstFocus;  ///< asked for before the first show
   bool openingSaid = false;
-  bool activated = false;
   bool closed = false;
 };
 
