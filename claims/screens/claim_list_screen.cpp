@@ -23,8 +23,7 @@ ClaimListScreen::ClaimListScreen(screen::Services& services, frame::RunState& ru
 
 void ClaimListScreen::onLoad() {
   setText("Combo1", QString::fromUtf16(kListKeys.front()));
-  openWhole();
-  claimFile();  // a second file that is missing or broken is told now, not at the first claim
+  if (openWhole()) claimFile();  // a second file that is missing or broken is told now, not at the first claim
 }
 
 void ClaimListScreen::opened(const screen::Request& request) {
@@ -41,8 +40,10 @@ void ClaimListScreen::opened(const screen::Request& request) {
 // to the screen behind, and that would be heard.
 void ClaimListScreen::onActivate() {
   if (!std::exchange(m_tellsEmpty, false)) return;
-  QMetaObject::invokeMethod(
-      this, [this] { emptySet(); }, Qt::QueuedConnection);
+  const auto tell = [this] {
+    if (source().isOpen()) emptySet();
+  };
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 bool ClaimListScreen::openWhole() {
@@ -53,6 +54,8 @@ bool ClaimListScreen::openWhole() {
 bool ClaimListScreen::holdsRows() const { return source().isOpen() && source().rows().recordCount() > 0; }
 
 bool ClaimListScreen::emptySet() {
+  // A file that could not be opened is tried again, and told by name instead of as an empty list.
+  if (!source().isOpen() && !openWhole()) return true;
   if (holdsRows()) return false;
   messages().tell(kNoRows);
   return true;

@@ -86,6 +86,20 @@ TEST_F(ClaimListTest, NoHitIsToldAndLeavesTheListAsItWas) {
   EXPECT_EQ(shown(), QStringList(qs(u"2"))) << "the search that failed is forgotten";
 }
 
+TEST_F(ClaimListTest, AMissingFileIsToldByNameAndNotAsAnEmptyList) {
+  ASSERT_TRUE(QFile::remove(path(qs(u"保険申請2000_1.mdb"))));
+  openList();
+  activate();
+  QCoreApplication::processEvents();
+  const auto onlyTheFile = [&] {
+    const QStringList texts = told();
+    return texts.size() == 1 && texts[0].contains(qs(u"保険申請2000_1.mdb"));
+  };
+  EXPECT_TRUE(onlyTheFile());
+  press(u"Command1");
+  EXPECT_TRUE(onlyTheFile()) << "each command tells it again";
+}
+
 TEST_F(ClaimListTest, AQuoteGivesTheEnginesTextAndNothingElse) {
   for (const char16_t* name : {u"見本 太郎", u"例示 花子"}) addNamed(name);
   openList();
