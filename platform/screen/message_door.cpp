@@ -105,11 +105,18 @@ bool MessageDoor::show(const QString& text, Buttons buttons, const QString& titl
     auto* button = qobject_cast<QPushButton*>(now);
     if (button && box.isAncestorOf(button)) m_voice.speakFocus(button->text());
   });
+  // The answer cuts the question before the box closes: a stop afterwards could cut the control that the
+  // window manager has given the focus back to by then. Escape presses its button too.
+  for (const QPushButton* button : {accept, refuse})
+    QObject::connect(button, &QPushButton::released, &box, [this] { m_voice.stopSpeech(); });
   // The question is heard to its end: its first focus waits behind it.
   m_hold->begin();
   box.exec();
+  // A slow window manager can leave no window active: the keyboard would be dead until the next change.
+  if (box.parentWidget() != nullptr && QApplication::activeWindow() == nullptr)
+    box.parentWidget()->window()->activateWindow();
   // Afterwards the focus returns to the screen; it must not cut the result that the caller says next.
-  holdSpeech();
+  m_hold->begin();
   return box.clickedButton() == accept;
 }
 
