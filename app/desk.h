@@ -29,11 +29,9 @@ class Desk {
   frame::Started start();
 
   frame::RunState& run() { return m_run; }
-  claims::ClaimsState& claims() { return m_claims; }
   screen::MessageDoor& messages() { return m_messages; }
   screen::ScreenNavigator& navigator() { return m_navigator; }
   const screen::ScreenRegistry& registry() const { return m_registry; }
-  report::ReportEngine& engine() { return m_engine; }
 
  private:
   void registerAllScreens();

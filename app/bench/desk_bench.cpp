@@ -68,58 +68,58 @@ int emptyWindow() {
   return QApplication::exec();
 }
 
-int mainMenu(const QString& folder) {
+/// The program in a folder, with messages that nobody must answer.
+struct Running {
+  explicit Running(const QString& folder) : desk(folder, {voice, sound, focusTalk}, clock) {
+    timer.start();
+    desk.messages().answerFromQueue();
+  }
   QElapsedTimer timer;
-  timer.start();
-  TimingVoice voice(timer);
+  TimingVoice voice{timer};
   voice::SilentSoundLibrary sound;
   voice::SilentFocusTalkLibrary focusTalk;
-  const text::SystemClock clock;
-  app::Desk desk(folder, {voice, sound, focusTalk}, clock);
-  desk.messages().answerFromQueue();
-  if (desk.start() != frame::Started::Menu) return 1;
+  text::SystemClock clock;
+  app::Desk desk;
+};
+
+int mainMenu(const QString& folder) {
+  Running program(folder);
+  if (program.desk.start() != frame::Started::Menu) return 1;
   QTimer::singleShot(0, [] { QCoreApplication::quit(); });
   return QApplication::exec();
 }
 
-void measureTabs(const char* name, screen::Screen& window, TimingVoice& voice, QElapsedTimer& timer, int tabs) {
+void measureTabs(const char* name, screen::Screen& window, Running& program, int tabs) {
   window.activateWindow();
   QApplication::setActiveWindow(&window);
   QApplication::processEvents();
   QVector<double> times;
   for (int i = 0; i < tabs; ++i) {
     QWidget* focus = window.focusWidget() != nullptr ? window.focusWidget() : &window;
-    voice.saidAt = -1;
-    const qint64 pressed = timer.nsecsElapsed();
+    program.voice.saidAt = -1;
+    const qint64 pressed = program.timer.nsecsElapsed();
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
     QApplication::sendEvent(focus, &press);
     QKeyEvent release(QEvent::KeyRelease, Qt::Key_Tab, Qt::NoModifier);
     QApplication::sendEvent(focus, &release);
     QApplication::processEvents();
-    if (voice.saidAt >= 0) times += (voice.saidAt - pressed) / 1e6;
+    if (program.voice.saidAt >= 0) times += (program.voice.saidAt - pressed) / 1e6;
   }
   figure((QByteArray(name) + "_median").constData(), percentile(times, 0.5), "ms");
   figure((QByteArray(name) + "_p95").constData(), percentile(times, 0.95), "ms");
 }
 
 int focus(const QString& folder) {
-  QElapsedTimer timer;
-  timer.start();
-  TimingVoice voice(timer);
-  voice::SilentSoundLibrary sound;
-  voice::SilentFocusTalkLibrary focusTalk;
-  const text::SystemClock clock;
-  app::Desk desk(folder, {voice, sound, focusTalk}, clock);
-  desk.messages().answerFromQueue();
-  if (desk.start() != frame::Started::Menu) return 1;
+  Running program(folder);
+  screen::ScreenNavigator& navigator = program.desk.navigator();
+  if (program.desk.start() != frame::Started::Menu) return 1;
+  navigator.unload(QStringLiteral("topics"));
   QApplication::processEvents();
-  desk.navigator().unload(QStringLiteral("topics"));
-  QApplication::processEvents();
-  if (auto* menu = desk.navigator().loaded(QStringLiteral("選択3")))
-    measureTabs("focus_to_speech_menu", *menu, voice, timer, 100);
-  if (auto* form = desk.navigator().show(QStringLiteral("frmレセプトフォーム"), {{"ID", "1"}})) {
+  if (auto* menu = navigator.loaded(QStringLiteral("選択3")))
+    measureTabs("focus_to_speech_menu", *menu, program, 100);
+  if (auto* form = navigator.show(QStringLiteral("frmレセプトフォーム"), {{"ID", "1"}})) {
     QApplication::processEvents();
-    measureTabs("focus_to_speech_claim_form", *form, voice, timer, 300);
+    measureTabs("focus_to_speech_claim_form", *form, program, 300);
   }
   return 0;
 }
