@@ -2,6 +2,7 @@
 
 #include "claims/screens/claims_screens.h"
 #include "frame/screens/frame_screens.h"
+#include "office/screens/office_screens.h"
 #include "platform/report/font_store.h"
 #include "platform/screen/dialog_speech.h"
 #include "records/screens/records_screens.h"
@@ -24,7 +25,8 @@ Desk::Desk(const QString& programFolder, Channels channels, const text::Clock& c
 
 void Desk::registerAllScreens() {
   frame::registerScreens(m_registry, m_services, m_run);
-  records::registerScreens(m_registry, m_services, m_run);
+  records::registerScreens(m_registry, m_run, m_engine);
+  office::registerScreens(m_registry, m_run);
   claims::registerScreens(m_registry, m_run, m_claims);
   printing::registerScreens(m_registry, m_printing);
   m_engine.setPrinterDialog([this](quintptr, report::PrinterChoice&) {

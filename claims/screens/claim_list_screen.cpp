@@ -2,6 +2,7 @@
 
 #include "claims/core/list_keys.h"
 #include "claims/screens/claim_list_rows.h"
+#include "platform/store/criteria_text.h"
 
 namespace claims {
 namespace {
@@ -17,7 +18,7 @@ const QString kDeleteQuestion = QStringLiteral("　現在の表示該当患者�
 }  // namespace
 
 ClaimListScreen::ClaimListScreen(screen::Services& services, frame::RunState& run, ClaimsState& state)
-    : Screen(kClaimListScreen, services), m_run(run), m_state(state) {
+    : ListScreen(kClaimListScreen, services), m_run(run), m_state(state) {
   source().writesOnMove = false;
 }
 
@@ -41,7 +42,7 @@ void ClaimListScreen::opened(const screen::Request& request) {
 void ClaimListScreen::onActivate() {
   if (!std::exchange(m_tellsEmpty, false)) return;
   const auto tell = [this] {
-    if (source().isOpen()) emptySet();
+    if (source().isOpen()) emptySet(kNoRows);
   };
   QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
@@ -51,54 +52,22 @@ bool ClaimListScreen::openWhole() {
   return put(QString(), kNewestFirst);
 }
 
-bool ClaimListScreen::holdsRows() const { return source().isOpen() && source().rows().recordCount() > 0; }
+QString ClaimListScreen::noRowsText() const { return kNoRows; }
 
-bool ClaimListScreen::emptySet() {
-  // A file that could not be opened is tried again, and told by name instead of as an empty list.
-  if (!source().isOpen() && !openWhole()) return true;
-  if (holdsRows()) return false;
-  messages().tell(kNoRows);
-  return true;
-}
-
-std::optional<store::RecordSet> ClaimListScreen::setOf(const QString& criteria, const QString& order) {
-  auto& rows = source().rows();
-  rows.setFilter(criteria);
-  rows.setSort(order);
-  auto set = rows.openRecordset();
-  rows.setFilter(QString());
-  rows.setSort(QString());
-  if (set) return std::move(*set);
-  messages().tellDataFault(set.fault().message);
-  return std::nullopt;
-}
-
-bool ClaimListScreen::put(const QString& criteria, const QString& order) {
-  auto set = setOf(criteria, order);
-  if (set) source().assign(std::move(*set));
-  return set.has_value();
-}
-
+// Hits stand in the order in which the claims were made.
 void ClaimListScreen::search() {
-  if (emptySet()) return;
-  auto hits = setOf(text("Combo1") + " like '*" + text("Text1") + "*' order by ID", QString());
-  if (!hits) return;
-  if (hits->recordCount() == 0)
-    return messages().tell(QString::fromUtf16(screen::kNotFoundText),
-                           QString::fromUtf16(screen::kNotFoundTitle), screen::Icon::Exclamation);
-  source().assign(std::move(*hits));
-  focusOn("DBGrid1");
+  narrowBy(store::likeCriterion(text("Combo1"), text("Text1")) + "order by ID");
 }
 
 void ClaimListScreen::showAll() {
-  if (openWhole() && !emptySet()) focusOn("DBGrid1");
+  if (openWhole() && !emptySet(kNoRows)) focusOn("DBGrid1");
 }
 
 // 更新: claims made meanwhile come in; a narrowed list becomes whole.
 void ClaimListScreen::refresh() { showAll(); }
 
 void ClaimListScreen::askSort() {
-  if (!emptySet()) navigator().show(QStringLiteral("ソート3"));
+  if (!emptySet(kNoRows)) navigator().show(QStringLiteral("ソート3"));
 }
 
 qint64 ClaimListScreen::currentId() const {
@@ -113,7 +82,7 @@ std::optional<ClaimFile> ClaimListScreen::claimFile() {
 }
 
 void ClaimListScreen::openClaim() {
-  if (emptySet()) return;
+  if (emptySet(kNoRows)) return;
   const qint64 id = currentId();
   if (id == 0) return;
   auto file = claimFile();

@@ -5,7 +5,7 @@
 #include "claims/core/claim_file.h"
 #include "claims/core/claims_state.h"
 #include "frame/core/run_state.h"
-#include "platform/screen/screen.h"
+#include "platform/screen/list_screen.h"
 
 namespace claims {
 
@@ -17,7 +17,7 @@ namespace claims {
 /// is not in the list before that.
 ///
 /// Request keys: "sort" (an order of the list), "criteria" (a filter, from the patient screen).
-class ClaimListScreen : public screen::Screen {
+class ClaimListScreen : public screen::ListScreen {
  public:
   ClaimListScreen(screen::Services& services, frame::RunState& run, ClaimsState& state);
 
@@ -41,16 +41,12 @@ class ClaimListScreen : public screen::Screen {
   void removeClaim();
   void finish();
 
+ protected:
+  bool openWhole() override;
+  QString noRowsText() const override;
+  void setChanged() override { focusOn("DBGrid1"); }
+
  private:
-  bool openWhole();
-  /// The narrowed or sorted copy of the set on view. A criteria text that the engine refuses is told in the
-  /// engine's words and gives nothing.
-  std::optional<store::RecordSet> setOf(const QString& criteria, const QString& order);
-  /// Puts that copy in the list's place; false where it was refused and the list is as it was.
-  bool put(const QString& criteria, const QString& order);
-  bool holdsRows() const;
-  /// Tells an empty list; true where it was one.
-  bool emptySet();
   /// Says which claim the record keys led to.
   void announce();
   qint64 currentId() const;

@@ -1,21 +1,28 @@
 #include "claims/screens/claims_screens.h"
 
+#include "claims/core/list_keys.h"
 #include "claims/screens/claim_choice_screen.h"
 #include "claims/screens/claim_form_screen.h"
 #include "claims/screens/claim_list_screen.h"
 #include "claims/screens/help_screens.h"
-#include "claims/screens/list_sort_screen.h"
 #include "claims/screens/new_claim_screen.h"
 #include "claims/screens/preview_screen.h"
 #include "claims/screens/share_screen.h"
+#include "platform/screen/sort_dialog.h"
 
 namespace claims {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+constexpr auto kSortColumns = screen::ownNames(kListKeys);
+constexpr screen::SortRow kSortDialogs[] = {
+    {.name = u"ソート3", .list = u"レセプト一覧表", .columns = kSortColumns}};
+}  // namespace
+
 void registerScreens(screen::ScreenRegistry& registry, frame::RunState& run, ClaimsState& state) {
   registry.add<ClaimListScreen>(u"レセプト一覧表"_s, run, state);
-  registry.add<ListSortScreen>(u"ソート3"_s);
+  screen::addSortDialogs(registry, kSortDialogs);
   registry.add<NewClaimScreen>(u"新規レセプト"_s, state);
   registry.add<ClaimChoiceScreen>(u"レセプト選択"_s, run, state);
   registry.add<ClaimFormScreen>(u"frmレセプトフォーム"_s, run, state);

@@ -11,6 +11,13 @@
 
 namespace frame {
 
+/// A day as three numbers, as it was asked for: it need not exist (2月31日).
+struct DayAsked {
+  int year = 0;
+  int month = 0;
+  int day = 0;
+};
+
 /// All run-wide values, one copy, handed to every screen. A dialog returns its answer through it.
 ///
 /// What stands where: the fields of 登録 (profileFields()) in `profile`, paths in `folders`, the submissions
@@ -30,6 +37,9 @@ struct RunState {
   int lastAnswer = 0;             ///< answer of the last question: 1 is OK or はい
   int lastScreenMode = 0;         ///< 1 receipts, 2 claims; set by the main menu
   qint64 patientOnView = -1;      ///< ID of the patient on view when the patient screen was last left
+  int callerMark = 0;             ///< where the appointment screens go back to: 2 選択3, 3 治療台帳4
+  DayAsked dayAsked;              ///< the last day asked for in the appointment book
+  int calendarMode = 1;           ///< 1: 予約カレンダー serves the appointment book, else the takings
   bool menuLoadedBefore = false;  ///< the main menu speaks its greeting on the first load only
   bool itemsOnlyNoteSilenced = false;  ///< 項目のみ印刷の注意事項 stays closed for this run
   const text::Clock* clock = nullptr;

@@ -22,6 +22,7 @@ GridControl::GridControl(Screen& screen, const Grid& row, DataSource& source, QW
   m_view->setModel(m_model);
   m_onEnter = row.onActivate;
   m_onEdit = row.onMove;
+  say(row.say);
   nameWidgets();
   QObject::connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, m_view,
                    [this](const QModelIndex& now, const QModelIndex& before) {
@@ -33,7 +34,8 @@ GridControl::GridControl(Screen& screen, const Grid& row, DataSource& source, QW
 QWidget* GridControl::widget() const { return m_view; }
 
 void GridControl::speak(voice::VoiceGuide& voice, QWidget*) const {
-  voice.speakFocus(spokenCaption(m_caption) + voice::kSpeechSeparator + cellSpeech(), true);
+  const QString heading = m_say.isEmpty() ? spokenCaption(m_caption) : m_say;
+  voice.speakFocus(heading + voice::kSpeechSeparator + cellSpeech(), true);
 }
 
 bool GridControl::enter() { return m_view->currentIndex().isValid() && fire(m_onEnter); }

@@ -259,8 +259,9 @@ struct Grid {
   Words caption;
   int source;
   std::span<const GridColumn> columns;
-  Handler onActivate = nullptr;  ///< Enter or double click on a row
-  Handler onMove = nullptr;      ///< current row changed
+  const char16_t* say = nullptr;  ///< spoken on focus before the cell instead of the caption
+  Handler onActivate = nullptr;   ///< Enter or double click on a row
+  Handler onMove = nullptr;       ///< current row changed
 };
 
 using Row = std::variant<TextField, TextRun, Combo, Check, Options, Command, Entry, Note, Page, EndPages,

@@ -48,12 +48,4 @@ QString columnOfCaption(const QString& caption) {
   return {};
 }
 
-QString likeCriterion(const QString& column, const QString& text) {
-  return column + QStringLiteral(" like '*") + text + QStringLiteral("*' ");
-}
-
-QString equalCriterion(const QString& column, const QString& text) {
-  return column + QStringLiteral(" = '") + text + QStringLiteral("' ");
-}
-
 }  // namespace records

@@ -17,9 +17,4 @@ std::span<const SearchColumn> searchColumns();
 /// The column behind a caption of the list; blank where the list has no such caption.
 QString columnOfCaption(const QString& caption);
 
-/// "<column> like '*<text>*' ". The text is not escaped: a quote in it gives the engine's error text.
-QString likeCriterion(const QString& column, const QString& text);
-/// "<column> = '<text>' "
-QString equalCriterion(const QString& column, const QString& text);
-
 }  // namespace records

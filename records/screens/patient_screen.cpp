@@ -1,11 +1,12 @@
 #include "records/screens/patient_screen.h"
 
 #include "frame/core/settings_slots.h"
+#include "platform/screen/find_row.h"
 #include "platform/shell/desktop.h"
+#include "platform/store/criteria_text.h"
 #include "records/core/patient_serial.h"
 #include "records/core/search_columns.h"
 #include "records/core/search_history.h"
-#include "records/screens/find_patient.h"
 #include "records/screens/patient_rows.h"
 
 namespace records {
@@ -67,8 +68,8 @@ void PatientScreen::opened(const screen::Request& request) {
   if (request.value(u"新規"_s).toBool()) return startNewPatient();
   // A claim's カルテ3へ names its patient.
   const QString serial = request.value(u"テキスト5"_s).toString();
-  if (!serial.isEmpty() && source().isOpen() && settlePatientRow(*this))
-    findPatient(*this, u"テキスト5 = '%1' "_s.arg(serial));
+  if (!serial.isEmpty() && source().isOpen() && screen::settleRow(source()))
+    screen::findRow(*this, u"テキスト5 = '%1' "_s.arg(serial));
 }
 
 void PatientScreen::onActivate() { refreshAge(); }
@@ -120,7 +121,7 @@ void PatientScreen::askNewPatient() {
 }
 
 void PatientScreen::startNewPatient() {
-  if (!source().isOpen() || !settlePatientRow(*this)) return;
+  if (!source().isOpen() || !screen::settleRow(source())) return;
   // Read again first: a patient whom another computer entered meanwhile must not get the same serial.
   if (const text::Done read = source().rows().refresh(); !read)
     return messages().tellDataFault(read.fault().message);
@@ -156,13 +157,13 @@ void PatientScreen::deletePatient() {
 
 void PatientScreen::search() {
   const QString word = text(u"Combo3"_s);
-  if (word.isEmpty() || !source().isOpen() || !settlePatientRow(*this)) return;
+  if (word.isEmpty() || !source().isOpen() || !screen::settleRow(source())) return;
   const SearchHistory history(m_run.programFolder);
   // A history that cannot be written costs nothing: the search itself goes on.
   (void)history.remember(word);
   setItems(u"Combo3"_s, history.words());
   setText(u"Combo3"_s, word);
-  if (findPatient(*this, likeCriterion(columnOfCaption(text(u"Combo1"_s)), word)))
+  if (screen::findRow(*this, store::likeCriterion(columnOfCaption(text(u"Combo1"_s)), word)))
     voice().speakHeading(onView());
 }
 
@@ -213,7 +214,7 @@ void PatientScreen::focusTreatment() { focusOn(u"txtFields(27)"_s); }
 
 // A row that the file keeps refusing (read only, or deleted by another computer) must not lock the user in.
 bool PatientScreen::mayLeave() {
-  if (settlePatientRow(*this)) return true;
+  if (screen::settleRow(source())) return true;
   const bool yes = messages().ask(
       u"登録出来ませんでした。入力した内容を捨てて、メインメニューへ戻りますか？"_s, screen::Buttons::YesNo);
   m_run.lastAnswer = yes ? 1 : 0;

@@ -9,7 +9,7 @@ namespace records {
 
 using namespace Qt::Literals::StringLiterals;
 
-void registerScreens(screen::ScreenRegistry& registry, screen::Services&, frame::RunState& run) {
+void registerScreens(screen::ScreenRegistry& registry, frame::RunState& run, report::ReportOperations&) {
   registry.add<SearchScreen>(u"選択4"_s, run);
   registry.add<PatientScreen>(u"治療台帳4"_s, run);
   screen::addPrompts(registry, prompts(), promptActions(run));

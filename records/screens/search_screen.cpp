@@ -1,9 +1,10 @@
 #include "records/screens/search_screen.h"
 
+#include "platform/screen/find_row.h"
 #include "platform/screen/opens.h"
+#include "platform/store/criteria_text.h"
 #include "records/core/search_columns.h"
 #include "records/core/search_history.h"
-#include "records/screens/find_patient.h"
 
 namespace records {
 
@@ -75,7 +76,7 @@ QString SearchScreen::criteria(const QString& word) const {
   const QString column = chosen(u"Frame1"_s);
   // Numbers are looked up whole, names and dates by any part.
   const bool exact = column == u"患者ID" || column == u"カルテ番号";
-  return exact ? equalCriterion(column, word) : likeCriterion(column, word);
+  return exact ? store::equalCriterion(column, word) : store::likeCriterion(column, word);
 }
 
 void SearchScreen::search() {
@@ -86,7 +87,7 @@ void SearchScreen::search() {
   if (!word.isEmpty()) {
     // A history that cannot be written costs nothing: the search itself goes on.
     (void)SearchHistory(m_run.programFolder).remember(word);
-    if (!settlePatientRow(*screen) || !findPatient(*screen, criteria(word))) return;
+    if (!settleRow(screen->source()) || !findRow(*screen, criteria(word))) return;
   }
   navigator().show(u"治療台帳4"_s);
   navigator().unload(u"選択4"_s);

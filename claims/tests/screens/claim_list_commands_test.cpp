@@ -1,4 +1,3 @@
-#include "claims/screens/list_sort_screen.h"
 #include "claims/tests/screens/claim_list_fixture.h"
 
 // The claim list: opening and deleting claims, the rooms around it, what is heard.
@@ -219,29 +218,6 @@ TEST_F(ClaimListCommands, TheRecordKeysSayWhereTheyLedTo) {
   EXPECT_EQ(m_channel.lastSaid(), said(u"令和6年9月", u"見本 太郎"));
   QTest::keyClick(m_list.get(), Qt::Key_F1);
   EXPECT_EQ(m_channel.lastSaid(), said(u"令和6年11月", u"例示 花子"));
-}
-
-TEST_F(ClaimListCommands, TheSortDialogHandsItsColumnAndDirectionToTheList) {
-  const std::pair<const char16_t*, const char16_t*> cases[] = {{u"Command1", u"氏名 ASC"},
-                                                               {u"Command3", u"氏名 DESC"}};
-  for (const auto& [command, order] : cases) {
-    ListSortScreen dialog(m_services);
-    dialog.onLoad();
-    EXPECT_EQ(dialog.items(qs(u"Combo1")).size(), 20);
-    EXPECT_EQ(dialog.windowTitle(), qs(u"ソート"));
-    dialog.show();
-    dialog.setText(qs(u"Combo1"), qs(u"氏名"));
-    dialog.trigger(qs(command));
-    EXPECT_EQ(m_navigator.shows.last(), qs(u"レセプト一覧表"));
-    EXPECT_EQ(m_navigator.requests.last()[qs(u"sort")].toString(), qs(order));
-    EXPECT_FALSE(dialog.isVisible());
-  }
-  ListSortScreen dialog(m_services);
-  m_navigator.shows.clear();
-  dialog.show();
-  dialog.trigger(qs(u"Command2"));
-  EXPECT_TRUE(m_navigator.shows.isEmpty());
-  EXPECT_FALSE(dialog.isVisible());
 }
 
 }  // namespace

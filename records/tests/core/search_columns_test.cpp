@@ -26,10 +26,5 @@ TEST(SearchColumns, FuriganaIsTheColumnOfTheTable) {
   EXPECT_TRUE(columnOfCaption(QStringLiteral("ない項目")).isNull());
 }
 
-TEST(SearchColumns, CriteriaAreJoinedWithoutEscaping) {
-  EXPECT_EQ(likeCriterion(QStringLiteral("氏名"), QStringLiteral("O'")), QStringLiteral("氏名 like '*O'*' "));
-  EXPECT_EQ(equalCriterion(QStringLiteral("患者ID"), QStringLiteral("7")), QStringLiteral("患者ID = '7' "));
-}
-
 }  // namespace
 }  // namespace records

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frame/tests/screens/desk_fixture.h"
+#include "platform/report/recording_operations.h"
 #include "records/screens/records_screens.h"
 
 namespace records::test {
@@ -8,7 +9,7 @@ namespace records::test {
 /// The desk with the screens of the patient rooms, and an empty patient table.
 class RecordsFixture : public frame::test::DeskFixture {
  protected:
-  RecordsFixture() { registerScreens(registry, services, run); }
+  RecordsFixture() { registerScreens(registry, run, engine); }
 
   void SetUp() override {
     DeskFixture::SetUp();
@@ -41,6 +42,7 @@ class RecordsFixture : public frame::test::DeskFixture {
     return values;
   }
 
+  report::RecordingOperations engine;
   const QString kFile = QStringLiteral("臨床QV2000N.mdb");
 };
 

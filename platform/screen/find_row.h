@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+namespace screen {
+
+class DataSource;
+class Screen;
+
+/// Settles the row on view of a bound source before it moves away: a pending edit is written, a new row that
+/// was not stored is dropped. False: a fault was told, the row stays.
+bool settleRow(DataSource& source);
+
+/// Moves the source to the next row that meets the criteria, from the row on view and round the end. Nothing
+/// found is told under the title "Not found", criteria that the engine refuses in its own words; either way
+/// the row on view stays and false is returned.
+bool findRow(Screen& screen, const QString& criteria, int source = 1);
+
+/// "該当がありません。" under the title "Not found".
+void tellNotFound(Screen& screen);
+
+}  // namespace screen

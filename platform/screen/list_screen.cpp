@@ -1,0 +1,51 @@
+#include "platform/screen/list_screen.h"
+
+#include "platform/screen/find_row.h"
+
+namespace screen {
+
+bool ListScreen::emptySet(const QString& text) {
+  if (!source().isOpen() && !openWhole()) return true;
+  if (holdsRows()) return false;
+  messages().tell(text);
+  return true;
+}
+
+std::optional<store::RecordSet> ListScreen::setOf(const QString& criteria, const QString& order) {
+  store::RecordSet& rows = source().rows();
+  rows.setFilter(criteria);
+  rows.setSort(order);
+  auto set = rows.openRecordset();
+  rows.setFilter(QString());
+  rows.setSort(QString());
+  if (set) return std::move(*set);
+  messages().tellDataFault(set.fault().message);
+  return std::nullopt;
+}
+
+bool ListScreen::put(const QString& criteria, const QString& order) {
+  auto set = setOf(criteria, order);
+  if (set) source().assign(std::move(*set));
+  return set.has_value();
+}
+
+bool ListScreen::narrowBy(const QString& criteria) {
+  if (emptySet(noRowsText())) return false;
+  auto hits = setOf(criteria, QString());
+  if (!hits) return false;
+  if (hits->recordCount() == 0) {
+    tellNotFound(*this);
+    return false;
+  }
+  source().assign(std::move(*hits));
+  setChanged();
+  return true;
+}
+
+bool ListScreen::sortBy(const QString& order) {
+  if (emptySet(noRowsToSortText()) || !put(QString(), order)) return false;
+  setChanged();
+  return true;
+}
+
+}  // namespace screen

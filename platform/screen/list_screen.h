@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include "platform/screen/screen.h"
+
+namespace screen {
+
+/// Base of the screens that list the rows of source 1 and narrow and sort them.
+///
+/// A search narrows the set on view, so that a second one searches in the hits of the first; without a hit the
+/// list stays as it is. Sorting puts the set on view in another order. Dialogs reach both through their list's
+/// name: SortDialog, ExtractDialog.
+class ListScreen : public Screen {
+ public:
+  using Screen::Screen;
+
+  /// Puts the rows of the set on view that meet the criteria in its place. False: an empty set, no hit or
+  /// criteria that the engine refuses, each told; the list is as it was.
+  virtual bool narrowBy(const QString& criteria);
+  /// Puts the set on view in the order ("<column> ASC"). False: told, the list is as it was.
+  virtual bool sortBy(const QString& order);
+
+  bool holdsRows() const { return source().isOpen() && source().rows().recordCount() > 0; }
+
+ protected:
+  /// Opens the table and shows it as the list begins: whole, in its own order. False: a fault was told.
+  virtual bool openWhole() = 0;
+  /// What an empty set says to a search, and to sorting.
+  virtual QString noRowsText() const = 0;
+  virtual QString noRowsToSortText() const { return noRowsText(); }
+  /// After narrowBy() or sortBy() changed the set: counts, focus.
+  virtual void setChanged() {}
+
+  /// Tells the text where the set is empty; true where it was. A file that could not be opened is tried again
+  /// and told by name instead.
+  bool emptySet(const QString& text);
+  /// The narrowed or sorted copy of the set on view. What the engine refuses is told in its words.
+  std::optional<store::RecordSet> setOf(const QString& criteria, const QString& order);
+  /// Puts that copy in the list's place, also without rows; false where it was refused.
+  bool put(const QString& criteria, const QString& order);
+};
+
+/// A column that a dialog offers: as the list shows it, and its name in the table.
+struct ColumnChoice {
+  const char16_t* caption = nullptr;
+  const char16_t* column = nullptr;
+  bool yesNo = false;  ///< typed "Yes" or "yes" means the true value, "No" or "no" the false one
+};
+
+/// Columns that are offered under their own names.
+template <std::size_t N>
+constexpr std::array<ColumnChoice, N> ownNames(const std::array<const char16_t*, N>& columns) {
+  std::array<ColumnChoice, N> choices{};
+  for (std::size_t i = 0; i < N; ++i) choices[i] = {columns[i], columns[i]};
+  return choices;
+}
+
+}  // namespace screen

@@ -1,0 +1,17 @@
+#include "platform/store/criteria_text.h"
+
+namespace store {
+
+QString likeCriterion(const QString& column, const QString& text) {
+  return column + QStringLiteral(" like '*") + text + QStringLiteral("*' ");
+}
+
+QString prefixCriterion(const QString& column, const QString& text) {
+  return column + QStringLiteral(" like '") + text + QStringLiteral("*' ");
+}
+
+QString equalCriterion(const QString& column, const QString& text) {
+  return column + QStringLiteral(" = '") + text + QStringLiteral("' ");
+}
+
+}  // namespace store

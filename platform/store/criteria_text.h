@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace store {
+
+/// "<column> like '*<text>*' ". The text is not escaped: a quote in it gives the engine's error text.
+QString likeCriterion(const QString& column, const QString& text);
+/// "<column> like '<text>*' "
+QString prefixCriterion(const QString& column, const QString& text);
+/// "<column> = '<text>' "
+QString equalCriterion(const QString& column, const QString& text);
+
+}  // namespace store
