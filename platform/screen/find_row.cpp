@@ -17,22 +17,25 @@ void tellNotFound(Screen& screen) {
                          Icon::Exclamation);
 }
 
-bool findRow(Screen& screen, const QString& criteria, int source) {
-  DataSource& searched = screen.source(source);
-  store::RecordSet& rows = searched.rows();
+text::Result<bool> seekRow(DataSource& source, const QString& criteria) {
+  store::RecordSet& rows = source.rows();
   const store::Bookmark seen = rows.bookmark();
   text::Done found = rows.findNext(criteria);
   if (found && rows.noMatch()) found = rows.findFirst(criteria);
   const bool hit = found && !rows.noMatch();
-  if (!hit) {
-    if (!found)
-      screen.messages().tellDataFault(found.fault().message);
-    else
-      tellNotFound(screen);
-    rows.setBookmark(seen);
-  }
-  searched.show();
+  if (!hit) rows.setBookmark(seen);
+  source.show();
+  if (!found) return found.fault();
   return hit;
+}
+
+bool findRow(Screen& screen, const QString& criteria, int source) {
+  const text::Result<bool> found = seekRow(screen.source(source), criteria);
+  if (!found)
+    screen.messages().tellDataFault(found.fault().message);
+  else if (!*found)
+    tellNotFound(screen);
+  return found && *found;
 }
 
 }  // namespace screen

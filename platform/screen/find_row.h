@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "platform/text/result.h"
+
 namespace screen {
 
 class DataSource;
@@ -10,6 +12,10 @@ class Screen;
 /// Settles the row on view of a bound source before it moves away: a pending edit is written, a new row that
 /// was not stored is dropped. False: a fault was told, the row stays.
 bool settleRow(DataSource& source);
+
+/// The search of findRow() without its messages: false where nothing was found, a fault where the engine
+/// refused the criteria; either way the row on view stays.
+text::Result<bool> seekRow(DataSource& source, const QString& criteria);
 
 /// Moves the source to the next row that meets the criteria, from the row on view and round the end. Nothing
 /// found is told under the title "Not found", criteria that the engine refuses in its own words; either way

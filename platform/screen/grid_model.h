@@ -1,27 +1,27 @@
 #pragma once
 
-#include <QAbstractTableModel>
 #include <span>
 
+#include "platform/screen/cell_model.h"
 #include "platform/screen/rows.h"
 #include "platform/store/record_set.h"
 
 namespace screen {
 
 /// The rows of a record set as a grid asks for them: a row is read when it is looked at, never before.
-class GridModel : public QAbstractTableModel {
+class GridModel : public CellModel {
  public:
   GridModel(const store::RecordSet& rows, std::span<const GridColumn> columns, QObject* parent);
 
-  int rowCount(const QModelIndex& parent = {}) const override;
-  int columnCount(const QModelIndex& parent = {}) const override;
-  QVariant data(const QModelIndex& index, int role) const override;
-  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-  QString columnCaption(int column) const;
-  QString cell(int row, int column) const;
+  QString columnCaption(int column) const override;
+  QString cell(int row, int column) const override;
 
   /// The record set changed: rows came, went, or hold other values.
   void follow();
+
+ protected:
+  int rows() const override { return m_count; }
+  int columns() const override { return static_cast<int>(m_columns.size()); }
 
  private:
   const store::RecordSet& m_rows;

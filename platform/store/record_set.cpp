@@ -71,6 +71,11 @@ Value RecordSet::value(const QString& column) const {
   return m_state->onRow() ? m_state->row().value(*m_state->file, m_state->id(), index) : Value();
 }
 
+bool RecordSet::isYesNo(const QString& column) const {
+  const int index = isOpen() ? m_state->schema().find(column) : -1;
+  return index >= 0 && m_state->schema().type(index) == ColumnType::YesNo;
+}
+
 Value RecordSet::valueAt(int position, const QString& column) const {
   if (!isOpen() || position < 0 || position >= m_state->count()) return {};
   const int index = m_state->schema().find(column);

@@ -64,6 +64,8 @@ class RecordSet {
 
   /// The current row's value (of the row buffer while editing). A column that the table lacks reads null.
   Value value(const QString& column) const;
+  /// Whether the column holds marks, "-1" and "0".
+  bool isYesNo(const QString& column) const;
   /// The value of any row of the set by position, for lists; the current row does not move.
   Value valueAt(int position, const QString& column) const;
 

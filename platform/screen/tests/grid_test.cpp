@@ -5,6 +5,7 @@
 
 #include "platform/screen/grid_model.h"
 #include "platform/screen/grid_view.h"
+#include "platform/store/bulk.h"
 #include "platform/store/database.h"
 #include "sample_screen.h"
 
@@ -128,6 +129,23 @@ TEST(GridReading, IsLimitedToTheRowsThatAreSeen) {
   EXPECT_EQ(model.rowCount(), kRows);
   EXPECT_TRUE(model.read.contains(kRows - 1));
   EXPECT_LT(model.read.size(), kRows / 4) << "the first and the last screenful, not the table";
+}
+
+TEST(GridMarks, AreShownInTheWordsOfTheirSearch) {
+  constexpr GridColumn kColumns[] = {{u"新患", u"新患"}, {u"治療概略", u"治療概略"}};
+  Desk desk;
+  const QString path = desk.folder.filePath("カルテ2データ2000.mdb");
+  ASSERT_TRUE(store::createFresh(path, "カルテ2データ2000.mdb"));
+  const QList<QHash<QString, store::Value>> visits = {{{"新患", "-1"}}, {{"新患", "0"}, {"治療概略", "-1"}}, {}};
+  ASSERT_TRUE(store::addRows(path, "カルテ", visits));
+  auto rows = store::RecordSet::open(store::Database::open(path).value(), "カルテ");
+  ASSERT_TRUE(rows);
+  GridModel model(*rows, kColumns, nullptr);
+  model.follow();
+  EXPECT_EQ(model.cell(0, 0), "Yes");
+  EXPECT_EQ(model.cell(1, 0), "No");
+  EXPECT_EQ(model.cell(2, 0), "No") << "a mark never set";
+  EXPECT_EQ(model.cell(1, 1), "-1") << "a text stays as it is";
 }
 
 }  // namespace
