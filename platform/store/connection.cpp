@@ -58,18 +58,9 @@ Done runAlter(Engine& engine, Scanner& scanner) {
   const QString table = word(u"table") ? scanner.takeName() : QString();
   if (table.isEmpty() || !word(u"add") || !word(u"column")) return scanner.fault();
   const QString column = scanner.takeName();
-  const QString type = scanner.takeRest().remove(u' ').toUpper();
-  const QStringList types = {QStringLiteral("TEXT(255)"), QStringLiteral("TEXT"), QStringLiteral("INTEGER"),
-                             QStringLiteral("YESNO")};
-  if (column.isEmpty() || !types.contains(type)) return scanner.fault();
-  const Result<std::shared_ptr<const TableSchema>> schema = engine.schema(table);
-  if (!schema) return schema.fault();
-  if ((*schema)->find(column) >= 0)
-    return Fault{QStringLiteral("項目「%1」は、テーブル「%2」にすでにあります。").arg(column, table)};
-  const QString sql = QStringLiteral("ALTER TABLE ") + quotedName((*schema)->table()) +
-                      QStringLiteral(" ADD COLUMN ") + quotedName(column) + QLatin1Char(' ') + type;
-  engine.statements().clear();
-  const Done done = store::execute(engine.handle(), engine.path(), sql);
+  const std::optional<ColumnType> type = typeOfWord(scanner.takeRest());
+  if (column.isEmpty() || !type) return scanner.fault();
+  const Done done = engine.write([&] { return engine.addColumn(table, column, *type); });
   engine.forget();
   return done;
 }

@@ -84,15 +84,14 @@ Done checkContent(sqlite3* handle, const QString& path) {
   return {};
 }
 
-Done createTables(sqlite3* handle, const QString& path, const QString& catalogueFile) {
+Done createTables(sqlite3* handle, const QString& path, const QString& catalogueFile, FreshColumns which) {
   for (const TableRow& row : catalogue()) {
     if (catalogueFile != QStringView(row.file)) continue;
     const QString table = quotedName(QString::fromUtf16(row.table));
     QStringList columns;
-    for (const ColumnRow& column : row.columns) {
-      columns += quotedName(QString::fromUtf16(column.name)) + QLatin1Char(' ') + typeWord(column.type);
-      if (column.type == ColumnType::YesNo) columns.back() += QStringLiteral(" NOT NULL DEFAULT 0");
-    }
+    for (const ColumnRow& column : row.columns)
+      if (!column.added || which == FreshColumns::All)
+        columns += columnText(QString::fromUtf16(column.name), column.type);
     const QString create =
         QStringLiteral("CREATE TABLE ") + table + QLatin1Char('(') + columns.join(u',') + QLatin1Char(')');
     // The whole list of IDs is read from this index instead of the wide rows.
@@ -105,14 +104,14 @@ Done createTables(sqlite3* handle, const QString& path, const QString& catalogue
   return {};
 }
 
-Done fill(sqlite3* handle, const QString& path, const QString& catalogueFile) {
+Done fill(sqlite3* handle, const QString& path, const QString& catalogueFile, FreshColumns which) {
   // UTF-16 keeps every text of the program byte for byte and is read without conversion.
   for (const QString& sql : {QStringLiteral("PRAGMA encoding='UTF-16le'"),
                              QStringLiteral("PRAGMA application_id=%1").arg(kApplicationId)})
     if (const Done done = execute(handle, path, sql); !done) return done;
   Transaction transaction(handle, path);
   if (const Done begun = transaction.begin(); !begun) return begun;
-  if (const Done made = createTables(handle, path, catalogueFile); !made) return made;
+  if (const Done made = createTables(handle, path, catalogueFile, which); !made) return made;
   return transaction.commit();
 }
 
@@ -168,7 +167,7 @@ Result<std::shared_ptr<Database>> Database::open(const QString& path) {
   return database;
 }
 
-Done createFresh(const QString& path, const QString& catalogueFile) {
+Done createFresh(const QString& path, const QString& catalogueFile, FreshColumns which) {
   if (!tableOfFile(catalogueFile))
     return Fault{
         QStringLiteral("「%1」は、この治療台帳のデータファイルの名前ではありません。").arg(catalogueFile)};
@@ -182,7 +181,7 @@ Done createFresh(const QString& path, const QString& catalogueFile) {
                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) != SQLITE_OK)
     done = engineFault(handle, path);
   else
-    done = fill(handle, path, catalogueFile);
+    done = fill(handle, path, catalogueFile, which);
   sqlite3_close_v2(handle);
   if (done && !QFile::rename(beside, path))
     done = told(path, QStringLiteral("を作ることができません。フォルダの書き込みの権限を確認してください。"));

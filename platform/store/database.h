@@ -38,8 +38,14 @@ class Database : public std::enable_shared_from_this<Database> {
 /// The checks of opening by the file's first bytes alone: missing, empty, alien, a real office database.
 Done checkFile(const QString& path);
 
+/// Which columns of the catalogue a fresh file gets.
+enum class FreshColumns {
+  All,
+  FirstSchema,  ///< as the file stood before every growth run; tests grow such a file
+};
+
 /// Makes a fresh file at the path with all tables and columns that the catalogue lists for the file
 /// name. Refuses to touch an existing file.
-Done createFresh(const QString& path, const QString& catalogueFile);
+Done createFresh(const QString& path, const QString& catalogueFile, FreshColumns which = FreshColumns::All);
 
 }  // namespace store

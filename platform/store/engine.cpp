@@ -28,6 +28,16 @@ void Engine::forget() {
   noteManyWrites();
 }
 
+Done Engine::addColumn(const QString& table, const QString& column, ColumnType type) {
+  const Result<std::shared_ptr<const TableSchema>> known = schema(table);
+  if (!known) return known.fault();
+  if ((*known)->find(column) >= 0)
+    return Fault{QStringLiteral("項目「%1」は、テーブル「%2」にすでにあります。").arg(column, table)};
+  return execute(handle(), path(),
+                 QStringLiteral("ALTER TABLE ") + quotedName((*known)->table()) +
+                     QStringLiteral(" ADD COLUMN ") + columnText(column, type));
+}
+
 void Engine::noteManyWrites() {
   m_copies.clear();
   m_lastWrites.clear();

@@ -30,6 +30,9 @@ class Engine {
   void rowWritten(const QString& table, qint64 id, quint32 before);
   void rowsWritten(const QString& table, const std::vector<qint64>& ids, quint32 before);
   void rowRemoved(const QString& table, qint64 id, quint32 before);
+  /// Adds columns to a table inside the caller's write(); one that stands already is a fault. The caller
+  /// calls forget() afterwards, whatever came of the transaction.
+  Done addColumn(const QString& table, const QString& column, ColumnType type);
   /// Forgets schemas and copies, after a change of the columns.
   void forget();
 

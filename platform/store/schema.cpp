@@ -7,13 +7,19 @@ namespace {
 
 constexpr int kTextLimit = 255;
 
-ColumnType typeOf(const QString& declared, bool key) {
-  if (key) return ColumnType::Counter;
-  const QString word = declared.toUpper();
-  if (word == u"TEXT") return ColumnType::LongText;
-  if (word == u"YESNO") return ColumnType::YesNo;
-  if (word == u"INTEGER") return ColumnType::Integer;
-  return ColumnType::Text255;
+const char* wordOf(ColumnType type) {
+  switch (type) {
+    case ColumnType::Counter:
+    case ColumnType::Integer:
+      return "INTEGER";
+    case ColumnType::LongText:
+      return "TEXT";
+    case ColumnType::YesNo:
+      return "YESNO";
+    case ColumnType::Text255:
+      break;
+  }
+  return "TEXT(255)";
 }
 
 Fault refused(const QString& column, const QString& why) {
@@ -73,20 +79,19 @@ int TableSchema::find(const QString& name) const {
   return exact != m_byName.constEnd() ? *exact : m_byName.value(columnKey(name), -1);
 }
 
-QString typeWord(ColumnType type) {
-  switch (type) {
-    case ColumnType::Counter:
-      return QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT");
-    case ColumnType::Text255:
-      return QStringLiteral("TEXT(255)");
-    case ColumnType::LongText:
-      return QStringLiteral("TEXT");
-    case ColumnType::Integer:
-      return QStringLiteral("INTEGER");
-    case ColumnType::YesNo:
-      return QStringLiteral("YESNO");
-  }
-  return {};
+QString columnText(const QString& name, ColumnType type) {
+  QString text = quotedName(name) + QLatin1Char(' ') + QLatin1String(wordOf(type));
+  if (type == ColumnType::Counter) text += QStringLiteral(" PRIMARY KEY AUTOINCREMENT");
+  if (type == ColumnType::YesNo) text += QStringLiteral(" NOT NULL DEFAULT 0");
+  return text;
+}
+
+std::optional<ColumnType> typeOfWord(const QString& word) {
+  const QString bare = QString(word).remove(u' ').toUpper();
+  for (const ColumnType type :
+       {ColumnType::Text255, ColumnType::LongText, ColumnType::Integer, ColumnType::YesNo})
+    if (bare == QLatin1String(wordOf(type))) return type;
+  return std::nullopt;
 }
 
 Result<TableSchema> readSchema(sqlite3* handle, const QString& path, const QString& qualifier,
@@ -103,7 +108,9 @@ Result<TableSchema> readSchema(sqlite3* handle, const QString& path, const QStri
     const Result<bool> row = rows->step();
     if (!row) return row.fault();
     if (!row.value()) break;
-    schema.add(rows->text(0), typeOf(rows->text(1), rows->number(2) != 0));
+    const bool key = rows->number(2) != 0;
+    schema.add(rows->text(0),
+               key ? ColumnType::Counter : typeOfWord(rows->text(1)).value_or(ColumnType::Text255));
   }
   if (schema.count() == 0)
     return Fault{

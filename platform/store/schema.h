@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QStringList>
 #include <QVector>
+#include <optional>
 
 #include "platform/store/statement.h"
 
@@ -35,8 +36,10 @@ class TableSchema {
 /// Names of columns are compared by this.
 QString columnKey(const QString& name);
 
-/// The type's word in CREATE TABLE and ALTER TABLE.
-QString typeWord(ColumnType type);
+/// The column's name and type as CREATE TABLE and ALTER TABLE take them.
+QString columnText(const QString& name, ColumnType type);
+/// The type of a word of ALTER TABLE: TEXT(255), TEXT, INTEGER or YESNO, whatever its case and blanks.
+std::optional<ColumnType> typeOfWord(const QString& word);
 
 /// Reads the columns of a table; `qualifier` is the name of the attached file ("main"). A table that the file
 /// lacks is a fault with the table's and the file's name.
