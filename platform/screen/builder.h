@@ -40,6 +40,7 @@ class Builder {
   void make(const Bar& row);
   void make(const EndBar& row);
   void make(const Grid& row);
+  void make(const Table& row);
 
  private:
   struct Place;
@@ -55,6 +56,7 @@ class Builder {
   static void setHandlers(Control& control, const Field& row);
   void makeMemo(const TextField& row);
   QLabel* makeLabel(Control& control);
+  void placeCells(Control& control);
   void addEntry(CommandControl& command, const QString& name, const char16_t* under, const char16_t* caption);
   void addKey(CommandControl& command, const char16_t* key);
   QMenu* menu(const char16_t* caption);

@@ -10,6 +10,7 @@
 #include "platform/screen/control_frame.h"
 #include "platform/screen/control_grid.h"
 #include "platform/screen/control_options.h"
+#include "platform/screen/control_table.h"
 #include "platform/screen/control_text.h"
 #include "platform/screen/screen.h"
 #include "platform/screen/screen_parts.h"
@@ -161,9 +162,17 @@ void Builder::make(const EndBar&) { close(); }
 void Builder::make(const Grid& row) {
   auto& grid = add(
       std::make_unique<GridControl>(m_screen, row, m_screen.source(row.source), host(), m_screen.voice()));
-  m_places.back()->addWide(makeLabel(grid), false);
-  m_places.back()->addWide(grid.widget(), true);
-  finish(grid, nullptr);
+  placeCells(grid);
+}
+
+void Builder::make(const Table& row) {
+  placeCells(add(std::make_unique<TableControl>(m_screen, row, host(), m_screen.voice())));
+}
+
+void Builder::placeCells(Control& control) {
+  m_places.back()->addWide(makeLabel(control), false);
+  m_places.back()->addWide(control.widget(), true);
+  finish(control, nullptr);
 }
 
 void Builder::addEntry(CommandControl& command, const QString& name, const char16_t* under,

@@ -57,6 +57,7 @@ class Control {
   virtual QStringList items() const { return {}; }
   virtual void setItems(const QStringList&) {}
   virtual int chosenItem() const { return -1; }
+  virtual void setRows(const QList<QStringList>&) {}
 
   // Looks.
   virtual void setCaption(const QString& caption);

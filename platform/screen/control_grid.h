@@ -1,38 +1,29 @@
 #pragma once
 
-#include "platform/screen/control.h"
+#include "platform/screen/control_cells.h"
 
 namespace screen {
 
 class DataSource;
 class GridModel;
-class GridView;
 
-/// A grid over a source's record set. Its row is the source's row; a cell says its column's caption and its
-/// value when the arrow keys reach it.
-class GridControl : public Control {
+/// A grid over a source's record set. Its row is the source's row.
+class GridControl : public CellsControl {
  public:
   GridControl(Screen& screen, const Grid& row, DataSource& source, QWidget* parent, voice::VoiceGuide& voice);
 
-  QWidget* widget() const override;
-  QList<QWidget*> focusWidgets() const override { return {widget()}; }
-  void speak(voice::VoiceGuide& voice, QWidget* focus) const override;
-  bool enter() override;
-  QString text() const override;  ///< the current cell
   int sourceNumber() const { return m_number; }
 
   /// The source shows another row or set.
-  void follow();
+  void follow() override;
+
+ protected:
+  bool rowReached(int row) override;
 
  private:
-  void cellReached(int row, int rowBefore);
-  QString cellSpeech() const;
   DataSource& m_source;
   int m_number;
-  GridView* m_view;
-  GridModel* m_model;
-  voice::VoiceGuide& m_voice;
-  bool m_fitted = false;
+  GridModel* m_rows;
 };
 
 }  // namespace screen

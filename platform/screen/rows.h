@@ -264,8 +264,18 @@ struct Grid {
   Handler onMove = nullptr;       ///< current row changed
 };
 
+/// A grid over rows that the screen makes itself and puts in by setRows(): lists that are computed.
+struct Table {
+  ControlName name;
+  Words caption;
+  std::span<const char16_t* const> columns;  ///< captions
+  const char16_t* say = nullptr;             ///< spoken on focus before the cell instead of the caption
+  Handler onActivate = nullptr;              ///< Enter or double click on a row
+  Handler onMove = nullptr;                  ///< current row changed
+};
+
 using Row = std::variant<TextField, TextRun, Combo, Check, Options, Command, Entry, Note, Page, EndPages,
-                         Group, EndGroup, Bar, EndBar, Grid>;
+                         Group, EndGroup, Bar, EndBar, Grid, Table>;
 using Rows = std::span<const Row>;
 
 /// A screen as it is declared: names, rows, and what it says when it opens.

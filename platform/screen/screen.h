@@ -60,6 +60,9 @@ class Screen : public QMainWindow {
   void setItems(const QString& combo, const QStringList& items);
   /// Position of the item that the list shows (of like items the one chosen); -1: its text is none of them.
   int chosenItem(const QString& combo) const;
+  /// Puts rows into a table, texts in the order of its columns; the first becomes current, and chosenItem() is
+  /// the current one.
+  void setRows(const QString& table, const QList<QStringList>& rows);
 
   // Looks.
   void setShown(const QString& control, bool shown);  ///< with its label

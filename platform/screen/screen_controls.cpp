@@ -51,6 +51,10 @@ void Screen::setItems(const QString& combo, const QStringList& items) {
   if (Control* found = m_parts->book.find(combo)) found->setItems(items);
 }
 
+void Screen::setRows(const QString& table, const QList<QStringList>& rows) {
+  if (Control* found = m_parts->book.find(table)) found->setRows(rows);
+}
+
 void Screen::setShown(const QString& control, bool shown) {
   if (Control* found = m_parts->book.find(control)) found->setShown(shown);
 }

@@ -132,7 +132,7 @@ TEST_F(Builder, TabOrderIsRowOrder) {
   const QStringList firstPage{"cmdClose",     "TabStrip1", "txtFields(4)", "txtFields(5)",
                               "txtFields(6)", "Combo1",    "Combo2",       "Check1",
                               "Check2",       "Frame1",    "cmdUpdate"};
-  const QStringList secondPage{"txtDay(60)", "txtDay(61)", "txtDay(62)", "txtMemo", "DBGrid1"};
+  const QStringList secondPage{"txtDay(60)", "txtDay(61)", "txtDay(62)", "txtMemo", "DBGrid1", "Table1"};
   EXPECT_EQ(names, firstPage + secondPage);
 }
 

@@ -10,6 +10,7 @@ namespace {
 
 constexpr const char16_t* kKinds[] = {u"氏名", u"住所1", u"電話1"};
 constexpr Choice kChoices[] = {{{u"Option1", 0}, u"男性", u"1"}, {{u"Option1", 1}, u"女性", u"2"}};
+constexpr const char16_t* kDueColumns[] = {u"氏名", u"期限"};
 constexpr GridColumn kColumns[] = {{u"氏名", u"氏名"}, {u"住所1", u"住所"}};
 
 constexpr Row kRows[] = {
@@ -87,6 +88,11 @@ constexpr Row kRows[] = {
          .columns = kColumns,
          .onActivate = call<&SampleScreen::activated>,
          .onMove = call<&SampleScreen::rowMoved>},
+    Table{.name = {u"Table1"},
+          .caption = u"期限の一覧",
+          .columns = kDueColumns,
+          .onActivate = call<&SampleScreen::activated>,
+          .onMove = call<&SampleScreen::rowMoved>},
 };
 
 constexpr ScreenRow kSample{.name = u"見本1",
