@@ -41,6 +41,8 @@ class Builder {
   void make(const EndBar& row);
   void make(const Grid& row);
   void make(const Table& row);
+  void make(const Calendar& row);
+  void make(const TabRow& row);
 
  private:
   struct Place;

@@ -4,12 +4,14 @@
 #include "platform/screen/builder.h"
 #include "platform/screen/builder_place.h"
 #include "platform/screen/captions.h"
+#include "platform/screen/control_calendar.h"
 #include "platform/screen/control_check.h"
 #include "platform/screen/control_combo.h"
 #include "platform/screen/control_command.h"
 #include "platform/screen/control_frame.h"
 #include "platform/screen/control_grid.h"
 #include "platform/screen/control_options.h"
+#include "platform/screen/control_tab_row.h"
 #include "platform/screen/control_table.h"
 #include "platform/screen/control_text.h"
 #include "platform/screen/screen.h"
@@ -167,6 +169,16 @@ void Builder::make(const Grid& row) {
 
 void Builder::make(const Table& row) {
   placeCells(add(std::make_unique<TableControl>(m_screen, row, host(), m_screen.voice())));
+}
+
+void Builder::make(const Calendar& row) {
+  placeCells(add(std::make_unique<CalendarControl>(m_screen, row, host(), m_screen.voice())));
+}
+
+void Builder::make(const TabRow& row) {
+  auto& tabs = add(std::make_unique<TabRowControl>(m_screen, row, host()));
+  m_places.back()->addField(makeLabel(tabs), tabs.widget(), true);
+  finish(tabs, nullptr);
 }
 
 void Builder::placeCells(Control& control) {

@@ -8,6 +8,9 @@
 // The rows that a screen is declared with. Leaving out a row's name, caption, binding or action does not
 // compile: these types have no default constructor and refuse empty text at compile time.
 
+class QDate;
+class QString;
+
 namespace screen {
 
 class Screen;
@@ -274,8 +277,42 @@ struct Table {
   Handler onMove = nullptr;                  ///< current row changed
 };
 
+/// What a date cursor shows and says for a day: .dayText = dayTextOf<&CalendarScreen::dayText>.
+using DayText = QString (*)(const Screen&, const QDate&);
+
+namespace detail {
+template <auto Method>
+struct DayTextOf;
+template <class C, QString (C::*Method)(const QDate&) const>
+struct DayTextOf<Method> {
+  static QString text(const Screen& screen, const QDate& date) {
+    return (static_cast<const C&>(screen).*Method)(date);
+  }
+};
+}  // namespace detail
+template <auto Method>
+inline constexpr DayText dayTextOf = &detail::DayTextOf<Method>::text;
+
+/// A date cursor. The arrow keys move it by a day and a week, Page Up and Page Down by a month, Home and End
+/// to the first and the last day of the month; each move and Enter say the day. A month sheet shows it to the
+/// eye and takes the mouse.
+struct Calendar {
+  ControlName name;
+  Words caption;
+  DayText dayText;
+};
+
+/// Tabs without pages of their own, of which one is chosen with the arrow keys: the screen shows what belongs
+/// to it, and says what came of it.
+struct TabRow {
+  ControlName name;
+  Words caption;
+  std::span<const char16_t* const> tabs;
+  Handler onChoose;  ///< another tab was chosen, or Enter pressed on one
+};
+
 using Row = std::variant<TextField, TextRun, Combo, Check, Options, Command, Entry, Note, Page, EndPages,
-                         Group, EndGroup, Bar, EndBar, Grid, Table>;
+                         Group, EndGroup, Bar, EndBar, Grid, Table, Calendar, TabRow>;
 using Rows = std::span<const Row>;
 
 /// A screen as it is declared: names, rows, and what it says when it opens.

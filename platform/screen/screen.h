@@ -63,6 +63,9 @@ class Screen : public QMainWindow {
   /// Puts rows into a table, texts in the order of its columns; the first becomes current, and chosenItem() is
   /// the current one.
   void setRows(const QString& table, const QList<QStringList>& rows);
+  /// The day of a date cursor.
+  QDate day(const QString& calendar) const;
+  void setDay(const QString& calendar, const QDate& day);
 
   // Looks.
   void setShown(const QString& control, bool shown);  ///< with its label

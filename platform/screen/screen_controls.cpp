@@ -1,6 +1,7 @@
 // The half of Screen that addresses controls by their objectName.
 #include <QtWidgets/QtWidgets>
 
+#include "platform/screen/control_calendar.h"
 #include "platform/screen/control_check.h"
 #include "platform/screen/control_combo.h"
 #include "platform/screen/control_frame.h"
@@ -53,6 +54,15 @@ void Screen::setItems(const QString& combo, const QStringList& items) {
 
 void Screen::setRows(const QString& table, const QList<QStringList>& rows) {
   if (Control* found = m_parts->book.find(table)) found->setRows(rows);
+}
+
+QDate Screen::day(const QString& calendar) const {
+  const auto* cursor = m_parts->book.find<CalendarControl>(calendar);
+  return cursor ? cursor->day() : QDate();
+}
+
+void Screen::setDay(const QString& calendar, const QDate& day) {
+  if (auto* cursor = m_parts->book.find<CalendarControl>(calendar)) cursor->setDay(day);
 }
 
 void Screen::setShown(const QString& control, bool shown) {
