@@ -86,6 +86,14 @@ Done Engine::write(const std::function<Done()>& work) {
   return transaction.commit();
 }
 
+Done Engine::read(const std::function<Done()>& work) {
+  if (!sqlite3_get_autocommit(handle())) return work();
+  if (const Done begun = execute(handle(), path(), QStringLiteral("BEGIN")); !begun) return begun;
+  const Done done = work();
+  const Done ended = execute(handle(), path(), QStringLiteral("COMMIT"));
+  return done ? ended : done;
+}
+
 void Engine::noteOwnWrite(quint32 before) {
   ++m_writes;
   if (m_copiesCounter == before)

@@ -25,6 +25,8 @@ class Engine {
 
   /// Runs the work in one transaction that holds the write lock; a fault rolls it back.
   Done write(const std::function<Done()>& work);
+  /// Runs the work while the file stays as it is: in one reading transaction, or in the one that is open.
+  Done read(const std::function<Done()>& work);
   /// Tells of a row that this program wrote or removed inside a transaction that began at the counter
   /// `before`, whoever's handle it was.
   void rowWritten(const QString& table, qint64 id, quint32 before);

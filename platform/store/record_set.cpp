@@ -1,6 +1,7 @@
 #include "platform/store/record_set.h"
 
 #include "platform/store/record_set_state.h"
+#include "platform/store/row_walk.h"
 
 namespace store {
 namespace {
@@ -154,6 +155,25 @@ Done RecordSet::remove() {
   state.ids.erase(state.position);
   state.moveTo(state.position - 1);
   return {};
+}
+
+Done RecordSet::forEach(const QStringList& columns, const std::function<void(RowViews)>& each) const {
+  if (!isOpen()) return noCurrentRow();
+  const Result<QVector<int>> places = m_state->columns(columns);
+  if (!places) return places.fault();
+  return walkRows(m_state->engine(), m_state->schema(), m_state->ids.idsAscending(), *places,
+                  [&](qint64, RowViews values) { each(values); });
+}
+
+Done RecordSet::updateAll(const QStringList& reads, const QString& column,
+                          const std::function<std::optional<Value>(RowViews)>& newValue) {
+  if (!isOpen()) return noCurrentRow();
+  if (m_state->buffer != Buffer::None)
+    return Fault{
+        QStringLiteral("入力中のレコードがあるため、項目「%1」をまとめて変更できません。").arg(column)};
+  const Result<QVector<int>> places = m_state->columns(reads + QStringList{column});
+  if (!places) return places.fault();
+  return m_state->writeColumn(*places, newValue);
 }
 
 void RecordSet::setFilter(const QString& criteria) { m_state->nextFilter = criteria; }

@@ -2,7 +2,10 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <memory>
+#include <optional>
+#include <span>
 
 #include "platform/text/result.h"
 
@@ -21,6 +24,10 @@ inline constexpr Bookmark kNoBookmark = -1;
 /// One column's value. All values travel as text: a null QString is NULL in the file, yes/no is "-1"
 /// or "0", a number its decimal digits.
 using Value = QString;
+
+/// The values of the columns that a walk asked for, in their order, valid during the call alone: a null view
+/// is NULL, yes/no is "-1" or "0".
+using RowViews = std::span<const QStringView>;
 
 /// The rows of one table as a screen walks them: one current row, moved by the calls below.
 ///
@@ -81,6 +88,18 @@ class RecordSet {
   void cancelUpdate();
   /// Deletes the current row; the set then stands before the next one, as after movePrevious().
   Done remove();
+
+  /// Tells the columns of every row of the set in one pass, as the file holds them at one moment: for sums
+  /// and counts over many rows. Goes in ID order whatever the order of the set, does not move the current row
+  /// and passes over rows that are gone. The function must not write to the file. Refuses an unknown column.
+  Done forEach(const QStringList& columns, const std::function<void(RowViews values)>& each) const;
+  /// Writes one column of every row of the set in one transaction, all or none. `newValue` makes it from the
+  /// columns `reads` as they stand in the file at that moment, under the write lock: what another computer
+  /// stored meanwhile is seen, never overwritten. No value, or the one that stands already: the row is not
+  /// written. Rows that are gone are passed over, current row and lastModified() stay. Refused while a row is
+  /// being entered, and with the engine's text where the file is in use elsewhere or a value does not fit.
+  Done updateAll(const QStringList& reads, const QString& column,
+                 const std::function<std::optional<Value>(RowViews values)>& newValue);
 
   /// Criteria of the closed query subset, for openRecordset(); blank: all rows. May end in "order by ID".
   void setFilter(const QString& criteria);

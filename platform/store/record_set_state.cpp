@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/store/row_walk.h"
+
 namespace store {
 
 /// The current row. It is read again when this program wrote to it since.
@@ -79,6 +81,42 @@ Done RecordSet::State::write(const std::function<Result<qint64>()>& work) {
   engine().rowWritten(schema().table(), written, before);
   lastModified = written;
   return {};
+}
+
+Result<QVector<int>> RecordSet::State::columns(const QStringList& names) const {
+  QVector<int> found;
+  for (const QString& name : names) {
+    found += schema().find(name);
+    if (found.back() < 0) return unknownColumn(name, schema().table());
+  }
+  return found;
+}
+
+Done RecordSet::State::writeColumn(const QVector<int>& columns,
+                                   const std::function<std::optional<Value>(RowViews)>& newValue) {
+  const size_t own = static_cast<size_t>(columns.size()) - 1;
+  quint32 before = 0;
+  std::vector<qint64> written;
+  std::vector<std::pair<qint64, Value>> changed;
+  const Done done = engine().write([&]() -> Done {
+    before = engine().changeCounter();
+    const Done walked =
+        walkRows(engine(), schema(), ids.idsAscending(), columns, [&](qint64 id, RowViews values) {
+          const std::optional<Value> made = newValue(values.first(own));
+          if (made && (*made != values[own] || made->isNull() != values[own].isNull()))
+            changed.emplace_back(id, *made);
+        });
+    if (!walked) return walked;
+    for (const auto& [id, made] : changed) {
+      const Result<Value> value = columnValue(schema(), columns.back(), made);
+      if (!value) return value.fault();
+      if (const Done one = file->update(id, {{columns.back(), *value}}); !one) return one;
+      written.push_back(id);
+    }
+    return {};
+  });
+  if (done) engine().rowsWritten(schema().table(), written, before);
+  return done;
 }
 
 Result<qint64> RecordSet::State::writeEdited(const RowValues& values) {

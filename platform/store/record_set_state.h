@@ -49,6 +49,11 @@ struct RecordSet::State {
   Result<RowValues> bufferedValues() const;
   Done write(const std::function<Result<qint64>()>& work);
   Result<qint64> writeEdited(const RowValues& values);
+  /// The columns of the names; an unknown one is told.
+  Result<QVector<int>> columns(const QStringList& names) const;
+  /// updateAll(): the last of the columns is the one to write.
+  Done writeColumn(const QVector<int>& columns,
+                   const std::function<std::optional<Value>(RowViews)>& newValue);
 };
 
 }  // namespace store

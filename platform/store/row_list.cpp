@@ -86,6 +86,15 @@ std::vector<qint64> RowList::ids() const {
   return all;
 }
 
+std::vector<qint64> RowList::idsAscending() const {
+  if (m_ids) return *m_ids;
+  std::vector<qint64> all;
+  all.reserve(m_entries.size());
+  for (const Entry& entry : m_entries) all.push_back(entry.id);
+  if (!std::is_sorted(all.begin(), all.end())) std::sort(all.begin(), all.end());
+  return all;
+}
+
 void RowList::erase(int position) {
   copyIds();
   const size_t place = static_cast<size_t>(position);

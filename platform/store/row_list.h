@@ -27,6 +27,8 @@ class RowList {
   int find(qint64 id) const;
   /// All IDs in their order.
   std::vector<qint64> ids() const;
+  /// All IDs, the smallest first, whatever the order of the list.
+  std::vector<qint64> idsAscending() const;
   void append(qint64 id);
   void erase(int position);
 
