@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <QStringList>
+
+#include "frame/core/era_date.h"
+
+namespace office {
+
+/// RunState::calendarMode while the calendar serves the takings; 1 is the appointment book.
+inline constexpr int kTakingsCalendar = 2;
+
+/// The years that takings are asked for: from 2000 to the last year of the era tables, 2038, and on to the
+/// present year after that.
+QStringList takingsYears(QDate today);
+
+/// A day as visits bear it, "ggge年m月d日", by the program's own conversion where the platform lacks 令和.
+QString takingsDay(const frame::EraDates& dates, QDate day);
+
+}  // namespace office

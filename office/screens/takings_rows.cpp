@@ -1,0 +1,89 @@
+#include "office/screens/takings_rows.h"
+
+#include <array>
+
+#include "office/screens/takings_screen.h"
+#include "platform/screen/opens.h"
+
+namespace office {
+
+using namespace screen;
+
+namespace {
+
+constexpr GridColumn kColumns[] = {
+    {u"治療日時", u"治療日時"},
+    {u"氏名", u"氏名"},
+    {u"治療概略", u"治療概略"},
+    {u"保険者負担金", u"保険者負担金"},
+    {u"保険の一部負担金", u"保険の一部負担金"},
+    {u"治療金額", u"治療金額"},
+    {u"領収証チェック", u"領収証チェック"},
+    {u"新患", u"新患"},
+    {u"生年月日", u"生年月日"},
+};
+
+constexpr const char16_t* kMonths[] = {u"1", u"2", u"3", u"4",  u"5",  u"6",
+                                       u"7", u"8", u"9", u"10", u"11", u"12"};
+constexpr const char16_t* kDays[] = {u"1",  u"2",  u"3",  u"4",  u"5",  u"6",  u"7",  u"8",
+                                     u"9",  u"10", u"11", u"12", u"13", u"14", u"15", u"16",
+                                     u"17", u"18", u"19", u"20", u"21", u"22", u"23", u"24",
+                                     u"25", u"26", u"27", u"28", u"29", u"30", u"31"};
+
+constexpr Row kRows[] = {
+    Grid{.name = {u"DBGrid1"},
+         .caption = u"集計の一覧表",
+         .source = 1,
+         .columns = kColumns,
+         .onActivate = call<&TakingsScreen::openPatient>},
+    TextField{.name = {u"Text2"}, .caption = u"ETC1:", .bind = Column{u"ETC1"}, .readOnly = true},
+    TextField{.name = {u"Label4"},
+              .caption = u"治療総数:",
+              .bind = Unbound{u"counts the rows on view"},
+              .width = 8,
+              .readOnly = true},
+
+    Group{.name = {u"FrameDay"}, .caption = u"日付", .columns = 4},
+    Combo{.name = {u"Combo1"}, .caption = u"年:", .bind = Unbound{u"the day asked for"}, .width = 6},
+    Combo{.name = {u"Combo2"},
+          .caption = u"月:",
+          .bind = Unbound{u"the day asked for"},
+          .items = kMonths,
+          .width = 4},
+    Combo{.name = {u"Combo3"},
+          .caption = u"日:",
+          .bind = Unbound{u"the day asked for"},
+          .items = kDays,
+          .width = 4},
+    Command{.name = {u"Command1"}, .caption = u"日付で抽出", .run = run<&TakingsScreen::showDay>},
+    TextField{.name = {u"Text1"},
+              .caption = u"指定月:",
+              .bind = Unbound{u"the month asked for"},
+              .width = 16,
+              .onEnter = call<&TakingsScreen::showMonth>},
+    Command{.name = {u"Command6"}, .caption = u"指定月のみ表示", .run = run<&TakingsScreen::showMonth>},
+    EndGroup{},
+
+    Bar{},
+    Command{.name = {u"Command4"}, .caption = u"カレンダー表示", .run = run<&TakingsScreen::openCalendar>},
+    Command{.name = {u"Command3"}, .caption = u"全般抽出", .run = opens<u"集計抽出">},
+    Command{.name = {u"Command7"}, .caption = u"並び替え", .run = run<&TakingsScreen::askSort>},
+    Command{.name = {u"cmdRefresh"}, .caption = u"全患者表示及び再表示", .run = run<&TakingsScreen::showAll>},
+    Command{.name = {u"Command2"}, .caption = u"総合金額の表示", .run = run<&TakingsScreen::showTotals>},
+    EndBar{},
+    Bar{},
+    Command{.name = {u"Command8"},
+            .caption = u"選択した患者のカルテへ",
+            .run = run<&TakingsScreen::openPatient>},
+    Command{.name = {u"Command5"}, .caption = u"集計印刷", .run = opens<u"集計年月">},
+    Command{.name = {u"cmdDelete"}, .caption = u"削除", .run = run<&TakingsScreen::removeVisit>},
+    Command{.name = {u"cmdClose"}, .caption = u"閉じる", .run = run<&TakingsScreen::finish>},
+    EndBar{},
+};
+
+}  // namespace
+
+constinit const ScreenRow kTakingsDeclaration{
+    .name = u"集計", .caption = u"集計", .rows = kRows, .sources = 1, .functionKeys = true};
+
+}  // namespace office

@@ -1,0 +1,166 @@
+#include "office/screens/takings_screen.h"
+
+#include "office/core/booking_date.h"
+#include "office/core/takings.h"
+#include "office/screens/takings_rows.h"
+#include "platform/screen/find_row.h"
+#include "platform/store/criteria_text.h"
+#include "records/core/visit_dates.h"
+#include "records/core/visit_totals.h"
+
+namespace office {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString kNoRows = u"検索データが０件です。「全患者表示及び再表示」をクリックして下さい。"_s;
+// Kept: asked for a day, an empty list speaks of a button of another screen.
+const QString kNoRowsOfDay = u"検索データが０件です。「全表示に戻す」をクリックして下さい。"_s;
+const QString kDeleteQuestion = u"　現在の表示の患者のカルテを削除しますか？"_s;
+const QString kNothingToDelete = u"削除するデータがありません。"_s;
+
+const QString kVisitDate = u"治療日時"_s;
+const QString kGrid = u"DBGrid1"_s;
+const QString kCount = u"Label4"_s;
+
+}  // namespace
+
+TakingsScreen::TakingsScreen(screen::Services& services, frame::RunState& run)
+    : ListScreen(kTakingsDeclaration, services), m_run(run) {}
+
+void TakingsScreen::onLoad() {
+  setShown(u"Text2"_s, false);
+  const QDate today = m_run.clock->today();
+  setItems(u"Combo1"_s, takingsYears(today));
+  setDay(today);
+  setText(u"Text1"_s, records::presentMonthText(m_run.eraDates()));
+  openWhole();
+}
+
+void TakingsScreen::opened(const screen::Request& request) {
+  if (request.value(u"最終行"_s).toBool()) source().moveLast();
+  const QDate day = QDate::fromString(request.value(u"日付"_s).toString(), Qt::ISODate);
+  if (!day.isValid()) return;
+  setDay(day);
+  m_onceActive.set([this] { showDay(); });
+}
+
+void TakingsScreen::onActivate() { m_onceActive.run(*this); }
+
+QStringList TakingsScreen::openingTexts() const { return QStringList{windowTitle()} + count(); }
+
+bool TakingsScreen::openWhole() {
+  return source().open(m_run.folders[frame::folder::kVisits], u"カルテ"_s);
+}
+
+QString TakingsScreen::noRowsText() const { return kNoRows; }
+
+void TakingsScreen::rowShown(int) {
+  setText(kCount, QString::number(source().isOpen() ? source().rows().recordCount() : 0));
+}
+
+QStringList TakingsScreen::count() const { return {caption(kCount), text(kCount)}; }
+
+QStringList TakingsScreen::rowOnView() const {
+  if (!holdsRows()) return count();
+  const store::RecordSet& rows = source().rows();
+  return {source().positionText(), rows.value(kVisitDate), rows.value(u"氏名"_s)};
+}
+
+void TakingsScreen::tellResult(const QString& done) {
+  messages().holdSpeech();
+  voice().speakText((QStringList{done} + count()).join(voice::kSpeechSeparator));
+  focusOn(kGrid);
+}
+
+// ---- What is on view ----
+
+bool TakingsScreen::narrowBy(const QString& criteria) {
+  if (!ListScreen::narrowBy(criteria)) return false;
+  tellResult(u"抽出しました"_s);
+  return true;
+}
+
+bool TakingsScreen::sortBy(const QString& order) {
+  if (!ListScreen::sortBy(order)) return false;
+  tellResult(u"並び替えました"_s);
+  return true;
+}
+
+void TakingsScreen::setDay(QDate day) {
+  setText(u"Combo1"_s, QString::number(day.year()));
+  setText(u"Combo2"_s, QString::number(day.month()));
+  setText(u"Combo3"_s, QString::number(day.day()));
+}
+
+// Texts are compared: a visit whose date was typed in western form is not found.
+void TakingsScreen::showDay() {
+  const auto asked = dayTyped(text(u"Combo1"_s), text(u"Combo2"_s), text(u"Combo3"_s));
+  const std::optional<QDate> day = asked ? rolled(*asked) : std::nullopt;
+  if (!day || emptySet(kNoRowsOfDay)) return;
+  const QString date = takingsDay(m_run.eraDates(), *day);
+  if (ListScreen::narrowBy(store::equalCriterion(kVisitDate, date))) tellResult(date);
+}
+
+void TakingsScreen::showMonth() {
+  const QString month = text(u"Text1"_s);
+  if (month.isEmpty()) return focusOn(u"Text1"_s);
+  if (ListScreen::narrowBy(store::prefixCriterion(kVisitDate, month))) tellResult(month);
+}
+
+void TakingsScreen::openCalendar() {
+  m_run.calendarMode = kTakingsCalendar;
+  navigator().show(u"集計カレンダー"_s);
+}
+
+void TakingsScreen::askSort() {
+  if (!emptySet(kNoRows)) navigator().show(u"ソート2"_s);
+}
+
+void TakingsScreen::showAll() {
+  if (openWhole()) tellResult(u"全患者を表示しました"_s);
+}
+
+void TakingsScreen::showTotals() {
+  if (!source().isOpen() && !openWhole()) return;
+  const auto totals = records::totalsOf(source().rows());
+  if (!totals) return messages().tellDataFault(totals.fault().message);
+  navigator().show(u"集計総合金額"_s, {{u"opener"_s, objectName()},
+                                       {u"rows"_s, totals->rows},
+                                       {u"insurer"_s, totals->insurer},
+                                       {u"share"_s, totals->share},
+                                       {u"treatment"_s, totals->treatment},
+                                       {u"receipts"_s, totals->receipts},
+                                       {u"newPatients"_s, totals->newPatients}});
+}
+
+// ---- The row ----
+
+// A visit without its link would show whoever stands first in the register.
+void TakingsScreen::openPatient() {
+  if (emptySet(kNoRows)) return;
+  const QString serial = source().rows().value(u"ETC1"_s);
+  if (serial.isEmpty()) return screen::tellNotFound(*this);
+  navigator().show(u"治療台帳4"_s, {{u"テキスト5"_s, serial}});
+}
+
+void TakingsScreen::removeVisit() {
+  const bool yes = messages().ask(kDeleteQuestion);
+  m_run.lastAnswer = yes ? 1 : 0;
+  if (!yes) return;
+  if (!holdsRows()) return messages().tell(kNothingToDelete);
+  if (source().remove()) tellResult(u"削除しました"_s);
+}
+
+void TakingsScreen::finish() {
+  navigator().show(u"選択3"_s);
+  closeNow();
+}
+
+bool TakingsScreen::onCloseBox() {
+  finish();
+  return false;
+}
+
+}  // namespace office

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "frame/core/run_state.h"
+#include "platform/screen/list_screen.h"
+#include "platform/screen/once_active.h"
+
+namespace office {
+
+/// 集計: the visits of all patients, narrowed to a day, a month or any text, and added up. Takings are no table
+/// of their own: a deleted row is a deleted visit.
+///
+/// Request keys: "最終行" (the main menu: the last visit is on view), "日付" (the calendar: this day, yyyy-MM-dd,
+/// is asked for as by 日付で抽出).
+class TakingsScreen : public screen::ListScreen {
+ public:
+  TakingsScreen(screen::Services& services, frame::RunState& run);
+
+  void onLoad() override;
+  void opened(const screen::Request& request) override;
+  void onActivate() override;
+  bool onCloseBox() override;
+  QStringList openingTexts() const override;
+  void rowShown(int sourceNumber) override;
+  bool narrowBy(const QString& criteria) override;
+  bool sortBy(const QString& order) override;
+
+  void showDay();
+  void showMonth();
+  void openCalendar();
+  void askSort();
+  void showAll();
+  void showTotals();
+  void openPatient();
+  void removeVisit();
+  void finish();
+
+ protected:
+  bool openWhole() override;
+  QString noRowsText() const override;
+  QStringList rowOnView() const override;
+
+ private:
+  void setDay(QDate day);
+  /// Caption and number of the rows on view.
+  QStringList count() const;
+  /// Says what came of a command and how many rows are on view, then the row that has the keyboard.
+  void tellResult(const QString& done);
+
+  frame::RunState& m_run;
+  screen::OnceActive m_onceActive;
+};
+
+}  // namespace office
