@@ -14,17 +14,15 @@ ExtractDeclaration::ExtractDeclaration(const ExtractRow& row)
             .bind = Unbound{u"the column to search"},
             .items = captions,
             .say = u"カーソルで抽出する項目を選択して下さい"},
-      TextField{.name = u"Text1",
-                .caption = row.wordCaption,
-                .bind = Unbound{u"the text to search"},
-                .width = 30},
+      TextField{
+          .name = u"Text1", .caption = row.wordCaption, .bind = Unbound{u"the text to search"}, .width = 30},
   };
   for (const Note& note : row.notes) rows.push_back(note);
   rows.push_back(Bar{});
-  rows.push_back(Command{
-      .name = u"Command1", .caption = row.go, .run = run<&ExtractDialog::extract>, .standard = true});
   rows.push_back(
-      Command{.name = u"Command2", .caption = u"キャンセル", .run = run<&ExtractDialog::cancel>, .key = u"Esc"});
+      Command{.name = u"Command1", .caption = row.go, .run = run<&ExtractDialog::extract>, .standard = true});
+  rows.push_back(Command{
+      .name = u"Command2", .caption = u"キャンセル", .run = run<&ExtractDialog::cancel>, .key = u"Esc"});
   rows.push_back(EndBar{});
   screenRow.rows = rows;
 }
@@ -49,12 +47,19 @@ void ExtractDialog::extract() {
   auto* list = dynamic_cast<ListScreen*>(navigator().load(listName));
   const int chosen = chosenItem("Combo1");
   QString word = text("Text1");
-  if (list == nullptr || chosen < 0 || (word.isEmpty() && m_row.blankDoesNothing)) return;
+  if (list == nullptr || chosen < 0) return;
+  if (word.isEmpty() && m_row.blankDoesNothing) return askForWord();
   const ColumnChoice& choice = m_row.columns[static_cast<size_t>(chosen)];
   if (choice.yesNo) word = yesNoText(word);
   if (!list->narrowBy(store::likeCriterion(QString::fromUtf16(choice.column), word))) return;
   navigator().show(listName);
   close();
+}
+
+// Said also where the text has the focus already: a command that does nothing must not be silent.
+void ExtractDialog::askForWord() {
+  focusOn("Text1");
+  voice().speakHeading({caption("Text1")});
 }
 
 void addExtractDialogs(ScreenRegistry& registry, std::span<const ExtractRow> rows) {

@@ -7,16 +7,17 @@
 
 namespace screen {
 
-/// A dialog that asks for a column and a part of its text, and narrows a list by them: 抽出2, カルテ2の抽出, ...
+/// A dialog that asks for a column and a part of its text, and narrows a list by them: 抽出2, カルテ2の抽出,
+/// ...
 struct ExtractRow {
   Words name;
   Words caption;
   Words list;  ///< name of the list screen
   std::span<const ColumnChoice> columns;
-  Words wordCaption;                ///< label of the text
-  Words go;                         ///< caption of the button that searches
+  Words wordCaption;                 ///< label of the text
+  Words go;                          ///< caption of the button that searches
   std::span<const Note> notes = {};  ///< beside the text
-  bool blankDoesNothing = true;     ///< a blank text changes nothing; otherwise it fits every text
+  bool blankDoesNothing = true;      ///< a blank text asks for one; otherwise it fits every text
 };
 
 namespace detail {
@@ -38,14 +39,15 @@ class ExtractDialog : private detail::ExtractDeclaration, public Screen {
   void cancel();
 
  private:
+  void askForWord();
   const ExtractRow& m_row;
 };
 
 /// Lists the dialogs of a table among the screens.
 void addExtractDialogs(ScreenRegistry& registry, std::span<const ExtractRow> rows);
 
-/// What a typed text means in a yes/no column: "Yes" and "yes" the true value "-1", "No" and "no" "0", anything
-/// else itself.
+/// What a typed text means in a yes/no column: "Yes" and "yes" the true value "-1", "No" and "no" "0",
+/// anything else itself.
 QString yesNoText(const QString& typed);
 
 }  // namespace screen

@@ -42,6 +42,16 @@ bool ListScreen::narrowBy(const QString& criteria) {
   return true;
 }
 
+void ListScreen::step(void (DataSource::*move)()) {
+  (source().*move)();
+  if (const QStringList row = rowOnView(); !row.isEmpty()) voice().speakHeading(row);
+}
+
+void ListScreen::goFirst() { step(&DataSource::moveFirst); }
+void ListScreen::goPrevious() { step(&DataSource::movePrevious); }
+void ListScreen::goNext() { step(&DataSource::moveNext); }
+void ListScreen::goLast() { step(&DataSource::moveLast); }
+
 bool ListScreen::sortBy(const QString& order) {
   if (emptySet(noRowsToSortText()) || !put(QString(), order)) return false;
   setChanged();

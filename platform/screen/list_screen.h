@@ -9,9 +9,9 @@ namespace screen {
 
 /// Base of the screens that list the rows of source 1 and narrow and sort them.
 ///
-/// A search narrows the set on view, so that a second one searches in the hits of the first; without a hit the
-/// list stays as it is. Sorting puts the set on view in another order. Dialogs reach both through their list's
-/// name: SortDialog, ExtractDialog.
+/// A search narrows the set on view, so that a second one searches in the hits of the first; without a hit
+/// the list stays as it is. Sorting puts the set on view in another order. Dialogs reach both through their
+/// list's name: SortDialog, ExtractDialog.
 class ListScreen : public Screen {
  public:
   using Screen::Screen;
@@ -24,12 +24,20 @@ class ListScreen : public Screen {
 
   bool holdsRows() const { return source().isOpen() && source().rows().recordCount() > 0; }
 
+  // The record keys say where they led to.
+  void goFirst() override;
+  void goPrevious() override;
+  void goNext() override;
+  void goLast() override;
+
  protected:
   /// Opens the table and shows it as the list begins: whole, in its own order. False: a fault was told.
   virtual bool openWhole() = 0;
   /// What an empty set says to a search, and to sorting.
   virtual QString noRowsText() const = 0;
   virtual QString noRowsToSortText() const { return noRowsText(); }
+  /// What is said of the row that the record keys led to; nothing: they are silent.
+  virtual QStringList rowOnView() const { return {}; }
   /// After narrowBy() or sortBy() changed the set: counts, focus.
   virtual void setChanged() {}
 
@@ -40,6 +48,9 @@ class ListScreen : public Screen {
   std::optional<store::RecordSet> setOf(const QString& criteria, const QString& order);
   /// Puts that copy in the list's place, also without rows; false where it was refused.
   bool put(const QString& criteria, const QString& order);
+
+ private:
+  void step(void (DataSource::*move)());
 };
 
 /// A column that a dialog offers: as the list shows it, and its name in the table.
