@@ -11,9 +11,7 @@ namespace screen {
 
 CellsControl::CellsControl(Screen& screen, const ControlName& name, const Words& caption, QWidget* parent,
                            voice::VoiceGuide& voice)
-    : Control(screen, name, QString::fromUtf16(caption.get())),
-      m_view(new GridView(parent)),
-      m_voice(voice) {
+    : Control(screen, name, QString::fromUtf16(caption.get())), m_view(new GridView(parent)), m_voice(voice) {
   m_view->setObjectName(m_name);
 }
 

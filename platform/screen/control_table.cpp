@@ -36,7 +36,8 @@ class TableModel : public CellModel {
 };
 
 TableControl::TableControl(Screen& screen, const Table& row, QWidget* parent, voice::VoiceGuide& voice)
-    : CellsControl(screen, row.name, row.caption, parent, voice), m_rows(new TableModel(row.columns, m_view)) {
+    : CellsControl(screen, row.name, row.caption, parent, voice),
+      m_rows(new TableModel(row.columns, m_view)) {
   m_onEnter = row.onActivate;
   m_onEdit = row.onMove;
   say(row.say);

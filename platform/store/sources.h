@@ -11,4 +11,8 @@ inline constexpr char16_t kFeesNewestFirst[] = u"SELECT * FROM 料金設定 ORDE
 inline constexpr char16_t kDoctors[] = u"SELECT * FROM 同意医師 ORDER BY ID";
 inline constexpr char16_t kInsurers[] = u"SELECT * FROM 保険者";
 
+/// The two readings of the consent watch.
+inline constexpr char16_t kClaimsByConsent[] = u"SELECT * FROM 保険申請 ORDER BY 要加療期間2 desc";
+inline constexpr char16_t kClaimsNewestFirst[] = u"SELECT * FROM 保険申請 ORDER BY ID desc";
+
 }  // namespace store::source

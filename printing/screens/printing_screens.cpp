@@ -2,6 +2,7 @@
 
 #include "printing/core/print_button.h"
 #include "printing/screens/claim_print_screen.h"
+#include "printing/screens/consent_watch_screen.h"
 #include "printing/screens/items_only_note_screen.h"
 #include "printing/screens/printer_options_screen.h"
 #include "printing/screens/unbuilt_print_screen.h"
@@ -12,6 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 void registerScreens(screen::ScreenRegistry& registry, PrintingRoom& room) {
   registry.add<ClaimPrintScreen>(u"レセプト印刷2024"_s, room.run, room.claims, room.engine);
+  registry.add<ConsentWatchScreen>(u"同意期限一ヶ月"_s, room.run, room.engine);
   registry.add<ItemsOnlyNoteScreen>(u"項目のみ印刷の注意事項"_s, room.run);
   registry.add<PrinterOptionsScreen>(QString::fromUtf16(kPrinterOptions), room.choice);
   for (const screen::ScreenRow& row : UnbuiltPrintScreen::declarations())

@@ -67,14 +67,20 @@ class SpyEngine final : public report::ReportOperations {
   void PR_PrinterSetupDlg(quintptr window) override {
     calls << QStringLiteral("PR_PrinterSetupDlg %1").arg(window);
   }
-  void PR_SetMargin(int, int) override {}
-  void PR_SetScale() override {}
-  void PR_SetFont(const QString&) override {}
-  void PR_SetFontSize(int) override {}
-  void PR_Output(float, float, const QString&) override {}
-  void PR_SetPen(int) override {}
-  void PR_Line(float, float, float, float) override {}
-  void PR_EndPage() override {}
+  void PR_SetMargin(int left, int top) override {
+    calls << QStringLiteral("PR_SetMargin %1 %2").arg(left).arg(top);
+  }
+  void PR_SetScale() override { calls << QStringLiteral("PR_SetScale"); }
+  void PR_SetFont(const QString& family) override { calls << QStringLiteral("PR_SetFont ") + family; }
+  void PR_SetFontSize(int size) override { calls << QStringLiteral("PR_SetFontSize %1").arg(size); }
+  void PR_Output(float x, float y, const QString& text) override {
+    calls << QStringLiteral("PR_Output %1 %2 %3").arg(x).arg(y).arg(text);
+  }
+  void PR_SetPen(int width) override { calls << QStringLiteral("PR_SetPen %1").arg(width); }
+  void PR_Line(float x1, float y1, float x2, float y2) override {
+    calls << QStringLiteral("PR_Line %1 %2 %3 %4").arg(x1).arg(y1).arg(x2).arg(y2);
+  }
+  void PR_EndPage() override { calls << QStringLiteral("PR_EndPage"); }
 };
 
 }  // namespace printing::tests

@@ -5,12 +5,10 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QtWidgets>
 
+#include "platform/screen/testing/print_text.h"
 #include "platform/voice/recording_channel.h"
 #include "printing/screens/printing_screens.h"
 #include "printing/tests/core/spy_engine.h"
-
-// Readable texts in failures.
-inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
 
 namespace printing::tests {
 

@@ -1,0 +1,97 @@
+#include "printing/screens/consent_watch_screen.h"
+
+#include "printing/contract/hand_print.h"
+#include "printing/contract/prompts.h"
+#include "printing/core/consent_page.h"
+
+namespace printing {
+
+using namespace screen;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr const char16_t* kColumns[] = {u"氏名", u"保険の種類", u"同意期限", u"施術内容"};
+
+constexpr Row kRows[] = {
+    Note{.name = {u"Label1"}, .caption = u"同意期限が一ヶ月以内の患者はいません。", .spoken = true},
+    Table{.name = {u"List1"}, .caption = u"同意期限が一ヶ月以内の患者", .columns = kColumns},
+    Note{.name = {u"Label2"},
+         .caption =
+             u"※この一覧は、「要加療期間2」の日付から作成しています。表示されない患者がいる場合は、レセプ"
+             u"トの一覧表を「要加療期間2」で並び替えるか、抽出してください。その際、日付は和暦か西暦のど"
+             u"ちらかに統一して入力してください。",
+         .spoken = true},
+    Bar{},
+    Command{.name = {u"Command1"}, .caption = u"印刷", .run = run<&ConsentWatchScreen::print>},
+    Command{.name = {u"Command2"},
+            .caption = u"プリンターオプション",
+            .run = run<&ConsentWatchScreen::printerOptions>},
+    Command{
+        .name = {u"Command3"}, .caption = u"閉じる", .run = run<&ConsentWatchScreen::finish>, .key = u"Esc"},
+    EndBar{},
+};
+
+constexpr ScreenRow kDeclaration{.name = u"同意期限一ヶ月",
+                                 .caption = u"同意期限一ヶ月以内",
+                                 .rows = kRows,
+                                 .heading = u"同意期限一ヶ月以内"};
+
+constexpr char16_t kNoRows[] = u"同意期限が一ヶ月以内の患者はいません。";
+constexpr char16_t kNothingToPrint[] = u"印刷するデータがありません。";
+constexpr char16_t kNotRead[] = u"同意期限を調べることができませんでした。";
+constexpr char16_t kSent[] = u"印刷に送りました。";
+
+}  // namespace
+
+ConsentWatchScreen::ConsentWatchScreen(Services& services, frame::RunState& run,
+                                       report::ReportOperations& engine)
+    : Screen(kDeclaration, services), m_run(run), m_engine(engine) {}
+
+void ConsentWatchScreen::opened(const Request&) {
+  auto found = claims::consentsRunningOut(m_run.folders[frame::folder::kClaims1], m_run.eraDates());
+  m_fault = found ? QString() : found.fault().message;
+  m_rows = found ? *found : QList<claims::ConsentEnd>();
+  QList<QStringList> texts;
+  for (const claims::ConsentEnd& row : m_rows)
+    texts.append({row.name, row.insurance, claims::consentEndText(row.end), row.treatment});
+  setRows(u"List1"_s, texts);
+  QString count = u"同意期限が一ヶ月以内の患者は、%1名です。"_s.arg(m_rows.size());
+  if (m_rows.isEmpty()) count = QString::fromUtf16(found ? kNoRows : kNotRead);
+  setCaption(u"Label1"_s, count);
+  if (std::exchange(m_openedBefore, true)) voice().speakText(count);
+}
+
+// Told once the window has the keyboard: told before, the focus would go back to the screen behind.
+void ConsentWatchScreen::onActivate() {
+  if (m_fault.isEmpty()) return;
+  const auto tell = [this, fault = std::exchange(m_fault, {})] { messages().tellDataFault(fault); };
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+}
+
+QStringList ConsentWatchScreen::openingTexts() const {
+  return {QString::fromUtf16(kDeclaration.heading), caption(u"Label1"_s), caption(u"Label2"_s)};
+}
+
+void ConsentWatchScreen::print() {
+  if (m_rows.isEmpty()) return messages().tell(QString::fromUtf16(kNothingToPrint));
+  HandJob job;
+  job.prompt = [this] {
+    const bool go = messages().ask(promptOf(objectName()));
+    m_run.lastAnswer = go ? 1 : 2;
+    return go;
+  };
+  job.window = winId();
+  job.title = u"同意期限一ヶ月以内"_s;
+  job.pages = consentPages(m_rows.size());
+  job.draw = [this](report::ReportOperations& engine, int page) {
+    drawConsentPage(engine, m_rows, m_run.clock->today(), page);
+  };
+  if (runHandPrint(m_engine, job) == RunEnd::Printed) voice().speakText(QString::fromUtf16(kSent));
+}
+
+void ConsentWatchScreen::printerOptions() { m_engine.PR_PrinterSetupDlg(winId()); }
+
+void ConsentWatchScreen::finish() { close(); }
+
+}  // namespace printing
