@@ -141,6 +141,7 @@ constexpr Row kRows[] = {
             .menu = u"fm_13",
             .under = kMenu},
     EndBar{},
+    Entry{.name = u"fm_14", .under = kMenu, .caption = u"同意一ｹ月以内の抽出", .run = opens<u"抽出6">},
 };
 
 }  // namespace

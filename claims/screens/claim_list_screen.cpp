@@ -3,6 +3,7 @@
 #include "claims/core/list_keys.h"
 #include "claims/screens/claim_list_rows.h"
 #include "platform/store/criteria_text.h"
+#include "platform/store/growth.h"
 
 namespace claims {
 namespace {
@@ -24,6 +25,7 @@ ClaimListScreen::ClaimListScreen(screen::Services& services, frame::RunState& ru
 
 void ClaimListScreen::onLoad() {
   setText("Combo1", QString::fromUtf16(kListKeys.front()));
+  growSecondFile();
   if (openWhole()) claimFile();  // a second file that is missing or broken is told now, not at the first claim
 }
 
@@ -37,12 +39,29 @@ void ClaimListScreen::opened(const screen::Request& request) {
   m_tellsEmpty = !holdsRows();
 }
 
-// The notice of an empty list waits until the list has the keyboard: told before it, the focus would go back
+// The second file of an older version gets its new columns. Where it cannot, the list works with those that it
+// has; a file that cannot be read at all is told by name where it is opened.
+void ClaimListScreen::growSecondFile() {
+  const QString& path = m_run.folders[frame::folder::kClaims2];
+  for (const store::GrowthRun run : {store::GrowthRun::Claim1, store::GrowthRun::Claim2}) {
+    const auto lacks = store::needsGrowth(path, run);
+    if (!lacks || !*lacks) continue;
+    if (const text::Done grown = store::grow(path, run); !grown) {
+      m_growthFault = grown.fault().message;
+      return;
+    }
+  }
+}
+
+// What is told of the opening waits until the list has the keyboard: told before it, the focus would go back
 // to the screen behind, and that would be heard.
 void ClaimListScreen::onActivate() {
-  if (!std::exchange(m_tellsEmpty, false)) return;
-  const auto tell = [this] {
-    if (source().isOpen()) emptySet(kNoRows);
+  const bool tellsEmpty = std::exchange(m_tellsEmpty, false);
+  const QString growthFault = std::exchange(m_growthFault, {});
+  if (!tellsEmpty && growthFault.isEmpty()) return;
+  const auto tell = [this, tellsEmpty, growthFault] {
+    if (!growthFault.isEmpty()) messages().tellDataFault(growthFault);
+    if (tellsEmpty && source().isOpen()) emptySet(kNoRows);
   };
   QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }

@@ -47,6 +47,7 @@ class ClaimListScreen : public screen::ListScreen {
   void setChanged() override { focusOn("DBGrid1"); }
 
  private:
+  void growSecondFile();
   /// Says which claim the record keys led to.
   void announce();
   qint64 currentId() const;
@@ -56,6 +57,7 @@ class ClaimListScreen : public screen::ListScreen {
   frame::RunState& m_run;
   ClaimsState& m_state;
   bool m_tellsEmpty = false;
+  QString m_growthFault;  ///< until it was told
 };
 
 }  // namespace claims

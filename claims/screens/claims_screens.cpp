@@ -4,7 +4,9 @@
 #include "claims/screens/claim_choice_screen.h"
 #include "claims/screens/claim_form_screen.h"
 #include "claims/screens/claim_list_screen.h"
+#include "claims/screens/consent_extract_screen.h"
 #include "claims/screens/help_screens.h"
+#include "claims/screens/month_screen.h"
 #include "claims/screens/new_claim_screen.h"
 #include "claims/screens/preview_screen.h"
 #include "claims/screens/share_screen.h"
@@ -23,6 +25,8 @@ constexpr screen::SortRow kSortDialogs[] = {
 void registerScreens(screen::ScreenRegistry& registry, frame::RunState& run, ClaimsState& state) {
   registry.add<ClaimListScreen>(u"レセプト一覧表"_s, run, state);
   screen::addSortDialogs(registry, kSortDialogs);
+  registry.add<ConsentExtractScreen>(u"抽出6"_s);
+  registry.add<MonthScreen>(u"年月"_s, run, state);
   registry.add<NewClaimScreen>(u"新規レセプト"_s, state);
   registry.add<ClaimChoiceScreen>(u"レセプト選択"_s, run, state);
   registry.add<ClaimFormScreen>(u"frmレセプトフォーム"_s, run, state);

@@ -10,5 +10,8 @@ QString likeCriterion(const QString& column, const QString& text);
 QString prefixCriterion(const QString& column, const QString& text);
 /// "<column> = '<text>' "
 QString equalCriterion(const QString& column, const QString& text);
+/// "<column> >= '<text>' ", and with an end "<column> >= '<text>' and <column> <= '<end>' ". Texts are
+/// compared as texts, dates too.
+QString spanCriterion(const QString& column, const QString& text, const QString& end = QString());
 
 }  // namespace store

@@ -164,7 +164,8 @@ TEST_F(ClaimListCommands, TheMenuOffersWhatTheButtonsDo) {
                                 u"療養費支給申請総括票Ⅰ・Ⅱ",
                                 u"往療行程の印刷",
                                 u"同意期限一ヶ月以内表示",
-                                u"人体図の印刷"};
+                                u"人体図の印刷",
+                                u"同意一ｹ月以内の抽出"};
   openList();
   const auto menus = m_list->menuBar()->actions();
   ASSERT_EQ(menus.size(), 1);
@@ -180,7 +181,7 @@ TEST_F(ClaimListCommands, TheRoomsOpenByTheirNames) {
   const std::pair<const char16_t*, const char16_t*> rooms[] = {
       {u"Command4", u"年月"},        {u"Command5", u"施術録"},          {u"Command8", u"レセプト一覧表2"},
       {u"Command9", u"総括表700_1"}, {u"Command10", u"往療行程の印刷"}, {u"Command11", u"同意期限一ヶ月"},
-      {u"Command12", u"jintaizu"}};
+      {u"Command12", u"jintaizu"},   {u"fm_14", u"抽出6"}};
   for (const auto& [command, room] : rooms) {
     press(command);
     EXPECT_EQ(m_navigator.shows.last(), qs(room));
