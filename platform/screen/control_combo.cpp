@@ -26,7 +26,16 @@ ComboControl::ComboControl(Screen& screen, const Combo& row, QWidget* parent, vo
   m_combo->addItems(items);
   if (!row.items.empty() && !row.editable) m_combo->setCurrentIndex(-1);
   if (row.editable) m_combo->setEditText(QString());
-  QObject::connect(m_combo, &QComboBox::currentTextChanged, m_combo, [this] { edited(); });
+  QObject::connect(m_combo, &QComboBox::currentTextChanged, m_combo, [this] {
+    m_editedItem = m_combo->currentIndex();
+    edited();
+  });
+  // Two items of one text are two choices, but the text of an editable list does not change between them.
+  if (row.editable) {
+    QObject::connect(m_combo, &QComboBox::currentIndexChanged, m_combo, [this](int index) {
+      if (std::exchange(m_editedItem, index) != index && index >= 0) edited();
+    });
+  }
   // The focus stays while the arrow keys choose, so the list says each choice itself.
   QObject::connect(m_combo, &QComboBox::highlighted, m_combo,
                    [this](int index) { speakChoice(m_combo->itemText(index)); });

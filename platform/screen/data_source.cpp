@@ -69,6 +69,18 @@ bool DataSource::addNew() {
   return true;
 }
 
+bool DataSource::addNewAsShown() {
+  if (!m_rows.isOpen()) return false;
+  const auto controls = m_screen.m_parts->book.boundTo(m_number);
+  QStringList shown;
+  for (const Control* control : controls) shown << control->text();
+  if (m_rows.editing() || m_rows.adding()) m_rows.cancelUpdate();
+  if (!told(m_rows.addNew())) return false;
+  show();
+  for (qsizetype i = 0; i < shown.size(); ++i) controls[size_t(i)]->putText(shown[i]);
+  return true;
+}
+
 bool DataSource::remove() {
   if (!m_rows.isOpen()) return false;
   if (m_rows.editing() || m_rows.adding()) m_rows.cancelUpdate();
@@ -104,6 +116,7 @@ bool DataSource::moveTo(int position) {
 }
 
 bool DataSource::leaveRow() {
+  if (onLeaveRow) return onLeaveRow();
   if (writesOnMove) return write();
   if (m_rows.editing() || m_rows.adding()) m_rows.cancelUpdate();
   return true;

@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QString>
+#include <functional>
 
 #include "platform/store/record_set.h"
 
@@ -31,6 +32,9 @@ class DataSource {
   bool write();
   /// Starts a new row: bound controls go blank. False: told.
   bool addNew();
+  /// Starts a new row with what the bound controls show: a text typed before is not lost. The row on view
+  /// stays as it was stored. False: told, the controls are as they were.
+  bool addNewAsShown();
   /// Deletes the current row and shows the neighbour. False: told.
   bool remove();
   /// Drops pending edits: an open AddNew is lost, the controls show the row again.
@@ -46,6 +50,9 @@ class DataSource {
   bool moveTo(int position);
   /// Whether moving away writes pending edits (bound screens do; the claim form does not).
   bool writesOnMove = true;
+  /// Settles pending edits in their place before the row changes, where it is set; false: refused and told,
+  /// the row stays.
+  std::function<bool()> onLeaveRow;
 
   /// "ﾚｺｰﾄﾞ: " and the position plus one.
   QString positionText() const;

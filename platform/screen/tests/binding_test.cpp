@@ -120,6 +120,24 @@ TEST_F(Binding, MoveDropsWhereTheScreenSaysSo) {
   EXPECT_EQ(screen.text("txtFields(4)"), "見本二");
 }
 
+TEST_F(Binding, AScreenMaySettleTheRowBeforeItMoves) {
+  bool mayLeave = false;
+  screen.source().onLeaveRow = [&] {
+    if (mayLeave) screen.source().drop();
+    return mayLeave;
+  };
+  screen.setText("txtFields(4)", "架空");
+  screen.source().moveNext();
+  EXPECT_FALSE(screen.source().moveTo(2));
+  EXPECT_FALSE(screen.source().addNew());
+  EXPECT_EQ(screen.source().positionText(), "ﾚｺｰﾄﾞ: 1");
+  EXPECT_EQ(screen.text("txtFields(4)"), "架空");
+  mayLeave = true;
+  screen.source().moveNext();
+  EXPECT_EQ(screen.text("txtFields(4)"), "見本二");
+  EXPECT_EQ(stored(0, "氏名"), "見本一") << "the screen dropped it";
+}
+
 TEST_F(Binding, FunctionKeysMove) {
   ScreenProbe probe(screen, desk.spy);
   probe.open();
@@ -168,6 +186,17 @@ TEST_F(Binding, NewRowIsBlankAndBecomesCurrentWhenWritten) {
   EXPECT_EQ(screen.text("txtFields(4)"), "見本四");
   EXPECT_EQ(screen.source().positionText(), "ﾚｺｰﾄﾞ: 4");
   EXPECT_EQ(stored(3, "氏名"), "見本四");
+}
+
+TEST_F(Binding, NewRowMayTakeWhatTheControlsShow) {
+  screen.setText("txtFields(4)", "見本四");
+  screen.setChecked("Check1", true);
+  ASSERT_TRUE(screen.source().addNewAsShown());
+  EXPECT_EQ(screen.text("txtFields(4)"), "見本四");
+  ASSERT_TRUE(screen.source().write());
+  EXPECT_EQ(stored(0, "氏名"), "見本一") << "the row on view stays as it was stored";
+  EXPECT_EQ(stored(3, "氏名"), "見本四");
+  EXPECT_EQ(stored(3, "yn1"), "-1");
 }
 
 TEST_F(Binding, DroppedNewRowLeavesTheOldOne) {
