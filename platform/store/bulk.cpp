@@ -44,6 +44,39 @@ Done addRows(const QString& path, const QString& table, int count,
   return done;
 }
 
+Done addRows(const QString& path, const QString& table, const QStringList& columns, int count,
+             const std::function<void(int, QStringList&)>& fill) {
+  const Result<std::shared_ptr<Database>> database = Database::open(path);
+  if (!database) return database.fault();
+  Engine& engine = (*database)->engine();
+  const Result<std::shared_ptr<const TableSchema>> schema = engine.schema(table);
+  if (!schema) return schema.fault();
+  const TableFile file(engine.statements(), QStringLiteral("main"), *schema);
+  RowValues values;
+  for (const QString& name : columns) {
+    values.append({(*schema)->find(name), Value()});
+    if (values.back().first < 0) return unknownColumn(name, table);
+  }
+  Result<Statement> insert = Statement::prepare(engine.handle(), engine.path(), file.insertText(values));
+  if (!insert) return insert.fault();
+  QStringList row(columns.size());
+  const Done done = engine.write([&]() -> Done {
+    for (int number = 0; number < count; ++number) {
+      fill(number, row);
+      for (int place = 0; place < columns.size(); ++place) {
+        const int column = values[place].first;
+        const Result<Value> value = columnValue(**schema, column, row[place]);
+        if (!value) return value.fault();
+        insert->bindValue(place + 1, *value, (*schema)->type(column));
+      }
+      if (const Done added = insert->run(); !added) return added;
+    }
+    return {};
+  });
+  engine.forget();
+  return done;
+}
+
 Result<qint64> lastId(const QString& path, const QString& table) {
   Result<std::shared_ptr<Database>> database = Database::open(path);
   if (!database) return database.fault();

@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <functional>
 
 #include "platform/store/record_set.h"
@@ -16,6 +17,11 @@ Done addRows(const QString& path, const QString& table, const QList<QHash<QStrin
 /// The same with rows made one after another, for many of them.
 Done addRows(const QString& path, const QString& table, int count,
              const std::function<QHash<QString, Value>(int number)>& rowOf);
+
+/// The same for very many rows that all fill the same columns: `fill` gives the values of row `number`, in
+/// the order of the columns. An unknown column is a fault.
+Done addRows(const QString& path, const QString& table, const QStringList& columns, int count,
+             const std::function<void(int number, QStringList& values)>& fill);
 
 /// The highest ID of a table, 0 where it is empty.
 Result<qint64> lastId(const QString& path, const QString& table);

@@ -55,7 +55,7 @@ Result<Row> TableFile::read(qint64 id, const QVector<int>& columns, const QStrin
   return row;
 }
 
-Result<qint64> TableFile::insert(const RowValues& values) const {
+QString TableFile::insertText(const RowValues& values) const {
   QStringList names, places;
   for (const auto& [column, value] : values) {
     names += quotedName(m_schema->name(column));
@@ -64,7 +64,11 @@ Result<qint64> TableFile::insert(const RowValues& values) const {
   const QString content = values.isEmpty()
                               ? QStringLiteral(" DEFAULT VALUES")
                               : QStringLiteral(" (%1) VALUES (%2)").arg(names.join(u','), places.join(u','));
-  Result<Statement*> statement = m_statements->get(QStringLiteral("INSERT INTO ") + m_name + content);
+  return QStringLiteral("INSERT INTO ") + m_name + content;
+}
+
+Result<qint64> TableFile::insert(const RowValues& values) const {
+  Result<Statement*> statement = m_statements->get(insertText(values));
   if (!statement) return statement.fault();
   int place = 0;
   for (const auto& [column, value] : values) (*statement)->bindValue(++place, value, m_schema->type(column));

@@ -47,6 +47,8 @@ class TableFile {
   QString selectText(const QVector<int>& columns) const;
   /// Adds a row; its ID is the one among the values or else assigned by the file.
   Result<qint64> insert(const RowValues& values) const;
+  /// The statement that adds a row with these columns, their values bound from 1 on.
+  QString insertText(const RowValues& values) const;
   Done update(qint64 id, const RowValues& values) const;
   Done remove(qint64 id) const;
 

@@ -1,4 +1,4 @@
-// bench make DIR PATIENTS VISITS CLAIMS: fills a program folder, each table in one transaction.
+// bench make DIR PATIENTS VISITS CLAIMS BOOKINGS: fills a program folder, each table in one transaction.
 
 #include <QCoreApplication>
 #include <QDir>
@@ -10,6 +10,7 @@
 #include "platform/store/bulk.h"
 #include "tools/bench/bench_rows.h"
 #include "tools/bench/commands.h"
+#include "tools/bench/day_rows.h"
 
 namespace bench {
 namespace {
@@ -25,19 +26,23 @@ QString sources() {
 struct Filling {
   const char* figureName;
   QString file, table;
-  int count;
-  std::function<Row(int)> rowOf;
+  std::function<store::Done(const QString& path, const QString& table)> fill;
 };
+
+std::function<store::Done(const QString&, const QString&)> rows(int count, std::function<Row(int)> rowOf) {
+  return [=](const QString& path, const QString& table) { return store::addRows(path, table, count, rowOf); };
+}
 
 }  // namespace
 
 int make(const QStringList& arguments) {
-  if (arguments.size() != 4) {
-    std::fputs("bench make DIR PATIENTS VISITS CLAIMS\n", stderr);
+  if (arguments.size() != 5) {
+    std::fputs("bench make DIR PATIENTS VISITS CLAIMS BOOKINGS\n", stderr);
     return 2;
   }
   const QString& folder = arguments[0];
-  const int patients = arguments[1].toInt(), visits = arguments[2].toInt(), claims = arguments[3].toInt();
+  const int patients = arguments[1].toInt(), visits = arguments[2].toInt(), claims = arguments[3].toInt(),
+            bookings = arguments[4].toInt();
   const auto laidOut =
       frame::layOut(folder, sources() + QStringLiteral("/data"), sources() + QStringLiteral("/templates"));
   if (!laidOut) {
@@ -46,17 +51,21 @@ int make(const QStringList& arguments) {
   }
   const QString claimTable = QStringLiteral("保険申請");
   const Filling fillings[] = {
-      {"make_patients", QStringLiteral("臨床QV2000N.mdb"), QStringLiteral("臨床QV"), patients, patientRow},
-      {"make_visits", QStringLiteral("カルテ2データ2000.mdb"), QStringLiteral("カルテ"), visits,
-       [=](int number) { return visitRow(number, patients); }},
-      {"make_claims_first", QStringLiteral("保険申請2000_1.mdb"), claimTable, claims,
-       [=](int number) { return firstHalfRow(number, patients); }},
-      {"make_claims_second", QStringLiteral("保険申請2000_2.mdb"), claimTable, claims, secondHalfRow}};
+      {"make_patients", QStringLiteral("臨床QV2000N.mdb"), QStringLiteral("臨床QV"),
+       rows(patients, patientRow)},
+      {"make_visits", QStringLiteral("カルテ2データ2000.mdb"), QStringLiteral("カルテ"),
+       [=](const QString& path, const QString& table) { return addVisits(path, table, visits, patients); }},
+      {"make_claims_first", QStringLiteral("保険申請2000_1.mdb"), claimTable,
+       rows(claims, [=](int number) { return firstHalfRow(number, patients); })},
+      {"make_claims_second", QStringLiteral("保険申請2000_2.mdb"), claimTable, rows(claims, secondHalfRow)},
+      {"make_bookings", QStringLiteral("予約2000.mdb"), QStringLiteral("予約"),
+       [=](const QString& path, const QString& table) {
+         return addBookings(path, table, bookings, patients);
+       }}};
   for (const Filling& filling : fillings) {
     QElapsedTimer timer;
     timer.start();
-    const auto done =
-        store::addRows(folder + u'/' + filling.file, filling.table, filling.count, filling.rowOf);
+    const auto done = filling.fill(folder + u'/' + filling.file, filling.table);
     if (!done) {
       std::fprintf(stderr, "%s\n", qUtf8Printable(done.fault().message));
       return 1;

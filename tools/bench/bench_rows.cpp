@@ -52,21 +52,9 @@ constexpr std::pair<const char16_t*, const char16_t*> kShared[] = {
     {u"摘要1", u"往療は医師の指示による"},
     {u"同意_患者", u"-1"}};
 
-/// A number that looks drawn by lot and depends on the row and the purpose alone.
-quint32 lot(int number, quint32 purpose) {
-  quint32 mixed = static_cast<quint32>(number) * 2654435761u ^ purpose * 40503u;
-  mixed ^= mixed >> 15;
-  mixed *= 2246822519u;
-  return mixed ^ mixed >> 13;
-}
-
 template <size_t N>
 QString any(const char16_t* const (&texts)[N], int number, quint32 purpose) {
   return QString::fromUtf16(texts[lot(number, purpose) % N]);
-}
-
-QString name(int patient) {
-  return any(kSurnames, patient, 1) + u' ' + any(kGiven, patient, 2) + QString::number(patient % 1000);
 }
 
 QString reading(int patient) {
@@ -74,13 +62,6 @@ QString reading(int patient) {
   for (quint32 at = 0; at < 7; ++at)
     kana += at == 3 ? QStringLiteral(" ") : any(kSyllables, patient, 10 + at);
   return kana;
-}
-
-QString birth(int patient) {
-  return QStringLiteral("昭和%1年%2月%3日")
-      .arg(1 + lot(patient, 3) % 63)
-      .arg(1 + lot(patient, 4) % 12)
-      .arg(1 + lot(patient, 5) % 28);
 }
 
 QString address(int patient) {
@@ -92,15 +73,33 @@ QString address(int patient) {
 
 }  // namespace
 
+quint32 lot(int number, quint32 purpose) {
+  quint32 mixed = static_cast<quint32>(number) * 2654435761u ^ purpose * 40503u;
+  mixed ^= mixed >> 15;
+  mixed *= 2246822519u;
+  return mixed ^ mixed >> 13;
+}
+
 QString patientKey(int patient) { return QStringLiteral("2024%1").arg(patient, 7, 10, QLatin1Char('0')); }
+
+QString patientName(int patient) {
+  return any(kSurnames, patient, 1) + u' ' + any(kGiven, patient, 2) + QString::number(patient % 1000);
+}
+
+QString patientBirth(int patient) {
+  return QStringLiteral("昭和%1年%2月%3日")
+      .arg(1 + lot(patient, 3) % 63)
+      .arg(1 + lot(patient, 4) % 12)
+      .arg(1 + lot(patient, 5) % 28);
+}
 
 Row patientRow(int number) {
   return {{QStringLiteral("テキスト5"), patientKey(number)},
           {QStringLiteral("カルテ番号"), QString::number(number + 1)},
-          {QStringLiteral("氏名"), name(number)},
+          {QStringLiteral("氏名"), patientName(number)},
           {QStringLiteral("ふりがな"), reading(number)},
           {QStringLiteral("性別"), lot(number, 9) % 2 ? QStringLiteral("男") : QStringLiteral("女")},
-          {QStringLiteral("生年月日"), birth(number)},
+          {QStringLiteral("生年月日"), patientBirth(number)},
           {QStringLiteral("年齢"), QString::number(20 + lot(number, 3) % 80)},
           {QStringLiteral("職業"), QStringLiteral("無職")},
           {QStringLiteral("郵便番号"), QStringLiteral("000-0001")},
@@ -111,22 +110,6 @@ Row patientRow(int number) {
           {QStringLiteral("治療"), QStringLiteral("腰部と下肢の経穴に施術した。")}};
 }
 
-Row visitRow(int number, int patients) {
-  const int patient = static_cast<int>(lot(number, 30) % static_cast<quint32>(std::max(patients, 1)));
-  const quint32 day = lot(number, 31);
-  return {{QStringLiteral("ETC1"), patientKey(patient)},
-          {QStringLiteral("氏名"), name(patient)},
-          {QStringLiteral("生年月日"), birth(patient)},
-          {QStringLiteral("治療日時"),
-           QStringLiteral("令和6年%1月%2日").arg(1 + day % 12).arg(1 + day / 12 % 28)},
-          {QStringLiteral("治療日チェック"),
-           QStringLiteral("2024/%1/%2").arg(1 + day % 12).arg(1 + day / 12 % 28)},
-          {QStringLiteral("治療概略"), QStringLiteral("腰部の施術。前回の後に変わりはない。")},
-          {QStringLiteral("治療金額"), QStringLiteral("1610")},
-          {QStringLiteral("保険の一部負担金"), QStringLiteral("483")},
-          {QStringLiteral("保険者負担金"), QStringLiteral("1127")}};
-}
-
 Row firstHalfRow(int number, int patients) {
   const int patient = number % std::max(patients, 1);
   const quint32 kind = lot(number, 40) % std::size(kKinds);
@@ -134,11 +117,11 @@ Row firstHalfRow(int number, int patients) {
   for (const auto& [column, text] : kShared) row.insert(QString::fromUtf16(column), QString::fromUtf16(text));
   const QString kana = reading(patient);
   for (const char16_t* column : {u"氏名", u"被保険者の氏名", u"療養を受ける者の氏名"})
-    row.insert(QString::fromUtf16(column), name(patient));
+    row.insert(QString::fromUtf16(column), patientName(patient));
   for (const char16_t* column : {u"被保険者のフリガナ", u"療養を受ける者のフリガナ"})
     row.insert(QString::fromUtf16(column), kana);
   for (const char16_t* column : {u"生年月日", u"被保険者の生年月日", u"療養を受ける者の生年月日"})
-    row.insert(QString::fromUtf16(column), birth(patient));
+    row.insert(QString::fromUtf16(column), patientBirth(patient));
   for (const char16_t* column : {u"被保険者の住所", u"療養を受ける者の住所"})
     row.insert(QString::fromUtf16(column), address(patient));
   row.insert(QStringLiteral("番号1"), patientKey(patient));

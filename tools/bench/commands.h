@@ -13,6 +13,7 @@ int jobs(const QStringList& arguments);
 int make(const QStringList& arguments);
 int find(const QStringList& arguments);
 int list(const QStringList& arguments);
+int day(const QStringList& arguments);
 int recompute(const QStringList& arguments);
 int pair(const QStringList& arguments);
 int settings(const QStringList& arguments);

@@ -22,8 +22,8 @@ struct CommandRow {
 };
 
 constexpr CommandRow kCommands[] = {
-    {"print", print}, {"jobs", jobs},           {"make", make}, {"find", find},
-    {"list", list},   {"recompute", recompute}, {"pair", pair}, {"settings", settings},
+    {"print", print},         {"jobs", jobs}, {"make", make},         {"find", find}, {"list", list},
+    {"recompute", recompute}, {"pair", pair}, {"settings", settings}, {"day", day},
 };
 
 /// The print workloads are held against the toolkit's PDF writer, which needs its fonts; all others do
@@ -47,8 +47,11 @@ int main(int argc, char** argv) {
       if (word == QLatin1String(row.name)) return row.run(arguments);
     }
   }
-  std::fputs("usage: bench print N OUT.pdf | jobs N DIR | make DIR PATIENTS VISITS CLAIMS | find DIR | list DIR |\n"
-             "       recompute DIR N | pair make|store|check DIR [STAMP] | settings make|store|check DIR [STAMP]\n",
-             stderr);
+  std::fputs(
+      "usage: bench print N OUT.pdf | jobs N DIR | make DIR PATIENTS VISITS CLAIMS BOOKINGS | find DIR | "
+      "list DIR |\n"
+      "       recompute DIR N | day DIR | pair make|store|check DIR [STAMP] | settings make|store|check DIR "
+      "[STAMP]\n",
+      stderr);
   return 2;
 }

@@ -30,6 +30,17 @@ int PlainFile::run(const QString& sql) {
   return sqlite3_finalize(statement) == SQLITE_OK ? rows : -1;
 }
 
+std::vector<qint64> PlainFile::numbers(const QString& sql) {
+  std::vector<qint64> values;
+  sqlite3_stmt* statement = nullptr;
+  if (sqlite3_prepare_v2(m_handle, sql.toUtf8().constData(), -1, &statement, nullptr) != SQLITE_OK) return {};
+  while (sqlite3_step(statement) == SQLITE_ROW)
+    for (int column = 0; column < sqlite3_column_count(statement); ++column)
+      values.push_back(sqlite3_column_int64(statement, column));
+  sqlite3_finalize(statement);
+  return values;
+}
+
 void PlainFile::takeColumn(PlainFile& from, const QString& table, const QString& column) {
   run(QStringLiteral("BEGIN"));
   run(QStringLiteral("DROP TABLE IF EXISTS %1").arg(table));

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <functional>
+#include <vector>
 
 struct sqlite3;
 
@@ -18,6 +19,8 @@ class PlainFile {
 
   /// Runs a text and reads every column of every row; gives the number of rows, -1 where it failed.
   int run(const QString& sql);
+  /// Runs a text and gives the numbers of all columns, row after row.
+  std::vector<qint64> numbers(const QString& sql);
   /// Makes a table of the same name here that holds nothing but ID and the column.
   void takeColumn(PlainFile& from, const QString& table, const QString& column);
 
