@@ -10,7 +10,7 @@ namespace claims {
 
 namespace {
 
-QString day(const char16_t* family, int index) {
+QString member(const char16_t* family, int index) {
   return QStringLiteral("%1(%2)").arg(QString::fromUtf16(family)).arg(index);
 }
 
@@ -33,14 +33,14 @@ bool areasDiffer(const ClaimRecord& claim) {
 
 void ClaimFormScreen::codeLeft(int index) {
   const QString message =
-      codeEntryMessage(text(day(u"Text5", index)), kindOf(m_read.get(QStringLiteral("施術内容"))));
+      codeEntryMessage(text(member(u"Text5", index)), kindOf(m_read.get(QStringLiteral("施術内容"))));
   if (message.isNull()) return;
   keepFocus();
   messages().tell(message);
 }
 
 void ClaimFormScreen::visitLeft(int index) {
-  const QString message = visitEntryMessage(text(day(u"Text6", index)), m_flags.isAfter202410);
+  const QString message = visitEntryMessage(text(member(u"Text6", index)), m_flags.isAfter202410);
   if (message.isNull()) return;
   keepFocus();
   messages().tell(message);
@@ -54,8 +54,8 @@ void ClaimFormScreen::gridEdited() {
 void ClaimFormScreen::refillBoxes() {
   if (kindOf(m_read.get(QStringLiteral("施術内容"))) != Kind::Massage) return;
   const AreaBoxes boxes = areaBoxes(record());
-  for (int i = 0; i < int(boxes.areas.size()); ++i) setText(day(u"Text31", i), boxes.areas[size_t(i)]);
-  for (int i = 0; i < int(boxes.limbs.size()); ++i) setText(day(u"Text41", i), boxes.limbs[size_t(i)]);
+  for (int i = 0; i < int(boxes.areas.size()); ++i) setText(member(u"Text31", i), boxes.areas[size_t(i)]);
+  for (int i = 0; i < int(boxes.limbs.size()); ++i) setText(member(u"Text41", i), boxes.limbs[size_t(i)]);
   applyAreaWarning(true);
 }
 
@@ -73,29 +73,27 @@ void ClaimFormScreen::insurerNumberLeft() {
   if (!message.isNull()) messages().tell(message);
 }
 
-// The list position decides: two entries of one name are two rows of the register.
 void ClaimFormScreen::insurerNameChosen() {
-  fillSiblings(m_lists.insurer(chosenItem(QStringLiteral("Combo1(3)"))));
+  fillSiblings(3, u"保険者名称", kInsurerRegister, m_lists.insurers);
 }
 
 void ClaimFormScreen::insurerNumberChosen() {
-  fillSiblings(m_lists.insurer(chosenItem(QStringLiteral("Combo1(4)"))));
-}
-
-void ClaimFormScreen::fillSiblings(const InsurerRow* insurer) {
-  if (insurer == nullptr) return;
-  put(QStringLiteral("保険者名称"), insurer->name);
-  put(QStringLiteral("保険者番号"), insurer->number);
-  put(QStringLiteral("保険者住所"), insurer->address);
+  fillSiblings(4, u"保険者番号", kInsurerRegister, m_lists.insurers);
 }
 
 void ClaimFormScreen::doctorChosen() {
-  const DoctorRow* doctor = m_lists.doctor(chosenItem(QStringLiteral("Combo1(24)")));
-  if (doctor == nullptr) return;
-  put(QStringLiteral("同意医師フリガナ"), doctor->reading);
-  put(QStringLiteral("同意医師住所"), doctor->address);
-  put(QStringLiteral("同意医師の電話番号"), doctor->telephone);
-  put(QStringLiteral("医療機関名"), doctor->hospital);
+  fillSiblings(24, u"同意医師氏名", kDoctorRegister, m_lists.doctors);
+}
+
+// The list position decides: two entries of one name are two rows of the register.
+void ClaimFormScreen::fillSiblings(int combo, const char16_t* column, const Register& list,
+                                   const RegisterRows& rows) {
+  const int position = chosenItem(member(u"Combo1", combo));
+  if (position < 0 || position >= rows.size()) return;  // typed, or the sentence of an empty register
+  for (size_t field = 0; field < list.fields.size(); ++field) {
+    const QString sibling = QString::fromUtf16(list.fields[field].claimColumn);
+    if (sibling != QStringView(column)) put(sibling, rows[position][qsizetype(field)]);
+  }
 }
 
 void ClaimFormScreen::consentReceiverToggled() {

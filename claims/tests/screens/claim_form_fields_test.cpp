@@ -162,44 +162,6 @@ TEST_F(ClaimFormFields, DifferingNumbersOfAreasAreWarnedOfOnce) {
   EXPECT_FALSE(m_form->isControlShown(qs(u"LabelAreas")));
 }
 
-TEST_F(ClaimFormFields, AListEntryBringsItsSiblings) {
-  {
-    auto database = store::Database::open(m_run.folders[frame::folder::kDoctors]);
-    auto rows = store::RecordSet::open(database.value(), qs(u"同意医師"));
-    ASSERT_TRUE(rows->addNew().ok());
-    for (const auto& [column, value] :
-         {std::pair(u"氏名", u"架空 医師"), std::pair(u"フリガナ", u"ｶｸｳ ｲｼ"),
-          std::pair(u"病院名", u"架空病院"), std::pair(u"住所", u"架空市1"), std::pair(u"TEL", u"000-0000")})
-      ASSERT_TRUE(rows->setValue(qs(column), qs(value)).ok());
-    ASSERT_TRUE(rows->update().ok());
-  }
-  openNew(acupuncture());
-  choose(qs(u"Combo1(24)"), qs(u"架空 医師"));
-  EXPECT_EQ(m_form->text(qs(u"txtFields(76)")), qs(u"ｶｸｳ ｲｼ"));
-  EXPECT_EQ(m_form->text(qs(u"txtFields(77)")), qs(u"架空市1"));
-  EXPECT_EQ(m_form->text(qs(u"txtFields(78)")), qs(u"000-0000"));
-  EXPECT_EQ(m_form->text(qs(u"Combo1(25)")), qs(u"架空病院"));
-}
-
-TEST_F(ClaimFormFields, OfTwoInsurersOfOneNameTheChosenEntryCounts) {
-  {
-    auto database = store::Database::open(m_run.folders[frame::folder::kInsurers]);
-    auto rows = store::RecordSet::open(database.value(), qs(u"保険者"));
-    for (const char16_t* number : {u"111", u"222"}) {
-      ASSERT_TRUE(rows->addNew().ok());
-      ASSERT_TRUE(rows->setValue(qs(u"名称"), qs(u"架空組合")).ok());
-      ASSERT_TRUE(rows->setValue(qs(u"番号"), qs(number)).ok());
-      ASSERT_TRUE(rows->update().ok());
-    }
-  }
-  openNew(acupuncture());
-  m_form->findChild<QComboBox*>(qs(u"Combo1(3)"))->setCurrentIndex(1);
-  EXPECT_EQ(m_form->text(qs(u"Combo1(4)")), qs(u"222"));
-  EXPECT_EQ(m_form->text(qs(u"Combo1(3)")), qs(u"架空組合"));
-  choose(qs(u"Combo1(4)"), qs(u"111"));
-  EXPECT_EQ(m_form->text(qs(u"Combo1(4)")), qs(u"111"));
-}
-
 TEST_F(ClaimFormFields, HelperWindowsPutTextsIntoColumns) {
   openNew(acupuncture());
   m_state.display->put(qs(u"摘要4"), qs(u"例示 架空市"));
