@@ -9,6 +9,8 @@
 #include "claims/screens/month_screen.h"
 #include "claims/screens/new_claim_screen.h"
 #include "claims/screens/preview_screen.h"
+#include "claims/screens/register_rows.h"
+#include "claims/screens/register_screen.h"
 #include "claims/screens/share_screen.h"
 #include "platform/screen/sort_dialog.h"
 
@@ -39,6 +41,13 @@ void registerScreens(screen::ScreenRegistry& registry, frame::RunState& run, Cla
     });
   }
   registry.add<ShareScreen>(u"計算式確認"_s);
+  const auto addRegister = [&](const screen::ScreenRow& row, const Register& list) {
+    registry.add(QString::fromUtf16(row.name.get()), [&row, &list, &run, &state](screen::Services& services) {
+      return std::make_unique<RegisterScreen>(row, list, services, run, state);
+    });
+  };
+  addRegister(kDoctorRegisterScreen, kDoctorRegister);
+  addRegister(kInsurerRegisterScreen, kInsurerRegister);
 }
 
 }  // namespace claims
