@@ -15,6 +15,11 @@ const SourceRow kSources[] = {
     {u"治療台帳4", {"臨床QV2000N.mdb"}},
     {u"frmレセプトフォーム", {"保険申請2000_1.mdb", "保険申請2000_2.mdb"}},
     {u"レセプト一覧表", {"保険申請2000_1.mdb"}},
+    {u"frmCLmoji", {"CLmoji2000.mdb"}},
+    {u"frmCl2moji", {"CL2moji2000.mdb"}},
+    {u"frm経穴", {"Keiraku2000.mdb"}},
+    {u"登録2", {"同意医師2000.mdb"}},
+    {u"登録3", {"保険者2000.mdb"}},
 };
 
 class CatalogueTest : public ProgramTest {

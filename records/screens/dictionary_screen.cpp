@@ -1,0 +1,125 @@
+#include "records/screens/dictionary_screen.h"
+
+#include <algorithm>
+
+#include "platform/shell/desktop.h"
+
+namespace records {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString kEntry = u"txtFields(0)"_s;
+
+constexpr char16_t kDeleteTitle[] = u"削除";
+constexpr char16_t kDeleteQuestion[] = u"表示のデ－タの削除をしてもいいですか？";
+constexpr char16_t kNothingToDelete[] = u"削除するデータがありません。";
+constexpr char16_t kDiscardQuestion[] = u"更新出来ませんでした。入力した内容を捨てて、閉じますか？";
+
+/// Results, spoken when the work is done.
+constexpr char16_t kStored[] = u"更新しました";
+constexpr char16_t kDeleted[] = u"削除しました";
+constexpr char16_t kCopied[] = u"クリップボードにコピーしました";
+
+}  // namespace
+
+DictionaryScreen::DictionaryScreen(const DictionaryRow& row, screen::Services& services, frame::RunState& run)
+    : Screen(row.screen, services), m_row(row), m_run(run) {
+  source().onLeaveRow = [this] { return leaveRow(); };
+}
+
+void DictionaryScreen::onLoad() {
+  source().open(m_run.folders[m_row.folder], QString::fromUtf16(m_row.table));
+}
+
+QString DictionaryScreen::entry() const { return text(kEntry); }
+void DictionaryScreen::focusEntry() { focusOn(kEntry); }
+
+bool DictionaryScreen::holdsRow() const {
+  return source().isOpen() && (source().rows().adding() || source().rows().absolutePosition() >= 0);
+}
+
+void DictionaryScreen::say(const QStringList& parts) {
+  QStringList spoken;
+  for (const QString& part : parts)
+    if (!part.isEmpty()) spoken << part;
+  voice().speakText(spoken.join(voice::kSpeechSeparator));
+}
+
+// ---- Moves ----
+
+bool DictionaryScreen::leaveRow() {
+  if (!holdsRow()) return true;
+  if (source().rows().adding() && entry().trimmed().isEmpty()) {
+    source().drop();
+    return true;
+  }
+  return source().write();
+}
+
+void DictionaryScreen::step(void (screen::DataSource::*move)()) {
+  const store::Bookmark before = source().rows().bookmark();
+  (source().*move)();
+  if (source().rows().bookmark() != before) rowReached();
+  voice().speakHeading(onView());
+}
+
+void DictionaryScreen::goFirst() { step(&screen::DataSource::moveFirst); }
+void DictionaryScreen::goPrevious() { step(&screen::DataSource::movePrevious); }
+void DictionaryScreen::goNext() { step(&screen::DataSource::moveNext); }
+void DictionaryScreen::goLast() { step(&screen::DataSource::moveLast); }
+
+// ---- The row on view ----
+
+// The row just stored stays on view. What was typed into a table without rows becomes its first.
+void DictionaryScreen::store() {
+  if (!source().isOpen() || (!holdsRow() && !source().addNewAsShown()) || !source().write()) return;
+  say(QStringList{QString::fromUtf16(kStored)} + onView());
+}
+
+void DictionaryScreen::remove() {
+  if (!source().isOpen()) return;
+  if (!holdsRow()) return messages().tell(QString::fromUtf16(kNothingToDelete));
+  if (!messages().ask(QString::fromUtf16(kDeleteQuestion), screen::Buttons::OkCancel,
+                      QString::fromUtf16(kDeleteTitle)))
+    return;
+  store::RecordSet& rows = source().rows();
+  if (rows.adding()) {  // it was never stored
+    source().drop();
+  } else {
+    const int position = rows.absolutePosition();
+    if (!source().remove()) return;
+    if (rows.recordCount() > 0) source().moveTo(std::min(position, rows.recordCount() - 1));
+  }
+  say(QStringList{QString::fromUtf16(kDeleted)} + onView());
+}
+
+void DictionaryScreen::copyEntry() { services().desktop->copyText(entry()); }
+
+void DictionaryScreen::copy() {
+  copyEntry();
+  say({entry(), QString::fromUtf16(kCopied)});
+}
+
+// ---- Leaving ----
+
+void DictionaryScreen::finish() {
+  if (source().isOpen() && !leaveRow()) {
+    if (!messages().ask(QString::fromUtf16(kDiscardQuestion), screen::Buttons::YesNo)) return;
+    source().drop();
+  }
+  navigator().unload(objectName());
+}
+
+// The chart closes its dictionaries with it: what was typed is stored then too.
+void DictionaryScreen::onClosed() {
+  if (source().isOpen()) leaveRow();
+}
+
+bool DictionaryScreen::onCloseBox() {
+  finish();
+  return false;
+}
+
+}  // namespace records

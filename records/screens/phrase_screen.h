@@ -1,0 +1,23 @@
+#pragma once
+
+#include <span>
+
+#include "records/screens/dictionary_screen.h"
+
+namespace records {
+
+/// A list of stock phrases. Moving in the list puts the phrase on the clipboard.
+class PhraseScreen final : public DictionaryScreen {
+ public:
+  using DictionaryScreen::DictionaryScreen;
+
+  void rowReached() override;
+  /// The text in the field becomes a new row; the row that it was typed over stays as it was stored. A blank
+  /// field starts a new row that 更新 stores.
+  void add();
+};
+
+/// frmCLmoji and frmCl2moji: two tables, one kind of screen.
+std::span<const DictionaryRow> phraseDictionaries();
+
+}  // namespace records
