@@ -12,8 +12,10 @@ constexpr char16_t kWriteDates[] = u"抽出する,年月日を書き込んで下
 
 constexpr Row kRows[] = {
     Note{.name = u"Label1", .caption = kWriteDates, .spoken = true},
+    Group{.name = u"Frame1", .caption = u"要加療期間2"},
     TextField{.name = u"Text1", .caption = u"から", .bind = Unbound{u"the first date"}},
     TextField{.name = u"Text2", .caption = u"まで", .bind = Unbound{u"the last date"}},
+    EndGroup{},
     Bar{},
     Command{.name = u"Command1",
             .caption = u"抽出",

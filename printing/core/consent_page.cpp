@@ -16,21 +16,21 @@ struct ColumnPlace {
   float x;
   float room;  ///< up to the next column, less a gap
 };
-constexpr ColumnPlace kName{0.0F, 60.0F};
-constexpr ColumnPlace kInsurance{63.0F, 45.0F};
-constexpr ColumnPlace kEnd{111.0F, 37.0F};
-constexpr ColumnPlace kTreatment{151.0F, 19.0F};
+constexpr ColumnPlace kName{0.0F, 57.0F};
+constexpr ColumnPlace kInsurance{60.0F, 43.0F};
+constexpr ColumnPlace kEnd{105.0F, 43.0F};
+constexpr ColumnPlace kTreatment{150.0F, 20.0F};
 
 // From 18 mm on in full-width characters of 5 mm, so that each word stands above its column.
-constexpr char16_t kColumnLine[] = u"氏名　　　　　　　　保険の種類　　　　同意期限　　　施術内容";
+constexpr char16_t kColumnLine[] = u"氏名　　　　　　　保険の種類　　　　　同意期限　　　施術内容";
 
-/// Width in full-width characters.
+/// Width in full-width characters: half-width kana are half, the type's digits and letters somewhat more.
 double widthOf(const QString& text) {
   double width = 0;
   for (const QChar c : text) {
     if (c.isLowSurrogate()) continue;
-    const bool half = c.unicode() < 0x100 || (c.unicode() >= 0xFF61 && c.unicode() <= 0xFF9F);
-    width += half ? 0.5 : 1.0;
+    const bool halfKana = c.unicode() >= 0xFF61 && c.unicode() <= 0xFF9F;
+    width += halfKana ? 0.5 : c.unicode() < 0x100 ? 0.65 : 1.0;
   }
   return width;
 }
@@ -39,7 +39,6 @@ double widthOf(const QString& text) {
 QString cut(QString text, double characters) {
   if (widthOf(text) <= characters) return text;
   while (!text.isEmpty() && widthOf(text) > characters - 1) text.chop(1);
-  if (text.back().isHighSurrogate()) text.chop(1);
   return text + QChar(u'…');
 }
 
