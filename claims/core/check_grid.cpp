@@ -56,6 +56,19 @@ int numbersThat(int last, Counts counts) {
 
 constexpr int kForms = 4;
 
+/// More than two numbers of areas under one form of visit.
+QString visitNumbersMessage(const NewTally& tally) {
+  for (int form = 0; form < kForms; ++form) {
+    if (numbersThat(5, [&](int areas) { return tally.areaVisits(areas, form); }) < 3) continue;
+    // v3 and v4 stand for the two bands of the third form here.
+    return QStringLiteral(
+               "同じ訪問施術（v%1）でマッサージの局数が３つ以上の異なる数字が入っています。"
+               "同じ訪問施術（v%1）では、マッサージの局数は２種類のみにしてください。")
+        .arg(form + 1);
+  }
+  return {};
+}
+
 }  // namespace
 
 GridCodes gridCodes(const ClaimRecord& claim) {
@@ -111,15 +124,17 @@ QString areaNumbersMessage(const ClaimRecord& claim) {
     return QStringLiteral(
         "変形徒手矯正術の局数が１つ以上の異なる数字が入っています。"
         "変形徒手矯正術の局数は１種類のみにしてください。");
-  for (int form = 0; form < kForms; ++form) {
-    if (numbersThat(5, [&](int areas) { return tally.areaVisits(areas, form); }) < 3) continue;
-    // v3 and v4 stand for the two bands of the third form here.
-    return QStringLiteral(
-               "同じ訪問施術（v%1）でマッサージの局数が３つ以上の異なる数字が入っています。"
-               "同じ訪問施術（v%1）では、マッサージの局数は２種類のみにしてください。")
-        .arg(form + 1);
-  }
-  return {};
+  return visitNumbersMessage(tally);
+}
+
+QString ledgerGridMessage(const ClaimRecord& claim, const MonthFlags& flags) {
+  const GridCodes codes = gridCodes(claim);
+  QStringList warnings;  // told by the claim form, whose consent page can answer them
+  QString message = gridFilledMessage(codes);
+  if (message.isNull()) message = gridMixedMessage(codes);
+  if (message.isNull()) message = gridCodesMessage(codes, claim, flags.isAfter202012, warnings);
+  if (message.isNull() && flags.isAfter202410) message = visitNumbersMessage(tallyNew(claim));
+  return message;
 }
 
 }  // namespace claims

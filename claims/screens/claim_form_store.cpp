@@ -28,7 +28,7 @@ void ClaimFormScreen::store() {
   showClaim(m_id);
   if (stored.calculation) messages().tellDataFault(stored.calculation->message);
   sayStored(stored.amounts);
-  if (m_opener == u"治療台帳3") navigator().show(m_opener);
+  if (m_opener == u"治療台帳3" && navigator().loaded(m_opener)) navigator().show(m_opener);
 }
 
 void ClaimFormScreen::sayStored(const ClaimAmounts& amounts) {

@@ -137,5 +137,47 @@ TEST(GridFrom202410, PlainAreasSpeakBeforeLimbsBeforeVisits) {
   expectStop(checkOf(u"令和6年10月", u"1=g1h1 2=g1h2 4=g1/v1 5=g2/v1 6=g3/v1"), kTwoLimbs);
 }
 
+// ---- The visit ledger's validation ----
+
+QString ledgerMessage(const char16_t* month, const char16_t* grid, std::initializer_list<Set> columns = {}) {
+  const ClaimRecord claim = testing::makeClaim(month, u"あマ", u"1割", grid, columns);
+  return ledgerGridMessage(claim, monthFlags(QString::fromUtf16(month), era()));
+}
+
+TEST(LedgerGrid, TellsTheFirstFailureInItsOrder) {
+  EXPECT_EQ(ledgerMessage(u"令和6年10月", u""), u"施術内容が記入されていません。");
+  EXPECT_EQ(ledgerMessage(u"令和6年10月", u"1=a 2=g"), u"施術内容に鍼灸とマ術が混じっています。");
+  for (const char16_t* grid : {u"3=hj", u"3=hi", u"3=hg", u"3=jh", u"3=ih", u"3=gh", u"3=j", u"3=i", u"3=g"})
+    EXPECT_EQ(ledgerMessage(u"令和6年10月", grid), kNoNumber);
+  for (const char16_t* grid : {u"3=h", u"3=h1", u"3=h2", u"3=h3", u"3=h4"})
+    EXPECT_EQ(ledgerMessage(u"令和6年10月", grid), kAlone);
+  EXPECT_TRUE(ledgerMessage(u"令和6年10月", u"1=g1 2=g2h3/v1").isNull());
+}
+
+TEST(LedgerGrid, LettersWithoutANumberFollowTheRuleOfTheMonth) {
+  EXPECT_EQ(ledgerMessage(u"令和2年12月", u"3=g"), kNoNumber);
+  EXPECT_EQ(ledgerMessage(u"令和2年11月", u"3=g"), kNoAreas);
+  EXPECT_TRUE(ledgerMessage(u"令和2年11月", u"3=g", {{u"マッサージ部位数", u"3"}}).isNull());
+}
+
+TEST(LedgerGrid, ThreeNumbersOfAreasUnderOneFormOfVisitAreRefused) {
+  const std::pair<const char16_t*, int> grids[] = {{u"1=g1/v1 2=g2/v1 3=g3/v1", 1},
+                                                   {u"1=g1/v2 2=i2/v2 3=j3/v2", 2},
+                                                   {u"1=g1/v3 2=g2/v9 3=g3/v5", 3},
+                                                   {u"1=g1/v10 2=g2/v20 3=g3/v15", 4}};
+  for (const auto& [grid, form] : grids)
+    EXPECT_EQ(ledgerMessage(u"令和6年10月", grid),
+              QStringLiteral("同じ訪問施術（v%1）でマッサージの局数が３つ以上の異なる数字が入っています。"
+                             "同じ訪問施術（v%1）では、マッサージの局数は２種類のみにしてください。")
+                  .arg(form));
+  EXPECT_TRUE(ledgerMessage(u"令和6年10月", u"1=g1/v1 2=g2/v1 3=g3/v2").isNull());
+  EXPECT_TRUE(ledgerMessage(u"令和6年9月", u"1=g1/v1 2=g2/v1 3=g3/v1").isNull()) << "before the regime";
+  EXPECT_TRUE(ledgerMessage(u"令和6年10月", u"1=g1 2=g2 3=g3").isNull()) << "left to the form's own check";
+}
+
+TEST(LedgerGrid, HeatBesideManipulationIsLeftToTheForm) {
+  EXPECT_TRUE(ledgerMessage(u"令和6年10月", u"3=i1h2").isNull());
+}
+
 }  // namespace
 }  // namespace claims

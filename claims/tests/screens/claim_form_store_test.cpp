@@ -277,9 +277,17 @@ TEST_F(ClaimFormStore, TheMonthDecidesTheRulesOfTheMoney) {
 
 TEST_F(ClaimFormStore, TheLedgerGetsTheFocusBack) {
   open(add(acupuncture()), qs(u"治療台帳3"));
+  m_navigator.screens.insert(qs(u"治療台帳3"), m_form.get());
   answer({true});
   press(qs(u"cmdUpdate"));
   EXPECT_EQ(m_navigator.shows, QStringList(qs(u"治療台帳3")));
+}
+
+TEST_F(ClaimFormStore, ALedgerThatHasClosedIsNotOpenedAnew) {
+  open(add(acupuncture()), qs(u"治療台帳3"));
+  answer({true});
+  press(qs(u"cmdUpdate"));
+  EXPECT_TRUE(m_navigator.shows.isEmpty());
 }
 
 TEST_F(ClaimFormStore, TheMenuEntryDoesWhatTheButtonDoes) {
