@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QCursor>
+#include <QGuiApplication>
+
+namespace records {
+
+/// The hourglass over the program while a pass over many rows runs.
+class Hourglass {
+ public:
+  Hourglass() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~Hourglass() { QGuiApplication::restoreOverrideCursor(); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+};
+
+}  // namespace records

@@ -1,0 +1,85 @@
+#include "claims/core/check_grid.h"
+#include "platform/screen/control_book.h"
+#include "records/screens/hourglass.h"
+#include "records/screens/visit_ledger_screen.h"
+
+// The typed days of a claim: validated, written to both halves, handed over to the claim form.
+
+namespace records {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString kForm = u"frmレセプトフォーム"_s;
+
+}  // namespace
+
+bool VisitLedgerScreen::claimPending() const {
+  return m_claimId != 0 && (source(2).pending() || source(3).pending());
+}
+
+claims::ClaimRecord VisitLedgerScreen::typedClaim() const {
+  claims::ClaimRecord typed;
+  for (const int half : {2, 3})
+    for (const screen::Control* control : controls().boundTo(half))
+      if (control->changed()) typed.set(control->column(), control->stored());
+  return typed;
+}
+
+bool VisitLedgerScreen::writeClaim(bool repair) {
+  const bool halfMissing = source(2).rows().recordCount() == 0;
+  const text::Done done = m_claims->together([&]() -> text::Done {
+    if (halfMissing && repair)
+      if (const text::Done repaired = m_claims->repairSecond(m_claimId); !repaired) return repaired;
+    return m_claims->store(m_claimId, m_seen, typedClaim());
+  });
+  if (done) {
+    readClaimAgain();
+    return true;
+  }
+  messages().tellDataFault(done.fault().message);
+  // What was typed stays on the screen; the next time it is written over the claim as it stands now.
+  if (auto now = m_claims->read(m_claimId)) m_seen = *now;
+  return false;
+}
+
+bool VisitLedgerScreen::leaveClaim() { return !claimPending() || writeClaim(true); }
+
+void VisitLedgerScreen::readClaimAgain() {
+  if (const text::Done read = source(3).rows().refresh(); !read)
+    return messages().tellDataFault(read.fault().message);
+  source(3).show();
+}
+
+void VisitLedgerScreen::storeGrid() {
+  if (m_claimId == 0) return;
+  claims::ClaimRecord claim = m_seen;
+  const claims::ClaimRecord typed = typedClaim();
+  for (auto column = typed.columns().cbegin(); column != typed.columns().cend(); ++column)
+    claim.set(column.key(), column.value());
+  if (const QString message = claims::ledgerGridMessage(claim, m_flags); !message.isNull())
+    return messages().tell(message);
+  // The form holds the claim as it read it: it must not stay beside a claim that changes under it.
+  if (navigator().loaded(kForm)) {
+    navigator().show(kForm);
+    return messages().tell(u"既にレセプトフォームは開かれています"_s);
+  }
+  if (writeClaim(true)) handOver();
+}
+
+// The form is loaded without being shown, as long as the question stands.
+void VisitLedgerScreen::handOver() {
+  screen::Screen* form = nullptr;
+  {
+    const Hourglass loading;
+    form = navigator().load(kForm);
+    if (form) form->opened({{u"ID"_s, m_claimId}, {u"opener"_s, u"治療台帳3"_s}});
+  }
+  if (!form) return;
+  if (!messages().ask(u"レセプトデータの登録を押してください。"_s)) return navigator().unload(kForm);
+  form->focusOn(u"cmdUpdate"_s);
+  navigator().show(kForm);
+}
+
+}  // namespace records

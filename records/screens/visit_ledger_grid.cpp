@@ -1,0 +1,165 @@
+#include "claims/core/day_codes.h"
+#include "platform/store/criteria_text.h"
+#include "records/core/day_grid.h"
+#include "records/screens/visit_ledger_screen.h"
+
+// 療養費の日付の記入: which claim the day grid shows, its visible days, the checks of its cells.
+
+namespace records {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int kCells = 31;
+const QString kTick = u"Check1"_s;
+const QString kFrame = u"Frame1"_s;
+const QString kTable = u"保険申請"_s;
+const QString kInOrder = u"order by ID"_s;
+
+QString code(int cell) { return u"Text5(%1)"_s.arg(cell); }
+QString visit(int cell) { return u"Text6(%1)"_s.arg(cell); }
+
+}  // namespace
+
+bool VisitLedgerScreen::gridShown() const { return isControlShown(kFrame); }
+
+void VisitLedgerScreen::toggleGrid() {
+  setChecked(kTick, !checked(kTick));
+  gridToggled();
+}
+
+void VisitLedgerScreen::gridToggled() {
+  if (checked(kTick)) return openGrid();
+  if (!leaveClaim()) return setChecked(kTick, true);  // told; what was typed stays
+  hideGrid();
+  say({caption(kFrame), u"表示なし"_s});
+}
+
+void VisitLedgerScreen::hideGrid() {
+  setShown(kFrame, false);
+  setChecked(kTick, false);
+  m_claimId = 0;
+  m_seen = {};
+  m_flags = {};
+  // The first halves stand whole again behind the hidden frame.
+  if (source(3).isOpen()) source(3).open(m_run.folders[frame::folder::kClaims1], kTable);
+}
+
+void VisitLedgerScreen::openGrid() {
+  setShown(kFrame, true);
+  if (!openClaims() || !putClaims()) return hideGrid();
+  say({caption(kFrame), text(u"txtFields(114)"_s), text(u"txtFields(67)"_s)});
+}
+
+void VisitLedgerScreen::gridMonthEntered() {
+  if (!gridShown()) {
+    setChecked(kTick, true);
+    return openGrid();
+  }
+  if (leaveClaim()) openGrid();
+}
+
+bool VisitLedgerScreen::openClaims() {
+  auto file = claims::ClaimFile::open(m_run.folders);
+  if (!file) {
+    messages().tellDataFault(file.fault().message);
+    return false;
+  }
+  m_claims.emplace(std::move(*file));
+  const std::pair<int, store::RecordSet*> halves[] = {{frame::folder::kClaims1, &m_firstHalves},
+                                                      {frame::folder::kClaims2, &m_secondHalves}};
+  for (const auto& [entry, rows] : halves) {
+    auto database = store::Database::open(m_run.folders[static_cast<size_t>(entry)]);
+    if (!database) {
+      messages().tellDataFault(database.fault().message);
+      return false;
+    }
+    auto opened = store::RecordSet::open(*database, kTable);
+    if (!opened) {
+      messages().tellDataFault(opened.fault().message);
+      return false;
+    }
+    *rows = std::move(*opened);
+  }
+  return true;
+}
+
+// The patient's claims, of them those of the month asked for. A patient without any has nothing to write the
+// days into, whether or not a month was asked for.
+bool VisitLedgerScreen::putClaims() {
+  const QString key = text(u"Text2"_s).isEmpty() ? m_key : text(u"Text2"_s);
+  const QString month = text(u"txtFields(115)"_s);
+  m_firstHalves.setFilter(store::likeCriterion(u"番号1"_s, key) + kInOrder);
+  auto claims = m_firstHalves.openRecordset();
+  if (claims && !month.isEmpty()) {
+    claims->setFilter(store::likeCriterion(u"申請年月"_s, month) + kInOrder);
+    claims = claims->openRecordset();
+  }
+  if (!claims) {
+    messages().tellDataFault(claims.fault().message);
+    return false;
+  }
+  if (key.isEmpty() || claims->recordCount() == 0) {
+    messages().tell(
+        u"レセプトデータがありません。新規でレセプトを制作するか、「翌月へ継続」で、今月のデータを作ってから"
+        u"クリックして下さい。"_s);
+    return false;
+  }
+  source(3).assign(std::move(*claims));
+  return true;
+}
+
+void VisitLedgerScreen::showClaim() {
+  const store::RecordSet& rows = source(3).rows();
+  m_claimId = rows.recordCount() > 0 ? rows.value(u"ID"_s).toLongLong() : 0;
+  auto read = m_claims->read(m_claimId);
+  if (!read) messages().tellDataFault(read.fault().message);
+  m_seen = read ? *read : claims::ClaimRecord();
+  putSecondHalf();
+  applyGridMonth();
+}
+
+bool VisitLedgerScreen::putSecondHalf() {
+  const auto half = [this] {
+    m_secondHalves.setFilter(u"Id = %1"_s.arg(m_claimId));
+    return m_secondHalves.openRecordset();
+  };
+  auto rows = half();
+  if (rows && rows->recordCount() == 0 && m_secondHalves.refresh()) rows = half();  // made meanwhile
+  if (!rows) {
+    messages().tellDataFault(rows.fault().message);
+    return false;
+  }
+  source(2).assign(std::move(*rows));
+  return true;
+}
+
+void VisitLedgerScreen::applyGridMonth() {
+  const std::optional<QDate> month = gridMonth(text(u"txtFields(114)"_s), m_run.eraDates());
+  m_flags = claims::monthFlags(month);
+  const QString row = m_flags.isAfter202410 ? u"往療人数"_s : u"往療距離"_s;
+  if (caption(u"Label9"_s) != row) {
+    for (const QString& label : {u"Label9"_s, u"Label16"_s}) setCaption(label, row);
+    for (int cell = 0; cell < kCells; ++cell) setCaption(visit(cell), u"%1日 %2"_s.arg(cell + 1).arg(row));
+  }
+  const int days = visibleDays(month);
+  for (int cell = 0; cell < kCells; ++cell)
+    for (const QString& control : {code(cell), visit(cell)}) setShown(control, cell < days);
+}
+
+void VisitLedgerScreen::codeLeft(int cell) {
+  const QString message = gridCodeMessage(text(code(cell)), text(u"txtFields(67)"_s));
+  if (message.isNull()) return;
+  keepFocus();
+  messages().tell(message);
+}
+
+void VisitLedgerScreen::visitLeft(int cell) {
+  const QString message = claims::visitEntryMessage(text(visit(cell)), m_flags.isAfter202410);
+  if (message.isNull()) return;
+  keepFocus();
+  messages().tell(message);
+}
+
+}  // namespace records

@@ -1,0 +1,126 @@
+#include "records/screens/visit_ledger_screen.h"
+
+#include "platform/store/growth.h"
+#include "records/core/visit_dates.h"
+#include "records/screens/visit_ledger_rows.h"
+
+// Life of the ledger: opening on a patient, moving, closing.
+
+namespace records {
+
+using namespace Qt::Literals::StringLiterals;
+
+VisitLedgerScreen::VisitLedgerScreen(screen::Services& services, frame::RunState& run,
+                                     PreviousVisit& previous)
+    : ListScreen(visitLedgerDeclaration(), services), m_run(run), m_previous(previous) {
+  source(3).onLeaveRow = [this] { return leaveClaim(); };
+}
+
+void VisitLedgerScreen::onLoad() {
+  for (const QString& hidden : {u"Text2"_s, u"Text3"_s, u"Text10"_s}) setShown(hidden, false);
+  hideGrid();
+  const QString path = m_run.folders[frame::folder::kVisits];
+  // A file that cannot be asked is told when it is opened.
+  if (const auto needed = store::needsGrowth(path, store::GrowthRun::Visit); needed && *needed)
+    if (const text::Done grown = store::grow(path, store::GrowthRun::Visit); !grown)
+      messages().tellDataFault(grown.fault().message);
+  openWhole();
+}
+
+void VisitLedgerScreen::opened(const screen::Request& request) {
+  if (request.value(u"新規"_s).toBool()) return startVisit(m_name, m_birth, m_key);
+  if (!request.contains(u"テキスト5"_s)) return;
+  if (!settleVisit() || !leaveClaim()) return;  // told; the patient before stays with what was typed
+  const QString key = request.value(u"テキスト5"_s).toString();
+  if (key != m_key) m_previous.clear();
+  m_key = key;
+  m_name = request.value(u"氏名"_s).toString();
+  m_birth = request.value(u"生年月日"_s).toString();
+  m_opener = request.value(u"opener"_s).toString();
+  m_newRowPending = false;
+  hideGrid();
+  for (const QString& month : {u"Text1"_s, u"txtFields(115)"_s})
+    setText(month, presentMonthText(m_run.eraDates()));
+  if (!openWhole()) return;
+  m_offersFirst = !putPatient() || !holdsRows();
+  if (isVisible()) say(openingTexts());
+}
+
+// The question for a first visit waits until the ledger has the keyboard: asked before it, it would lie
+// behind.
+void VisitLedgerScreen::onActivate() {
+  if (std::exchange(m_offersFirst, false))
+    QMetaObject::invokeMethod(
+        this, [this] { offerFirstVisit(); }, Qt::QueuedConnection);
+  // The claim form may have stored the claim of the grid meanwhile.
+  if (m_claimId != 0 && !claimPending()) readClaimAgain();
+}
+
+void VisitLedgerScreen::offerFirstVisit() { navigator().show(u"カルテ2の新規"_s, {{u"氏名"_s, m_name}}); }
+
+QStringList VisitLedgerScreen::openingTexts() const {
+  const QString name = m_name.isEmpty() && holdsRows() ? source().rows().value(u"氏名"_s) : m_name;
+  return {name + u"カルテ２を開きました。"_s};
+}
+
+void VisitLedgerScreen::rowShown(int sourceNumber) {
+  if (sourceNumber == 3 && gridShown()) showClaim();
+  if (sourceNumber != 1) return;
+  const bool open = source().isOpen();
+  const int count = open ? source().rows().recordCount() + (source().rows().adding() ? 1 : 0) : 0;
+  setCaption(u"Data1"_s, open ? source().positionText() : u"ﾚｺｰﾄﾞ: "_s);
+  setCaption(u"Label14"_s, QString::number(count));
+  // Nothing can be typed where there is no row to keep it.
+  for (int field = 0; field <= 6; ++field) setEnabledControl(u"txtFields(%1)"_s.arg(field), onVisit());
+  for (int tick = 7; tick <= 8; ++tick) setEnabledControl(u"chkFields(%1)"_s.arg(tick), onVisit());
+}
+
+bool VisitLedgerScreen::onVisit() const {
+  return source().isOpen() && (source().rows().adding() || source().rows().recordCount() > 0);
+}
+
+bool VisitLedgerScreen::openWhole() {
+  return source().open(m_run.folders[frame::folder::kVisits], u"カルテ"_s);
+}
+
+QStringList VisitLedgerScreen::onView() const {
+  if (!onVisit()) return {caption(u"LabelCount"_s), caption(u"Label14"_s)};
+  QStringList parts{caption(u"Data1"_s)};
+  for (const QString& field : {u"txtFields(2)"_s, u"txtFields(3)"_s})
+    if (!text(field).isEmpty()) parts << text(field);
+  return parts;
+}
+
+void VisitLedgerScreen::say(const QStringList& parts) {
+  messages().holdSpeech();
+  voice().speakHeading(parts);
+}
+
+void VisitLedgerScreen::step(void (screen::DataSource::*move)()) {
+  (source().*move)();
+  voice().speakHeading(onView());
+}
+
+void VisitLedgerScreen::goFirst() { step(&screen::DataSource::moveFirst); }
+void VisitLedgerScreen::goPrevious() { step(&screen::DataSource::movePrevious); }
+void VisitLedgerScreen::goNext() { step(&screen::DataSource::moveNext); }
+void VisitLedgerScreen::goLast() { step(&screen::DataSource::moveLast); }
+
+// What the file keeps refusing (read only, deleted by another computer) must not lock the user in.
+void VisitLedgerScreen::leave() {
+  if (m_newRowPending) return messages().tell(u"一度登録ボタンを押してから終了して下さい"_s);
+  const bool visitKept = settleVisit(), claimKept = leaveClaim();
+  if ((!visitKept || !claimKept) &&
+      !messages().ask(u"登録出来ませんでした。入力した内容を捨てて、閉じますか？"_s, screen::Buttons::YesNo))
+    return;
+  const QString before = navigator().loaded(u"治療台帳4"_s) ? u"治療台帳4"_s : u"選択3"_s;
+  navigator().show(m_opener.isEmpty() ? before : m_opener);
+  navigator().unload(u"治療台帳3"_s);
+}
+
+bool VisitLedgerScreen::onCloseBox() {
+  messages().tell(u"「閉じる」ボタンより終了して下さい"_s);
+  return false;
+}
+
+}  // namespace records

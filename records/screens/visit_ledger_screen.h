@@ -1,0 +1,128 @@
+#pragma once
+
+#include <optional>
+
+#include "claims/core/claim_file.h"
+#include "claims/core/rule_dates.h"
+#include "frame/core/run_state.h"
+#include "platform/screen/list_screen.h"
+#include "records/core/previous_visit.h"
+
+namespace records {
+
+/// 治療台帳3 (caption カルテ): the visits of one patient, and the day grid of the patient's claim of a month.
+///
+/// Sources are numbered as the screen's data controls are: 1 is Data1, the visits (list DBGrid1); 2 is Data2,
+/// the second half of the claims (list DBGrid3); 3 is Data3, their first half (list DBGrid2).
+///
+/// Request keys: "テキスト5", "氏名", "生年月日" of the patient and "opener", the screen that 閉じる shows
+/// again; or {"新規": true}, the answer はい of カルテ2の新規. Without keys (back from the claim form) it
+/// stays as it is.
+///
+/// Visits are bound: what was typed is written when the row is left, also by filters and totals. The typed
+/// days of the claim are written by their own 登録, and when the claim is left; each time both halves go in
+/// one transaction.
+class VisitLedgerScreen : public screen::ListScreen {
+ public:
+  VisitLedgerScreen(screen::Services& services, frame::RunState& run, PreviousVisit& previous);
+
+  // Life: visit_ledger_screen.cpp.
+  void onLoad() override;
+  void opened(const screen::Request& request) override;
+  void onActivate() override;
+  bool onCloseBox() override;
+  QStringList openingTexts() const override;
+  void rowShown(int sourceNumber) override;
+  void goFirst() override;
+  void goPrevious() override;
+  void goNext() override;
+  void goLast() override;
+  void leave();
+
+  // One visit: visit_ledger_visit.cpp.
+  void addVisit();
+  void storeVisit();
+  /// The menu's 登録: without the message, said only.
+  void storeVisitQuietly();
+  void deleteVisit();
+  void fillToday();
+  void copyToday();
+  void copySummary();
+  void copyAmounts();
+  void toSeireki();
+  void toWareki();
+
+  // The view and other rooms: visit_ledger_view.cpp.
+  bool narrowBy(const QString& criteria) override;
+  bool sortBy(const QString& order) override;
+  void narrowToMonth();
+  void showPatient();
+  void showAll();
+  void showTotals();
+  void openDetail();
+  void openReceipt();
+  void openDetailedReceipt();
+
+  // The day grid: visit_ledger_grid.cpp, visit_ledger_claim.cpp.
+  void gridToggled();
+  void toggleGrid();
+  void gridMonthEntered();
+  void codeLeft(int cell);
+  void visitLeft(int cell);
+  void storeGrid();
+
+ protected:
+  bool openWhole() override;
+  QString noRowsText() const override;
+  QString noRowsToSortText() const override;
+  void setChanged() override;
+
+ private:
+  /// A row stands on the screen, stored or being added.
+  bool onVisit() const;
+  /// Tells that there is no visit; true where there was none.
+  bool noVisit();
+  /// Writes what was typed in the visit on view. False: refused and told.
+  bool settleVisit() { return !source().isOpen() || source().write(); }
+  bool putPatient();
+  void offerFirstVisit();
+  void startVisit(const QString& name, const QString& birth, const QString& patient);
+  bool writeVisit();
+  void convertDates(QString (frame::EraDates::*conversion)(const QString&) const);
+  screen::Request patient() const;
+  void step(void (screen::DataSource::*move)());
+  QStringList onView() const;
+  /// Speaks a result that the next focus waits behind.
+  void say(const QStringList& parts);
+
+  // The claim of the grid.
+  bool gridShown() const;
+  void openGrid();
+  void hideGrid();
+  bool openClaims();
+  bool putClaims();
+  void showClaim();
+  bool putSecondHalf();
+  void applyGridMonth();
+  bool claimPending() const;
+  claims::ClaimRecord typedClaim() const;
+  /// Writes what was typed into the claim, both halves in one transaction; a missing second half is made
+  /// where `repair`. False: refused and told, what was typed stays.
+  bool writeClaim(bool repair);
+  bool leaveClaim();
+  void readClaimAgain();
+  void handOver();
+
+  frame::RunState& m_run;
+  PreviousVisit& m_previous;
+  QString m_key, m_name, m_birth, m_opener;
+  bool m_newRowPending = false;  ///< from 新規追加 until 登録
+  bool m_offersFirst = false;    ///< カルテ2の新規 comes up once the window has the keyboard
+  std::optional<claims::ClaimFile> m_claims;
+  store::RecordSet m_firstHalves, m_secondHalves;  ///< whole, of which sources 3 and 2 show the patient's
+  claims::ClaimRecord m_seen;                      ///< the claim as it was read
+  qint64 m_claimId = 0;                            ///< 0: no claim in the grid
+  claims::MonthFlags m_flags;
+};
+
+}  // namespace records
