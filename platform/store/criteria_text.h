@@ -4,10 +4,15 @@
 
 namespace store {
 
-/// "<column> like '*<text>*' ". The text is not escaped: a quote in it gives the engine's error text.
+// A quote in the text always gives the engine's error text: it is written twice, which the criteria do not
+// know, so that a text can never end its own quotes and add a condition.
+
+/// "<column> like '*<text>*' "
 QString likeCriterion(const QString& column, const QString& text);
 /// "<column> like '<text>*' "
 QString prefixCriterion(const QString& column, const QString& text);
+/// "<column> like '<text>' ": wildcards are those of the text.
+QString patternCriterion(const QString& column, const QString& text);
 /// "<column> = '<text>' "
 QString equalCriterion(const QString& column, const QString& text);
 /// "<column> >= '<text>' ", and with an end "<column> >= '<text>' and <column> <= '<end>' ". Texts are
