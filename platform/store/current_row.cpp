@@ -32,6 +32,9 @@ const Row& CurrentRow::whole(const TableFile& file, qint64 id) {
   if (!m_wholeRead) {
     m_wholeRead = true;
     if (Result<Row> read = file.read(m_id)) m_whole = std::move(*read);
+    // What was read first counts as seen: a change since then must be noticed when the row is stored.
+    if (!m_whole.isEmpty())
+      for (qsizetype i = 0; i < m_first.size(); ++i) m_whole[m_firstColumns[i]] = m_first[i];
   }
   return m_whole;
 }
@@ -51,11 +54,10 @@ Value CurrentRow::value(const TableFile& file, qint64 id, int column) {
       readFirst(file);
       return m_first.isEmpty() ? Value() : m_first[place];
     }
-    if (m_firstColumns.size() < kMostFirstColumns) {
+    (void)whole(file, id);
+    if (m_firstColumns.size() < kMostFirstColumns) {  // learnt for the rows to come
       m_firstColumns += column;
       m_firstSelect.clear();
-      m_firstRead = false;
-      m_first.clear();
     }
   }
   const Row& row = whole(file, id);

@@ -174,6 +174,29 @@ TEST_F(DatabaseTest, AnotherRowsStoreDoesNotHideThatARowWasChangedElsewhere) {
   EXPECT_FALSE(set.update().ok());
 }
 
+// A walk that asks for few columns reads them alone: what was shown of them counts all the same.
+TEST_F(DatabaseTest, AWalkThatShowsFewColumnsNoticesThatTheyWereChangedElsewhere) {
+  const QString name = QStringLiteral("氏名");
+  fresh(kDoctors);
+  RecordSet set = openSet(kDoctors, kDoctorTable);
+  add(set, {{name, QStringLiteral("一")}});
+  add(set, {{name, QStringLiteral("二")}});
+  set.moveFirst();
+  EXPECT_EQ(set.value(name), QStringLiteral("一"));
+  set.moveLast();
+  EXPECT_EQ(set.value(name), QStringLiteral("二"));
+  sqlite3* other = nullptr;
+  ASSERT_EQ(sqlite3_open(QFile::encodeName(path(kDoctors)).constData(), &other), SQLITE_OK);
+  ASSERT_EQ(
+      sqlite3_exec(other, "UPDATE \"同意医師\" SET \"氏名\"='他' WHERE ID=2", nullptr, nullptr, nullptr),
+      SQLITE_OK);
+  sqlite3_close(other);
+  ASSERT_TRUE(set.edit().ok() && set.setValue(name, QStringLiteral("後")).ok());
+  EXPECT_FALSE(set.update().ok());
+  set.cancelUpdate();
+  EXPECT_EQ(set.value(name), QStringLiteral("他")) << "read afresh after the refusal";
+}
+
 TEST_F(DatabaseTest, ARowDeletedElsewhereIsTold) {
   fresh(kDoctors);
   RecordSet set = openSet(kDoctors, kDoctorTable);
