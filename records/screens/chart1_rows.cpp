@@ -1,0 +1,78 @@
+#include "records/screens/chart1_rows.h"
+
+#include "platform/screen/opens.h"
+#include "records/screens/chart1_screen.h"
+
+namespace records {
+
+using namespace screen;
+
+namespace {
+
+constexpr char16_t kFile[] = u"ファイル(&F)";
+constexpr char16_t kDictionaries[] = u"辞典(&J)";
+constexpr char16_t kWindowsSay[] = u"常用文字１、常用文字２、経穴辞典の窓を閉じます";
+
+consteval TextField field(int index, const char16_t* caption, const char16_t* column, int width = 20) {
+  return TextField{.name = {u"txtFields", index}, .caption = caption, .bind = Column{column}, .width = width};
+}
+
+consteval TextField memo(int index, const char16_t* caption, const char16_t* column) {
+  TextField row = field(index, caption, column, 100);
+  row.lines = 6;
+  return row;
+}
+
+constexpr Row kRows[] = {
+    Group{.name = {u"FramePatient"}, .caption = u"患者", .columns = 3},
+    field(32, u"担当者:", u"担当者"),
+    field(4, u"氏名:", u"氏名"),
+    field(5, u"性別:", u"性別", 4),
+    TextField{.name = {u"txtF6"}, .caption = u"生年月日:", .bind = Column{u"生年月日"}, .width = 16},
+    field(7, u"年齢:", u"年齢", 4),
+    TextField{.name = {u"txtF24"}, .caption = u"初診日:", .bind = Column{u"初診日"}, .width = 16},
+    EndGroup{},
+    Group{.name = {u"FrameChart"}, .caption = u"既往症・症状・治療", .columns = 1},
+    memo(25, u"既往症:", u"既往症"),
+    memo(26, u"症状:", u"症状"),
+    memo(27, u"治療:", u"治療"),
+    EndGroup{},
+    Bar{},
+    Command{.name = {u"cmdUpdate"}, .caption = u"更新", .run = run<&Chart1Screen::update>},
+    Command{.name = {u"Command3"},
+            .caption = u"西暦",
+            .run = run<&Chart1Screen::toSeireki>,
+            .say = u"生年月日と初診日を西暦に変換します。"},
+    Command{.name = {u"Command9"},
+            .caption = u"和暦",
+            .run = run<&Chart1Screen::toWareki>,
+            .say = u"生年月日と初診日を和暦に変換します。"},
+    Command{.name = {u"Command8"}, .caption = u"今日の日付", .run = run<&Chart1Screen::copyNow>},
+    Command{.name = {u"Command2"},
+            .caption = u"CB",
+            .run = run<&Chart1Screen::closeDictionaries>,
+            .say = kWindowsSay,
+            .tip = kWindowsSay},
+    Command{.name = {u"cmdClose"},
+            .caption = u"閉じる",
+            .run = run<&Chart1Screen::finish>,
+            .menu = u"Men_FE",
+            .under = kFile},
+    EndBar{},
+    // Kept: the entry asks twice where the button of the same caption asks once.
+    Entry{.name = {u"Men_FU"},
+          .under = kFile,
+          .caption = u"更新",
+          .run = run<&Chart1Screen::updateAfterWarning>},
+    Entry{.name = {u"Men_FJ1"}, .under = kDictionaries, .caption = u"常用文字１", .run = opens<u"frmCLmoji">},
+    Entry{
+        .name = {u"Men_FJ2"}, .under = kDictionaries, .caption = u"常用文字２", .run = opens<u"frmCl2moji">},
+    Entry{.name = {u"Men_FJ3"}, .under = kDictionaries, .caption = u"経穴辞典", .run = opens<u"frm経穴">},
+};
+
+}  // namespace
+
+constinit const ScreenRow kChart1Declaration{
+    .name = u"治療台帳2", .caption = u"カルテ１", .rows = kRows, .sources = 1, .functionKeys = true};
+
+}  // namespace records

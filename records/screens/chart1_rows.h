@@ -1,0 +1,9 @@
+#pragma once
+
+#include "platform/screen/rows.h"
+
+namespace records {
+
+extern const screen::ScreenRow kChart1Declaration;
+
+}  // namespace records
