@@ -1,0 +1,45 @@
+#pragma once
+
+#include "frame/core/run_state.h"
+#include "platform/report/report_operations.h"
+#include "platform/screen/list_screen.h"
+#include "records/core/label_sheet.h"
+
+namespace records {
+
+/// 一覧表: the patients as a list, narrowed by 抽出2 and 抽出3, sorted by ソート1; labels of what is on view.
+///
+/// Each extraction searches what the list shows, so that a second one narrows the first. 全患者表示及び再表示
+/// reads the whole table again. The patient of the row goes back to the patient screen: it shows the patient,
+/// and the name stands in its search row, and in the search dialog's field where that is open.
+class PatientListScreen : public screen::ListScreen {
+ public:
+  PatientListScreen(screen::Services& services, frame::RunState& run, report::ReportOperations& engine);
+
+  void onLoad() override;
+  QStringList openingTexts() const override;
+  void rowShown(int sourceNumber) override;
+  bool narrowBy(const QString& criteria) override;
+  bool sortBy(const QString& order) override;
+
+  void showAll();
+  void handOver();
+  void printLabels();
+  void finish() { close(); }
+
+ protected:
+  bool openWhole() override;
+  QString noRowsText() const override;
+  QString noRowsToSortText() const override;
+  QStringList rowOnView() const override;
+
+ private:
+  /// Says what came of a command and how many patients the list shows now; the list has the focus.
+  void tellResult(const QString& done);
+  LabelAddress addressAt(int position) const;
+  void drawSheet(report::ReportOperations& paper, int sheet) const;
+  frame::RunState& m_run;
+  report::ReportOperations& m_engine;
+};
+
+}  // namespace records
