@@ -21,14 +21,14 @@ QStringList SearchHistory::words() const {
   return lines.mid(0, kMostLines);
 }
 
-QStringList SearchHistory::remembered(const QStringList& lines, const QString& word) {
+QStringList SearchHistory::remembered(const QStringList& lines, const QString& word, int olderKept) {
   if (word.isEmpty() || lines.contains(word)) return lines;
-  return QStringList{word} + lines.mid(0, kOlderKept);
+  return QStringList{word} + lines.mid(0, olderKept);
 }
 
-text::Done SearchHistory::remember(const QString& word) const {
+text::Done SearchHistory::remember(const QString& word, int olderKept) const {
   const QStringList before = words();
-  const QStringList after = remembered(before, word);
+  const QStringList after = remembered(before, word, olderKept);
   if (after == before) return {};
   // Written beside and renamed: a fault leaves the old history whole.
   QSaveFile file(m_path);

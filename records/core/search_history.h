@@ -12,8 +12,10 @@ class SearchHistory {
  public:
   /// Lines that the file may hold.
   static constexpr int kMostLines = 11;
-  /// Older lines that stay when a new word comes in front.
+  /// Older lines that stay when a new word of the search dialog comes in front.
   static constexpr int kOlderKept = 9;
+  /// The patient screen keeps the whole list with its new word, as far as the file may hold it.
+  static constexpr int kWholeListKept = kMostLines - 1;
 
   explicit SearchHistory(const QString& programFolder);
 
@@ -21,10 +23,10 @@ class SearchHistory {
   QStringList words() const;
   /// Puts a word into the file: a new one becomes the first line, a known one leaves its place, a blank one
   /// changes nothing.
-  text::Done remember(const QString& word) const;
+  text::Done remember(const QString& word, int olderKept = kOlderKept) const;
 
   /// The rule of remember() over the lines alone.
-  static QStringList remembered(const QStringList& lines, const QString& word);
+  static QStringList remembered(const QStringList& lines, const QString& word, int olderKept = kOlderKept);
 
  private:
   QString m_path;

@@ -1,12 +1,14 @@
 #include "records/screens/patient_screen.h"
 
-#include "frame/core/settings_slots.h"
 #include "platform/screen/find_row.h"
 #include "platform/shell/desktop.h"
 #include "platform/store/criteria_text.h"
+#include "platform/store/growth.h"
 #include "records/core/patient_serial.h"
 #include "records/core/search_columns.h"
 #include "records/core/search_history.h"
+#include "records/screens/patient_fields.h"
+#include "records/screens/patient_parts.h"
 #include "records/screens/patient_rows.h"
 
 namespace records {
@@ -15,29 +17,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr char16_t kBirth[] = u"txtF6";
-constexpr char16_t kFirstVisit[] = u"txtF24";
-constexpr char16_t kSerial[] = u"Text2";
-constexpr char16_t kName[] = u"txtFields(4)";
-
 /// Results, spoken when the work is done.
 constexpr char16_t kStored[] = u"登録しました";
 constexpr char16_t kDeleted[] = u"削除しました";
-constexpr char16_t kWesternDone[] = u"日付を西暦にしました";
-constexpr char16_t kEraDone[] = u"日付を和暦にしました";
 
-QString name(const char16_t* control) { return QString::fromUtf16(control); }
-
-/// A field whose caption the practice may change, and the setting that holds it.
-struct OwnCaption {
-  int slot;
-  const char16_t* control;
-};
-constexpr OwnCaption kOwnCaptions[] = {
-    {frame::slot::kCaptionText1, u"txtFields(29)"},     {frame::slot::kCaptionText2, u"txtFields(30)"},
-    {frame::slot::kCaptionText3, u"txtFields(31)"},     {frame::slot::kCaptionSymptom, u"txtFields(26)"},
-    {frame::slot::kCaptionTreatment, u"txtFields(27)"},
-};
+constexpr char16_t kStoreFirst[] =
+    u"記入後には、登録ボタンを押してからカルテへ移動してください。登録ボタンをおさないとカルテは開きません。";
+constexpr int kBackToPatients = 3;  ///< callerMark: the appointment screens come back here
 
 }  // namespace
 
@@ -45,34 +31,21 @@ PatientScreen::PatientScreen(screen::Services& services, frame::RunState& run)
     : Screen(kPatientDeclaration, services), m_run(run) {}
 
 void PatientScreen::onLoad() {
-  applyCaptions();
+  applyOwnCaptions(*this, m_run.settings);
   QStringList captions;
   for (const SearchColumn& row : searchColumns()) captions << row.caption.toString();
   setItems(u"Combo1"_s, captions);
   setText(u"Combo1"_s, u"氏名"_s);
   setItems(u"Combo3"_s, SearchHistory(m_run.programFolder).words());
-  if (!source().open(m_run.folders[frame::folder::kPatients], u"臨床QV"_s)) return;
+  if (!source().open(file(), u"臨床QV"_s)) return;
+  const text::Result<bool> older = store::needsGrowth(file(), store::GrowthRun::Patient);
+  m_asksGrowth = older && *older;
   // The patient who was on view when the screen was left comes back.
   if (m_run.patientOnView >= 0) source().rows().setBookmark(m_run.patientOnView);
   source().show();
 }
 
-void PatientScreen::applyCaptions() {
-  for (const OwnCaption& own : kOwnCaptions) {
-    const QString caption = m_run.settings[own.slot];
-    if (!caption.isEmpty()) setCaption(name(own.control), caption);
-  }
-}
-
-void PatientScreen::opened(const screen::Request& request) {
-  if (request.value(u"新規"_s).toBool()) return startNewPatient();
-  // A claim's カルテ3へ names its patient.
-  const QString serial = request.value(u"テキスト5"_s).toString();
-  if (!serial.isEmpty() && source().isOpen() && screen::settleRow(source()))
-    screen::findRow(*this, u"テキスト5 = '%1' "_s.arg(serial));
-}
-
-void PatientScreen::onActivate() { refreshAge(); }
+QString PatientScreen::file() const { return m_run.folders[frame::folder::kPatients]; }
 
 void PatientScreen::rowShown(int) {
   const bool open = source().isOpen();
@@ -115,24 +88,30 @@ void PatientScreen::askNewPatient() {
   const bool yes = messages().ask(u"　　　新しい患者を追加しますか？"_s);
   m_run.lastAnswer = yes ? 1 : 0;
   if (!yes) return;
-  messages().tell(
-      u"記入後には、登録ボタンを押してからカルテへ移動してください。登録ボタンをおさないとカルテは開きません。"_s);
+  messages().tell(name(kStoreFirst));
   startNewPatient();
 }
 
 void PatientScreen::startNewPatient() {
-  if (!source().isOpen() || !screen::settleRow(source())) return;
+  if (source().isOpen() && screen::settleRow(source())) addRow();
+}
+
+bool PatientScreen::addRow(const QString& patientName) {
   // Read again first: a patient whom another computer entered meanwhile must not get the same serial.
-  if (const text::Done read = source().rows().refresh(); !read)
-    return messages().tellDataFault(read.fault().message);
+  if (const text::Done read = source().rows().refresh(); !read) {
+    messages().tellDataFault(read.fault().message);
+    return false;
+  }
   QString last;
   if (source().rows().recordCount() > 0) {
     move(&screen::DataSource::moveLast);
     last = source().rows().value(u"テキスト5"_s);
   }
-  if (!source().addNew()) return;
+  if (!source().addNew()) return false;
   setText(name(kSerial), nextSerial(last, m_run.clock->today()));
+  if (!patientName.isEmpty()) setText(name(kName), patientName);
   focusOn(u"txtFields(1)"_s);
+  return true;
 }
 
 // The row just stored stays on view.
@@ -160,7 +139,7 @@ void PatientScreen::search() {
   if (word.isEmpty() || !source().isOpen() || !screen::settleRow(source())) return;
   const SearchHistory history(m_run.programFolder);
   // A history that cannot be written costs nothing: the search itself goes on.
-  (void)history.remember(word);
+  (void)history.remember(word, SearchHistory::kWholeListKept);
   setItems(u"Combo3"_s, history.words());
   setText(u"Combo3"_s, word);
   if (screen::findRow(*this, store::likeCriterion(columnOfCaption(text(u"Combo1"_s)), word)))
@@ -176,30 +155,25 @@ void PatientScreen::refreshAge() {
     setText(u"txtFields(7)"_s, QString::number(*age));
 }
 
-void PatientScreen::convertDates(QString (frame::EraDates::*conversion)(const QString&) const) {
-  const frame::EraDates dates = m_run.eraDates();
-  for (const char16_t* field : {kBirth, kFirstVisit}) {
-    const QString before = text(name(field));
-    if (before.isEmpty()) continue;
-    const QString after = (dates.*conversion)(before);
-    if (after != before) setText(name(field), after);
-  }
+void PatientScreen::convert(const DateConversion& conversion) {
+  convertDates(*this, m_run.eraDates(), conversion);
   refreshAge();
 }
 
 void PatientScreen::toSeireki() {
-  convertDates(&frame::EraDates::seireki);
-  say({name(kWesternDone), text(name(kBirth)), text(name(kFirstVisit))});
+  convert(kToSeireki);
+  sayDates(*this, kToSeireki);
 }
 
 void PatientScreen::toWareki() {
-  convertDates(&frame::EraDates::wareki);
-  say({name(kEraDone), text(name(kBirth)), text(name(kFirstVisit))});
+  convert(kToWareki);
+  sayDates(*this, kToWareki);
 }
 
 void PatientScreen::fillFirstVisit() {
   if (text(name(kFirstVisit)).isEmpty())
     setText(name(kFirstVisit), m_run.eraDates().formatEra(m_run.clock->today()));
+  copyToday();
   say({caption(name(kFirstVisit)), text(name(kFirstVisit))});
 }
 
@@ -233,22 +207,41 @@ void PatientScreen::leave() {
 
 // The close box converts the dates to era notation first, then leaves like the button.
 bool PatientScreen::onCloseBox() {
-  if (source().isOpen() && source().rows().recordCount() > 0) convertDates(&frame::EraDates::wareki);
+  if (source().isOpen() && source().rows().recordCount() > 0) convert(kToWareki);
   leave();
   return false;
 }
 
 // ---- Other rooms ----
 
+bool PatientScreen::readyForChart() {
+  if (!source().isOpen()) return false;
+  if (source().rows().adding()) {
+    messages().tell(name(kStoreFirst));
+    return false;
+  }
+  if (!source().write()) return false;
+  if (!text(name(kSerial)).isEmpty()) return true;
+  say({u"この患者には、カルテの番号（テキスト5）がありません"_s});
+  return false;
+}
+
 void PatientScreen::openChart1() {
-  const QString serial = text(name(kSerial));
-  if (!serial.isEmpty()) navigator().show(u"治療台帳2"_s, {{u"テキスト5"_s, serial}});
+  if (readyForChart())
+    navigator().show(u"治療台帳2"_s, {{u"テキスト5"_s, text(name(kSerial))}, {u"氏名"_s, text(name(kName))}});
 }
 
 void PatientScreen::openChart2() {
-  navigator().show(u"治療台帳3"_s, {{u"テキスト5"_s, text(name(kSerial))}});
+  if (readyForChart())
+    navigator().show(u"治療台帳3"_s, {{u"テキスト5"_s, text(name(kSerial))},
+                                      {u"氏名"_s, text(name(kName))},
+                                      {u"生年月日"_s, text(name(kBirth))},
+                                      {u"opener"_s, objectName()}});
 }
-void PatientScreen::openChart3() { navigator().show(u"GEDIT"_s, {{u"テキスト5"_s, text(name(kSerial))}}); }
+
+void PatientScreen::openChart3() {
+  if (readyForChart()) navigator().show(u"GEDIT"_s, {{u"テキスト5"_s, text(name(kSerial))}});
+}
 
 screen::Request PatientScreen::patientColumns() const {
   screen::Request request;
@@ -280,6 +273,15 @@ void PatientScreen::openClaims() {
 }
 
 void PatientScreen::openReceipt() { navigator().show(u"領収証選択"_s, patientColumns()); }
-void PatientScreen::openPatientAppointment() { navigator().show(u"予約2"_s, patientColumns()); }
+
+void PatientScreen::openBooking(const QString& screenName, const screen::Request& request) {
+  m_run.callerMark = kBackToPatients;
+  navigator().show(screenName, request);
+}
+
+void PatientScreen::openPatientAppointment() { openBooking(u"予約2"_s, patientColumns()); }
+void PatientScreen::openAppointment() { openBooking(u"予約2"_s); }
+void PatientScreen::openToday() { openBooking(u"今日の予約"_s); }
+void PatientScreen::openWeek() { openBooking(u"予約週間表"_s); }
 
 }  // namespace records

@@ -56,9 +56,12 @@ void SearchScreen::onLoad() {
   setText(u"Combo1"_s, QString());
 }
 
-void SearchScreen::opened(const Request&) {
+void SearchScreen::opened(const Request& request) {
   setItems(u"Combo1"_s, SearchHistory(m_run.programFolder).words());
-  focusOn(u"Frame1"_s);
+  if (!request.contains(u"氏名"_s)) return focusOn(u"Frame1"_s);
+  choose(u"Frame1"_s, u"氏名"_s);
+  setText(u"Combo1"_s, request[u"氏名"_s].toString());
+  focusOn(u"Combo1"_s);
 }
 
 Screen* SearchScreen::patients() {
@@ -89,7 +92,7 @@ void SearchScreen::search() {
     (void)SearchHistory(m_run.programFolder).remember(word);
     if (!settleRow(screen->source()) || !findRow(*screen, criteria(word))) return;
   }
-  navigator().show(u"治療台帳4"_s);
+  navigator().show(u"治療台帳4"_s, {{u"表示患者"_s, true}});
   navigator().unload(u"選択4"_s);
 }
 

@@ -6,6 +6,8 @@
 namespace records {
 
 /// The search dialog: the way from the main menu to a patient.
+///
+/// Request keys: "氏名" (a name to search for; Enter then finds it).
 class SearchScreen : public screen::Screen {
  public:
   SearchScreen(screen::Services& services, frame::RunState& run);

@@ -452,10 +452,18 @@ struct RoomCase {
 };
 class PatientRoomTest : public PatientScreenTest, public testing::WithParamInterface<RoomCase> {};
 
-TEST_P(PatientRoomTest, RoomThatIsNotThereYetIsToldByName) {
+TEST_P(PatientRoomTest, CommandOpensItsRoom) {
   addPatient({{u"テキスト5"_s, u"20240401001"_s}});
+  standIn(GetParam().room);
   patients().trigger(GetParam().command);
-  EXPECT_EQ(messages.texts(), QStringList{notYet(GetParam().room)}) << GetParam().command.toStdString();
+  EXPECT_TRUE(navigator.isShown(GetParam().room)) << GetParam().command.toStdString();
+  EXPECT_TRUE(messages.texts().isEmpty());
+}
+
+TEST_F(PatientScreenTest, RoomThatIsNotThereYetIsToldByName) {
+  addPatient({{u"テキスト5"_s, u"20240401001"_s}});
+  patients().trigger(u"Command5"_s);
+  EXPECT_EQ(messages.texts(), QStringList{notYet(u"GEDIT"_s)});
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -1,3 +1,4 @@
+#include "platform/text/sjis.h"
 #include "records/core/search_history.h"
 #include "records/tests/screens/records_fixture.h"
 
@@ -150,9 +151,43 @@ TEST_F(SearchScreenTest, FocusOpensOnTheChosenColumn) {
 TEST_F(SearchScreenTest, ListAndCancel) {
   screen::Screen& dialog = shown(u"選択4");
   dialog.trigger(u"Command4"_s);
-  EXPECT_EQ(lastMessage(), notYet(u"一覧表"_s));
+  EXPECT_TRUE(isShown(u"一覧表"));
+  EXPECT_TRUE(isShown(u"選択4"));
   dialog.trigger(u"Command2"_s);
   EXPECT_FALSE(isShown(u"選択4"));
+}
+
+TEST_F(SearchScreenTest, ANameHandedOverOnlyWaitsForEnter) {
+  addNamed({u"見本 一"_s, u"例示 二"_s});
+  screen::Screen& dialog = shown(u"選択4");
+  dialog.choose(u"Frame1"_s, u"患者ID"_s);
+  navigator.show(u"選択4"_s, {{u"氏名"_s, u"例示 二"_s}});
+  EXPECT_EQ(dialog.chosen(u"Frame1"_s), u"氏名"_s);
+  EXPECT_EQ(dialog.text(u"Combo1"_s), u"例示 二"_s);
+  EXPECT_EQ(dialog.focused(), u"Combo1"_s);
+  dialog.trigger(u"Command3"_s);
+  EXPECT_EQ(onView(), u"例示 二"_s);
+}
+
+TEST_F(SearchScreenTest, WhoWasFoundIsSaid) {
+  addNamed({u"見本 一"_s, u"例示 二"_s});
+  search(u"氏名"_s, u"例示"_s);
+  EXPECT_TRUE(channel.heardWhole().contains(u"ﾚｺｰﾄﾞ: 2"_s + QChar(254) + u"例示 二"_s));
+}
+
+TEST_F(SearchScreenTest, ElevenLinesAtMostAndAKnownWordKeepsItsPlace) {
+  addNamed({u"見本 一"_s});
+  QStringList lines;
+  for (int i = 1; i <= 11; ++i) lines << u"語%1"_s.arg(i);
+  QFile file(path(u"word.txt"_s));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(text::toSjisKeepingAll(lines.join(u"\r\n"_s)));
+  file.close();
+  EXPECT_EQ(shown(u"選択4").items(u"Combo1"_s), lines);
+  search(u"氏名"_s, u"語5"_s);
+  EXPECT_EQ(SearchHistory(folder.path()).words(), lines);
+  search(u"氏名"_s, u"見本"_s);
+  EXPECT_EQ(SearchHistory(folder.path()).words(), QStringList{u"見本"_s} + lines.mid(0, 9));
 }
 
 TEST_F(SearchScreenTest, MissingTableIsToldAndTheDialogStays) {
