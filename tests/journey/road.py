@@ -95,7 +95,7 @@ class Road:
         if node.role in ("check box", "radio button"):
             state = "" if node.role == "radio button" else "チェック有り" if node.has("checked") else "チェック無し"
             return said.endswith(state) and name.endswith(said[:len(said) - len(state)])
-        if node.role in ("table", "table cell", "combo box"):
+        if node.role in ("table", "table cell", "combo box", "page tab list"):
             return name in said or said in name or said == plain(self.OWN_WORDS.get(node.caption or "", "?"))
         return said == name or said == self.OWN_WORDS.get(node.name)
 
