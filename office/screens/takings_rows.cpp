@@ -1,7 +1,5 @@
 #include "office/screens/takings_rows.h"
 
-#include <array>
-
 #include "office/screens/takings_screen.h"
 #include "platform/screen/opens.h"
 
@@ -36,12 +34,12 @@ constexpr Row kRows[] = {
          .source = 1,
          .columns = kColumns,
          .onActivate = call<&TakingsScreen::openPatient>},
-    TextField{.name = {u"Text2"}, .caption = u"ETC1:", .bind = Column{u"ETC1"}, .readOnly = true},
     TextField{.name = {u"Label4"},
               .caption = u"治療総数:",
               .bind = Unbound{u"counts the rows on view"},
               .width = 8,
               .readOnly = true},
+    TextField{.name = {u"Text2"}, .caption = u"ETC1:", .bind = Column{u"ETC1"}, .readOnly = true},
 
     Group{.name = {u"FrameDay"}, .caption = u"日付", .columns = 4},
     Combo{.name = {u"Combo1"}, .caption = u"年:", .bind = Unbound{u"the day asked for"}, .width = 6},

@@ -126,13 +126,7 @@ void TakingsScreen::showTotals() {
   if (!source().isOpen() && !openWhole()) return;
   const auto totals = records::totalsOf(source().rows());
   if (!totals) return messages().tellDataFault(totals.fault().message);
-  navigator().show(u"集計総合金額"_s, {{u"opener"_s, objectName()},
-                                       {u"rows"_s, totals->rows},
-                                       {u"insurer"_s, totals->insurer},
-                                       {u"share"_s, totals->share},
-                                       {u"treatment"_s, totals->treatment},
-                                       {u"receipts"_s, totals->receipts},
-                                       {u"newPatients"_s, totals->newPatients}});
+  navigator().show(u"集計総合金額"_s, records::totalsRequest(*totals, objectName()));
 }
 
 // ---- The row ----

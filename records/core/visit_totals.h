@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QVariantMap>
+
 #include "platform/store/record_set.h"
 
 namespace records {
@@ -22,5 +24,8 @@ qint64 yenOf(QStringView amount);
 
 /// Adds up every row of a set of カルテ as the file holds it now. The current row stays.
 store::Result<VisitTotals> totalsOf(const store::RecordSet& visits);
+
+/// The sums as 集計総合金額 is handed them, with the name of the screen that opens it.
+QVariantMap totalsRequest(const VisitTotals& totals, const QString& opener);
 
 }  // namespace records

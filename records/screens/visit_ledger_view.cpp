@@ -68,14 +68,7 @@ void VisitLedgerScreen::showTotals() {
     return totalsOf(source().rows());
   }();
   if (!summed) return messages().tellDataFault(summed.fault().message);
-  const VisitTotals& totals = *summed;
-  navigator().show(u"集計総合金額"_s, {{u"opener"_s, u"治療台帳3"_s},
-                                       {u"rows"_s, totals.rows},
-                                       {u"insurer"_s, totals.insurer},
-                                       {u"share"_s, totals.share},
-                                       {u"treatment"_s, totals.treatment},
-                                       {u"receipts"_s, totals.receipts},
-                                       {u"newPatients"_s, totals.newPatients}});
+  navigator().show(u"集計総合金額"_s, totalsRequest(*summed, objectName()));
 }
 
 void VisitLedgerScreen::openDetail() {
