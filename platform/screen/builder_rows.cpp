@@ -72,8 +72,7 @@ void Builder::make(const TextRun& row) {
 
 void Builder::make(const Combo& row) {
   auto& combo = add(std::make_unique<ComboControl>(m_screen, row, host(), m_screen.voice()));
-  combo.onEdit(row.onEdit);
-  combo.onLeave(row.onLeave);
+  setHandlers(combo, row);
   combo.say(row.say);
   m_places.back()->addField(makeLabel(combo), combo.widget(), false);
   finish(combo, row.bind, row.tip);

@@ -170,6 +170,7 @@ struct Combo {
   const char16_t* tip = nullptr;
   Handler onEdit = nullptr;  ///< chosen or typed by the user
   Handler onLeave = nullptr;
+  Handler onEnter = nullptr;  ///< Enter or Return in the list
 };
 
 /// A tick. Bound to a yes/no column it stores -1/0, to a text column the two texts.

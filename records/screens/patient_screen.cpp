@@ -136,7 +136,11 @@ void PatientScreen::deletePatient() {
 
 void PatientScreen::search() {
   const QString word = text(u"Combo3"_s);
-  if (word.isEmpty() || !source().isOpen() || !screen::settleRow(source())) return;
+  if (word.isEmpty()) {
+    focusOn(u"Combo3"_s);
+    return voice().speakHeading({caption(u"Combo3"_s)});
+  }
+  if (!source().isOpen() || !screen::settleRow(source())) return;
   const SearchHistory history(m_run.programFolder);
   // A history that cannot be written costs nothing: the search itself goes on.
   (void)history.remember(word, SearchHistory::kWholeListKept);

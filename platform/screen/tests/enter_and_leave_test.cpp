@@ -20,6 +20,13 @@ TEST_F(EnterAndLeave, EnterRunsTheFieldsAction) {
   EXPECT_EQ(screen.focused(), "txtFields(4)");
 }
 
+TEST_F(EnterAndLeave, EnterRunsTheListsAction) {
+  screen.focusOn("Combo2");
+  probe.press(Qt::Key_Return);
+  EXPECT_EQ(screen.log, QStringList{"enter -1"});
+  EXPECT_EQ(screen.focused(), "Combo2");
+}
+
 TEST_F(EnterAndLeave, EnterGoesOnWhereTheFieldHasNoAction) {
   screen.focusOn("txtFields(5)");
   probe.press(Qt::Key_Enter, Qt::KeypadModifier);

@@ -266,11 +266,13 @@ TEST_F(PatientScreenTest, NoHitIsToldAndThePlaceRestored) {
   EXPECT_EQ(name(screen), u"見本 二郎"_s);
 }
 
-TEST_F(PatientScreenTest, BlankWordSearchesNothing) {
+TEST_F(PatientScreenTest, BlankWordSearchesNothingAndIsAskedFor) {
   addNamed({u"見本 一郎"_s, u"見本 二郎"_s});
   screen::Screen& screen = patients();
   screen.setText(u"Combo3"_s, u""_s);
   screen.trigger(u"Command1"_s);
+  EXPECT_EQ(screen.focused(), u"Combo3"_s);
+  EXPECT_EQ(channel.lastSaid(), u"検索文字:"_s);
   EXPECT_EQ(name(screen), u"見本 一郎"_s);
   EXPECT_TRUE(messages.texts().isEmpty());
 }
@@ -318,6 +320,16 @@ INSTANTIATE_TEST_SUITE_P(Rows, PatientAgeTest,
                          testing::Values(AgeCase{u"1950/6/15"_s, u"74"_s}, AgeCase{u"1950/7/20"_s, u"73"_s},
                                          AgeCase{u"昭和28年3月5日"_s, u"71"_s}, AgeCase{u""_s, u"7"_s},
                                          AgeCase{u"いつか"_s, u"7"_s}));
+
+TEST_F(PatientScreenTest, EnterInTheSearchWordSearches) {
+  addNamed({u"見本 一郎"_s, u"架空 二郎"_s});
+  screen::Screen& screen = patients();
+  screen.setText(u"Combo3"_s, u"架空"_s);
+  screen.focusOn(u"Combo3"_s);
+  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+  QCoreApplication::sendEvent(screen.focusWidget(), &enter);
+  EXPECT_EQ(name(screen), u"架空 二郎"_s);
+}
 
 TEST_F(PatientScreenTest, EnterInTheBirthDateComputesTheAge) {
   addNamed({u"見本"_s});
