@@ -31,9 +31,10 @@ void VisitLedgerScreen::toggleGrid() {
 
 void VisitLedgerScreen::gridToggled() {
   if (checked(kTick)) return openGrid();
+  const bool typed = claimPending();
   if (!leaveClaim()) return setChecked(kTick, true);  // told; what was typed stays
   hideGrid();
-  say({caption(kFrame), u"表示なし"_s});
+  say({caption(kFrame), typed ? u"登録しました"_s : u"表示なし"_s});
 }
 
 void VisitLedgerScreen::hideGrid() {
@@ -50,6 +51,7 @@ void VisitLedgerScreen::openGrid() {
   setShown(kFrame, true);
   if (!openClaims() || !putClaims()) return hideGrid();
   say({caption(kFrame), text(u"txtFields(114)"_s), text(u"txtFields(67)"_s)});
+  focusOn(code(0));
 }
 
 void VisitLedgerScreen::gridMonthEntered() {

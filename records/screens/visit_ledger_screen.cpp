@@ -10,6 +10,12 @@ namespace records {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+const QString kFirstVisit = u"カルテ2の新規"_s;
+
+}  // namespace
+
 VisitLedgerScreen::VisitLedgerScreen(screen::Services& services, frame::RunState& run,
                                      PreviousVisit& previous)
     : ListScreen(visitLedgerDeclaration(), services), m_run(run), m_previous(previous) {
@@ -31,6 +37,7 @@ void VisitLedgerScreen::opened(const screen::Request& request) {
   if (request.value(u"新規"_s).toBool()) return startVisit(m_name, m_birth, m_key);
   if (!request.contains(u"テキスト5"_s)) return;
   if (!settleVisit() || !leaveClaim()) return;  // told; the patient before stays with what was typed
+  navigator().unload(kFirstVisit);              // asked for the patient before
   const QString key = request.value(u"テキスト5"_s).toString();
   if (key != m_key) m_previous.clear();
   m_key = key;
@@ -56,7 +63,7 @@ void VisitLedgerScreen::onActivate() {
   if (m_claimId != 0 && !claimPending()) readClaimAgain();
 }
 
-void VisitLedgerScreen::offerFirstVisit() { navigator().show(u"カルテ2の新規"_s, {{u"氏名"_s, m_name}}); }
+void VisitLedgerScreen::offerFirstVisit() { navigator().show(kFirstVisit, {{u"氏名"_s, m_name}}); }
 
 QStringList VisitLedgerScreen::openingTexts() const {
   const QString name = m_name.isEmpty() && holdsRows() ? source().rows().value(u"氏名"_s) : m_name;
@@ -115,6 +122,7 @@ void VisitLedgerScreen::leave() {
     return;
   const QString before = navigator().loaded(u"治療台帳4"_s) ? u"治療台帳4"_s : u"選択3"_s;
   navigator().show(m_opener.isEmpty() ? before : m_opener);
+  navigator().unload(kFirstVisit);
   navigator().unload(u"治療台帳3"_s);
 }
 

@@ -1,6 +1,6 @@
 #include "platform/store/criteria_text.h"
+#include "platform/screen/hourglass.h"
 #include "records/core/visit_totals.h"
-#include "records/screens/hourglass.h"
 #include "records/screens/visit_ledger_screen.h"
 
 // What the list of visits shows, its sums, and the ways to other rooms.
@@ -64,7 +64,7 @@ void VisitLedgerScreen::showAll() {
 void VisitLedgerScreen::showTotals() {
   if (!settleVisit() || emptySet(noRowsText())) return;
   const auto summed = [this] {
-    const Hourglass summing;
+    const screen::Hourglass summing;
     return totalsOf(source().rows());
   }();
   if (!summed) return messages().tellDataFault(summed.fault().message);

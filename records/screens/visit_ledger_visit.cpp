@@ -1,6 +1,6 @@
 #include "platform/shell/desktop.h"
+#include "platform/screen/hourglass.h"
 #include "records/core/visit_dates.h"
-#include "records/screens/hourglass.h"
 #include "records/screens/visit_ledger_screen.h"
 
 // One visit: adding, storing with the date pass, copying of the previous visit, dates.
@@ -61,7 +61,7 @@ void VisitLedgerScreen::startVisit(const QString& name, const QString& birth, co
 bool VisitLedgerScreen::writeVisit() {
   if (noVisit() || !settleVisit()) return false;
   m_newRowPending = false;
-  const Hourglass passing;
+  const screen::Hourglass passing;
   if (const text::Done passed = passVisitDates(source().rows(), m_run.eraDates()); !passed)
     messages().tellDataFault(passed.fault().message);
   source().show();

@@ -1,5 +1,9 @@
 #include "records/tests/screens/visit_ledger_fixture.h"
 
+#include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <QtWidgets/QtWidgets>
 
 namespace records::test {
@@ -48,6 +52,18 @@ void VisitLedgerFixture::addOn(const QString& date, const QString& shadow, const
             {u"治療日時"_s, date},
             {u"治療日チェック"_s, shadow},
             {u"治療概略"_s, summary}});
+}
+
+void VisitLedgerFixture::elsewhere(const char* statement) const {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    sqlite3* other = nullptr;
+    sqlite3_open(QFile::encodeName(path(kVisitFile)).constData(), &other);
+    ::_exit(sqlite3_exec(other, statement, nullptr, nullptr, nullptr) == SQLITE_OK ? 0 : 3);
+  }
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
 }
 
 QStringList VisitLedgerFixture::visitsStored(const QString& column) const {

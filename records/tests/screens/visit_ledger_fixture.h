@@ -31,6 +31,8 @@ class VisitLedgerFixture : public RecordsFixture {
   void addVisit(const QHash<QString, QString>& columns, const QString& key = QStringLiteral("P1"));
   /// A visit of P1 on the era date.
   void addOn(const QString& date, const QString& shadow, const QString& summary = {});
+  /// What another computer does to the visits meanwhile: a process of its own.
+  void elsewhere(const char* statement) const;
   /// All values of a column of the visits as the file holds them.
   QStringList visitsStored(const QString& column) const;
   /// The column of the rows on view, top to bottom.
