@@ -1,0 +1,98 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <functional>
+#include <future>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "platform/text/result.h"
+
+namespace store {
+
+using text::Done;
+using text::Fault;
+using text::Result;
+
+/// Copies of whole files: taken of one moment, written beside the target, synced, read back and compared, and
+/// only then put in the target's place by a rename. Whoever reads the target finds the old copy or the new.
+
+enum class DiskStep { Create, Write, Sync, ReadBack, Link, Rename };
+
+/// Who looks on while files are copied.
+struct CopyWatch {
+  /// The bytes that came to stand in copies since the last call.
+  std::function<void(qint64 bytes)> copied;
+  /// Asked before each step on the disk; a number other than 0 is the errno that the step fails with. Tests
+  /// cut the power here, fill the disk, or take the target away.
+  std::function<int(DiskStep step, const QString& path)> before;
+};
+
+/// A file that stands still while it is copied.
+class HeldFile {
+ public:
+  /// A database file under a read lock: unfinished writes of a program that died are taken back first, other
+  /// programs may read on, and one that writes waits, or has us wait. A missing, empty, alien or torn file is
+  /// told by name. Two files that are written together stand at one moment while both are held; take them in
+  /// the order in which they are written.
+  static Result<std::unique_ptr<HeldFile>> database(const QString& path);
+  /// Any other file; whoever replaces it does so by a rename.
+  static Result<std::unique_ptr<HeldFile>> plain(const QString& path);
+  virtual ~HeldFile() = default;
+
+  const QString& path() const { return m_path; }
+  virtual qint64 size() const = 0;
+  /// Reads `count` bytes from the place `at`; the errno of the fault, 0: read.
+  virtual int read(qint64 at, char* to, qint64 count) const = 0;
+
+ protected:
+  explicit HeldFile(QString path) : m_path(std::move(path)) {}
+
+ private:
+  QString m_path;
+};
+
+struct CopyJob {
+  const HeldFile* source;
+  QString target;
+};
+
+/// Where a copy stands until it takes the target's place. One name serves for ever, so that copies that were
+/// cut off leave nothing that piles up.
+QString besideName(const QString& target);
+
+/// The sum of a copy, worked out on another core while the next file is copied; "" where it could not be read
+/// back.
+using PendingSum = std::shared_future<QByteArray>;
+
+/// Copies the files beside their targets, syncs them together, reads them back and compares them with their
+/// sources, which need not be held any longer then. A fault names its file; a copy that failed leaves
+/// nothing.
+std::vector<Result<PendingSum>> copyBeside(std::span<const CopyJob> jobs, const CopyWatch& watch = {});
+/// Waits for the sum of the copy beside the target; where there is none, the copy is taken away.
+Result<QByteArray> finishedSum(const QString& target, const Result<PendingSum>& copied);
+
+/// The copy beside takes the place of the target.
+Done putInPlace(const QString& target, const CopyWatch& watch = {});
+
+/// The target becomes the same file as the one that stands: by a second name where the folder knows such,
+/// else as a copy. The file that stands stays.
+Done pushOnto(const QString& standing, const QString& target, const CopyWatch& watch = {});
+/// Whether both names are names of one file.
+bool isSameFile(const QString& one, const QString& other);
+
+/// New names of a folder outlast a power cut from here on. Folders that know no sync go on without.
+void syncFolder(const QString& folder);
+/// The same for all that was written to the disk of the folder.
+void syncDisk(const QString& folder);
+
+/// The sum of a whole file, BLAKE2b of 512 bits in hexadecimal digits, as b2sum writes it.
+Result<QByteArray> sumOf(const QString& path);
+
+/// Looks through the trees of a database file that nobody has open: every page in its place, once. The values
+/// of the rows are not looked at, which makes it ten times as fast as the engine's own quick check.
+bool isSoundDatabase(const QString& path);
+
+}  // namespace store
