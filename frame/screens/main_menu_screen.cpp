@@ -3,7 +3,10 @@
 #include <QDir>
 #include <QFile>
 
+#include "frame/core/backup_folder.h"
+#include "frame/core/backup_generations.h"
 #include "frame/core/prefecture.h"
+#include "frame/screens/backup_progress.h"
 #include "frame/screens/main_menu_rows.h"
 #include "frame/screens/settings_writer.h"
 #include "platform/shell/desktop.h"
@@ -95,6 +98,14 @@ void MainMenuScreen::openReceipts() {
   navigator().show(u"領収証選択"_s, {{u"日付"_s, todayForReceipt()}});
 }
 
+void MainMenuScreen::openBookings() {
+  constexpr int kBackToMenu = 2;
+  m_run.callerMark = kBackToMenu;
+  navigator().show(u"今日の予約"_s, {{u"最終行"_s, true}});
+}
+
+void MainMenuScreen::openTakings() { navigator().show(u"集計"_s, {{u"最終行"_s, true}}); }
+
 QString MainMenuScreen::todayForReceipt() const {
   const EraDates dates = m_run.eraDates();
   const QDate today = m_run.clock->today();
@@ -104,7 +115,16 @@ QString MainMenuScreen::todayForReceipt() const {
   return dates.formatEra(today);
 }
 
-void MainMenuScreen::backUp() { navigator().show(u"データバックアップ"_s); }
+void MainMenuScreen::backUp() {
+  const QString folder = services().desktop->pickFolder(u"フォルダの選択"_s);
+  if (folder.isEmpty()) return;
+  if (const text::Done fit = checkBackupFolder(m_run, folder); !fit) return messages().tell(fit.fault().message);
+  const BackupReport report = [&] {
+    BackupProgress progress(voice(), backupSize(m_run));
+    return backUpToFolder(m_run, folder, progress.watch());
+  }();
+  messages().tell(report.whole() ? u"データのバックアップが終わりました。"_s : report.shortfall());
+}
 
 void MainMenuScreen::tellFault(const text::Done& done) {
   if (!done) messages().tell(done.fault().message);
@@ -133,15 +153,10 @@ void MainMenuScreen::openProductPage() { openPage(WebPage::Product); }
 void MainMenuScreen::openUpdatePage() { openPage(WebPage::Update); }
 void MainMenuScreen::openTroublePage() { openPage(WebPage::Trouble); }
 
-// Every tenth run ends with a copy of all data files.
-void MainMenuScreen::backUpGenerations() {
-  // The generation copies are made here; they come with the backup screens.
-}
-
 void MainMenuScreen::endProgram() {
   // A fault is told by then; ending goes on, and the file keeps the settings of the last run.
   (void)writeSettings(*this, m_run, SettingsWriter::ProgramEnd);
-  if (m_run.runCounter % 10 == 0) backUpGenerations();
+  if (endsWithBackup(m_run)) backUpGenerations(m_run);
   navigator().quit();
 }
 

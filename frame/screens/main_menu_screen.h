@@ -19,6 +19,8 @@ class MainMenuScreen : public screen::Screen {
   // Rooms that take a word with them.
   void openClaims();
   void openReceipts();
+  void openBookings();
+  void openTakings();
   void backUp();
 
   // Prefecture and association of the run.
@@ -41,7 +43,6 @@ class MainMenuScreen : public screen::Screen {
   void tellFault(const text::Done& done);
   void openBeside(const QString& fileName);
   void openPage(WebPage page);
-  void backUpGenerations();
   QString todayForReceipt() const;
   RunState& m_run;
   bool m_greets = false;  ///< this is the first load of the run

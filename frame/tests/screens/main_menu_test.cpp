@@ -131,9 +131,21 @@ INSTANTIATE_TEST_SUITE_P(Rows, MenuRoomTest,
                                          RoomCase{u"Command16"_s, u"sen_16"_s, u"登録3"_s},
                                          RoomCase{u"Command6"_s, u"sen_11"_s, u"用紙印刷"_s},
                                          RoomCase{u"Command9"_s, u"sen_12"_s, u"料金変更"_s},
-                                         RoomCase{u"Command13"_s, u"sen_14"_s, u"データバックアップ"_s},
                                          RoomCase{u""_s, u"Men_HTP"_s, u"topics"_s},
                                          RoomCase{u""_s, u"Men_HM"_s, u"frmAbout"_s}));
+
+TEST_F(MainMenuTest, BookingsComeBackToTheMenuAndShowTheLastRow) {
+  standIn(u"今日の予約"_s);
+  shown(u"選択3").trigger(u"Command5"_s);
+  EXPECT_EQ(run.callerMark, 2);
+  EXPECT_TRUE(requestOf(u"今日の予約"_s).value(u"最終行"_s).toBool());
+}
+
+TEST_F(MainMenuTest, TakingsShowTheLastVisit) {
+  standIn(u"集計"_s);
+  shown(u"選択3").trigger(u"Command10"_s);
+  EXPECT_TRUE(requestOf(u"集計"_s).value(u"最終行"_s).toBool());
+}
 
 TEST_F(MainMenuTest, ClaimsAndReceiptsSetTheScreenMode) {
   standIn(u"レセプト一覧表"_s);

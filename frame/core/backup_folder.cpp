@@ -1,0 +1,204 @@
+#include "frame/core/backup_folder.h"
+
+#include <unistd.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <cerrno>
+
+#include "frame/core/backup_files.h"
+#include "frame/core/backup_list.h"
+#include "platform/text/system_fault.h"
+
+namespace frame {
+namespace {
+
+QString picturesOf(const RunState& run) { return QDir::cleanPath(run.folders[folder::kPictures]); }
+QString lastPart(const QString& path) { return QFileInfo(path).fileName(); }
+QString nameInFolder(const BackupFile& file) { return lastPart(file.path); }
+
+/// Folders and files below the picture folder, by their paths within it.
+struct Pictures {
+  QStringList folders, files;
+};
+
+Pictures listPictures(const QString& root) {
+  Pictures found;
+  const QDir base(root);
+  QDirIterator place(root, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                     QDirIterator::Subdirectories | QDirIterator::FollowSymlinks);
+  while (place.hasNext()) {
+    place.next();
+    (place.fileInfo().isDir() ? found.folders : found.files) += base.relativeFilePath(place.filePath());
+  }
+  found.folders.sort();
+  found.files.sort();
+  return found;
+}
+
+class FolderBackup {
+ public:
+  FolderBackup(const RunState& run, QString folder, const store::CopyWatch& watch)
+      : m_run(run), m_folder(std::move(folder)), m_watch(watch), m_list(BackupList::read(m_folder)) {}
+
+  BackupReport run() {
+    std::vector<BackupGroup> groups = backupGroups(m_run);
+    for (BackupGroup& group : groups)
+      std::erase_if(group, [this](const BackupFile& file) { return !takesItsName(file); });
+    copyGroups(groups, m_folder, nameInFolder, m_watch, [this](const FreshCopies& copies) { place(copies); });
+    copyPictures();
+    m_list.keepStanding(m_folder);
+    writeList();
+    if (m_listFault) m_report.faults.push_back(*m_listFault);
+    store::syncDisk(m_folder);
+    return std::move(m_report);
+  }
+
+ private:
+  /// Whether the name is still free in the folder; the first file keeps it, another one of its name is told.
+  bool takesItsName(const BackupFile& file) {
+    const QString key = nameInFolder(file).toCaseFolded(), path = QDir::cleanPath(file.path);
+    const QString taken = m_taken.value(key);
+    if (taken.isEmpty()) m_taken.insert(key, path);
+    if (!taken.isEmpty() && taken != path)
+      m_report.faults.push_back(
+          {QStringLiteral("「%1」は、同じ名前の別のファイルがあるためコピーしていません。（%2）")
+               .arg(nameInFolder(file), file.path)});
+    return taken.isEmpty();
+  }
+
+  void place(const FreshCopies& copies) {
+    for (const FreshCopy& copy : copies) {
+      const auto sum = copy.sum();
+      const text::Done placed = sum ? store::putInPlace(copy.target, m_watch) : sum.fault();
+      if (!placed) {
+        m_report.faults.push_back(placed.fault());
+        continue;
+      }
+      m_list.put(nameInFolder(copy.file), *sum);
+      m_report.copied += nameInFolder(copy.file);
+    }
+    writeList();
+  }
+
+  void copyPictures() {
+    const QString root = picturesOf(m_run), name = lastPart(root);
+    if (!QFileInfo(root).isDir()) {
+      m_report.faults.push_back(text::systemFault(text::FileAction::Read, root, ENOENT));
+      return;
+    }
+    const Pictures pictures = listPictures(root);
+    for (const QString& folder : QStringList{QStringLiteral(".")} + pictures.folders) {
+      const QString source = root + u'/' + folder, target = m_folder + u'/' + name + u'/' + folder;
+      errno = 0;
+      if (!QFileInfo(source).isReadable())
+        m_report.pictureFaults.push_back(text::systemFault(text::FileAction::Read, source, EACCES));
+      else if (!QDir().mkpath(target))
+        m_report.pictureFaults.push_back(
+            text::systemFault(text::FileAction::Write, target, errno != 0 ? errno : EACCES));
+    }
+    constexpr qsizetype kTogether = 64;
+    for (qsizetype first = 0; first < pictures.files.size(); first += kTogether)
+      copyPictures(root, name, pictures.files.mid(first, kTogether));
+  }
+
+  void copyPictures(const QString& root, const QString& name, const QStringList& files) {
+    std::vector<std::unique_ptr<store::HeldFile>> held;
+    std::vector<store::CopyJob> jobs;
+    for (const QString& file : files) {
+      auto opened = store::HeldFile::plain(root + u'/' + file);
+      if (!opened) {
+        m_report.pictureFaults.push_back(opened.fault());
+        continue;
+      }
+      jobs.push_back({opened->get(), m_folder + u'/' + name + u'/' + file});
+      held.push_back(std::move(*opened));
+    }
+    const auto made = store::copyBeside(jobs, m_watch);
+    for (size_t job = 0; job < jobs.size(); ++job) {
+      const auto sum = store::finishedSum(jobs[job].target, made[job]);
+      const text::Done placed = sum ? store::putInPlace(jobs[job].target, m_watch) : sum.fault();
+      if (!placed) {
+        m_report.pictureFaults.push_back(placed.fault());
+        continue;
+      }
+      m_list.put(jobs[job].target.mid(m_folder.size() + 1), *sum);
+      ++m_report.pictures;
+    }
+    writeList();
+  }
+
+  /// After each group, so that the list fits wherever the backup is cut off. A fault is told once.
+  void writeList() {
+    const text::Done written = m_list.write(m_folder);
+    m_listFault = written ? std::nullopt : std::optional(written.fault());
+  }
+
+  const RunState& m_run;
+  QString m_folder;
+  const store::CopyWatch& m_watch;
+  BackupList m_list;
+  std::optional<text::Fault> m_listFault;
+  QHash<QString, QString> m_taken;  ///< paths of the files by their names in the folder
+  BackupReport m_report;
+};
+
+bool liesIn(const QString& folder, const QString& root) {
+  return !root.isEmpty() && (folder == root || folder.startsWith(root + u'/'));
+}
+
+}  // namespace
+
+text::Done checkBackupFolder(const RunState& run, const QString& folder) {
+  if (::access(QFile::encodeName(folder).constData(), W_OK | X_OK) != 0)
+    return text::systemFault(text::FileAction::Write, folder, errno);
+  const auto real = [](const QString& path) { return QFileInfo(path).canonicalFilePath(); };
+  const auto refuse = [&](const char16_t* why) {
+    return text::Fault{QStringLiteral("「%1」は、%2ほかのフォルダを選択して下さい。（%3）")
+                           .arg(lastPart(folder), QString::fromUtf16(why), folder)};
+  };
+  const QString target = real(folder), pictures = real(picturesOf(run));
+  if (liesIn(target, pictures)) return refuse(u"人体図のフォルダの中にあります。");
+  if (liesIn(target, real(run.programFolder + QStringLiteral("/backup"))))
+    return refuse(u"治療台帳が自動でバックアップするフォルダです。");
+  if (!pictures.isEmpty() && target == real(QFileInfo(picturesOf(run)).path()))
+    return refuse(u"元のデータのあるフォルダです。");
+  for (const BackupGroup& group : backupGroups(run))
+    for (const BackupFile& file : group)
+      if (target == real(QFileInfo(file.path).path())) return refuse(u"元のデータのあるフォルダです。");
+  return {};
+}
+
+qint64 backupSize(const RunState& run) {
+  qint64 bytes = 0;
+  for (const BackupGroup& group : backupGroups(run))
+    for (const BackupFile& file : group) bytes += QFileInfo(file.path).size();
+  const QString root = picturesOf(run);
+  for (const QString& file : listPictures(root).files) bytes += QFileInfo(root + u'/' + file).size();
+  return bytes;
+}
+
+BackupReport backUpToFolder(const RunState& run, const QString& folder, const store::CopyWatch& watch) {
+  return FolderBackup(run, QDir::cleanPath(folder), watch).run();
+}
+
+QString BackupReport::shortfall() const {
+  constexpr size_t kPicturesTold = 5;
+  QStringList lines = {QStringLiteral("データのバックアップは、全部は出来ませんでした。"),
+                       QStringLiteral("コピーできなかったもの:")};
+  for (const text::Fault& fault : faults) lines += fault.message;
+  for (size_t i = 0; i < std::min(pictureFaults.size(), kPicturesTold); ++i)
+    lines += pictureFaults[i].message;
+  if (pictureFaults.size() > kPicturesTold)
+    lines += QStringLiteral("ほかに人体図のファイル %1個。").arg(pictureFaults.size() - kPicturesTold);
+  QStringList names = copied;
+  if (pictures > 0) names += QStringLiteral("人体図のファイル %1個").arg(pictures);
+  lines += QStringLiteral("コピーしたもの:");
+  lines += names.isEmpty() ? QStringLiteral("ありません。") : names.join(u'、');
+  return lines.join(u'\n');
+}
+
+}  // namespace frame

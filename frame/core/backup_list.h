@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+#include <QSet>
+#include <QString>
+
+#include "platform/text/result.h"
+
+namespace frame {
+
+/// The list of sums that lies beside the copies, in the form that `b2sum -c b2sums.txt` checks: one line a
+/// file, the sum, two blanks, the name within the folder. A comment line (#) of the same form tells a sum
+/// that is about to come.
+class BackupList {
+ public:
+  static QString pathIn(const QString& folder);
+
+  /// The list of a folder, empty where there is none.
+  static BackupList read(const QString& folder);
+  text::Done write(const QString& folder) const;
+
+  /// "" where the name is not listed.
+  QByteArray sumOf(const QString& name) const { return m_sums.value(name); }
+  void put(const QString& name, const QByteArray& sum) { m_sums.insert(name, sum); }
+  /// Tells the sum that the name is about to have.
+  void announce(const QString& name, const QByteArray& sum) { m_coming.insert(name, sum); }
+  void forgetAnnounced() { m_coming.clear(); }
+  /// All sums, standing or about to come, that are listed for any of the names.
+  QSet<QByteArray> sumsOfAny(const QStringList& names) const;
+  /// Takes out the names that no longer stand in the folder.
+  void keepStanding(const QString& folder);
+
+ private:
+  QMap<QString, QByteArray> m_sums, m_coming;
+};
+
+}  // namespace frame

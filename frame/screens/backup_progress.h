@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+
+#include "platform/store/file_copy.h"
+#include "platform/voice/voice_guide.h"
+
+namespace frame {
+
+/// While it stands, a long copy is heard: its start, and how far it is from time to time. The windows keep
+/// painting themselves, but keys, the pointer and close boxes do nothing, so that nothing is pressed twice
+/// for want of an answer.
+class BackupProgress : public QObject {
+ public:
+  BackupProgress(voice::VoiceGuide& voice, qint64 bytes);
+  ~BackupProgress() override;
+
+  store::CopyWatch watch();
+  bool eventFilter(QObject* target, QEvent* event) override;
+
+ private:
+  void copied(qint64 bytes);
+  voice::VoiceGuide& m_voice;
+  const qint64 m_all;
+  qint64 m_done = 0;
+  QElapsedTimer m_sinceSaid, m_sincePainted;
+};
+
+}  // namespace frame
