@@ -87,12 +87,9 @@ void Chart1Screen::updateAfterWarning() {
 
 void Chart1Screen::store() {
   if (!source().isOpen() || !source().write()) return;
-  // The master shows the same patient: its next store must not meet a row that changed behind its back.
+  // The master stands on the same table: it shows what is stored now, unless something is being typed there.
   Screen* master = navigator().loaded(kMaster);
-  if (master && master->source().isOpen() && !master->source().pending()) {
-    (void)master->source().rows().refresh();
-    master->source().show();
-  }
+  if (master && master->source().isOpen() && !master->source().pending()) master->source().show();
   voice().speakText(u"更新しました"_s + voice::kSpeechSeparator + text(kName));
 }
 

@@ -140,7 +140,7 @@ TEST_F(Chart1Test, ARowThatChangedMeanwhileIsRefusedAndTheTextStays) {
   EXPECT_EQ(screen.text(u"txtFields(27)"_s), u"灸"_s);
 }
 
-// Both windows stand on one row: the master must be able to store after the chart did.
+// Both windows stand on one row, and each can store after the other.
 TEST_F(Chart1Test, TheMasterShowsWhatTheChartStored) {
   screen::Screen& master = shown(u"治療台帳4");
   master.goLast();
