@@ -1,5 +1,5 @@
-#include "platform/store/criteria_text.h"
 #include "platform/screen/hourglass.h"
+#include "platform/store/criteria_text.h"
 #include "records/core/visit_totals.h"
 #include "records/screens/visit_ledger_screen.h"
 

@@ -3,7 +3,7 @@
 #include <QCursor>
 #include <QGuiApplication>
 
-namespace records {
+namespace screen {
 
 /// The hourglass over the program while a pass over many rows runs.
 class Hourglass {
@@ -14,4 +14,4 @@ class Hourglass {
   Hourglass& operator=(const Hourglass&) = delete;
 };
 
-}  // namespace records
+}  // namespace screen
