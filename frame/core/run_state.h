@@ -40,6 +40,7 @@ struct RunState {
   int callerMark = 0;             ///< where the appointment screens go back to: 2 選択3, 3 治療台帳4
   DayAsked dayAsked;              ///< the last day asked for in the appointment book
   int calendarMode = 1;           ///< 1: 予約カレンダー serves the appointment book, else the takings
+  QString platformValue;          ///< of the settings: "Xp" hides the calendar; nothing sets it here
   bool menuLoadedBefore = false;  ///< the main menu speaks its greeting on the first load only
   bool itemsOnlyNoteSilenced = false;  ///< 項目のみ印刷の注意事項 stays closed for this run
   const text::Clock* clock = nullptr;

@@ -66,12 +66,10 @@ void CalendarControl::makeSheet() {
   for (QWidget* part : parts) part->setFocusPolicy(Qt::NoFocus);
   m_sheet->setFocusPolicy(Qt::NoFocus);
   m_sheet->setAccessibleName(QStringLiteral("月の暦"));
-  constexpr std::pair<const char*, const char16_t*> kNames[] = {{"qt_calendar_prevmonth", u"前の月"},
-                                                                {"qt_calendar_nextmonth", u"次の月"},
-                                                                {"qt_calendar_monthbutton", u"月の選択"},
-                                                                {"qt_calendar_yearbutton", u"年の選択"},
-                                                                {"qt_calendar_yearedit", u"年"},
-                                                                {"qt_calendar_calendarview", u"月の暦"}};
+  constexpr std::pair<const char*, const char16_t*> kNames[] = {
+      {"qt_calendar_prevmonth", u"前の月"},     {"qt_calendar_nextmonth", u"次の月"},
+      {"qt_calendar_monthbutton", u"月の選択"}, {"qt_calendar_yearbutton", u"年の選択"},
+      {"qt_calendar_yearedit", u"年"},          {"qt_calendar_calendarview", u"月の暦"}};
   for (const auto& [part, name] : kNames)
     if (auto* widget = m_sheet->findChild<QWidget*>(QLatin1String(part)))
       widget->setAccessibleName(QString::fromUtf16(name));

@@ -54,7 +54,8 @@ TEST_F(BookingBook, ADayIsYearMonthAndDayExactly) {
 TEST_F(BookingBook, TimesAreSortedAsTexts) {
   for (const QString& time : {u"9 時 0 分"_s, u"10 時 0 分"_s, u"14 時 30 分"_s, u"8 時 0 分"_s})
     book(u"2024"_s, u"6"_s, u"15"_s, time);
-  EXPECT_EQ(timesOf({2024, 6, 15}), QStringList({u"10 時 0 分"_s, u"14 時 30 分"_s, u"8 時 0 分"_s, u"9 時 0 分"_s}));
+  EXPECT_EQ(timesOf({2024, 6, 15}),
+            QStringList({u"10 時 0 分"_s, u"14 時 30 分"_s, u"8 時 0 分"_s, u"9 時 0 分"_s}));
 }
 
 TEST_F(BookingBook, AnImpossibleDayIsFoundAsItWasBooked) {
@@ -104,7 +105,8 @@ TEST_F(BookingBook, AMissingFileIsAFaultByName) {
   ASSERT_TRUE(QFile::remove(patients));
   const auto missing = nextBookingSerial(patients, bookings, today);
   ASSERT_FALSE(missing.ok());
-  EXPECT_TRUE(missing.fault().message.contains(u"臨床QV2000N.mdb"_s)) << missing.fault().message.toStdString();
+  EXPECT_TRUE(missing.fault().message.contains(u"臨床QV2000N.mdb"_s))
+      << missing.fault().message.toStdString();
 }
 
 }  // namespace

@@ -20,16 +20,13 @@ class Rolling : public testing::TestWithParam<RollCase> {};
 
 TEST_P(Rolling, TheDateFunctionNormalises) { EXPECT_EQ(rolled(GetParam().day), GetParam().date); }
 
-INSTANTIATE_TEST_SUITE_P(Days, Rolling,
-                         testing::Values(RollCase{{2024, 6, 15}, {2024, 6, 15}},
-                                         RollCase{{2024, 2, 31}, {2024, 3, 2}},
-                                         RollCase{{2023, 2, 31}, {2023, 3, 3}},
-                                         RollCase{{2024, 4, 31}, {2024, 5, 1}},
-                                         RollCase{{2024, 12, 32}, {2025, 1, 1}},
-                                         RollCase{{2024, 3, 0}, {2024, 2, 29}},
-                                         RollCase{{2024, 1, 0}, {2023, 12, 31}},
-                                         RollCase{{2024, 13, 1}, {2025, 1, 1}},
-                                         RollCase{{2024, 0, 1}, {2023, 12, 1}}));
+INSTANTIATE_TEST_SUITE_P(
+    Days, Rolling,
+    testing::Values(RollCase{{2024, 6, 15}, {2024, 6, 15}}, RollCase{{2024, 2, 31}, {2024, 3, 2}},
+                    RollCase{{2023, 2, 31}, {2023, 3, 3}}, RollCase{{2024, 4, 31}, {2024, 5, 1}},
+                    RollCase{{2024, 12, 32}, {2025, 1, 1}}, RollCase{{2024, 3, 0}, {2024, 2, 29}},
+                    RollCase{{2024, 1, 0}, {2023, 12, 31}}, RollCase{{2024, 13, 1}, {2025, 1, 1}},
+                    RollCase{{2024, 0, 1}, {2023, 12, 1}}));
 
 TEST(RollingRange, LiesInTheYearsOfTheDateFunction) {
   EXPECT_FALSE(rolled({99, 1, 1}));
@@ -69,10 +66,8 @@ TEST(Stamp, HasNoLeadingZeros) {
 
 TEST(Stamp, IsRewrittenFromWhatWasTyped) {
   const std::pair<QString, QString> cases[] = {
-      {u"2024/6/5 9:05"_s, u"令和6年6月5日 9:5"_s},
-      {u"令和6年6月5日 9:5"_s, u"令和6年6月5日 9:5"_s},
-      {u"R6/6/5 14:30"_s, u"令和6年6月5日 14:30"_s},
-      {u"令和6年6月5日14時30分"_s, u"令和6年6月5日 14:30"_s},
+      {u"2024/6/5 9:05"_s, u"令和6年6月5日 9:5"_s},  {u"令和6年6月5日 9:5"_s, u"令和6年6月5日 9:5"_s},
+      {u"R6/6/5 14:30"_s, u"令和6年6月5日 14:30"_s}, {u"令和6年6月5日14時30分"_s, u"令和6年6月5日 14:30"_s},
       {u"2024/6/5"_s, u"令和6年6月5日 0:0"_s},
   };
   for (const auto& [typed, stamp] : cases)
@@ -124,8 +119,8 @@ INSTANTIATE_TEST_SUITE_P(
                     TimeCase{u"23:59", 23, 59}, TimeCase{u"　10：00　", 10, 0}));
 
 TEST(TypedTimeRefused, WhereItIsNoTime) {
-  for (const char16_t* typed : {u"", u"9", u"930", u"24:00", u"9:60", u"25時", u"午後13時", u"朝", u"9:30ごろ",
-                                u"9時30", u"9::30", u"AM 9:00 PM", u"2024/6/15", u"9:30:60"})
+  for (const char16_t* typed : {u"", u"9", u"930", u"24:00", u"9:60", u"25時", u"午後13時", u"朝",
+                                u"9:30ごろ", u"9時30", u"9::30", u"AM 9:00 PM", u"2024/6/15", u"9:30:60"})
     EXPECT_FALSE(typedTime(QString::fromUtf16(typed))) << QString::fromUtf16(typed).toStdString();
 }
 

@@ -56,17 +56,16 @@ TEST_P(DateCursorKeys, MoveTheDayAndSayIt) {
   EXPECT_EQ(desk.spy.heardWhole(), QStringList(GetParam().to.toString(Qt::ISODate)));
   EXPECT_EQ(screen.focused(), "Calendar1");
 }
-INSTANTIATE_TEST_SUITE_P(
-    Keys, DateCursorKeys,
-    ::testing::Values(KeyCase{Qt::Key_Right, {2024, 2, 28}, {2024, 2, 29}},
-                      KeyCase{Qt::Key_Right, {2024, 12, 31}, {2025, 1, 1}},
-                      KeyCase{Qt::Key_Left, {2024, 3, 1}, {2024, 2, 29}},
-                      KeyCase{Qt::Key_Down, {2024, 2, 28}, {2024, 3, 6}},
-                      KeyCase{Qt::Key_Up, {2024, 1, 3}, {2023, 12, 27}},
-                      KeyCase{Qt::Key_PageDown, {2024, 1, 31}, {2024, 2, 29}},
-                      KeyCase{Qt::Key_PageUp, {2024, 3, 31}, {2024, 2, 29}},
-                      KeyCase{Qt::Key_Home, {2024, 2, 28}, {2024, 2, 1}},
-                      KeyCase{Qt::Key_End, {2024, 2, 1}, {2024, 2, 29}}));
+INSTANTIATE_TEST_SUITE_P(Keys, DateCursorKeys,
+                         ::testing::Values(KeyCase{Qt::Key_Right, {2024, 2, 28}, {2024, 2, 29}},
+                                           KeyCase{Qt::Key_Right, {2024, 12, 31}, {2025, 1, 1}},
+                                           KeyCase{Qt::Key_Left, {2024, 3, 1}, {2024, 2, 29}},
+                                           KeyCase{Qt::Key_Down, {2024, 2, 28}, {2024, 3, 6}},
+                                           KeyCase{Qt::Key_Up, {2024, 1, 3}, {2023, 12, 27}},
+                                           KeyCase{Qt::Key_PageDown, {2024, 1, 31}, {2024, 2, 29}},
+                                           KeyCase{Qt::Key_PageUp, {2024, 3, 31}, {2024, 2, 29}},
+                                           KeyCase{Qt::Key_Home, {2024, 2, 28}, {2024, 2, 1}},
+                                           KeyCase{Qt::Key_End, {2024, 2, 1}, {2024, 2, 29}}));
 
 TEST_F(DateCursor, EnterSaysTheDayAndStays) {
   probe.press(Qt::Key_Return);

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <array>
+
+#include "platform/screen/rows.h"
+
+namespace office {
+
+// What the screens of the appointment book are declared with.
+
+/// A list of years, as texts.
+template <int First, int Last>
+struct Years {
+  static constexpr int kDigits = 4;
+  char16_t text[Last - First + 1][kDigits + 1] = {};
+  std::array<const char16_t*, Last - First + 1> items = {};
+  constexpr Years() {
+    for (int year = First; year <= Last; ++year) {
+      char16_t* digits = text[year - First];
+      for (int place = kDigits - 1, rest = year; place >= 0; --place, rest /= 10)
+        digits[place] = static_cast<char16_t>(u'0' + rest % 10);
+      items[static_cast<std::size_t>(year - First)] = digits;
+    }
+  }
+  Years(const Years&) = delete;
+};
+
+/// Kept: the book lists the years 2000 to 2020, its list of bookings 2015 to 2035. Any other year is typed.
+inline constexpr Years<2000, 2020> kBookYears;
+inline constexpr Years<2015, 2035> kListYears;
+
+inline constexpr const char16_t* kMonths[] = {u"1", u"2", u"3", u"4",  u"5",  u"6",
+                                              u"7", u"8", u"9", u"10", u"11", u"12"};
+inline constexpr const char16_t* kDays[] = {u"1",  u"2",  u"3",  u"4",  u"5",  u"6",  u"7",  u"8",
+                                            u"9",  u"10", u"11", u"12", u"13", u"14", u"15", u"16",
+                                            u"17", u"18", u"19", u"20", u"21", u"22", u"23", u"24",
+                                            u"25", u"26", u"27", u"28", u"29", u"30", u"31"};
+
+/// A list for a part of a date; every text may be typed as well.
+consteval screen::Combo dateList(const char16_t* name, const char16_t* caption, screen::Binding bind,
+                                 std::span<const char16_t* const> items) {
+  return screen::Combo{
+      .name = {name}, .caption = caption, .bind = bind, .items = items, .editable = true, .width = 5};
+}
+
+/// A booking as the lists show it: what a listener wants first stands first.
+inline constexpr screen::GridColumn kBookingColumns[] = {
+    {u"予約時間", u"予約時間"}, {u"予約患者", u"予約患者"}, {u"予約年", u"予約年"}, {u"予約月", u"予約月"},
+    {u"予約日", u"予約日"},     {u"予約曜日", u"予約曜日"}, {u"患者NO", u"患者NO"}, {u"予約NO", u"予約NO"},
+    {u"メモ1", u"メモ1"},       {u"登録日時", u"登録日時"}};
+
+inline constexpr char16_t kHandOverTip[] = u"選択した会員を会員名簿の検索欄に代入します。";
+
+}  // namespace office

@@ -1,0 +1,76 @@
+#include "office/screens/booking_rows.h"
+#include "office/screens/booking_screen.h"
+
+namespace office {
+namespace {
+
+using namespace screen;
+
+constexpr int kNameLimit = 50;
+constexpr const char16_t* kWeekdays[] = {u"月曜日", u"火曜日", u"水曜日", u"木曜日",
+                                         u"金曜日", u"土曜日", u"日曜日"};
+
+consteval TextField field(int index, const char16_t* caption, const char16_t* column, int width) {
+  return TextField{.name = {u"txtFields", index}, .caption = caption, .bind = Column{column}, .width = width};
+}
+
+consteval TextField hidden(const char16_t* name, const char16_t* caption, const char16_t* column) {
+  return TextField{.name = {name}, .caption = caption, .bind = Column{column}, .readOnly = true};
+}
+
+consteval TextField patientName() {
+  TextField row = field(2, u"予約患者:", u"予約患者", 24);
+  row.limit = kNameLimit;
+  return row;
+}
+
+consteval TextField memo() {
+  TextField row = field(8, u"メモ1:", u"メモ1", 40);
+  row.lines = 3;
+  return row;
+}
+
+// The lists of year, month and day hold the columns themselves, typed digits too.
+constexpr Row kRows[] = {
+    Group{.name = {u"Frame1"}, .caption = u"患者", .columns = 3},
+    field(0, u"予約NO:", u"予約NO", 10),
+    field(1, u"患者ID:", u"患者NO", 10),
+    patientName(),
+    EndGroup{},
+    Group{.name = {u"Frame2"}, .caption = u"予約の日時", .columns = 4},
+    dateList(u"Combo1", u"予約年:", Column{u"予約年"}, kBookYears.items),
+    dateList(u"Combo2", u"予約月:", Column{u"予約月"}, kMonths),
+    dateList(u"Combo3", u"予約日:", Column{u"予約日"}, kDays),
+    Combo{.name = {u"Combo4"},
+          .caption = u"予約曜日:",
+          .bind = Column{u"予約曜日"},
+          .items = kWeekdays,
+          .width = 6},
+    field(6, u"予約時間:", u"予約時間", 14),
+    field(7, u"登録日時:", u"登録日時", 22),
+    EndGroup{},
+    memo(),
+    hidden(u"Text1", u"ID:", u"ID"),
+    hidden(u"Text2", u"日時1:", u"日時1"),
+    hidden(u"Text3", u"テキスト1:", u"テキスト1"),
+    Bar{},
+    Command{.name = {u"Command1"}, .caption = u"今日の日付", .run = run<&BookingScreen::fillToday>},
+    Command{.name = {u"Command2"}, .caption = u"今の時間", .run = run<&BookingScreen::fillNow>},
+    Command{.name = {u"Command3"}, .caption = u"時刻変換", .run = run<&BookingScreen::rewriteTimes>},
+    Command{.name = {u"Command4"}, .caption = u"曜日の表示", .run = run<&BookingScreen::showWeekday>},
+    Command{.name = {u"Command5"}, .caption = u"一覧へ", .run = run<&BookingScreen::openList>},
+    EndBar{},
+    Bar{},
+    Command{.name = {u"cmdAdd"}, .caption = u"新規追加", .run = run<&BookingScreen::addBooking>},
+    Command{.name = {u"cmdUpdate"}, .caption = u"登録", .run = run<&BookingScreen::storeBooking>},
+    Command{.name = {u"cmdDelete"}, .caption = u"中止", .run = run<&BookingScreen::deleteBooking>},
+    Command{.name = {u"cmdClose"}, .caption = u"閉じる", .run = run<&BookingScreen::finish>},
+    EndBar{},
+};
+
+}  // namespace
+
+constinit const ScreenRow kBooking{
+    .name = u"予約2", .caption = u"予約", .rows = kRows, .sources = 1, .functionKeys = true};
+
+}  // namespace office

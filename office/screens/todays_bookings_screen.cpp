@@ -1,0 +1,146 @@
+#include "office/screens/todays_bookings_screen.h"
+
+#include "office/core/booking_date.h"
+#include "platform/screen/find_row.h"
+#include "platform/store/criteria_text.h"
+
+namespace office {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Of the settings' platform value: where the calendar ends the program.
+constexpr QStringView kCalendarFails = u"Xp";
+
+}  // namespace
+
+TodaysBookingsScreen::TodaysBookingsScreen(screen::Services& services, frame::RunState& run)
+    : BookingList(kTodaysBookings, services, run) {}
+
+void TodaysBookingsScreen::onLoad() {
+  setText(u"Combo4"_s, items(u"Combo4"_s).value(0));
+  openWhole();
+}
+
+void TodaysBookingsScreen::opened(const screen::Request& request) {
+  const bool calendar = m_run.platformValue != kCalendarFails;
+  setShown(u"Command4"_s, calendar);
+  setShown(u"Men_YC"_s, calendar);
+  if (std::exchange(m_loaded, true)) readAgain();
+  fillLists();
+  if (request.value(u"最終行"_s).toBool() && holdsRows()) source().moveLast();
+  if (request.value(u"指定日"_s).toBool()) whenActive([this] { showDayAsked(); });
+}
+
+void TodaysBookingsScreen::readAgain() {
+  if (!source().isOpen()) return;
+  if (const text::Done read = source().rows().refresh(); !read)
+    return messages().tellDataFault(read.fault().message);
+  source().show();
+}
+
+bool TodaysBookingsScreen::openWhole() {
+  m_narrowed = false;
+  return BookingList::openWhole();
+}
+
+void TodaysBookingsScreen::setChanged() {
+  m_narrowed = true;
+  sayRows({});
+}
+
+void TodaysBookingsScreen::rowShown(int) {
+  setCaption(u"Data1"_s, source().isOpen() ? source().positionText() : u"ﾚｺｰﾄﾞ: "_s);
+}
+
+// ---- A chosen day
+
+// The day asked for last, on this screen or on a date picker; today where none was.
+void TodaysBookingsScreen::fillLists() {
+  if (m_run.dayAsked.year == 0) m_run.dayAsked = numbersOf(m_run.clock->today());
+  setText(u"Combo1"_s, QString::number(m_run.dayAsked.year));
+  setText(u"Combo2"_s, QString::number(m_run.dayAsked.month));
+  setText(u"Combo3"_s, QString::number(m_run.dayAsked.day));
+}
+
+std::optional<QDate> TodaysBookingsScreen::readLists() {
+  const auto day = dayTyped(text(u"Combo1"_s), text(u"Combo2"_s), text(u"Combo3"_s));
+  const auto date = day ? rolled(*day) : std::nullopt;
+  if (!date) {
+    messages().tell(kNoDateText.toString());
+    return std::nullopt;
+  }
+  m_run.dayAsked = *day;
+  setText(u"Text1"_s, weekday(*date));
+  return date;
+}
+
+void TodaysBookingsScreen::showChosenDay() {
+  if (readLists()) showDayAsked();
+}
+
+void TodaysBookingsScreen::showDayAsked() {
+  const auto date = readLists();
+  if (!date) return;
+  auto hits = bookingsOfDay(m_run.dayAsked);
+  if (!hits) return;
+  if (hits->recordCount() == 0) {
+    screen::tellNotFound(*this);
+    // A day is sought among the rows on view: whoever hears "no match" has to know that.
+    if (m_narrowed) sayWithCount({u"絞り込んだ予約の中から探しました"_s});
+    return;
+  }
+  source().assign(std::move(*hits));
+  m_narrowed = true;
+  sayRows({dayText(m_run.eraDates(), *date)});
+}
+
+void TodaysBookingsScreen::showWeekday() {
+  if (const auto date = readLists()) voice().speakHeading({dayText(m_run.eraDates(), *date)});
+}
+
+// ---- The list
+
+void TodaysBookingsScreen::extract() {
+  const QString word = text(u"txtFields(0)"_s);
+  if (!word.isEmpty()) narrowBy(store::likeCriterion(text(u"Combo4"_s), word));
+}
+
+void TodaysBookingsScreen::showAll() {
+  if (!openWhole()) return;
+  source().rows().moveLast();
+  source().moveFirst();
+  sayRows({u"全表示"_s});
+}
+
+void TodaysBookingsScreen::removeBooking() {
+  const bool yes = messages().ask(u"　現在の該当患者を削除しますか？"_s);
+  m_run.lastAnswer = yes ? 1 : 0;
+  if (!yes) return;
+  if (!holdsRows()) return messages().tell(u"削除するデータがありません。"_s);
+  if (!source().remove()) return;
+  source().moveLast();
+  sayWithCount({u"削除しました"_s});
+}
+
+// ---- Other screens
+
+void TodaysBookingsScreen::openCalendar() { showForBookings(u"予約カレンダー"_s); }
+void TodaysBookingsScreen::askCalendar() { showForBookings(u"カレンダーのチェック"_s); }
+
+void TodaysBookingsScreen::showForBookings(const QString& calendar) {
+  m_run.calendarMode = kBookingCalendar;
+  navigator().show(calendar);
+}
+
+void TodaysBookingsScreen::openWeek() { navigator().show(u"予約週間表"_s); }
+void TodaysBookingsScreen::newBooking() { navigator().show(u"予約2"_s, {{u"opener"_s, objectName()}}); }
+
+void TodaysBookingsScreen::editBooking() {
+  if (emptySet(u"編集データがありません。「全患者表示及び再表示」をクリックして下さい。"_s)) return;
+  navigator().show(u"予約2"_s,
+                   {{u"ID"_s, source().rows().value(u"ID"_s).toLongLong()}, {u"opener"_s, objectName()}});
+}
+
+}  // namespace office

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "office/screens/booking_list.h"
+
+namespace office {
+
+/// 今日の予約: all bookings, narrowed to a day or to a text. A search narrows the rows on view; the list
+/// keeps them until 全表示に戻す.
+///
+/// Request keys: "最終行" (the main menu: the last booking is on view), "指定日" (the day asked for of the
+/// run is to be shown). Coming back to the open list reads its rows afresh.
+class TodaysBookingsScreen : public BookingList {
+ public:
+  using BookingList::BookingList;
+  TodaysBookingsScreen(screen::Services& services, frame::RunState& run);
+
+  void onLoad() override;
+  void opened(const screen::Request& request) override;
+  void rowShown(int sourceNumber) override;
+
+  void showChosenDay();
+  void showWeekday();
+  void extract();
+  void openCalendar();
+  void askCalendar();
+  void openWeek();
+  void showAll();
+  void removeBooking();
+  void newBooking();
+  void editBooking();
+
+ protected:
+  bool openWhole() override;
+  void setChanged() override;
+
+ private:
+  /// The day of the three lists, told where they hold no date; its weekday is shown.
+  std::optional<QDate> readLists();
+  void fillLists();
+  /// Opens a calendar screen in the mode of the appointment book.
+  void showForBookings(const QString& calendar);
+  void showDayAsked();
+  /// The rows on view are read again, where they lie behind what happened on other screens.
+  void readAgain();
+  bool m_loaded = false;
+  bool m_narrowed = false;
+};
+
+extern const screen::ScreenRow kTodaysBookings;
+
+}  // namespace office

@@ -1,0 +1,88 @@
+#include "office/screens/week_screen.h"
+
+#include "office/core/booking_date.h"
+#include "office/screens/booking_rows.h"
+#include "platform/screen/find_row.h"
+#include "platform/screen/opens.h"
+
+namespace office {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using namespace screen;
+
+constexpr int kDaysOfWeek = 7;
+constexpr char16_t kMenu[] = u"メニュー(&M)";
+constexpr const char16_t* kTabs[kDaysOfWeek] = {u"日曜日", u"月曜日", u"火曜日", u"水曜日",
+                                                u"木曜日", u"金曜日", u"土曜日"};
+
+constexpr Row kRows[] = {
+    TextField{.name = {u"Text1"},
+              .caption = u"表示日:",
+              .bind = Unbound{u"the day on view"},
+              .width = 18,
+              .readOnly = true},
+    TabRow{.name = {u"SSTab1"}, .caption = u"曜日:", .tabs = kTabs, .onChoose = call<&WeekScreen::showTab>},
+    Grid{.name = {u"DBGrid1"}, .caption = u"予約の一覧", .source = 1, .columns = kBookingColumns},
+    Bar{},
+    Command{.name = {u"Command2"}, .caption = u"今週", .run = run<&WeekScreen::showThisWeek>},
+    Command{.name = {u"Command3"}, .caption = u"来週", .run = run<&WeekScreen::showNextWeek>},
+    Command{.name = {u"Command4"}, .caption = u"先週", .run = run<&WeekScreen::showLastWeek>},
+    Command{.name = {u"Command8"},
+            .caption = u"治療台帳へ代入",
+            .run = run<&BookingList::handOver>,
+            .tip = kHandOverTip},
+    Command{.name = {u"Command1"}, .caption = u"閉じる", .run = run<&BookingList::finish>},
+    EndBar{},
+    Entry{.name = {u"Men_YS"}, .under = kMenu, .caption = u"予約日を指定して検索", .run = opens<u"抽出5">},
+};
+
+}  // namespace
+
+constinit const ScreenRow kWeek{
+    .name = u"予約週間表", .caption = u"予約週間表", .rows = kRows, .sources = 1, .functionKeys = true};
+
+WeekScreen::WeekScreen(screen::Services& services, frame::RunState& run)
+    : BookingList(kWeek, services, run) {}
+
+void WeekScreen::opened(const screen::Request&) {
+  whenActive([this] { showThisWeek(); });
+}
+
+void WeekScreen::showThisWeek() { showWeek(0); }
+void WeekScreen::showNextWeek() { showWeek(kDaysOfWeek); }
+void WeekScreen::showLastWeek() { showWeek(-kDaysOfWeek); }
+
+void WeekScreen::showWeek(int days) {
+  m_reference = m_run.clock->today().addDays(days);
+  setText(u"SSTab1"_s, QString::fromUtf16(kTabs[tabOf(m_reference) - 1]));
+  // Before the button under the focus goes out, the focus goes to the days.
+  focusOn(u"SSTab1"_s);
+  // One week to either side is all that the view reaches.
+  setEnabledControl(u"Command2"_s, days != 0);
+  setEnabledControl(u"Command3"_s, days == 0);
+  setEnabledControl(u"Command4"_s, days == 0);
+  showDay();
+}
+
+void WeekScreen::showTab() {
+  if (m_reference.isValid()) showDay();
+}
+
+void WeekScreen::showDay() {
+  const QDate date = dayOfTab(m_reference, chosenItem(u"SSTab1"_s) + 1);
+  const QString spelled = dayText(m_run.eraDates(), date);
+  setText(u"Text1"_s, spelled);
+  m_run.dayAsked = numbersOf(date);
+  if (!openWhole()) return;
+  auto hits = bookingsOfDay(m_run.dayAsked);
+  if (!hits) return;
+  const bool none = hits->recordCount() == 0;
+  source().assign(std::move(*hits));
+  if (none) screen::tellNotFound(*this);
+  sayWithCount({spelled});
+}
+
+}  // namespace office

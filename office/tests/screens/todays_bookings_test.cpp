@@ -1,0 +1,324 @@
+// 今日の予約: a chosen day, searches, deleting, and the ways to the other screens.
+
+#include <QTest>
+#include <QtWidgets/QtWidgets>
+
+#include "office/tests/screens/booking_fixture.h"
+
+namespace office::test {
+namespace {
+
+class TodaysBookings : public BookingFixture {
+ protected:
+  void SetUp() override {
+    BookingFixture::SetUp();
+    book(u"2024/6/15"_s, u"9 時 0 分"_s, u"見本　太郎"_s);
+    book(u"2024/6/15"_s, u"10 時 0 分"_s, u"例示　花子"_s);
+    book(u"2024/6/18"_s, u"9 時 0 分"_s, u"架空　次郎"_s);
+    book(u"2023/6/15"_s, u"9 時 0 分"_s, u"見本　花子"_s);
+  }
+  screen::Screen& list(const screen::Request& request = {}) { return open(u"今日の予約"_s, request); }
+  void showDay(screen::Screen& screen, const QString& year, const QString& month, const QString& day) {
+    type(screen, year, month, day);
+    screen.trigger(u"Command1"_s);
+  }
+};
+
+TEST_F(TodaysBookings, OpensWholeOnTodayInItsLists) {
+  screen::Screen& screen = list();
+  EXPECT_EQ(listed(screen).size(), 4);
+  EXPECT_EQ(dayOf(screen), QStringList({u"2024"_s, u"6"_s, u"15"_s}));
+  EXPECT_EQ(screen.source().rows().absolutePosition(), 0);
+  EXPECT_EQ(screen.caption(u"Data1"_s), u"ﾚｺｰﾄﾞ: 1"_s);
+  EXPECT_EQ(screen.items(u"Combo1"_s).first(), u"2015"_s);
+  EXPECT_EQ(screen.items(u"Combo1"_s).last(), u"2035"_s);
+  EXPECT_EQ(screen.items(u"Combo4"_s),
+            QStringList({u"予約患者"_s, u"予約時間"_s, u"予約月"_s, u"予約日"_s, u"予約年"_s, u"予約曜日"_s,
+                         u"患者NO"_s, u"予約日時"_s, u"予約NO"_s, u"メモ1"_s}));
+}
+
+TEST_F(TodaysBookings, TheMainMenuLeadsToTheLastRow) {
+  EXPECT_EQ(list({{u"最終行"_s, true}}).source().rows().absolutePosition(), 3);
+}
+
+TEST_F(TodaysBookings, AnEmptyTableHasNoLastRow) {
+  store::RecordSet rows = table();
+  while (rows.recordCount() > 0) {
+    rows.moveFirst();
+    ASSERT_TRUE(rows.remove());
+  }
+  list({{u"最終行"_s, true}});
+  EXPECT_EQ(told(), QStringList());
+}
+
+TEST_F(TodaysBookings, ADayIsShownInTheOrderOfItsTimesAsTexts) {
+  screen::Screen& screen = list();
+  screen.focusOn(u"Command1"_s);
+  channel.clear();
+  showDay(screen, u"2024"_s, u"6"_s, u"15"_s);
+  EXPECT_EQ(listed(screen, u"予約時間"_s), QStringList({u"10 時 0 分"_s, u"9 時 0 分"_s}));
+  EXPECT_EQ(screen.text(u"Text1"_s), u"土曜日"_s);
+  EXPECT_EQ(screen.focused(), u"DBGrid1"_s);
+  EXPECT_EQ(channel.heardWhole(), QStringList({spoken({u"令和6年6月15日土曜日"_s, u"予約 2 件"_s}),
+                                               spoken({u"予約の一覧"_s, u"予約時間"_s, u"10 時 0 分"_s})}));
+  EXPECT_EQ(run.dayAsked.year, 2024);
+  EXPECT_EQ(run.dayAsked.month, 6);
+  EXPECT_EQ(run.dayAsked.day, 15);
+}
+
+TEST_F(TodaysBookings, ARowIsHeardByTimeAndName) {
+  screen::Screen& screen = list();
+  showDay(screen, u"2024"_s, u"6"_s, u"15"_s);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+  EXPECT_EQ(channel.lastSaid(), spoken({u"予約患者"_s, u"例示　花子"_s}));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+  EXPECT_EQ(channel.lastSaid(), spoken({u"予約患者"_s, u"見本　太郎"_s}));
+  QTest::keyClick(&screen, Qt::Key_F1);
+  EXPECT_EQ(channel.lastSaid(), spoken({u"6月15日"_s, u"10 時 0 分"_s, u"例示　花子"_s}));
+}
+
+TEST_F(TodaysBookings, ADayWithoutBookingsLeavesTheListAsItWas) {
+  screen::Screen& screen = list();
+  screen.source().moveTo(2);
+  showDay(screen, u"2024"_s, u"7"_s, u"15"_s);
+  EXPECT_EQ(messages.titles(), QStringList(u"Not found"_s));
+  EXPECT_EQ(told(), QStringList(kNotFound));
+  EXPECT_EQ(listed(screen).size(), 4);
+  EXPECT_EQ(screen.source().rows().absolutePosition(), 2);
+  EXPECT_EQ(screen.text(u"Text1"_s), u"月曜日"_s);
+}
+
+TEST_F(TodaysBookings, ADayIsSoughtAmongTheRowsOnViewUntilAllAreShown) {
+  screen::Screen& screen = list();
+  showDay(screen, u"2024"_s, u"6"_s, u"15"_s);
+  showDay(screen, u"2024"_s, u"6"_s, u"18"_s);
+  EXPECT_EQ(told(), QStringList(kNotFound));
+  EXPECT_EQ(channel.lastSaid(), spoken({u"絞り込んだ予約の中から探しました"_s, u"予約 2 件"_s}));
+  screen.trigger(u"cmdRefresh"_s);
+  EXPECT_EQ(listed(screen).size(), 4);
+  EXPECT_EQ(screen.source().rows().absolutePosition(), 0);
+  showDay(screen, u"2024"_s, u"6"_s, u"18"_s);
+  EXPECT_EQ(listed(screen), QStringList(u"架空　次郎"_s));
+}
+
+TEST_F(TodaysBookings, AnImpossibleDayIsFoundAsBooked) {
+  book(u"2024/2/31"_s, u"9 時 0 分"_s, u"巡り　三郎"_s);
+  screen::Screen& screen = list();
+  showDay(screen, u"2024"_s, u"3"_s, u"2"_s);
+  EXPECT_EQ(told(), QStringList(kNotFound));
+  showDay(screen, u"2024"_s, u"2"_s, u"31"_s);
+  EXPECT_EQ(listed(screen), QStringList(u"巡り　三郎"_s));
+  EXPECT_EQ(screen.text(u"Text1"_s), u"土曜日"_s);  // of 2 March
+}
+
+TEST_F(TodaysBookings, NoDateInTheListsIsTold) {
+  screen::Screen& screen = list();
+  for (const QString& command : {u"Command1"_s, u"Command2"_s}) {
+    type(screen, u"2024"_s, u"六"_s, u"15"_s);
+    screen.trigger(command);
+    EXPECT_EQ(told(), QStringList(kNoDate));
+  }
+  EXPECT_EQ(listed(screen).size(), 4);
+  EXPECT_EQ(run.dayAsked.month, 6);
+}
+
+TEST_F(TodaysBookings, WeekdayOfTheChosenDay) {
+  screen::Screen& screen = list();
+  type(screen, u"2024"_s, u"6"_s, u"18"_s);
+  screen.trigger(u"Command2"_s);
+  EXPECT_EQ(screen.text(u"Text1"_s), u"火曜日"_s);
+  EXPECT_EQ(channel.lastSaid(), u"令和6年6月18日火曜日"_s);
+  EXPECT_EQ(listed(screen).size(), 4);
+}
+
+TEST_F(TodaysBookings, AnEmptyListSaysSo) {
+  screen::Screen& screen = list();
+  showDay(screen, u"2024"_s, u"6"_s, u"18"_s);
+  answer({true});
+  screen.trigger(u"cmdDelete"_s);
+  told();
+  showDay(screen, u"2024"_s, u"6"_s, u"15"_s);
+  EXPECT_EQ(told(), QStringList(kNoRows));
+  screen.setText(u"txtFields(0)"_s, u"見本"_s);
+  screen.trigger(u"Command3"_s);
+  EXPECT_EQ(told(), QStringList(kNoRows));
+  screen.trigger(u"Command8"_s);
+  EXPECT_EQ(told(), QStringList(u"代入するデータがありません。"_s));
+  screen.trigger(u"Men_YE"_s);
+  EXPECT_EQ(told(), QStringList(u"編集データがありません。「全患者表示及び再表示」をクリックして下さい。"_s));
+  answer({true});
+  screen.trigger(u"cmdDelete"_s);
+  EXPECT_EQ(told(), QStringList({u"　現在の該当患者を削除しますか？"_s, u"削除するデータがありません。"_s}));
+}
+
+// ---- 抽出
+
+TEST_F(TodaysBookings, ExtractingNarrowsByAPartOfTheText) {
+  screen::Screen& screen = list();
+  screen.trigger(u"Command3"_s);
+  EXPECT_EQ(listed(screen).size(), 4) << "a blank text changes nothing";
+  screen.setText(u"txtFields(0)"_s, u"見本"_s);
+  screen.trigger(u"Command3"_s);
+  EXPECT_EQ(listed(screen), QStringList({u"見本　太郎"_s, u"見本　花子"_s}));
+  EXPECT_EQ(screen.focused(), u"DBGrid1"_s);
+  EXPECT_TRUE(channel.heardWhole().contains(u"予約 2 件"_s))
+      << channel.heardWhole().join(u'\n').toStdString();
+  screen.setText(u"Combo4"_s, u"予約年"_s);
+  screen.setText(u"txtFields(0)"_s, u"2023"_s);
+  screen.trigger(u"Command3"_s);
+  EXPECT_EQ(listed(screen), QStringList(u"見本　花子"_s));
+  screen.setText(u"txtFields(0)"_s, u"1999"_s);
+  screen.trigger(u"Command3"_s);
+  EXPECT_EQ(told(), QStringList(kNotFound));
+  EXPECT_EQ(listed(screen).size(), 1);
+}
+
+TEST_F(TodaysBookings, TheColumnThatIsNoneFailsInTheEngine) {
+  screen::Screen& screen = list();
+  screen.setText(u"Combo4"_s, u"予約日時"_s);
+  screen.setText(u"txtFields(0)"_s, u"2024"_s);
+  screen.trigger(u"Command3"_s);
+  const QStringList texts = told();
+  ASSERT_EQ(texts.size(), 1);
+  EXPECT_TRUE(texts[0].startsWith(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"_s)) << texts[0].toStdString();
+  EXPECT_EQ(listed(screen).size(), 4);
+}
+
+// ---- 削除
+
+TEST_F(TodaysBookings, DeletingAsksAndMovesToTheLastRow) {
+  screen::Screen& screen = list();
+  answer({false});
+  screen.trigger(u"cmdDelete"_s);
+  EXPECT_EQ(told(), QStringList(u"　現在の該当患者を削除しますか？"_s));
+  EXPECT_EQ(run.lastAnswer, 0);
+  EXPECT_EQ(stored(u"ID"_s).size(), 4);
+  answer({true});
+  screen.trigger(u"cmdDelete"_s);
+  EXPECT_EQ(run.lastAnswer, 1);
+  EXPECT_EQ(stored(u"予約患者"_s), QStringList({u"例示　花子"_s, u"架空　次郎"_s, u"見本　花子"_s}));
+  EXPECT_EQ(screen.source().rows().absolutePosition(), 2);
+  EXPECT_EQ(channel.lastSaid(), spoken({u"削除しました"_s, u"予約 3 件"_s}));
+}
+
+// ---- Other screens
+
+TEST_F(TodaysBookings, TheBookedPersonIsHandedToTheChart) {
+  addBooking({{u"予約患者"_s, u"巡り　三郎"_s}, {u"患者NO"_s, u"42"_s}});
+  screen::Screen& screen = list({{u"最終行"_s, true}});
+  screen.trigger(u"Command8"_s);
+  EXPECT_EQ(requestOf(u"治療台帳4"_s)[u"代入"_s].toString(), u"巡り　三郎"_s);
+  EXPECT_EQ(requestOf(u"治療台帳4"_s)[u"患者NO"_s].toString(), u"42"_s);
+  EXPECT_TRUE(isShown(u"今日の予約"));
+}
+
+TEST_F(TodaysBookings, ABookingIsEditedAndTheListReadsItAgain) {
+  screen::Screen& screen = list();
+  showDay(screen, u"2024"_s, u"6"_s, u"15"_s);
+  screen.focusOn(u"DBGrid1"_s);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  screen::Screen& form = led(u"予約2"_s);
+  EXPECT_EQ(form.text(u"txtFields(2)"_s), u"例示　花子"_s);
+  form.setText(u"txtFields(2)"_s, u"例示　月子"_s);
+  form.trigger(u"cmdUpdate"_s);
+  form.trigger(u"cmdClose"_s);
+  led(u"今日の予約"_s);
+  EXPECT_EQ(listed(screen), QStringList({u"例示　月子"_s, u"見本　太郎"_s})) << "still that day";
+}
+
+TEST_F(TodaysBookings, ANewBookingComesBackToTheList) {
+  run.callerMark = 2;
+  screen::Screen& screen = list();
+  screen.trigger(u"Men_YY"_s);
+  screen::Screen& form = led(u"予約2"_s);
+  form.setText(u"txtFields(2)"_s, u"巡り　三郎"_s);
+  form.trigger(u"cmdUpdate"_s);
+  form.trigger(u"cmdClose"_s);
+  led(u"今日の予約"_s);
+  EXPECT_EQ(listed(screen).last(), u"巡り　三郎"_s);
+  EXPECT_FALSE(isShown(u"選択3"));
+  screen.trigger(u"cmdClose"_s);
+  EXPECT_TRUE(isShown(u"選択3"));
+}
+
+TEST_F(TodaysBookings, ClosingGoesToTheCaller) {
+  const std::pair<int, QString> marks[] = {{2, u"選択3"_s}, {3, u"治療台帳4"_s}};
+  for (const auto& [mark, caller] : marks) {
+    run.callerMark = mark;
+    list().close();  // the close box does as the button does
+    settle();
+    EXPECT_TRUE(navigator.isShown(caller)) << caller.toStdString();
+    EXPECT_FALSE(isShown(u"今日の予約"));
+    navigator.unload(caller);
+  }
+}
+
+TEST_F(TodaysBookings, WithoutAPatientListThereIsNoWayToTheMenu) {
+  run.callerMark = 2;
+  run.folders[frame::folder::kPatients].clear();
+  list().trigger(u"cmdClose"_s);
+  EXPECT_FALSE(isShown(u"選択3"));
+  EXPECT_FALSE(isShown(u"今日の予約"));
+}
+
+TEST_F(TodaysBookings, TheMenuOffersWhatIsTold) {
+  screen::Screen& screen = list();
+  ASSERT_EQ(screen.menuBar()->actions().size(), 1);
+  QStringList captions;
+  for (const QAction* entry : screen.menuBar()->actions()[0]->menu()->actions()) captions += entry->text();
+  captions.sort();
+  QStringList wanted{u"予約日を指定して検索"_s,       u"カレンダー表示"_s, u"週間表"_s,
+                     u"表示患者を治療台帳へ代入"_s,   u"全表示に戻す"_s,   u"削除"_s,
+                     u"今日の予約の終了（閉じる）"_s, u"新規予約"_s,       u"表示患者の予約編集"_s};
+  wanted.sort();
+  EXPECT_EQ(captions, wanted);
+}
+
+TEST_F(TodaysBookings, ButtonsAndEntriesOpenTheirScreens) {
+  const std::pair<QString, QString> ways[] = {{u"Men_YS"_s, u"抽出4"_s},
+                                              {u"Command4"_s, u"予約カレンダー"_s},
+                                              {u"Men_YC"_s, u"カレンダーのチェック"_s},
+                                              {u"Command5"_s, u"予約週間表"_s},
+                                              {u"Men_YI"_s, u"予約週間表"_s}};
+  screen::Screen& screen = list();
+  run.calendarMode = 2;
+  for (const auto& [command, room] : ways) {
+    screen.trigger(command);
+    EXPECT_TRUE(navigator.isShown(room)) << command.toStdString();
+    navigator.unload(room);
+  }
+  EXPECT_EQ(run.calendarMode, 1) << "the calendar serves the book again";
+}
+
+TEST_F(TodaysBookings, TheCalendarIsHiddenWhereItEndsTheProgram) {
+  const auto entryShown = [](const screen::Screen& screen) {
+    return screen.findChild<QAction*>(u"Men_YC"_s)->isVisible();
+  };
+  screen::Screen& screen = list();
+  EXPECT_TRUE(screen.isControlShown(u"Command4"_s));
+  EXPECT_TRUE(entryShown(screen));
+  run.platformValue = u"Xp"_s;
+  list();
+  EXPECT_FALSE(screen.isControlShown(u"Command4"_s));
+  EXPECT_FALSE(entryShown(screen));
+}
+
+TEST_F(TodaysBookings, IsNamedSpokenAndReachable) {
+  screen::Screen& screen = list();
+  screen::testing::ScreenProbe probe(screen, channel);
+  probe.open();
+  EXPECT_EQ(probe.faults(), QStringList());
+}
+
+TEST_F(TodaysBookings, AMissingBookIsToldByName) {
+  ASSERT_TRUE(QFile::remove(path(kBookings)));
+  screen::Screen& screen = list();
+  ASSERT_EQ(messages.texts().size(), 1);
+  EXPECT_TRUE(told()[0].contains(kBookings));
+  for (const QString& command : {u"Command1"_s, u"Command8"_s, u"cmdRefresh"_s, u"Men_YE"_s})
+    screen.trigger(command);
+  EXPECT_FALSE(QFile::exists(path(kBookings)));
+}
+
+}  // namespace
+}  // namespace office::test
