@@ -37,8 +37,8 @@ inline constexpr RegisterField kDoctorFields[] = {{u"氏名", u"氏名", u"同�
 inline constexpr const char16_t* kDoctorKeys[] = {u"氏名", u"病院名", u"TEL", u"フリガナ", u"住所"};
 /// The consenting doctors.
 inline constexpr Register kDoctorRegister{
-    u"同意医師",    frame::folder::kDoctors, store::source::kDoctors,
-    kDoctorFields, kDoctorKeys,             u"　同意医師のデータを削除します"};
+    u"同意医師", frame::folder::kDoctors,          store::source::kDoctors, kDoctorFields,
+    kDoctorKeys, u"　同意医師のデータを削除します"};
 
 inline constexpr RegisterField kInsurerFields[] = {{u"名称", u"名称", u"保険者名称", 20},
                                                    {u"番号", u"番号", u"保険者番号"},
@@ -46,8 +46,8 @@ inline constexpr RegisterField kInsurerFields[] = {{u"名称", u"名称", u"保�
 inline constexpr const char16_t* kInsurerKeys[] = {u"番号", u"名称", u"所在地"};
 /// The insurers. Their names must be exact: the summary sheets group by them.
 inline constexpr Register kInsurerRegister{
-    u"保険者",      frame::folder::kInsurers, store::source::kInsurers,
-    kInsurerFields, kInsurerKeys,             u"　保険者のデータを削除します"};
+    u"保険者",    frame::folder::kInsurers,       store::source::kInsurers, kInsurerFields,
+    kInsurerKeys, u"　保険者のデータを削除します"};
 
 /// The values of a register's rows, in the order of its fields.
 using RegisterRows = QVector<QStringList>;

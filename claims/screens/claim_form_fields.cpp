@@ -81,19 +81,24 @@ void ClaimFormScreen::insurerNumberChosen() {
   fillSiblings(4, u"保険者番号", kInsurerRegister, m_lists.insurers);
 }
 
-void ClaimFormScreen::doctorChosen() {
-  fillSiblings(24, u"同意医師氏名", kDoctorRegister, m_lists.doctors);
-}
+void ClaimFormScreen::doctorChosen() { fillSiblings(24, u"同意医師氏名", kDoctorRegister, m_lists.doctors); }
 
 // The list position decides: two entries of one name are two rows of the register.
 void ClaimFormScreen::fillSiblings(int combo, const char16_t* column, const Register& list,
                                    const RegisterRows& rows) {
   const int position = chosenItem(member(u"Combo1", combo));
   if (position < 0 || position >= rows.size()) return;  // typed, or the sentence of an empty register
+  QStringList brought;
   for (size_t field = 0; field < list.fields.size(); ++field) {
     const QString sibling = QString::fromUtf16(list.fields[field].claimColumn);
-    if (sibling != QStringView(column)) put(sibling, rows[position][qsizetype(field)]);
+    if (sibling == QStringView(column)) continue;
+    const QString value = rows[position][qsizetype(field)];
+    put(sibling, value);
+    if (!value.isEmpty()) brought << value;
   }
+  // Heard after the list has said the entry itself: it tells two entries of one name apart.
+  const auto tell = [this, brought] { voice().speakText(brought.join(voice::kSpeechSeparator)); };
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void ClaimFormScreen::consentReceiverToggled() {

@@ -36,8 +36,7 @@ consteval auto listRows(std::span<const GridColumn> columns, std::span<const cha
       Row{Bar{}},
       Row{Command{.name = {u"cmdAdd"}, .caption = u"新規", .run = run<&RegisterScreen::startNew>}},
       Row{Note{.name = {u"Label1"},
-               .caption =
-                   u"新規ボタンを押してから下記に正確に書き込んだ上、登録ボタンを押して下さい。",
+               .caption = u"新規ボタンを押してから下記に正確に書き込んだ上、登録ボタンを押して下さい。",
                .spoken = true}},
       Row{EndBar{}},
   };
@@ -72,17 +71,20 @@ consteval auto commandRows() {
   };
 }
 
-constexpr GridColumn kDoctorColumns[] = {
-    {u"氏名", u"氏名"}, {u"フリガナ", u"フリガナ"}, {u"病院名", u"病院名"}, {u"住所", u"住所"}, {u"TEL", u"TEL"}};
+constexpr GridColumn kDoctorColumns[] = {{u"氏名", u"氏名"},
+                                         {u"フリガナ", u"フリガナ"},
+                                         {u"病院名", u"病院名"},
+                                         {u"住所", u"住所"},
+                                         {u"TEL", u"TEL"}};
 constexpr std::array kDoctorTips = {u"全角50文字まで", u"半角32文字まで", u"全角50文字まで", u"住所",
                                     u"全角16文字まで"};
-constexpr auto kDoctorRows =
-    joined(listRows(kDoctorColumns, kDoctorKeys),
-           std::array{Row{Note{.name = {u"Label2"},
-                               .caption = u"氏名と病院名は全角50文字まで、フリガナは半角32文字まで、TELは全角16"
-                                          u"文字まで"}}},
-           fieldRows(kDoctorFields, kDoctorTips, std::make_index_sequence<std::size(kDoctorFields)>()),
-           commandRows());
+constexpr auto kDoctorRows = joined(
+    listRows(kDoctorColumns, kDoctorKeys),
+    std::array{Row{Note{.name = {u"Label2"},
+                        .caption = u"氏名と病院名は全角50文字まで、フリガナは半角32文字まで、TELは全角16"
+                                   u"文字まで"}}},
+    fieldRows(kDoctorFields, kDoctorTips, std::make_index_sequence<std::size(kDoctorFields)>()),
+    commandRows());
 
 constexpr char16_t kExample1[] = u"（記入例）府中市→府中";
 constexpr char16_t kExample2[] = u"（記入例）品川社保→品川";
@@ -90,15 +92,17 @@ constexpr GridColumn kInsurerColumns[] = {{u"名称", u"名称"}, {u"番号", u"
 constexpr std::array kInsurerTips = {u"全角20文字まで", u"番号", u"30文字まで"};
 constexpr auto kInsurerRows = joined(
     listRows(kInsurerColumns, kInsurerKeys),
-    std::array{Row{Note{.name = {u"Label2"},
-                        .caption =
-                            u"（注）保険者名称は、受領委任の申請総括表で抽出に必要ですので必ず入力してください。（1文字"
-                            u"でも異なると別の保険者と認識してしまいます。）",
-                        .spoken = true}},
-               Row{Bar{}}, Row{Note{.name = {u"Label3"}, .caption = kExample1, .spoken = true}},
-               Row{Note{.name = {u"Label4"}, .caption = kExample2, .spoken = true}},
-               Row{Note{.name = {u"Label5"}, .caption = u"名称は全角20文字まで、所在地は30文字まで"}},
-               Row{EndBar{}}},
+    std::array{
+        Row{Note{
+            .name = {u"Label2"},
+            .caption =
+                u"（注）保険者名称は、受領委任の申請総括表で抽出に必要ですので必ず入力してください。（1文字"
+                u"でも異なると別の保険者と認識してしまいます。）",
+            .spoken = true}},
+        Row{Bar{}}, Row{Note{.name = {u"Label3"}, .caption = kExample1, .spoken = true}},
+        Row{Note{.name = {u"Label4"}, .caption = kExample2, .spoken = true}},
+        Row{Note{.name = {u"Label5"}, .caption = u"名称は全角20文字まで、所在地は30文字まで"}},
+        Row{EndBar{}}},
     fieldRows(kInsurerFields, kInsurerTips, std::make_index_sequence<std::size(kInsurerFields)>()),
     commandRows());
 

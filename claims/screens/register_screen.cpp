@@ -24,6 +24,13 @@ constexpr char16_t kOffered[] = u"保険申請の内容を新規に代入しま�
 constexpr char16_t kCopied[] = u"保険申請に代入しました。保険申請の登録ボタンを押して下さい";
 
 QString words(const char16_t* text) { return QString::fromUtf16(text); }
+/// Whether the row holds what the claim tells; what the claim leaves blank does not count.
+bool agree(const QStringList& claim, const QStringList& row) {
+  for (qsizetype i = 0; i < claim.size(); ++i)
+    if (!claim[i].isEmpty() && claim[i] != row[i]) return false;
+  return true;
+}
+
 QString field(qsizetype index) { return u"txtFields(%1)"_s.arg(index); }
 
 }  // namespace
@@ -120,10 +127,17 @@ void RegisterScreen::remove() {
 
 // ---- Search ----
 
+std::optional<store::RecordSet> RegisterScreen::wholeRegister() {
+  auto rows = store::RecordSet::open(source().rows().database(), words(m_list.table));
+  if (rows) return std::move(*rows);
+  messages().tellDataFault(rows.fault().message);
+  return std::nullopt;
+}
+
 void RegisterScreen::search() {
   if (!source().isOpen() || !leaveRow()) return;
-  auto rows = store::RecordSet::open(source().rows().database(), words(m_list.table));
-  if (!rows) return messages().tellDataFault(rows.fault().message);
+  auto rows = wholeRegister();
+  if (!rows) return;
   if (const QString word = text(u"Text1"_s); !word.isEmpty()) {
     rows->setFilter(store::likeCriterion(text(u"Combo1"_s), word));
     auto hits = rows->openRecordset();
@@ -143,11 +157,12 @@ void RegisterScreen::takeFromClaim() {
   QStringList values;
   for (const RegisterField& each : m_list.fields) values << claim.get(words(each.claimColumn));
   if (values[0].trimmed().isEmpty()) return;
+  if (auto whole = wholeRegister()) source().assign(std::move(*whole));  // not the hits of a search
   store::RecordSet& rows = source().rows();
   for (int position = 0; position < rows.recordCount(); ++position) {
     if (rows.valueAt(position, words(m_list.fields[0].column)) != values[0]) continue;
     source().moveTo(position);
-    if (texts() == values) return;
+    if (agree(values, texts())) return;
   }
   if (offerNew(values)) voice().speakText(words(kOffered));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "claims/core/claims_state.h"
 #include "claims/core/register.h"
 #include "frame/core/run_state.h"
@@ -9,8 +11,8 @@ namespace claims {
 
 /// 登録2 and 登録3: the registers that spare the typing of the same names on every claim.
 ///
-/// 登録 alone stores, and never a row with a blank field. What was typed and not stored is asked for before the
-/// row is left.
+/// 登録 alone stores, and never a row with a blank field. What was typed and not stored is asked for before
+/// the row is left.
 ///
 /// Opened with Request{"ID"} by the claim form: what the form shows of a doctor or insurer that the register
 /// does not hold stands in a new row, ready to be stored.
@@ -42,6 +44,8 @@ class RegisterScreen final : public screen::Screen {
   QStringList texts() const;
   /// A new row with the texts, which were not typed: leaving it loses nothing.
   bool offerNew(const QStringList& texts);
+  /// All rows as the file holds them now; nothing where it cannot be read, which was told.
+  std::optional<store::RecordSet> wholeRegister();
   /// Brings the values of the claim on the form: to their row, or into a new one.
   void takeFromClaim();
   QStringList onView() const;

@@ -17,9 +17,11 @@ TEST(Register, TheFirstBlankFieldIsFound) {
     QStringList values;
     int blank;
   };
-  const Case cases[] = {{{u"架空"_s, u"1"_s, u"-"_s}, -1}, {{u""_s, u""_s, u"1"_s}, 0}, {{u"架空"_s, QString(), u""_s}, 1},
-                        {{u"架空"_s, u"1"_s, u" "_s}, 2},  {{u"　"_s, u"1"_s, u"1"_s}, 0}, {{}, -1}};
-  for (const Case& each : cases) EXPECT_EQ(firstBlank(each.values), each.blank) << each.values.join(u'|').toStdString();
+  const Case cases[] = {{{u"架空"_s, u"1"_s, u"-"_s}, -1},  {{u""_s, u""_s, u"1"_s}, 0},
+                        {{u"架空"_s, QString(), u""_s}, 1}, {{u"架空"_s, u"1"_s, u" "_s}, 2},
+                        {{u"　"_s, u"1"_s, u"1"_s}, 0},     {{}, -1}};
+  for (const Case& each : cases)
+    EXPECT_EQ(firstBlank(each.values), each.blank) << each.values.join(u'|').toStdString();
 }
 
 TEST(Register, ABlankFieldIsNamed) {

@@ -34,6 +34,9 @@ TEST_F(ClaimFormListsTest, TwoDoctorsOfOneNameBringTheirOwn) {
   for (const QStringList& doctor : {kDoctor, kNamesake, third}) {
     arrow(24);
     EXPECT_EQ(doctorShown(), doctor);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_channel.heardWhole(), QStringList({doctor[0], doctor.mid(1).join(voice::kSpeechSeparator)}))
+        << "told apart by ear";
   }
   arrow(24, Qt::Key_Up);
   EXPECT_EQ(doctorShown(), kNamesake);

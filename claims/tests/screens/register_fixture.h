@@ -44,7 +44,9 @@ class RegisterTest : public ClaimFormTest {
     m_register->opened(request);
     return *m_register;
   }
-  RegisterScreen& doctors(const screen::Request& request = {}) { return openRegister(kDoctorRegister, request); }
+  RegisterScreen& doctors(const screen::Request& request = {}) {
+    return openRegister(kDoctorRegister, request);
+  }
   RegisterScreen& insurers(const screen::Request& request = {}) {
     return openRegister(kInsurerRegister, request);
   }
@@ -74,8 +76,10 @@ class RegisterTest : public ClaimFormTest {
     push(u"Command1");
   }
 
-  const QStringList kDoctor{qs(u"架空 医師"), qs(u"ｶｸｳ ｲｼ"), qs(u"架空病院"), qs(u"架空市1"), qs(u"000-0001")};
-  const QStringList kNamesake{qs(u"架空 医師"), qs(u"ｶｸｳ ｲｼ"), qs(u"例示医院"), qs(u"例示町2"), qs(u"000-0002")};
+  const QStringList kDoctor{qs(u"架空 医師"), qs(u"ｶｸｳ ｲｼ"), qs(u"架空病院"), qs(u"架空市1"),
+                            qs(u"000-0001")};
+  const QStringList kNamesake{qs(u"架空 医師"), qs(u"ｶｸｳ ｲｼ"), qs(u"例示医院"), qs(u"例示町2"),
+                              qs(u"000-0002")};
   const QStringList kInsurer{qs(u"架空市"), qs(u"123456"), qs(u"架空市1-1")};
   std::unique_ptr<RegisterScreen> m_register;
 };

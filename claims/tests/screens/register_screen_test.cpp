@@ -1,3 +1,5 @@
+#include <sqlite3.h>
+
 #include "claims/tests/screens/register_fixture.h"
 #include "platform/screen/testing/screen_probe.h"
 
@@ -18,24 +20,25 @@ TEST_F(RegisterScreenTest, EveryControlIsNamedSpokenAndReached) {
     screen::testing::ScreenProbe probe(*m_register, m_channel);
     probe.open();
     EXPECT_EQ(probe.faults(), QStringList());
-    EXPECT_EQ(probe.unknownColumns({QFileInfo(m_run.folders[size_t(list->folder)]).fileName()}), QStringList());
+    EXPECT_EQ(probe.unknownColumns({QFileInfo(m_run.folders[size_t(list->folder)]).fileName()}),
+              QStringList());
     EXPECT_EQ(m_register->caption(qs(u"Command2")), qs(u"左記データを保険申請に代入"));
   }
 }
 
 TEST_F(RegisterScreenTest, EachWindowTellsHowARowIsEntered) {
-  const QString hint =
-      qs(u"新規ボタンを押してから下記に正確に書き込んだ上、登録ボタンを押して下さい。");
+  const QString hint = qs(u"新規ボタンを押してから下記に正確に書き込んだ上、登録ボタンを押して下さい。");
   EXPECT_EQ(doctors().windowTitle(), qs(u"同意医師の登録"));
   EXPECT_TRUE(m_register->openingTexts().contains(hint));
   EXPECT_EQ(m_register->items(qs(u"Combo1")),
             QStringList({qs(u"氏名"), qs(u"病院名"), qs(u"TEL"), qs(u"フリガナ"), qs(u"住所")}));
   EXPECT_EQ(insurers().windowTitle(), qs(u"保険者登録"));
-  EXPECT_EQ(m_register->openingTexts(),
-            QStringList({qs(u"保険者登録"), hint,
-                         qs(u"（注）保険者名称は、受領委任の申請総括表で抽出に必要ですので必ず入力してください。"
-                            u"（1文字でも異なると別の保険者と認識してしまいます。）"),
-                         qs(u"（記入例）府中市→府中"), qs(u"（記入例）品川社保→品川")}));
+  EXPECT_EQ(
+      m_register->openingTexts(),
+      QStringList({qs(u"保険者登録"), hint,
+                   qs(u"（注）保険者名称は、受領委任の申請総括表で抽出に必要ですので必ず入力してください。"
+                      u"（1文字でも異なると別の保険者と認識してしまいます。）"),
+                   qs(u"（記入例）府中市→府中"), qs(u"（記入例）品川社保→品川")}));
   EXPECT_EQ(m_register->items(qs(u"Combo1")), QStringList({qs(u"番号"), qs(u"名称"), qs(u"所在地")}));
 }
 
@@ -44,8 +47,8 @@ TEST_F(RegisterScreenTest, FieldsAreHeldToTheirLimits) {
     const Register& list;
     int field, characters;
   };
-  const Limit limits[] = {{kDoctorRegister, 0, 50},  {kDoctorRegister, 1, 32}, {kDoctorRegister, 2, 50},
-                          {kDoctorRegister, 4, 16},  {kInsurerRegister, 0, 20}, {kInsurerRegister, 2, 30}};
+  const Limit limits[] = {{kDoctorRegister, 0, 50}, {kDoctorRegister, 1, 32},  {kDoctorRegister, 2, 50},
+                          {kDoctorRegister, 4, 16}, {kInsurerRegister, 0, 20}, {kInsurerRegister, 2, 30}};
   for (const Limit& limit : limits) {
     openRegister(limit.list);
     screen::testing::ScreenProbe probe(*m_register, m_channel);
@@ -166,6 +169,23 @@ TEST_F(RegisterScreenTest, ARowThatAnotherProgramDeletedIsToldAndTheTextStays) {
   EXPECT_EQ(fields(), typed);
 }
 
+TEST_F(RegisterScreenTest, ARowThatAnotherProgramChangedIsRefusedAndTheTextStays) {
+  add(kInsurerRegister, kInsurer);
+  insurers();
+  enter({kInsurer[0], qs(u"654321"), kInsurer[2]});
+  sqlite3* elsewhere = nullptr;
+  ASSERT_EQ(sqlite3_open(m_run.folders[frame::folder::kInsurers].toUtf8().constData(), &elsewhere),
+            SQLITE_OK);
+  ASSERT_EQ(sqlite3_exec(elsewhere, "UPDATE 保険者 SET 番号='999999'", nullptr, nullptr, nullptr), SQLITE_OK);
+  sqlite3_close(elsewhere);
+  push(u"cmdUpdate");
+  const QStringList texts = told();
+  ASSERT_EQ(texts.size(), 1);
+  EXPECT_TRUE(texts[0].startsWith(qs(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :")));
+  EXPECT_EQ(m_register->text(qs(u"txtFields(1)")), qs(u"654321"));
+  EXPECT_EQ(stored(kInsurerRegister).first()[1], qs(u"999999"));
+}
+
 // ---- Leaving a row ----
 
 TEST_F(RegisterScreenTest, UnstoredTextIsAskedForBeforeTheRowIsLeft) {
@@ -234,8 +254,11 @@ TEST_F(RegisterScreenTest, EachKeySearchesTheWholeRegister) {
   add(kDoctorRegister, kDoctor);
   add(kDoctorRegister, {qs(u"見本 先生"), qs(u"ﾐﾎﾝ"), qs(u"見本医院"), qs(u"見本町"), qs(u"9")});
   doctors();
-  const std::pair<const char16_t*, const char16_t*> hits[] = {
-      {u"氏名", u"見本"}, {u"病院名", u"見本医"}, {u"TEL", u"９"}, {u"フリガナ", u"みほん"}, {u"住所", u"町"}};
+  const std::pair<const char16_t*, const char16_t*> hits[] = {{u"氏名", u"見本"},
+                                                              {u"病院名", u"見本医"},
+                                                              {u"TEL", u"９"},
+                                                              {u"フリガナ", u"みほん"},
+                                                              {u"住所", u"町"}};
   for (const auto& [key, text] : hits) {
     searchFor(key, text);
     EXPECT_EQ(listed(), QStringList(qs(u"見本 先生"))) << qs(key).toStdString();
@@ -312,9 +335,19 @@ TEST_F(RegisterScreenTest, OpenedFromTheClaimANewDoctorIsReadyToBeStored) {
   EXPECT_EQ(stored(kDoctorRegister).size(), 1) << "登録 alone stores";
   push(u"cmdUpdate");
   EXPECT_EQ(stored(kDoctorRegister), QList<QStringList>({kNamesake, kDoctor}));
-  doctors({{qs(u"ID"), 1}});
+  searchFor(u"病院名", u"例示");
+  m_register->opened({{qs(u"ID"), 1}});
   EXPECT_FALSE(m_register->source().rows().adding()) << "the register holds it by now";
   EXPECT_EQ(fields(), kDoctor);
+}
+
+TEST_F(RegisterScreenTest, WhatTheClaimLeavesBlankMakesNoNewRow) {
+  add(kInsurerRegister, {qs(u"例示市"), qs(u"2"), qs(u"例示")});
+  add(kInsurerRegister, kInsurer);
+  open(add(acupuncture()));  // 架空市, 123456, no address
+  insurers({{qs(u"ID"), 1}});
+  EXPECT_FALSE(m_register->source().rows().adding());
+  EXPECT_EQ(fields(), kInsurer);
 }
 
 TEST_F(RegisterScreenTest, OpenedFromAClaimWithoutADoctorItJustOpens) {

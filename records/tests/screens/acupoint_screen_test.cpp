@@ -69,8 +69,8 @@ TEST_F(AcupointScreenTest, CharactersBeyondTheOldCodePageAreShownWhole) {
 
 TEST_F(AcupointScreenTest, TwoStepsToTheRightReachTheNamesAsTheOpeningSays) {
   screen::Screen& screen = points();
-  EXPECT_TRUE(channel.said().join(u' ').contains(
-      u"まず、→を２回押し、その後↓↑でつぼの名前を呼び出します。"_s));
+  EXPECT_TRUE(
+      channel.said().join(u' ').contains(u"まず、→を２回押し、その後↓↑でつぼの名前を呼び出します。"_s));
   EXPECT_EQ(screen.focused(), u"DBGrid1"_s) << "the arrow keys work at once";
   press(screen, Qt::Key_Right);
   press(screen, Qt::Key_Right);
@@ -88,8 +88,8 @@ TEST_F(AcupointScreenTest, EveryControlIsNamedSpokenAndReached) {
   EXPECT_EQ(probe.faults(), QStringList());
   EXPECT_EQ(probe.unknownColumns({kPointsFile}), QStringList());
   EXPECT_EQ(screen.items(u"Combo1"_s),
-            (QStringList{u"経穴名漢字"_s, u"経穴名かな"_s, u"取穴位置"_s, u"筋肉"_s, u"運動神経"_s, u"知覚神経"_s,
-                         u"血管"_s, u"刺入方法"_s, u"主適応"_s, u"部位"_s, u"経絡コード"_s}));
+            (QStringList{u"経穴名漢字"_s, u"経穴名かな"_s, u"取穴位置"_s, u"筋肉"_s, u"運動神経"_s,
+                         u"知覚神経"_s, u"血管"_s, u"刺入方法"_s, u"主適応"_s, u"部位"_s, u"経絡コード"_s}));
   EXPECT_EQ(screen.caption(kName), u"経穴名漢字:"_s);
   EXPECT_EQ(screen.caption(u"txtFields(9)"_s), u"部位:"_s);
 }
@@ -177,7 +177,8 @@ TEST_F(AcupointScreenTest, NoHitIsToldAndTheRowStays) {
 TEST_F(AcupointScreenTest, AnOlderFileWithoutMeridianCodesStillWorks) {
   sqlite3* file = nullptr;
   ASSERT_EQ(sqlite3_open(path(kPointsFile).toUtf8().constData(), &file), SQLITE_OK);
-  ASSERT_EQ(sqlite3_exec(file, "ALTER TABLE 経穴 DROP COLUMN 経絡コード", nullptr, nullptr, nullptr), SQLITE_OK);
+  ASSERT_EQ(sqlite3_exec(file, "ALTER TABLE 経穴 DROP COLUMN 経絡コード", nullptr, nullptr, nullptr),
+            SQLITE_OK);
   sqlite3_close(file);
   screen::Screen& screen = points();
   EXPECT_TRUE(messages.texts().isEmpty());

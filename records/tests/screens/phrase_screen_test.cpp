@@ -14,8 +14,7 @@ struct PhraseCase {
 
 const PhraseCase kCases[] = {
     {u"frmCLmoji"_s, u"クリップ文字"_s, u"CLmoji2000.mdb"_s, u"CLmoji"_s, u"moji"_s, u"phrases1.csv"_s},
-    {u"frmCl2moji"_s, u"クリップ文字２"_s, u"CL2moji2000.mdb"_s, u"CL2moji"_s, u"setu1"_s,
-     u"phrases2.csv"_s},
+    {u"frmCl2moji"_s, u"クリップ文字２"_s, u"CL2moji2000.mdb"_s, u"CL2moji"_s, u"setu1"_s, u"phrases2.csv"_s},
 };
 
 const QString kField = u"txtFields(0)"_s;
