@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/screens/dictionary_screen.h"
+#include "records/screens/dictionary.h"
 
 namespace records {
 

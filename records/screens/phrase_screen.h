@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "records/screens/dictionary_screen.h"
+#include "records/screens/dictionary.h"
 
 namespace records {
 

@@ -1,4 +1,4 @@
-#include "records/screens/dictionary_screen.h"
+#include "records/screens/dictionary.h"
 
 #include <algorithm>
 
