@@ -46,7 +46,10 @@ void PatientScreen::onActivate() {
 }
 
 void PatientScreen::tellWaiting() {
-  if (std::exchange(m_asksGrowth, false)) offerGrowth();
+  if (std::exchange(m_asksGrowth, false)) {
+    offerGrowth();
+    voice().speakText(openingTexts().join(voice::kSpeechSeparator));  // the question cut it
+  }
   if (const auto notice = std::exchange(m_notice, std::nullopt)) {
     messages().tell(notice->text, notice->title, screen::Icon::Exclamation);
     say(onView());

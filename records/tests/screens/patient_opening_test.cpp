@@ -47,6 +47,8 @@ TEST_F(PatientOpeningTest, OlderFileIsAskedForOnceItHasTheKeyboardAndGrows) {
   EXPECT_EQ(messages.titles(), (QStringList{u"データ追加"_s, u"データ追加"_s}));
   EXPECT_FALSE(isOlder());
   EXPECT_EQ(screen.text(u"txtFields(4)"_s), u"見本 二郎"_s) << "the patient stays on view";
+  EXPECT_EQ(channel.heardWhole().filter(u"※の項目は必ず入力して下さい。"_s).size(), 1)
+      << "the opening is heard after the question: " << channel.said().join(u'|').toStdString();
   EXPECT_EQ(stored(u"氏名"_s), (QStringList{u"見本 一郎"_s, u"見本 二郎"_s}));
 }
 
