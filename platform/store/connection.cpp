@@ -39,16 +39,22 @@ Done runUpdate(Engine& engine, Scanner& scanner) {
   if (!values) return values.fault();
   const Result<RowList> selected = selectRows(engine, table, {&*criteria, 1});
   if (!selected) return selected.fault();
-  const std::vector<qint64> rows = selected->ids();
+  std::vector<qint64> written;
   quint32 before = 0;
   const Done done = engine.write([&]() -> Done {
     before = engine.changeCounter();
-    for (const qint64 id : rows)
-      if (const Done written = file.update(id, *values); !written) return written;
+    for (const qint64 id : selected->ids()) {
+      const Result<Row> now = file.read(id);
+      if (!now) return now.fault();
+      const RowValues changes = now->isEmpty() ? RowValues() : TableFile::differing(*now, *values);
+      if (changes.isEmpty()) continue;
+      if (const Done done = file.update(id, changes); !done) return done;
+      written.push_back(id);
+    }
     return {};
   });
   if (!done) return done;
-  engine.rowsWritten((*schema)->table(), rows, before);
+  engine.rowsWritten((*schema)->table(), written, before);
   return {};
 }
 

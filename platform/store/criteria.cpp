@@ -116,41 +116,62 @@ Term forNumbers(Term term, ColumnType type) {
   return term;
 }
 
-void markIds(const Term& term, const std::vector<qint64>& ids, std::vector<char>& marks) {
+/// One term over a memory copy: which texts of its column fit, or which IDs.
+struct TermHits {
+  std::shared_ptr<const TextColumn::Numbers> numbers;  ///< null: the hits are by row
+  std::vector<char> hits;
+
+  bool operator()(uint32_t row) const { return hits[numbers ? (*numbers)[row] : row]; }
+};
+
+std::vector<char> fittingIds(const Term& term, const std::vector<qint64>& ids) {
+  std::vector<char> hits(ids.size(), 0);
   bool whole = false;
   const qint64 id = term.value.trimmed().toLongLong(&whole);
   if (whole && term.comparison == Comparison::Equal) {
     const auto place = std::lower_bound(ids.begin(), ids.end(), id);
-    if (place != ids.end() && *place == id) marks[static_cast<size_t>(place - ids.begin())] = 1;
-    return;
+    if (place != ids.end() && *place == id) hits[static_cast<size_t>(place - ids.begin())] = 1;
+    return hits;
   }
   for (size_t row = 0; row < ids.size(); ++row)
-    marks[row] = fits(term, QString::number(ids[row]).toStdU16String(), false);
+    hits[row] = fits(term, QString::number(ids[row]).toStdU16String(), false);
+  return hits;
 }
 
-void markColumn(const Term& term, const FoldedColumn& column, std::vector<char>& marks) {
+std::vector<char> fittingTexts(const Term& term, ColumnTexts& texts) {
+  std::vector<char> hits(texts.count(), 0);
   if (const std::u16string* text = term.comparison == Comparison::Like ? term.pattern.contained() : nullptr) {
-    column.markContaining(*text, marks);
-    return;
+    texts.markContaining(*text, hits);
+    return hits;
   }
   const bool equal = term.comparison == Comparison::Equal;
   const std::u16string value = folded(term.value);
-  for (size_t row = 0; row < column.rows(); ++row)
-    marks[row] = equal ? !column.isNull(row) && column.text(row) == value
-                       : fits(term, column.text(row), column.isNull(row));
+  for (uint32_t number = ColumnTexts::kNull + 1; number < hits.size(); ++number)
+    hits[number] = equal ? texts.folded(number) == value : fits(term, texts.folded(number), false);
+  return hits;
 }
 
-std::vector<char> fittingTerm(const Term& written, const TableCopy& copy) {
+TermHits hitsOf(const Term& written, const TableCopy& copy) {
   const int column = copy.schema().find(written.column);
   const ColumnType type = copy.schema().type(column);
   const bool number = type != ColumnType::Text255 && type != ColumnType::LongText;
   const Term term = number && written.comparison != Comparison::Like ? forNumbers(written, type) : written;
-  std::vector<char> marks(copy.ids().size(), 0);
-  if (type == ColumnType::Counter)
-    markIds(term, copy.ids(), marks);
-  else
-    markColumn(term, copy.searched(column), marks);
-  return marks;
+  if (type == ColumnType::Counter) return {nullptr, fittingIds(term, copy.ids())};
+  const TextColumn& texts = copy.column(column);
+  return {texts.numbers(), fittingTexts(term, *texts.texts())};
+}
+
+template <class Fits>
+std::vector<uint32_t> rowsWhere(const TableCopy& copy, const std::vector<uint32_t>* among, const Fits& fits) {
+  std::vector<uint32_t> rows;
+  if (among) {
+    std::copy_if(among->begin(), among->end(), std::back_inserter(rows), fits);
+    return rows;
+  }
+  const auto count = static_cast<uint32_t>(copy.ids().size());
+  for (uint32_t row = 0; row < count; ++row)
+    if (fits(row)) rows.push_back(row);
+  return rows;
 }
 
 }  // namespace
@@ -246,17 +267,23 @@ Result<QVector<int>> searchedColumns(const Criteria& criteria, const TableSchema
   return columns;
 }
 
-void keepFitting(const Criteria& criteria, const TableCopy& copy, std::vector<char>& marks) {
-  std::vector<char> any(marks.size(), 0);
+std::vector<uint32_t> fittingRows(const Criteria& criteria, const TableCopy& copy,
+                                  const std::vector<uint32_t>* among) {
+  std::vector<std::vector<TermHits>> anyOf;
   for (const std::vector<Term>& group : criteria.anyOf) {
-    std::vector<char> all(marks.size(), 1);
-    for (const Term& term : group) {
-      const std::vector<char> one = fittingTerm(term, copy);
-      for (size_t row = 0; row < all.size(); ++row) all[row] &= one[row];
-    }
-    for (size_t row = 0; row < any.size(); ++row) any[row] |= all[row];
+    anyOf.emplace_back();
+    for (const Term& term : group) anyOf.back().push_back(hitsOf(term, copy));
   }
-  for (size_t row = 0; row < marks.size(); ++row) marks[row] &= any[row];
+  if (anyOf.size() == 1 && anyOf[0].size() == 1 && anyOf[0][0].numbers) {
+    const uint32_t* const numbers = anyOf[0][0].numbers->data();
+    const char* const hits = anyOf[0][0].hits.data();
+    return rowsWhere(copy, among, [=](uint32_t row) { return hits[numbers[row]]; });
+  }
+  return rowsWhere(copy, among, [&](uint32_t row) {
+    return std::any_of(anyOf.begin(), anyOf.end(), [row](const std::vector<TermHits>& group) {
+      return std::all_of(group.begin(), group.end(), [row](const TermHits& term) { return term(row); });
+    });
+  });
 }
 
 }  // namespace store

@@ -64,8 +64,9 @@ Result<Order> parseOrder(const QString& text);
 /// The columns that criteria need in memory; an unknown one is told.
 Result<QVector<int>> searchedColumns(const Criteria& criteria, const TableSchema& schema);
 
-/// Unmarks the rows of the memory copy that do not fit: one char a row, in ID order.
-void keepFitting(const Criteria& criteria, const TableCopy& copy, std::vector<char>& marks);
+/// Numbers, in ID order, of the rows of the memory copy that fit; among these rows where some are given.
+std::vector<uint32_t> fittingRows(const Criteria& criteria, const TableCopy& copy,
+                                  const std::vector<uint32_t>* among);
 
 /// Whether one text fits one term of criteria, as a column of texts.
 bool fits(const Term& term, std::u16string_view folded, bool null);

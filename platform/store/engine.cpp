@@ -61,8 +61,7 @@ quint32 Engine::changeCounter() const {
 
 bool Engine::copiesAreTrue() { return !m_copies.empty() && m_copiesCounter == changeCounter(); }
 
-Result<TableCopy*> Engine::copy(const QString& table, const QVector<int>& searched,
-                                const QVector<int>& sorted) {
+Result<TableCopy*> Engine::copy(const QString& table, const QVector<int>& columns) {
   const Result<std::shared_ptr<const TableSchema>> known = schema(table);
   if (!known) return known.fault();
   for (int attempt = 0;; ++attempt) {
@@ -72,8 +71,7 @@ Result<TableCopy*> Engine::copy(const QString& table, const QVector<int>& search
     }
     const auto [place, made] = m_copies.try_emplace((*known)->table().toStdU16String(),
                                                     TableFile(m_statements, QStringLiteral("main"), *known));
-    if (const Done loaded = place->second.load(m_statements, searched, sorted); !loaded)
-      return loaded.fault();
+    if (const Done loaded = place->second.load(m_statements, columns); !loaded) return loaded.fault();
     constexpr int kAttempts = 3;
     if (copiesAreTrue() || attempt == kAttempts) return &place->second;
   }
@@ -110,7 +108,7 @@ void Engine::rowWritten(const QString& table, qint64 id, quint32 before) {
 }
 
 void Engine::rowsWritten(const QString& table, const std::vector<qint64>& ids, quint32 before) {
-  constexpr size_t kCheaperToReadAgain = 100;
+  constexpr size_t kCheaperToReadAgain = 1000;
   if (ids.size() > kCheaperToReadAgain) return noteManyWrites();
   for (const qint64 id : ids) rowWritten(table, id, before);
 }

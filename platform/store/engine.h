@@ -21,14 +21,16 @@ class Engine {
   Result<std::shared_ptr<const TableSchema>> schema(const QString& table);
 
   /// The memory copy of a table, with these columns loaded and true to the file as it is now.
-  Result<TableCopy*> copy(const QString& table, const QVector<int>& searched, const QVector<int>& sorted);
+  Result<TableCopy*> copy(const QString& table, const QVector<int>& columns);
 
   /// Runs the work in one transaction that holds the write lock; a fault rolls it back.
   Done write(const std::function<Done()>& work);
   /// Runs the work while the file stays as it is: in one reading transaction, or in the one that is open.
   Done read(const std::function<Done()>& work);
+  /// Rows that this handle has changed since it was opened.
+  int rowsChanged() const { return sqlite3_total_changes(handle()); }
   /// Tells of a row that this program wrote or removed inside a transaction that began at the counter
-  /// `before`, whoever's handle it was.
+  /// `before`, whoever's handle it was. Only of a transaction that changed something.
   void rowWritten(const QString& table, qint64 id, quint32 before);
   void rowsWritten(const QString& table, const std::vector<qint64>& ids, quint32 before);
   void rowRemoved(const QString& table, qint64 id, quint32 before);

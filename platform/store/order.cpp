@@ -13,7 +13,7 @@ bool isNumber(ColumnType type) {
 }  // namespace
 
 RowSorter::RowSorter(const Order& order, const TableSchema& schema,
-                     const std::function<const SortColumn&(int column)>& columnOf) {
+                     const std::function<const TextColumn&(int column)>& columnOf) {
   for (const SortKey& key : order) {
     const int column = schema.find(key.column);
     const ColumnType type = schema.type(column);
@@ -21,16 +21,16 @@ RowSorter::RowSorter(const Order& order, const TableSchema& schema,
       m_idDescending = key.descending;
       break;
     }
-    const SortColumn& content = columnOf(column);
+    const TextColumn& content = columnOf(column);
     m_keys.push_back({content.numbers(), content.texts(), isNumber(type), key.descending});
   }
 }
 
 int RowSorter::Key::compare(uint32_t a, uint32_t b) const {
-  const uint32_t left = numbers[a], right = numbers[b];
+  const uint32_t left = (*numbers)[a], right = (*numbers)[b];
   if (left == right) return 0;
-  const int order = left == SortTexts::kNull ? -1
-                    : right == SortTexts::kNull
+  const int order = left == ColumnTexts::kNull ? -1
+                    : right == ColumnTexts::kNull
                         ? 1
                         : texts->key(left, byValue).compare(texts->key(right, byValue));
   return descending ? -order : order;
@@ -67,12 +67,12 @@ Result<std::vector<qint64>> orderedIds(const TableRow& table, const QList<QHash<
   std::stable_sort(byId.begin(), byId.end(), [&](const auto& a, const auto& b) {
     return a.value(id).toLongLong() < b.value(id).toLongLong();
   });
-  QHash<int, SortColumn> columns;
+  QHash<int, TextColumn> columns;
   for (const int column : *sorted)
     for (const QHash<QString, Value>& row : byId) columns[column].append(row.value(schema.name(column)));
   std::vector<uint32_t> numbers(static_cast<size_t>(byId.size()));
   std::iota(numbers.begin(), numbers.end(), 0u);
-  const RowSorter sorter(*keys, schema, [&](int column) -> const SortColumn& { return columns[column]; });
+  const RowSorter sorter(*keys, schema, [&](int column) -> const TextColumn& { return columns[column]; });
   std::sort(numbers.begin(), numbers.end(), [&](uint32_t a, uint32_t b) { return sorter.before(a, b); });
   std::vector<qint64> ids;
   for (const uint32_t number : numbers) ids.push_back(byId[number].value(id).toLongLong());

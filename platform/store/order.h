@@ -14,7 +14,7 @@ namespace store {
 class RowSorter {
  public:
   RowSorter(const Order& order, const TableSchema& schema,
-            const std::function<const SortColumn&(int column)>& columnOf);
+            const std::function<const TextColumn&(int column)>& columnOf);
 
   /// The rows stay in ID order, forwards or backwards.
   bool byIdAlone() const { return m_keys.empty(); }
@@ -23,8 +23,8 @@ class RowSorter {
 
  private:
   struct Key {
-    std::vector<uint32_t> numbers;
-    std::shared_ptr<SortTexts> texts;
+    std::shared_ptr<const TextColumn::Numbers> numbers;
+    std::shared_ptr<ColumnTexts> texts;
     bool byValue;
     bool descending;
     int compare(uint32_t a, uint32_t b) const;

@@ -143,7 +143,9 @@ Done PairStore::State::updateHalf(Half& half, qint64 id, const Columns& columns,
   if (!now) return now.fault();
   if (now->isEmpty()) return seen ? rowIsGone() : halfIsMissing(id);
   if (const Done same = checkSeen(half, *now, seen); !same) return same;
-  if (const Done done = half.file.update(id, *values); !done) return done;
+  const RowValues changes = TableFile::differing(*now, *values);
+  if (changes.isEmpty()) return {};
+  if (const Done done = half.file.update(id, changes); !done) return done;
   half.written.push_back(id);
   return {};
 }
@@ -214,8 +216,9 @@ Done PairStore::remove(qint64 id) {
   State& state = *m_state;
   return state.transact([&]() -> Done {
     for (Half* half : state.halves()) {
+      const int changed = sqlite3_total_changes(state.handle);
       if (const Done done = half->file.remove(id); !done) return done;
-      half->removed.push_back(id);
+      if (sqlite3_total_changes(state.handle) != changed) half->removed.push_back(id);
     }
     return {};
   });

@@ -146,12 +146,13 @@ Done RecordSet::remove() {
   state.endEditing();
   const qint64 id = state.id();
   quint32 before = 0;
+  const int changed = state.engine().rowsChanged();
   const Done done = state.engine().write([&] {
     before = state.engine().changeCounter();
     return state.file->remove(id);
   });
   if (!done) return done;
-  state.engine().rowRemoved(table(), id, before);
+  if (state.engine().rowsChanged() != changed) state.engine().rowRemoved(table(), id, before);
   state.ids.erase(state.position);
   state.moveTo(state.position - 1);
   return {};

@@ -70,6 +70,7 @@ Result<RowValues> RecordSet::State::bufferedValues() const {
 Done RecordSet::State::write(const std::function<Result<qint64>()>& work) {
   quint32 before = 0;
   qint64 written = kNoBookmark;
+  const int changed = engine().rowsChanged();
   const Done done = engine().write([&]() -> Done {
     before = engine().changeCounter();
     const Result<qint64> wrote = work();
@@ -78,7 +79,7 @@ Done RecordSet::State::write(const std::function<Result<qint64>()>& work) {
     return {};
   });
   if (!done) return done;
-  engine().rowWritten(schema().table(), written, before);
+  if (engine().rowsChanged() != changed) engine().rowWritten(schema().table(), written, before);
   lastModified = written;
   return {};
 }
@@ -124,7 +125,7 @@ Result<qint64> RecordSet::State::writeEdited(const RowValues& values) {
   if (!now) return now.fault();
   if (now->isEmpty()) return rowIsGone();
   if (*now != seen) return changedMeanwhile();
-  if (const Done done = file->update(id(), values); !done) return done.fault();
+  if (const Done done = file->update(id(), TableFile::differing(*now, values)); !done) return done.fault();
   return id();
 }
 

@@ -13,11 +13,6 @@ QString textFrom(const TableSchema& schema, const QVector<int>& columns) {
          QStringLiteral(" WHERE \"ID\">=?1 ORDER BY \"ID\"");
 }
 
-QStringView viewOf(const Statement& rows, int place, ColumnType type) {
-  if (type == ColumnType::YesNo) return rows.number(place) ? u"-1" : u"0";
-  return rows.view(place);
-}
-
 }  // namespace
 
 Done walkRows(Engine& engine, const TableSchema& schema, const std::vector<qint64>& ids,
@@ -40,7 +35,7 @@ Done walkRows(Engine& engine, const TableSchema& schema, const std::vector<qint6
       }
       if (at > id) continue;  // the row is gone
       for (int place = 0; place < columns.size(); ++place)
-        values[static_cast<size_t>(place)] = viewOf(*rows, place + 1, schema.type(columns[place]));
+        values[static_cast<size_t>(place)] = rows->view(place + 1, schema.type(columns[place]));
       each(id, values);
     }
     rows->rewind();

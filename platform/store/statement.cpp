@@ -121,6 +121,11 @@ QStringView Statement::view(int column) const {
   return {static_cast<const char16_t*>(text), sqlite3_column_bytes16(m_statement, column) / 2};
 }
 
+QStringView Statement::view(int column, ColumnType type) const {
+  if (type == ColumnType::YesNo) return number(column) ? u"-1" : u"0";
+  return view(column);
+}
+
 QString Statement::text(int column) const {
   const QStringView found = view(column);
   return found.isNull() ? QString() : QString(found.data(), found.size());

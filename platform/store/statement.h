@@ -43,6 +43,8 @@ class Statement {
   QString text(int column) const;
   /// The text without a copy; valid until the next call of the statement. Null: NULL.
   QStringView view(int column) const;
+  /// The same as a value of the type: yes/no is "-1" or "0".
+  QStringView view(int column, ColumnType type) const;
   /// As Value: yes/no is "-1" or "0", never null.
   Value value(int column, ColumnType type) const;
 

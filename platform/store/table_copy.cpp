@@ -3,84 +3,17 @@
 #include <algorithm>
 #include <numeric>
 
-#include "platform/store/collation.h"
-#include "platform/text/fold.h"
-
 namespace store {
-namespace {
 
-std::u16string foldedCell(QStringView text) {
-  std::u16string cell;
-  text::foldForComparison(text, cell);
-  cell.push_back(u'\0');
-  return cell;
+TableCopy::TableCopy(TableFile file, const QVector<int>& columns)
+    : m_file(std::move(file)), m_haveIds(true), m_order(columns) {
+  for (const int column : columns) m_columns.try_emplace(column);
 }
 
-}  // namespace
-
-void FoldedColumn::append(QStringView text) {
-  text::foldForComparison(text, m_text);
-  m_text.push_back(u'\0');
-  m_starts.push_back(m_text.size());
-  m_null.push_back(text.isNull());
-}
-
-void FoldedColumn::replace(size_t row, QStringView text) {
-  const std::u16string cell = foldedCell(text);
-  const size_t old = m_starts[row + 1] - m_starts[row];
-  m_text.replace(m_starts[row], old, cell);
-  m_null[row] = text.isNull();
-  shift(row + 1, static_cast<std::ptrdiff_t>(cell.size()) - static_cast<std::ptrdiff_t>(old));
-}
-
-void FoldedColumn::erase(size_t row) {
-  const size_t old = m_starts[row + 1] - m_starts[row];
-  m_text.erase(m_starts[row], old);
-  m_null.erase(m_null.begin() + static_cast<std::ptrdiff_t>(row));
-  m_starts.erase(m_starts.begin() + static_cast<std::ptrdiff_t>(row));
-  shift(row, -static_cast<std::ptrdiff_t>(old));
-}
-
-void FoldedColumn::shift(size_t fromRow, std::ptrdiff_t by) {
-  if (by == 0) return;
-  for (size_t row = fromRow; row < m_starts.size(); ++row) m_starts[row] += static_cast<size_t>(by);
-}
-
-void FoldedColumn::markContaining(std::u16string_view needle, std::vector<char>& marks) const {
-  const std::u16string_view all(m_text);
-  size_t row = 0;
-  for (size_t hit = all.find(needle); hit != all.npos && row < rows();) {
-    if (m_starts[row + 1] <= hit)
-      row = static_cast<size_t>(
-                std::upper_bound(m_starts.begin() + static_cast<std::ptrdiff_t>(row), m_starts.end(), hit) -
-                m_starts.begin()) -
-            1;
-    if (row >= rows()) return;
-    marks[row] = !m_null[row];
-    hit = all.find(needle, m_starts[row + 1]);
-  }
-}
-
-uint32_t SortTexts::number(QStringView text) {
-  if (text.isNull()) return kNull;
-  constexpr size_t kEnoughToJudge = 4096;
-  const bool mostDiffer = ++m_asked > kEnoughToJudge && m_texts.size() > m_asked / 2;
-  if (!mostDiffer) {
-    const auto known = m_known.constFind(QString::fromRawData(text.data(), text.size()));
-    if (known != m_known.constEnd()) return *known;
-  }
-  const uint32_t made = static_cast<uint32_t>(m_texts.size());
-  m_texts.emplace_back(text.data(), text.size());
-  if (!mostDiffer) m_known.insert(m_texts.back(), made);
-  return made;
-}
-
-const QByteArray& SortTexts::key(uint32_t number, bool byValue) {
-  if (m_keys.size() < m_texts.size()) m_keys.resize(m_texts.size());
-  QByteArray& key = m_keys[number];
-  if (key.isNull())
-    key = byValue ? numberSortKey(m_texts[number].toLongLong()) : japaneseSortKey(m_texts[number]);
-  return key;
+void TableCopy::append(qint64 id, RowViews values) {
+  m_ids->push_back(id);
+  for (int place = 0; place < m_order.size(); ++place)
+    m_columns.at(m_order[place]).append(values[static_cast<size_t>(place)]);
 }
 
 std::vector<qint64>& TableCopy::ownIds() {
@@ -88,13 +21,11 @@ std::vector<qint64>& TableCopy::ownIds() {
   return *m_ids;
 }
 
-QVector<int> TableCopy::missing(const QVector<int>& searched, const QVector<int>& sorted) const {
-  QVector<int> columns;
-  for (const int column : searched)
-    if (!m_searched.contains(column) && !columns.contains(column)) columns += column;
-  for (const int column : sorted)
-    if (!m_sorted.contains(column) && !columns.contains(column)) columns += column;
-  return columns;
+QVector<int> TableCopy::missing(const QVector<int>& columns) const {
+  QVector<int> lacking;
+  for (const int column : columns)
+    if (!m_columns.contains(column) && !lacking.contains(column)) lacking += column;
+  return lacking;
 }
 
 Result<bool> TableCopy::loadUnbrokenIds(StatementCache& statements) {
@@ -114,8 +45,8 @@ Result<bool> TableCopy::loadUnbrokenIds(StatementCache& statements) {
   return true;
 }
 
-Done TableCopy::load(StatementCache& statements, const QVector<int>& searched, const QVector<int>& sorted) {
-  const QVector<int> columns = missing(searched, sorted);
+Done TableCopy::load(StatementCache& statements, const QVector<int>& wanted) {
+  const QVector<int> columns = missing(wanted);
   if (columns.isEmpty()) {
     if (m_haveIds) return {};
     const Result<bool> unbroken = loadUnbrokenIds(statements);
@@ -129,38 +60,24 @@ Done TableCopy::load(StatementCache& statements, const QVector<int>& searched, c
   if (!rows) return rows.fault();
 
   std::vector<qint64> ids;
-  std::vector<FoldedColumn> folded(static_cast<size_t>(columns.size()));
-  std::vector<SortColumn> coded(static_cast<size_t>(columns.size()));
-  std::vector<std::pair<bool, bool>> wanted;
-  for (const int column : columns)
-    wanted.emplace_back(searched.contains(column) && !m_searched.contains(column),
-                        sorted.contains(column) && !m_sorted.contains(column));
+  std::vector<TextColumn> read(static_cast<size_t>(columns.size()));
   for (;;) {
     const Result<bool> row = rows->step();
     if (!row) return row.fault();
     if (!row.value()) break;
     ids.push_back(rows->number(0));
-    for (int place = 0; place < columns.size(); ++place) {
-      const bool yesNo = schema().type(columns[place]) == ColumnType::YesNo;
-      const QStringView text = yesNo ? (rows->number(place + 1) ? u"-1" : u"0") : rows->view(place + 1);
-      const size_t at = static_cast<size_t>(place);
-      if (wanted[at].first) folded[at].append(text);
-      if (wanted[at].second) coded[at].append(text);
-    }
+    for (int place = 0; place < columns.size(); ++place)
+      read[static_cast<size_t>(place)].append(rows->view(place + 1, schema().type(columns[place])));
   }
   if (m_haveIds && ids != *m_ids) {  // another program wrote between: all columns must be of one moment
-    m_searched.clear();
-    m_sorted.clear();
+    m_columns.clear();
     m_haveIds = false;
-    return load(statements, searched, sorted);
+    return load(statements, wanted);
   }
-  m_ids = std::make_shared<std::vector<qint64>>(std::move(ids));
+  if (!m_haveIds) m_ids = std::make_shared<std::vector<qint64>>(std::move(ids));
   m_haveIds = true;
-  for (int place = 0; place < columns.size(); ++place) {
-    const size_t at = static_cast<size_t>(place);
-    if (wanted[at].first) m_searched.emplace(columns[place], std::move(folded[at]));
-    if (wanted[at].second) m_sorted.emplace(columns[place], std::move(coded[at]));
-  }
+  for (int place = 0; place < columns.size(); ++place)
+    m_columns.emplace(columns[place], std::move(read[static_cast<size_t>(place)]));
   return {};
 }
 
@@ -174,18 +91,11 @@ Done TableCopy::rowWritten(qint64 id) {
   const bool known = place != m_ids->end() && *place == id;
   if (!known && at != m_ids->size()) {  // an ID in the middle: rare enough to read all again
     m_haveIds = false;
-    m_searched.clear();
-    m_sorted.clear();
+    m_columns.clear();
     return {};
   }
   if (!known) ownIds().push_back(id);
-  for (auto& [column, cells] : m_searched) {
-    if (known)
-      cells.replace(at, row[column]);
-    else
-      cells.append(row[column]);
-  }
-  for (auto& [column, cells] : m_sorted) {
+  for (auto& [column, cells] : m_columns) {
     if (known)
       cells.replace(at, row[column]);
     else
@@ -200,8 +110,7 @@ void TableCopy::rowRemoved(qint64 id) {
   const std::ptrdiff_t at = place - m_ids->begin();
   std::vector<qint64>& ids = ownIds();
   ids.erase(ids.begin() + at);
-  for (auto& [column, cells] : m_searched) cells.erase(static_cast<size_t>(at));
-  for (auto& [column, cells] : m_sorted) cells.erase(static_cast<size_t>(at));
+  for (auto& [column, cells] : m_columns) cells.erase(static_cast<size_t>(at));
 }
 
 }  // namespace store

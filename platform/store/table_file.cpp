@@ -76,6 +76,13 @@ Result<qint64> TableFile::insert(const RowValues& values) const {
   return static_cast<qint64>(sqlite3_last_insert_rowid(m_statements->handle()));
 }
 
+RowValues TableFile::differing(const Row& now, const RowValues& values) {
+  RowValues changes;
+  for (const auto& [column, value] : values)
+    if (value != now[column] || value.isNull() != now[column].isNull()) changes.append({column, value});
+  return changes;
+}
+
 Done TableFile::update(qint64 id, const RowValues& values) const {
   if (values.isEmpty()) return {};
   QStringList pairs;

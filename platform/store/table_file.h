@@ -49,6 +49,9 @@ class TableFile {
   Result<qint64> insert(const RowValues& values) const;
   /// The statement that adds a row with these columns, their values bound from 1 on.
   QString insertText(const RowValues& values) const;
+  /// The values that differ from the row as it stands. A write that changes nothing must not be told as one:
+  /// it does not advance the file's counter.
+  static RowValues differing(const Row& now, const RowValues& values);
   Done update(qint64 id, const RowValues& values) const;
   Done remove(qint64 id) const;
 

@@ -56,6 +56,14 @@ class ModelTest : public StoreTest {
     fresh(kFile);
     set = openSet(kFile, QStringLiteral("保険者"));
     sqlite3_exec(set.database()->handle(), "PRAGMA synchronous=OFF", nullptr, nullptr, nullptr);
+    ASSERT_EQ(sqlite3_open(QFile::encodeName(path(kFile)).constData(), &other), SQLITE_OK);
+    sqlite3_exec(other, "PRAGMA synchronous=OFF", nullptr, nullptr, nullptr);
+  }
+  void TearDown() override { sqlite3_close(other); }
+
+  /// What another computer writes meanwhile.
+  void elsewhere(const QString& statement) const {
+    ASSERT_EQ(sqlite3_exec(other, statement.toUtf8().constData(), nullptr, nullptr, nullptr), SQLITE_OK);
   }
 
   void move(unsigned kind) {
@@ -131,6 +139,95 @@ class ModelTest : public StoreTest {
       ASSERT_EQ(copy->valueAt(row, QStringLiteral("ID")),
                 QString::number(wanted[static_cast<size_t>(row)].id));
   }
+  /// Rows of the model that hold both texts, in the order of their numbers.
+  std::vector<ModelRow> narrowedModel(const QString& name, const QString& number) const {
+    std::vector<ModelRow> wanted;
+    for (const ModelRow& row : model.rows)
+      if (row.name.contains(name) && !row.number.isNull() && row.number.contains(number))
+        wanted.push_back(row);
+    std::stable_sort(wanted.begin(), wanted.end(),
+                     [](const ModelRow& a, const ModelRow& b) { return a.number < b.number; });
+    return wanted;
+  }
+  Result<RecordSet> narrowedSet(const QString& name, const QString& number) {
+    set.setFilter(QStringLiteral("名称 like '*%1*'").arg(name));
+    set.setSort(QString());
+    Result<RecordSet> copy = set.openRecordset();
+    if (!copy) return copy;
+    copy->setFilter(QStringLiteral("番号 like '*%1*'").arg(number));
+    copy->setSort(QStringLiteral("番号 ASC"));
+    return copy->openRecordset();
+  }
+  /// Criteria after criteria, and a walk over what is left.
+  void narrowAndWalk() {
+    const QString name = someName(random), number = someName(random);
+    const std::vector<ModelRow> wanted = narrowedModel(name, number);
+    const Result<RecordSet> copy = narrowedSet(name, number);
+    ASSERT_TRUE(copy.ok());
+    ASSERT_EQ(copy->recordCount(), static_cast<int>(wanted.size()));
+    QHash<QString, QString> numbers;
+    ASSERT_TRUE(
+        copy->forEach({QStringLiteral("ID"), kNumber},
+                      [&](RowViews values) { numbers.insert(values[0].toString(), values[1].toString()); })
+            .ok());
+    ASSERT_EQ(numbers.size(), copy->recordCount());
+    for (int row = 0; row < copy->recordCount(); ++row) {
+      const ModelRow& one = wanted[static_cast<size_t>(row)];
+      ASSERT_EQ(copy->valueAt(row, QStringLiteral("ID")), QString::number(one.id));
+      ASSERT_EQ(numbers.value(QString::number(one.id)), one.number);
+    }
+  }
+  void updateRows() {
+    const QString name = someName(random), number = someName(random), end = someName(random);
+    Result<RecordSet> copy = narrowedSet(name, number);
+    ASSERT_TRUE(copy.ok());
+    const std::vector<ModelRow> wanted = narrowedModel(name, number);
+    ASSERT_EQ(copy->recordCount(), static_cast<int>(wanted.size()));
+    ASSERT_TRUE(copy->updateAll({kName}, kNumber,
+                                [&](RowViews values) -> std::optional<Value> {
+                                  if (values[0].size() % 2) return std::nullopt;
+                                  return values[0].toString() + end;
+                                })
+                    .ok());
+    for (const ModelRow& changed : wanted)
+      for (ModelRow& row : model.rows)
+        if (row.id == changed.id && row.name.size() % 2 == 0) row.number = row.name + end;
+  }
+  /// Another computer adds, changes or deletes; the set sees it when it is refreshed.
+  void writeElsewhere() {
+    const QString name = someName(random);
+    const unsigned kind = model.rows.empty() ? 0 : random() % 3;
+    const size_t row = model.rows.empty() ? 0 : random() % model.rows.size();
+    const qint64 current = model.onRow() ? model.row().id : kNoBookmark;
+    if (kind == 0) {
+      elsewhere(QStringLiteral("INSERT INTO 保険者 (名称) VALUES ('%1')").arg(name));
+      model.rows.push_back({model.nextId++, name, QString()});
+    } else if (kind == 1) {
+      elsewhere(QStringLiteral("UPDATE 保険者 SET 番号='%1' WHERE ID=%2").arg(name).arg(model.rows[row].id));
+      model.rows[row].number = name;
+    }
+    if (kind == 2) {
+      elsewhere(QStringLiteral("DELETE FROM 保険者 WHERE ID=%1").arg(model.rows[row].id));
+      model.rows.erase(model.rows.begin() + static_cast<std::ptrdiff_t>(row));
+    }
+    ASSERT_TRUE(set.refresh().ok());
+    model.position = model.rows.empty() ? -1 : 0;
+    for (int at = 0; at < model.count(); ++at)
+      if (model.rows[static_cast<size_t>(at)].id == current) model.position = at;
+  }
+  /// A store over a row that changed since it was read is refused, and what was typed stays.
+  void storeOverAnothersChange() {
+    if (!model.onRow()) return;
+    const QString theirs = model.row().number + u'他', ours = someName(random) + u'我';
+    ASSERT_TRUE(set.edit().ok() && set.setValue(kNumber, ours).ok());
+    elsewhere(QStringLiteral("UPDATE 保険者 SET 番号='%1' WHERE ID=%2").arg(theirs).arg(model.row().id));
+    const Done done = set.update();
+    ASSERT_FALSE(done.ok());
+    ASSERT_TRUE(done.fault().message.contains(QStringLiteral("変更されたため")));
+    ASSERT_EQ(set.value(kNumber), ours);
+    set.cancelUpdate();
+    model.row().number = theirs;
+  }
   void findRow() {
     const QString part = someName(random);
     const bool next = random() % 2;
@@ -145,12 +242,13 @@ class ModelTest : public StoreTest {
 
   std::mt19937 random{20241001};
   RecordSet set;
+  sqlite3* other = nullptr;
   Model model;
 };
 
 TEST_F(ModelTest, RandomOperationsGoAsOnAPlainList) {
-  for (int step = 0; step < 1500; ++step) {
-    const unsigned kind = random() % 10;
+  for (int step = 0; step < 2500; ++step) {
+    const unsigned kind = random() % 14;
     if (kind < 4)
       move(random() % 5);
     else if (kind < 6)
@@ -161,8 +259,16 @@ TEST_F(ModelTest, RandomOperationsGoAsOnAPlainList) {
       if (random() % 2) removeRow();
     } else if (kind == 8)
       filterRows();
-    else
+    else if (kind == 9)
       findRow();
+    else if (kind == 10)
+      narrowAndWalk();
+    else if (kind == 11)
+      updateRows();
+    else if (kind == 12)
+      writeElsewhere();
+    else
+      storeOverAnothersChange();
     expectSame(set, model);
     if (HasFatalFailure()) FAIL() << "step " << step;
   }

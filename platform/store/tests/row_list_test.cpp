@@ -33,7 +33,7 @@ class RowListTest : public testing::Test {
   }
   RowList list() const {
     const Order order{{QStringLiteral("kind"), true}, {QStringLiteral("name"), false}};
-    return RowList(ids, rows, RowSorter(order, schema, [&](int column) -> const SortColumn& {
+    return RowList(ids, rows, RowSorter(order, schema, [&](int column) -> const TextColumn& {
                      return columns[static_cast<size_t>(column - 1)];
                    }));
   }
@@ -44,7 +44,7 @@ class RowListTest : public testing::Test {
   std::vector<uint32_t> rows, expected;
   std::vector<int> kinds;
   std::vector<QString> names;
-  SortColumn columns[2];
+  TextColumn columns[2];
 };
 
 TEST_F(RowListTest, EveryPositionIsRightWhereverSomebodyLooksFirst) {
@@ -107,40 +107,6 @@ TEST_F(RowListTest, AWholeTableGoesForwardsAndBackwardsAndMayChange) {
     EXPECT_EQ(whole.ids(), model);
   }
   EXPECT_EQ(*shared, ids);
-}
-
-TEST(FoldedColumn, MarksTheRowsThatHoldTheTextAndFollowsChanges) {
-  std::mt19937 random{9};
-  FoldedColumn column;
-  std::vector<QString> model;
-  const auto word = [&] {
-    QString text;
-    for (unsigned length = random() % 4; length > 0; --length)
-      text += QChar(static_cast<char16_t>(u'ア' + 2 * (random() % 3)));
-    return random() % 9 == 0 ? QString() : text.isNull() ? QStringLiteral("") : text;
-  };
-  for (int step = 0; step < 2000; ++step) {
-    const QString text = word();
-    const size_t row = model.empty() ? 0 : random() % model.size();
-    const unsigned kind = model.size() < 5 ? 0 : random() % 4;
-    if (kind < 2) {
-      column.append(text);
-      model.push_back(text);
-    } else if (kind == 2) {
-      column.replace(row, text);
-      model[row] = text;
-    } else {
-      column.erase(row);
-      model.erase(model.begin() + static_cast<std::ptrdiff_t>(row));
-    }
-    const QString part = word();
-    if (part.isEmpty()) continue;
-    std::vector<char> marks(model.size(), 0), wanted(model.size(), 0);
-    const LikePattern pattern(u'*' + part + u'*', Wildcard::RowSet);
-    column.markContaining(*pattern.contained(), marks);
-    for (size_t at = 0; at < model.size(); ++at) wanted[at] = model[at].contains(part);
-    ASSERT_EQ(marks, wanted) << step;
-  }
 }
 
 }  // namespace
