@@ -107,7 +107,7 @@ void PatientScreen::takeBooked(const QString& patientName) {
   source().show();
   if (!found) return noteFound(found.fault());
   if (!rows.noMatch()) return noteFound(true);
-  if (addRow(patientName)) m_notice = {name(kBookedIsNew), QString()};
+  if (startRow(patientName)) m_notice = {name(kBookedIsNew), QString()};
 }
 
 void PatientScreen::takeListed(qint64 id, const QString& patientName) {

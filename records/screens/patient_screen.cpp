@@ -93,10 +93,10 @@ void PatientScreen::askNewPatient() {
 }
 
 void PatientScreen::startNewPatient() {
-  if (source().isOpen() && screen::settleRow(source())) addRow();
+  if (source().isOpen() && screen::settleRow(source())) startRow();
 }
 
-bool PatientScreen::addRow(const QString& patientName) {
+bool PatientScreen::startRow(const QString& patientName) {
   // Read again first: a patient whom another computer entered meanwhile must not get the same serial.
   if (const text::Done read = source().rows().refresh(); !read) {
     messages().tellDataFault(read.fault().message);

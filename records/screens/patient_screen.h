@@ -66,7 +66,7 @@ class PatientScreen : public screen::Screen {
   void offerGrowth();
   QString file() const;
 
-  bool addRow(const QString& patientName = QString());
+  bool startRow(const QString& patientName = QString());
   void takeSerial(const QString& serial);
   void takeBooked(const QString& patientName);
   void takeListed(qint64 id, const QString& patientName);

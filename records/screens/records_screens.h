@@ -7,6 +7,7 @@
 namespace records {
 
 /// Lists the screens of the patient rooms. Lists and labels are printed through the engine.
-void registerScreens(screen::ScreenRegistry& registry, frame::RunState& run, report::ReportOperations& engine);
+void registerScreens(screen::ScreenRegistry& registry, frame::RunState& run,
+                     report::ReportOperations& engine);
 
 }  // namespace records

@@ -39,7 +39,8 @@ TEST_P(RecordsCatalogueTest, TwinsBothExist) {
 }
 
 INSTANTIATE_TEST_SUITE_P(AllScreens, RecordsCatalogueTest,
-                         testing::Values(u"選択4"_s, u"治療台帳4"_s, u"無データ"_s));
+                         testing::Values(u"選択4"_s, u"治療台帳4"_s, u"無データ"_s, u"一覧表"_s, u"抽出2"_s,
+                                         u"抽出3"_s, u"ソート1"_s));
 
 /// Columns of the first schema only: the screen works on a file that never grew.
 TEST(PatientDeclaration, BindsNoColumnThatCameLater) {
