@@ -26,7 +26,8 @@ ClaimListScreen::ClaimListScreen(screen::Services& services, frame::RunState& ru
 void ClaimListScreen::onLoad() {
   setText("Combo1", QString::fromUtf16(kListKeys.front()));
   growSecondFile();
-  if (openWhole()) claimFile();  // a second file that is missing or broken is told now, not at the first claim
+  if (openWhole())
+    claimFile();  // a second file that is missing or broken is told now, not at the first claim
 }
 
 void ClaimListScreen::opened(const screen::Request& request) {
@@ -39,8 +40,8 @@ void ClaimListScreen::opened(const screen::Request& request) {
   m_tellsEmpty = !holdsRows();
 }
 
-// The second file of an older version gets its new columns. Where it cannot, the list works with those that it
-// has; a file that cannot be read at all is told by name where it is opened.
+// The second file of an older version gets its new columns. Where it cannot, the list works with those that
+// it has; a file that cannot be read at all is told by name where it is opened.
 void ClaimListScreen::growSecondFile() {
   const QString& path = m_run.folders[frame::folder::kClaims2];
   for (const store::GrowthRun run : {store::GrowthRun::Claim1, store::GrowthRun::Claim2}) {
@@ -73,13 +74,19 @@ bool ClaimListScreen::openWhole() {
 
 QString ClaimListScreen::noRowsText() const { return kNoRows; }
 
+void ClaimListScreen::setChanged() {
+  messages().holdSpeech();
+  voice().speakText(QStringLiteral("%1件です。").arg(source().rows().recordCount()));
+  focusOn("DBGrid1");
+}
+
 // Hits stand in the order in which the claims were made.
 void ClaimListScreen::search() {
   narrowBy(store::likeCriterion(text("Combo1"), text("Text1")) + "order by ID");
 }
 
 void ClaimListScreen::showAll() {
-  if (openWhole() && !emptySet(kNoRows)) focusOn("DBGrid1");
+  if (openWhole() && !emptySet(kNoRows)) setChanged();
 }
 
 // 更新: claims made meanwhile come in; a narrowed list becomes whole.
@@ -122,7 +129,7 @@ void ClaimListScreen::removeClaim() {
   const text::Done removed = file->remove(id);
   if (!removed) messages().tellDataFault(removed.fault().message);
   if (removed && onDisplay) navigator().unload(kForm);
-  if (openWhole()) focusOn("DBGrid1");
+  if (openWhole()) setChanged();
 }
 
 void ClaimListScreen::finish() {

@@ -44,7 +44,8 @@ class ClaimListScreen : public screen::ListScreen {
  protected:
   bool openWhole() override;
   QString noRowsText() const override;
-  void setChanged() override { focusOn("DBGrid1"); }
+  /// Says how many claims are on view now.
+  void setChanged() override;
 
  private:
   void growSecondFile();

@@ -47,8 +47,6 @@ void ConsentExtractScreen::extract() {
   const QString criteria = store::spanCriterion(QStringLiteral("要加療期間2"), text("Text1"), text("Text2"));
   if (!list->narrowBy(criteria)) return;
   navigator().show(kList);
-  messages().holdSpeech();
-  voice().speakText(QStringLiteral("%1件です。").arg(list->source().rows().recordCount()));
   close();
 }
 

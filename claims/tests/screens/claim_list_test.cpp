@@ -62,6 +62,18 @@ TEST_P(ClaimListKeys, FindsThePartOfTheTextInIdOrder) {
 }
 INSTANTIATE_TEST_SUITE_P(Keys, ClaimListKeys, testing::Range(0, 20));
 
+TEST_F(ClaimListTest, SaysHowManyClaimsAreOnView) {
+  for (const char16_t* name : {u"見本 太郎", u"例示 花子", u"見本 次郎"}) addNamed(name);
+  openList();
+  activate();
+  m_channel.clear();
+  search(u"氏名", qs(u"見本"));
+  EXPECT_TRUE(m_channel.said().contains(qs(u"2件です。")));
+  m_channel.clear();
+  press(u"cmdRefresh");
+  EXPECT_TRUE(m_channel.said().contains(qs(u"3件です。")));
+}
+
 TEST_F(ClaimListTest, ASearchSeesNoDifferenceOfWidthAndKana) {
   addClaim({{u"被保険者のフリガナ", u"ﾐﾎﾝ ﾀﾛｳ"}});
   addClaim({{u"被保険者のフリガナ", u"レイジ ハナコ"}});
