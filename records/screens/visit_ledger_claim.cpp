@@ -1,6 +1,6 @@
 #include "claims/core/check_grid.h"
 #include "platform/screen/control_book.h"
-#include "records/screens/hourglass.h"
+#include "platform/screen/hourglass.h"
 #include "records/screens/visit_ledger_screen.h"
 
 // The typed days of a claim: validated, written to both halves, handed over to the claim form.
@@ -72,7 +72,7 @@ void VisitLedgerScreen::storeGrid() {
 void VisitLedgerScreen::handOver() {
   screen::Screen* form = nullptr;
   {
-    const Hourglass loading;
+    const screen::Hourglass loading;
     form = navigator().load(kForm);
     if (form) form->opened({{u"ID"_s, m_claimId}, {u"opener"_s, u"治療台帳3"_s}});
   }

@@ -51,7 +51,11 @@ void VisitLedgerScreen::openGrid() {
   setShown(kFrame, true);
   if (!openClaims() || !putClaims()) return hideGrid();
   say({caption(kFrame), text(u"txtFields(114)"_s), text(u"txtFields(67)"_s)});
-  focusOn(code(0));
+  // Once the frame has its place: before that the window cannot scroll to the cell.
+  const auto goToFirstDay = [this, from = focused()] {
+    if (gridShown() && focused() == from) focusOn(code(0));
+  };
+  QMetaObject::invokeMethod(this, goToFirstDay, Qt::QueuedConnection);
 }
 
 void VisitLedgerScreen::gridMonthEntered() {

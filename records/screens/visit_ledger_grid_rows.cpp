@@ -52,7 +52,7 @@ constexpr Row kRows[] = {
     EndBar{},
 
     Group{.name = {u"Frame1"}, .caption = u"療養費の日付", .columns = 2},
-    Group{.name = {u"FrameClaim"}, .caption = u"レセプトの項目", .columns = 5},
+    Group{.name = {u"FrameClaim"}, .caption = u"レセプトの項目", .columns = 4},
     told({u"txtFields", 114}, u"データの請求年月:", u"申請年月"),
     // The kind that the claim was made with; 施術科目 itself is blank until the claim was stored once.
     told({u"txtFields", 67}, u"施術科目:", u"施術内容"),
@@ -90,7 +90,7 @@ constexpr Row kRows[] = {
             .caption = u"%1日 治療内容",
             .bind = Column{u"治療内容%1", 3},
             .limit = 4,
-            .perLine = 11,
+            .perLine = 10,
             .onLeave = call<&Ledger::codeLeft>},
     EndGroup{},
     Group{.name = {u"Label9"}, .caption = u"往療距離", .columns = 2},
@@ -99,7 +99,7 @@ constexpr Row kRows[] = {
             .caption = u"%1日 往療距離",
             .bind = Column{u"往療距離%1", 3},
             .limit = 4,
-            .perLine = 11,
+            .perLine = 10,
             .onLeave = call<&Ledger::visitLeft>},
     EndGroup{},
     Bar{},

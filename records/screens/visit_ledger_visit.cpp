@@ -1,5 +1,5 @@
-#include "platform/shell/desktop.h"
 #include "platform/screen/hourglass.h"
+#include "platform/shell/desktop.h"
 #include "records/core/visit_dates.h"
 #include "records/screens/visit_ledger_screen.h"
 
@@ -61,9 +61,11 @@ void VisitLedgerScreen::startVisit(const QString& name, const QString& birth, co
 bool VisitLedgerScreen::writeVisit() {
   if (noVisit() || !settleVisit()) return false;
   m_newRowPending = false;
-  const screen::Hourglass passing;
-  if (const text::Done passed = passVisitDates(source().rows(), m_run.eraDates()); !passed)
-    messages().tellDataFault(passed.fault().message);
+  const text::Done passed = [this] {
+    const screen::Hourglass passing;
+    return passVisitDates(source().rows(), m_run.eraDates());
+  }();
+  if (!passed) messages().tellDataFault(passed.fault().message);
   source().show();
   return true;
 }
