@@ -1,6 +1,8 @@
 // desk_bench: figures of the running program, on the offscreen platform. One line a figure.
 //   desk_bench start DIR   from the launch to the main menu, beside an empty window of the toolkit
 //   desk_bench focus DIR   from the Tab key to the speech request, on the main menu and on the claim form
+//   desk_bench list DIR    from the opening of the patient list to the first row's name as a speech request,
+//                          and from Ctrl+End to the last cell of the last row
 //   desk_bench empty | menu DIR   one measured launch (used by `start`)
 
 #include <QApplication>
@@ -14,26 +16,31 @@
 #include <cstdio>
 
 #include "app/desk.h"
+#include "platform/store/database.h"
+#include "platform/store/record_set.h"
 #include "platform/voice/silent_library.h"
 
 namespace {
 
-/// Notes when a text was last asked to be said.
+/// Notes when a text, or one that holds the awaited words, was first asked to be said.
 class TimingVoice final : public voice::VoiceControl {
  public:
   explicit TimingVoice(QElapsedTimer& timer) : m_timer(timer) {}
   void VoiceStop() override {}
-  void VoiceSay(const QString&) override {
-    if (saidAt < 0) saidAt = m_timer.nsecsElapsed();
+  void VoiceSay(const QString& text) override {
+    if (saidAt < 0 && text.contains(awaited)) saidAt = m_timer.nsecsElapsed();
   }
   void VoiceGo() override {}
   qint64 saidAt = -1;
+  QString awaited;
 
  private:
   QElapsedTimer& m_timer;
 };
 
-void figure(const char* name, double value, const char* unit) { std::printf("%s %.6g %s\n", name, value, unit); }
+void figure(const char* name, double value, const char* unit) {
+  std::printf("%s %.6g %s\n", name, value, unit);
+}
 
 double percentile(QVector<double> values, double part) {
   if (values.isEmpty()) return 0;
@@ -124,6 +131,63 @@ int focus(const QString& folder) {
   return 0;
 }
 
+/// Milliseconds from the action to the speech request that holds the words; -1 where they are not said.
+double untilSaid(Running& program, const QString& words, const std::function<void()>& action) {
+  constexpr qint64 kLongest = 5'000'000'000;
+  program.voice.awaited = words;
+  program.voice.saidAt = -1;
+  const qint64 began = program.timer.nsecsElapsed();
+  action();
+  while (program.voice.saidAt < 0 && program.timer.nsecsElapsed() - began < kLongest)
+    QApplication::processEvents();
+  return program.voice.saidAt < 0 ? -1 : (program.voice.saidAt - began) / 1e6;
+}
+
+int list(const QString& folder) {
+  constexpr int kRuns = 5;
+  const QString name = QStringLiteral("一覧表"), grid = QStringLiteral("DBGrid1");
+  QString first, last;
+  if (auto database = store::Database::open(folder + QStringLiteral("/臨床QV2000N.mdb"))) {
+    if (auto rows = store::RecordSet::open(*database, QStringLiteral("臨床QV"))) {
+      first = rows->value(QStringLiteral("氏名"));
+      rows->moveLast();
+      last = rows->value(QStringLiteral("ID"));
+      figure("list_screen_rows", rows->recordCount(), "rows");
+    }
+  }
+  Running program(folder);
+  screen::ScreenNavigator& navigator = program.desk.navigator();
+  if (program.desk.start() != frame::Started::Menu || first.isEmpty()) return 1;
+  navigator.unload(QStringLiteral("topics"));
+  QApplication::processEvents();
+  QVector<double> opened, ended;
+  for (int run = 0; run < kRuns; ++run) {
+    screen::Screen* window = nullptr;
+    opened += untilSaid(program, first, [&] {
+      window = navigator.show(name, {});
+      if (window == nullptr) return;
+      QApplication::setActiveWindow(window);
+      if (auto* view = window->findChild<QWidget*>(grid)) view->setFocus();
+    });
+    QWidget* view = window != nullptr ? window->findChild<QWidget*>(grid) : nullptr;
+    if (view == nullptr) return 1;
+    ended += untilSaid(program, last, [&] {
+      QKeyEvent press(QEvent::KeyPress, Qt::Key_End, Qt::ControlModifier);
+      QApplication::sendEvent(view, &press);
+    });
+    navigator.unload(name);
+    QApplication::processEvents();
+  }
+  if (opened.contains(-1) || ended.contains(-1)) {
+    std::fprintf(stderr, "the list did not say its %s row\n", opened.contains(-1) ? "first" : "last");
+    return 1;
+  }
+  figure("list_screen_first_row_first", opened.front(), "ms");
+  figure("list_screen_first_row", percentile(opened, 0.5), "ms");
+  figure("list_screen_last_row", percentile(ended, 0.5), "ms");
+  return 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -135,8 +199,9 @@ int main(int argc, char** argv) {
   const QString folder = argc > 2 ? QFileInfo(QString::fromLocal8Bit(argv[2])).absoluteFilePath() : QString();
   if (word == "start") return start(folder);
   if (word == "focus") return focus(folder);
+  if (word == "list") return list(folder);
   if (word == "empty") return emptyWindow();
   if (word == "menu") return mainMenu(folder);
-  std::fputs("usage: desk_bench start DIR | focus DIR\n", stderr);
+  std::fputs("usage: desk_bench start DIR | focus DIR | list DIR\n", stderr);
   return 2;
 }
