@@ -45,8 +45,8 @@ void ConfirmPrompt::press() {
 }
 
 void ConfirmPrompt::keyPressEvent(QKeyEvent* event) {
-  if (event->key() != Qt::Key_Escape || m_prompt.buttons.size() != 2) return Screen::keyPressEvent(event);
-  trigger(screen::objectName(m_prompt.buttons[1].name));
+  if (event->key() != Qt::Key_Escape || m_prompt.buttons.size() < 2) return Screen::keyPressEvent(event);
+  trigger(screen::objectName(m_prompt.buttons.back().name));
 }
 
 }  // namespace screen

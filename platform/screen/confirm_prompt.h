@@ -40,7 +40,7 @@ struct PromptDeclaration {
 };
 }  // namespace detail
 
-/// A screen made from one row of the table of prompts. Escape is the refusal: it presses the second of two
+/// A screen made from one row of the table of prompts. Escape is the refusal: it presses the last of several
 /// buttons; with a single button that does more than closing it does nothing.
 class ConfirmPrompt : private detail::PromptDeclaration, public Screen {
  public:

@@ -24,7 +24,7 @@ void Screen::showEvent(QShowEvent* event) {
     m_parts->openingSaid = true;
     fitToDesk();
     if (m_parts->firstFocus)
-      m_parts->firstFocus->setFocus(Qt::OtherFocusReason);
+      giveFocus(*m_parts->firstFocus);
     else if (!focusWidget())
       focusFirst();
     speakOpening();
@@ -98,7 +98,7 @@ void Screen::focusFirst() {
     for (QWidget* widget : control->focusWidgets())
       if (control->isShown() && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus &&
           widget->isVisibleTo(this))
-        return widget->setFocus(Qt::OtherFocusReason);
+        return giveFocus(*widget);
 }
 
 void Screen::trigger(const QString& command) {

@@ -112,7 +112,13 @@ void Screen::focusOn(const QString& control) {
   if (TabsControl* tabs = m_parts->book.tabs()) tabs->showPageOf(target);
   // Before the first show the toolkit forgets the focus of a widget inside a scroll area.
   if (!m_parts->openingSaid) m_parts->firstFocus = target;
-  target->setFocus(Qt::OtherFocusReason);
+  giveFocus(*target);
+}
+
+void giveFocus(QWidget& widget) {
+  widget.setFocus(Qt::OtherFocusReason);
+  const auto* list = qobject_cast<QComboBox*>(&widget);
+  if (list && list->lineEdit()) list->lineEdit()->selectAll();
 }
 
 QString Screen::focused() const {

@@ -22,4 +22,8 @@ struct Screen::Parts {
   bool closed = false;
 };
 
+/// Puts the focus on the widget as the Tab key does: the text of a list that is typed into is selected, so
+/// that what is typed takes its place.
+void giveFocus(QWidget& widget);
+
 }  // namespace screen
