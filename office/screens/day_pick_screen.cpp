@@ -12,9 +12,11 @@ namespace {
 using namespace screen;
 
 constexpr Row kRows[] = {
+    Group{.name = {u"Frame1"}, .caption = u"予約日の指定", .columns = 3},
     dateList(u"Combo1", u"年:", Unbound{u"the day to look for"}, kBookYears.items),
     dateList(u"Combo2", u"月:", Unbound{u"the day to look for"}, kMonths),
     dateList(u"Combo3", u"日:", Unbound{u"the day to look for"}, kDays),
+    EndGroup{},
     Bar{},
     Command{.name = {u"Command1"},
             .caption = u"指定日の予約の表示",

@@ -88,7 +88,8 @@ void TodaysBookingsScreen::showDayAsked() {
   if (hits->recordCount() == 0) {
     screen::tellNotFound(*this);
     // A day is sought among the rows on view: whoever hears "no match" has to know that.
-    if (m_narrowed) sayWithCount({u"絞り込んだ予約の中から探しました"_s});
+    if (m_narrowed)
+      sayWithCount({u"表示中の予約の中から探しました。全表示に戻すと、すべての予約から探せます。"_s});
     return;
   }
   source().assign(std::move(*hits));

@@ -48,6 +48,7 @@ WeekScreen::WeekScreen(screen::Services& services, frame::RunState& run)
     : BookingList(kWeek, services, run) {}
 
 void WeekScreen::opened(const screen::Request&) {
+  focusOn(u"SSTab1"_s);
   whenActive([this] { showThisWeek(); });
 }
 

@@ -32,6 +32,7 @@ class WeekView : public BookingFixture {
 
 TEST_F(WeekView, OpensOnToday) {
   screen::Screen& screen = week();
+  EXPECT_EQ(screen.focused(), u"SSTab1"_s);
   EXPECT_EQ(screen.items(u"SSTab1"_s), QStringList({u"日曜日"_s, u"月曜日"_s, u"火曜日"_s, u"水曜日"_s,
                                                     u"木曜日"_s, u"金曜日"_s, u"土曜日"_s}));
   EXPECT_EQ(screen.text(u"Text1"_s), u"令和6年10月1日火曜日"_s);
@@ -168,6 +169,15 @@ TEST_P(DayPick, ShowsTheDayOnTheListAndRemembersIt) {
   EXPECT_EQ(dayOf(picker()), QStringList({u"2025"_s, u"7"_s, u"8"_s}));
 }
 
+TEST_P(DayPick, WhatIsTypedFirstTakesThePlaceOfTheYear) {
+  screen::Screen& screen = picker();
+  screen::testing::ScreenProbe probe(screen, channel);
+  probe.open();
+  EXPECT_EQ(screen.focused(), u"Combo1"_s);
+  QTest::keyClicks(QApplication::focusWidget(), u"2025"_s);
+  EXPECT_EQ(screen.text(u"Combo1"_s), u"2025"_s);
+}
+
 TEST_P(DayPick, ADayWithoutBookingsIsToldOnTheList) {
   book(u"2025/7/8"_s, u"9 時 0 分"_s, u"見本"_s);
   picker().trigger(u"Command1"_s);
@@ -285,12 +295,18 @@ TEST_F(CalendarNotice, OfTheOthersOpensTheCalendarOnToday) {
   EXPECT_FALSE(isShown(u"カレンダーのチェック"));
 }
 
-TEST_F(CalendarNotice, CancelCloses) {
-  notice().trigger(u"Command3"_s);
-  settle();
-  EXPECT_FALSE(isShown(u"カレンダーのチェック"));
-  EXPECT_FALSE(isShown(u"予約カレンダー"));
-  EXPECT_EQ(told(), QStringList());
+TEST_F(CalendarNotice, CancelAndEscapeClose) {
+  for (const bool escape : {false, true}) {
+    screen::Screen& screen = notice();
+    if (escape)
+      QTest::keyClick(&screen, Qt::Key_Escape);
+    else
+      screen.trigger(u"Command3"_s);
+    settle();
+    EXPECT_FALSE(isShown(u"カレンダーのチェック"));
+    EXPECT_FALSE(isShown(u"予約カレンダー"));
+    EXPECT_EQ(told(), QStringList());
+  }
 }
 
 }  // namespace

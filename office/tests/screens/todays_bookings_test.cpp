@@ -93,7 +93,9 @@ TEST_F(TodaysBookings, ADayIsSoughtAmongTheRowsOnViewUntilAllAreShown) {
   showDay(screen, u"2024"_s, u"6"_s, u"15"_s);
   showDay(screen, u"2024"_s, u"6"_s, u"18"_s);
   EXPECT_EQ(told(), QStringList(kNotFound));
-  EXPECT_EQ(channel.lastSaid(), spoken({u"絞り込んだ予約の中から探しました"_s, u"予約 2 件"_s}));
+  EXPECT_EQ(channel.lastSaid(),
+            spoken({u"表示中の予約の中から探しました。全表示に戻すと、すべての予約から探せます。"_s,
+                    u"予約 2 件"_s}));
   screen.trigger(u"cmdRefresh"_s);
   EXPECT_EQ(listed(screen).size(), 4);
   EXPECT_EQ(screen.source().rows().absolutePosition(), 0);
