@@ -142,32 +142,13 @@ bool ClaimListScreen::onCloseBox() {
   return false;
 }
 
-void ClaimListScreen::goFirst() {
-  Screen::goFirst();
-  announce();
-}
-
-void ClaimListScreen::goPrevious() {
-  Screen::goPrevious();
-  announce();
-}
-
-void ClaimListScreen::goNext() {
-  Screen::goNext();
-  announce();
-}
-
-void ClaimListScreen::goLast() {
-  Screen::goLast();
-  announce();
-}
-
-void ClaimListScreen::announce() {
-  if (!holdsRows()) return;
+QStringList ClaimListScreen::rowOnView() const {
+  if (!holdsRows()) return {};
+  const store::RecordSet& rows = source().rows();
   QStringList parts;
   for (const QString& column : {QStringLiteral("申請年月"), QStringLiteral("氏名")})
-    parts << column << source().rows().value(column);
-  voice().speakHeading(parts);
+    parts << column << rows.value(column);
+  return parts;
 }
 
 void ClaimListScreen::rowShown(int) { setText("Text2", source().positionText()); }

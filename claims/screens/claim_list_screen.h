@@ -26,10 +26,6 @@ class ClaimListScreen : public screen::ListScreen {
   void onActivate() override;
   bool onCloseBox() override;
   void rowShown(int sourceNumber) override;
-  void goFirst() override;
-  void goPrevious() override;
-  void goNext() override;
-  void goLast() override;
 
   /// Opens the form on the row. A first half without its second half gets one on the spot, so that the pair
   /// exists.
@@ -44,13 +40,12 @@ class ClaimListScreen : public screen::ListScreen {
  protected:
   bool openWhole() override;
   QString noRowsText() const override;
+  QStringList rowOnView() const override;
   /// Says how many claims are on view now.
   void setChanged() override;
 
  private:
   void growSecondFile();
-  /// Says which claim the record keys led to.
-  void announce();
   qint64 currentId() const;
   /// Both files; nothing where one of them cannot be opened, which was told.
   std::optional<ClaimFile> claimFile();
