@@ -70,6 +70,7 @@ void PatientScreen::goNext() { step(&screen::DataSource::moveNext); }
 void PatientScreen::goLast() { step(&screen::DataSource::moveLast); }
 
 QStringList PatientScreen::onView() const {
+  if (source().isOpen() && source().rows().adding()) return {u"新規追加"_s, text(name(kName))};
   if (!source().isOpen() || source().rows().recordCount() == 0)
     return {caption(u"LabelCount"_s), caption(u"Label14"_s)};
   return {caption(u"Data1"_s), text(name(kName))};

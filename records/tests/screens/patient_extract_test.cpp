@@ -1,5 +1,6 @@
 #include <QtWidgets/QtWidgets>
 
+#include "platform/screen/testing/screen_probe.h"
 #include "records/core/list_columns.h"
 #include "records/tests/screens/patient_list_fixture.h"
 
@@ -148,6 +149,39 @@ TEST_F(PatientExtractTest, AddressesInAnyOfTheThreeLines) {
   addFour();
   extractKind(u"住所"_s, u"Text5"_s, u"港町"_s);
   EXPECT_EQ(names(), (QStringList{u"見本 二子"_s, u"例示 三男"_s}));
+}
+
+TEST_F(PatientExtractTest, KindsSeeNoDifferenceOfWidthKanaAndCase) {
+  addPatient({{u"氏名"_s, u"見本"_s}, {u"住所2"_s, u"ﾐﾅﾄ町ＡＢＣ"_s}, {u"キーワード1"_s, u"カタ"_s}});
+  addPatient({{u"氏名"_s, u"例示"_s}});
+  for (const auto& [kind, input, word] : {std::tuple(u"住所"_s, u"Text5"_s, u"みなと町abc"_s),
+                                          std::tuple(u"キーワード"_s, u"Text1"_s, u"ｶﾀ"_s)}) {
+    extractKind(kind, input, word);
+    EXPECT_EQ(names(), QStringList{u"見本"_s}) << kind.toStdString();
+    list().trigger(u"cmdRefresh"_s);
+  }
+  EXPECT_TRUE(messages.texts().isEmpty());
+}
+
+TEST_F(PatientExtractTest, TypingInAnInputChoosesItsKind) {
+  addFour();
+  list().trigger(u"Command3"_s);
+  screen::Screen& dialog = *navigator.loaded(u"抽出3"_s);
+  screen::testing::ScreenProbe probe(dialog, channel);
+  probe.open();
+  const std::pair<QString, QString> inputs[] = {{u"Text1"_s, u"キーワード"_s},
+                                                {u"Text2"_s, u"年齢以上"_s},
+                                                {u"Text3"_s, u"年齢以下"_s},
+                                                {u"Text5"_s, u"住所"_s}};
+  for (const auto& [input, kind] : inputs) {
+    dialog.focusOn(input);
+    probe.type(u"1"_s);
+    EXPECT_EQ(dialog.chosen(u"Frame1"_s), kind);
+  }
+  dialog.findChild<QRadioButton*>(u"Option2"_s)->click();
+  EXPECT_EQ(dialog.chosen(u"Frame1"_s), u"性別"_s);
+  dialog.trigger(u"Command1"_s);
+  EXPECT_EQ(names(), (QStringList{u"見本 二子"_s, u"例示 四子"_s}));
 }
 
 TEST_F(PatientExtractTest, TwoKindsGiveWhatBothHold) {

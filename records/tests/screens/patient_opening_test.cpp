@@ -128,6 +128,7 @@ TEST_F(PatientOpeningTest, BookedPersonWhoIsNoPatientYetIsAdded) {
   screen.onActivate();
   settle();
   EXPECT_EQ(messages.texts(), QStringList{u"該当がありません。データを新規に追加します。"_s});
+  EXPECT_TRUE(channel.heardWhole().contains(u"新規追加"_s + kPart + u"例示 花子"_s));
   EXPECT_TRUE(screen.source().rows().adding());
   EXPECT_EQ(screen.text(u"txtFields(4)"_s), u"例示 花子"_s);
   EXPECT_EQ(screen.text(u"Text2"_s), u"20240615005"_s);
