@@ -32,33 +32,17 @@ text::Fault damaged(const BackupFile& file) {
               .arg(QFileInfo(file.path).fileName(), file.path)};
 }
 
-FreshCopies copyGroup(const BackupGroup& group, const QString& folder,
-                      const std::function<QString(const BackupFile&)>& nameOf,
-                      const store::CopyWatch& watch) {
-  FreshCopies copies;
+/// Opens the files of a group, all before the first is copied, and adds them to the batch. What cannot be
+/// opened has its fault already.
+void addGroup(std::vector<FreshCopy>& copies, store::CopyBatch& batch) {
   std::vector<std::unique_ptr<store::HeldFile>> held;
-  std::vector<store::CopyJob> jobs;
-  std::vector<size_t> places;  // of the jobs among the copies
-  for (const BackupFile& file : group) {
-    const QString target = folder + u'/' + nameOf(file);
-    auto opened = hold(file);
-    copies.push_back({file, target, opened ? text::Result(store::PendingSum()) : opened.fault()});
-    if (!opened) continue;
-    places.push_back(copies.size() - 1);
-    jobs.push_back({opened->get(), target});
-    held.push_back(std::move(*opened));
+  for (FreshCopy& copy : copies) {
+    auto opened = hold(copy.file);
+    if (!opened) copy.sum = opened.fault();
+    held.push_back(opened ? std::move(*opened) : nullptr);
   }
-  const auto made = store::copyBeside(jobs, watch);
-  held.clear();  // nobody waits for the look at the copies
-  for (size_t job = 0; job < jobs.size(); ++job) {
-    FreshCopy& copy = copies[places[job]];
-    copy.made = made[job];
-    const QString beside = store::besideName(copy.target);
-    if (!copy.made || isWhole(copy.file, beside)) continue;
-    copy.made = damaged(copy.file);
-    QFile::remove(beside);
-  }
-  return copies;
+  for (size_t file = 0; file < copies.size(); ++file)
+    if (held[file]) batch.add(*held[file], copies[file].target);
 }
 
 }  // namespace
@@ -75,16 +59,29 @@ std::vector<BackupGroup> backupGroups(const RunState& run) {
   return groups;
 }
 
-void copyGroups(const std::vector<BackupGroup>& groups, const QString& folder,
-                const std::function<QString(const BackupFile&)>& nameOf, const store::CopyWatch& watch,
-                const std::function<void(const FreshCopies&)>& finish) {
-  FreshCopies before;
+std::vector<std::vector<FreshCopy>> copyGroups(const std::vector<BackupGroup>& groups, const QString& folder,
+                                               const std::function<QString(const BackupFile&)>& nameOf,
+                                               const store::CopyWatch& watch) {
+  store::CopyBatch batch(watch);
+  std::vector<std::vector<FreshCopy>> all;
   for (const BackupGroup& group : groups) {
-    FreshCopies copies = copyGroup(group, folder, nameOf, watch);
-    finish(before);
-    before = std::move(copies);
+    std::vector<FreshCopy>& copies = all.emplace_back();
+    for (const BackupFile& file : group) copies.push_back({file, folder + u'/' + nameOf(file), QByteArray()});
+    addGroup(copies, batch);
   }
-  finish(before);
+  const auto sums = batch.finish();
+  auto sum = sums.begin();
+  for (std::vector<FreshCopy>& copies : all) {
+    for (FreshCopy& copy : copies) {
+      if (!copy.sum) continue;
+      copy.sum = *sum++;
+      const QString beside = store::besideName(copy.target);
+      if (!copy.sum || isWhole(copy.file, beside)) continue;
+      copy.sum = damaged(copy.file);
+      QFile::remove(beside);
+    }
+  }
+  return all;
 }
 
 bool isWhole(const BackupFile& file, const QString& copy) {

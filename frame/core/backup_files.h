@@ -27,18 +27,15 @@ std::vector<BackupGroup> backupGroups(const RunState& run);
 struct FreshCopy {
   BackupFile file;
   QString target;
-  text::Result<store::PendingSum> made;  ///< the fault names the file
-
-  text::Result<QByteArray> sum() const { return store::finishedSum(target, made); }
+  text::Result<QByteArray> sum;  ///< the fault names the file
 };
-using FreshCopies = std::vector<FreshCopy>;
 
-/// Copies each group beside its targets in the folder (`nameOf` gives the name there), all of it held
+/// Copies all files beside their targets in the folder (`nameOf` gives the name there), each group held
 /// together, and looks whether each copy is whole: a damaged file is a fault, and its copy is taken away
-/// again. `finish` gets the groups one by one, each while the sums of the next are on their way.
-void copyGroups(const std::vector<BackupGroup>& groups, const QString& folder,
-                const std::function<QString(const BackupFile&)>& nameOf, const store::CopyWatch& watch,
-                const std::function<void(const FreshCopies&)>& finish);
+/// again. Group by group.
+std::vector<std::vector<FreshCopy>> copyGroups(const std::vector<BackupGroup>& groups, const QString& folder,
+                                               const std::function<QString(const BackupFile&)>& nameOf,
+                                               const store::CopyWatch& watch);
 
 /// Whether a file of this kind can be used: a database whose trees are whole, settings that read whole.
 bool isWhole(const BackupFile& file, const QString& copy);

@@ -48,7 +48,9 @@ class FolderBackup {
     std::vector<BackupGroup> groups = backupGroups(m_run);
     for (BackupGroup& group : groups)
       std::erase_if(group, [this](const BackupFile& file) { return !takesItsName(file); });
-    copyGroups(groups, m_folder, nameInFolder, m_watch, [this](const FreshCopies& copies) { place(copies); });
+    for (const auto& copies : copyGroups(groups, m_folder, nameInFolder, m_watch))
+      for (const FreshCopy& copy : copies) place(copy);
+    writeList();
     copyPictures();
     m_list.keepStanding(m_folder);
     writeList();
@@ -70,18 +72,11 @@ class FolderBackup {
     return taken.isEmpty();
   }
 
-  void place(const FreshCopies& copies) {
-    for (const FreshCopy& copy : copies) {
-      const auto sum = copy.sum();
-      const text::Done placed = sum ? store::putInPlace(copy.target, m_watch) : sum.fault();
-      if (!placed) {
-        m_report.faults.push_back(placed.fault());
-        continue;
-      }
-      m_list.put(nameInFolder(copy.file), *sum);
-      m_report.copied += nameInFolder(copy.file);
-    }
-    writeList();
+  void place(const FreshCopy& copy) {
+    const text::Done placed = copy.sum ? store::putInPlace(copy.target, m_watch) : copy.sum.fault();
+    if (!placed) return m_report.faults.push_back(placed.fault());
+    m_list.put(nameInFolder(copy.file), *copy.sum);
+    m_report.copied += nameInFolder(copy.file);
   }
 
   void copyPictures() {
@@ -106,32 +101,32 @@ class FolderBackup {
   }
 
   void copyPictures(const QString& root, const QString& name, const QStringList& files) {
-    std::vector<std::unique_ptr<store::HeldFile>> held;
-    std::vector<store::CopyJob> jobs;
+    store::CopyBatch batch(m_watch);
+    QStringList added;
     for (const QString& file : files) {
-      auto opened = store::HeldFile::plain(root + u'/' + file);
+      const auto opened = store::HeldFile::plain(root + u'/' + file);
       if (!opened) {
         m_report.pictureFaults.push_back(opened.fault());
         continue;
       }
-      jobs.push_back({opened->get(), m_folder + u'/' + name + u'/' + file});
-      held.push_back(std::move(*opened));
+      added += name + u'/' + file;
+      batch.add(**opened, m_folder + u'/' + added.back());
     }
-    const auto made = store::copyBeside(jobs, m_watch);
-    for (size_t job = 0; job < jobs.size(); ++job) {
-      const auto sum = store::finishedSum(jobs[job].target, made[job]);
-      const text::Done placed = sum ? store::putInPlace(jobs[job].target, m_watch) : sum.fault();
+    const auto sums = batch.finish();
+    for (qsizetype place = 0; place < added.size(); ++place) {
+      const auto& sum = sums[static_cast<size_t>(place)];
+      const text::Done placed =
+          sum ? store::putInPlace(m_folder + u'/' + added[place], m_watch) : sum.fault();
       if (!placed) {
         m_report.pictureFaults.push_back(placed.fault());
         continue;
       }
-      m_list.put(jobs[job].target.mid(m_folder.size() + 1), *sum);
+      m_list.put(added[place], *sum);
       ++m_report.pictures;
     }
-    writeList();
   }
 
-  /// After each group, so that the list fits wherever the backup is cut off. A fault is told once.
+  /// After the files, and after the pictures. A fault is told once.
   void writeList() {
     const text::Done written = m_list.write(m_folder);
     m_listFault = written ? std::nullopt : std::optional(written.fault());

@@ -33,9 +33,8 @@ class Generations {
   }
 
   void rotate(const std::vector<BackupGroup>& groups) {
-    copyGroups(
-        groups, m_folder, [](const BackupFile& file) { return nameOf(1, file); }, m_watch,
-        [this](const FreshCopies& copies) { take(copies); });
+    const auto toFirst = [](const BackupFile& file) { return nameOf(1, file); };
+    for (const auto& copies : copyGroups(groups, m_folder, toFirst, m_watch)) take(copies);
     if (m_rotations.empty()) return;
     for (Rotation& rotation : m_rotations) lookAtOlder(rotation);
     for (Rotation& rotation : m_rotations) push(rotation, 2);
@@ -59,10 +58,10 @@ class Generations {
   }
 
   /// The halves of the claims come together or not at all.
-  void take(const FreshCopies& copies) {
+  void take(const std::vector<FreshCopy>& copies) {
     std::vector<Rotation> whole;
     for (const FreshCopy& copy : copies)
-      if (const auto sum = copy.sum()) whole.push_back({copy.file, *sum, {}, false});
+      if (copy.sum) whole.push_back({copy.file, *copy.sum, {}, false});
     if (whole.size() == copies.size())
       m_rotations.insert(m_rotations.end(), whole.begin(), whole.end());
     else

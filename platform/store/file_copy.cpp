@@ -1,73 +1,22 @@
 #include "platform/store/file_copy.h"
 
-#include <fcntl.h>
 #include <sqlite3.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
-#include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
 #include <QUrl>
-#include <algorithm>
-#include <atomic>
-#include <cerrno>
 #include <cstring>
-#include <thread>
 
 #include "platform/store/database.h"
+#include "platform/store/file_copy_parts.h"
 #include "platform/store/statement.h"
 #include "platform/text/system_fault.h"
 
 namespace store {
+
+using namespace parts;
+
 namespace {
-
-constexpr qint64 kChunk = 1 << 20;
-constexpr auto kSum = QCryptographicHash::Blake2b_512;
-
-int lastError() { return errno != 0 ? errno : EIO; }
-
-/// An open file that closes itself.
-class OpenedFile {
- public:
-  OpenedFile(const QString& path, int flags, mode_t mode = 0)
-      : m_number(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, mode)),
-        m_error(m_number < 0 ? lastError() : 0) {}
-  ~OpenedFile() {
-    if (m_number >= 0) ::close(m_number);
-  }
-  OpenedFile(const OpenedFile&) = delete;
-  OpenedFile& operator=(const OpenedFile&) = delete;
-
-  int error() const { return m_error; }  ///< of opening
-  int number() const { return m_number; }
-  qint64 size() const {
-    struct stat facts {};
-    return ::fstat(m_number, &facts) == 0 ? facts.st_size : -1;
-  }
-  int read(qint64 at, char* to, qint64 count) const {
-    while (count > 0) {
-      const ssize_t step = ::pread(m_number, to, static_cast<size_t>(count), at);
-      if (step < 0 && errno == EINTR) continue;
-      if (step <= 0) return step < 0 ? lastError() : EIO;
-      at += step, to += step, count -= step;
-    }
-    return 0;
-  }
-  int write(const char* from, qint64 count) const {
-    while (count > 0) {
-      const ssize_t step = ::write(m_number, from, static_cast<size_t>(count));
-      if (step < 0 && errno == EINTR) continue;
-      if (step <= 0) return step < 0 ? lastError() : ENOSPC;
-      from += step, count -= step;
-    }
-    return 0;
-  }
-
- private:
-  const int m_number;
-  const int m_error;
-};
 
 class HeldDatabase : public HeldFile {
  public:
@@ -120,131 +69,10 @@ class HeldPlainFile : public HeldFile {
   OpenedFile m_file;
 };
 
-/// Works out the sum of a file that still grows, on a thread of its own, from what is read back of it.
-class FollowingSum {
- public:
-  explicit FollowingSum(const QString& path) : m_thread([this, path] { follow(path); }) {}
-  ~FollowingSum() { finish(); }
-
-  void standing(qint64 bytes) { tell(bytes * 2); }
-  /// The sum of all that stands; empty: it could not be read back.
-  QByteArray finish() {
-    if (m_thread.joinable()) {
-      tell(m_standing | kWhole);
-      m_thread.join();
-    }
-    return m_sum;
-  }
-
- private:
-  static constexpr qint64 kWhole = 1;  ///< in the lowest bit: nothing more will come
-  void tell(qint64 state) {
-    m_standing = state;
-    m_standing.notify_one();
-  }
-  void follow(const QString& path) {
-    const OpenedFile file(path, O_RDONLY);
-    QByteArray part(kChunk, Qt::Uninitialized);
-    QCryptographicHash sum(kSum);
-    for (qint64 read = 0;;) {
-      const qint64 state = m_standing, ready = std::min(state / 2 - read, kChunk);
-      if (ready == 0) {
-        if (state & kWhole) break;
-        m_standing.wait(state);
-        continue;
-      }
-      if (file.error() != 0 || file.read(read, part.data(), ready) != 0) return;
-      sum.addData(part.constData(), ready);
-      read += ready;
-    }
-    m_sum = sum.result().toHex();
-  }
-  std::atomic<qint64> m_standing = 0;
-  QByteArray m_sum;
-  std::thread m_thread;
-};
-
 Fault notTheSame(const QString& target) {
   return {QStringLiteral("「%1」のコピーが、元のファイルと同じになりません。（%2）")
               .arg(QFileInfo(target).fileName(), target)};
 }
-
-/// One copy on its way.
-class Copying {
- public:
-  Copying(const CopyJob& job, const CopyWatch& watch)
-      : m_job(job), m_beside(besideName(job.target)), m_watch(watch), m_size(job.source->size()) {}
-
-  bool failed() const { return m_fault.has_value(); }
-  void write() {
-    if (m_size < 0) return failReading(EIO);
-    if (const int error = stepsOn(DiskStep::Create)) return failWriting(error);
-    QFile::remove(m_beside);
-    struct stat facts {};
-    const bool known = ::stat(QFile::encodeName(m_job.source->path()).constData(), &facts) == 0;
-    const OpenedFile file(m_beside, O_WRONLY | O_CREAT | O_EXCL, known ? facts.st_mode & 0777 : 0600);
-    if (file.error() != 0) return failWriting(file.error());
-    if (m_size > kChunk) m_following = std::make_shared<FollowingSum>(m_beside);
-    QByteArray part(std::min(m_size, kChunk), Qt::Uninitialized);
-    for (qint64 at = 0; at < m_size; at += part.size()) {
-      part.resize(std::min(m_size - at, kChunk));
-      if (const int error = m_job.source->read(at, part.data(), part.size())) return failReading(error);
-      int error = stepsOn(DiskStep::Write);
-      if (error == 0) error = file.write(part.constData(), part.size());
-      if (error != 0) return failWriting(error);
-      if (m_following) m_following->standing(at + part.size());
-      if (m_watch.copied) m_watch.copied(part.size());
-    }
-  }
-  /// With syncfs() all is synced that was written to the disk of the target. The errno, 0: synced.
-  int sync(int (*syncOf)(int)) const {
-    if (const int error = stepsOn(DiskStep::Sync)) return error;
-    const OpenedFile file(m_beside, O_RDONLY);
-    return file.error() != 0 ? file.error() : syncOf(file.number()) != 0 ? lastError() : 0;
-  }
-  void readBack() {
-    int error = stepsOn(DiskStep::ReadBack);
-    const OpenedFile copy(m_beside, O_RDONLY);
-    if (error == 0) error = copy.error();
-    if (error != 0) return failWriting(error);
-    if (copy.size() != m_size) return failComparing();
-    QByteArray original(std::min(m_size, kChunk), Qt::Uninitialized), part = original;
-    for (qint64 at = 0; at < m_size; at += kChunk) {
-      const qint64 count = std::min(m_size - at, kChunk);
-      if (const int fault = m_job.source->read(at, original.data(), count)) return failReading(fault);
-      if (const int fault = copy.read(at, part.data(), count)) return failWriting(fault);
-      if (std::memcmp(original.constData(), part.constData(), static_cast<size_t>(count)) != 0)
-        return failComparing();
-    }
-  }
-  Result<PendingSum> result() {
-    if (!failed()) {
-      if (const auto following = m_following)
-        return std::async(std::launch::deferred, [following] { return following->finish(); }).share();
-      const Result<QByteArray> sum = sumOf(m_beside);
-      if (sum) return std::async(std::launch::deferred, [sum = *sum] { return sum; }).share();
-      m_fault = sum.fault();
-    }
-    m_following.reset();
-    QFile::remove(m_beside);
-    return *m_fault;
-  }
-  void failWriting(int error) { m_fault = text::systemFault(text::FileAction::Write, m_job.target, error); }
-
- private:
-  int stepsOn(DiskStep step) const { return m_watch.before ? m_watch.before(step, m_beside) : 0; }
-  void failReading(int error) {
-    m_fault = text::systemFault(text::FileAction::Read, m_job.source->path(), error);
-  }
-  void failComparing() { m_fault = notTheSame(m_job.target); }
-
-  CopyJob m_job;
-  QString m_beside;
-  const CopyWatch& m_watch;
-  qint64 m_size;
-  std::shared_ptr<FollowingSum> m_following;
-  std::optional<Fault> m_fault;
-};
 
 int renameOver(const QString& from, const QString& to) {
   return ::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0 ? 0
@@ -269,34 +97,95 @@ Result<std::unique_ptr<HeldFile>> HeldFile::plain(const QString& path) {
 
 QString besideName(const QString& target) { return target + QStringLiteral(".~"); }
 
-std::vector<Result<PendingSum>> copyBeside(std::span<const CopyJob> jobs, const CopyWatch& watch) {
-  std::vector<Copying> copies;
-  copies.reserve(jobs.size());
-  for (const CopyJob& job : jobs) copies.emplace_back(job, watch).write();
-  constexpr size_t kCheaperTogether = 8;
-  int error = -1;  // of the one sync for all
-  for (Copying& copy : copies) {
-    if (copy.failed()) continue;
-    if (copies.size() < kCheaperTogether)
-      error = copy.sync(::fsync);
-    else if (error < 0)
-      error = copy.sync(::syncfs);
-    if (error != 0) copy.failWriting(error);
+/// One copy on its way.
+class CopyBatch::Copying {
+ public:
+  Copying(QString target, const CopyWatch& watch)
+      : m_target(std::move(target)), m_beside(besideName(m_target)), m_watch(watch) {}
+
+  bool failed() const { return m_fault.has_value(); }
+  void write(const HeldFile& source) {
+    const qint64 size = source.size();
+    const auto failReading = [&](int error) {
+      m_fault = text::systemFault(text::FileAction::Read, source.path(), error);
+    };
+    if (size < 0) return failReading(EIO);
+    if (const int error = stepsOn(DiskStep::Create)) return failWriting(error);
+    QFile::remove(m_beside);
+    struct stat facts {};
+    const bool known = ::stat(QFile::encodeName(source.path()).constData(), &facts) == 0;
+    const OpenedFile file(m_beside, O_WRONLY | O_CREAT | O_EXCL, known ? facts.st_mode & 0777 : 0600);
+    if (file.error() != 0) return failWriting(file.error());
+    if (size > kChunk) m_following = std::make_unique<FollowingSum>(m_beside);
+    QByteArray part(std::min(size, kChunk), Qt::Uninitialized);
+    for (qint64 at = 0; at < size; at += part.size()) {
+      part.resize(std::min(size - at, kChunk));
+      if (const int error = source.read(at, part.data(), part.size())) return failReading(error);
+      m_written.add(part.constData(), part.size());
+      int error = stepsOn(DiskStep::Write);
+      if (error == 0) error = file.write(part.constData(), part.size());
+      if (error != 0) return failWriting(error);
+      if (m_following) m_following->standing(at + part.size());
+      if (m_watch.copied) m_watch.copied(part.size());
+    }
+    ::sync_file_range(file.number(), 0, 0, SYNC_FILE_RANGE_WRITE);  // the disk may begin
   }
-  std::vector<Result<PendingSum>> sums;
-  for (Copying& copy : copies) {
-    if (!copy.failed()) copy.readBack();
-    sums.push_back(copy.result());
+  /// Syncs the copy, with syncfs() all that was written to its disk. The errno, 0: synced.
+  int sync(int (*syncOf)(int)) const {
+    if (const int error = stepsOn(DiskStep::Sync)) return error;
+    const OpenedFile file(m_beside, O_RDONLY);
+    return file.error() != 0 ? file.error() : syncOf(file.number()) != 0 ? lastError() : 0;
   }
-  return sums;
+  Result<QByteArray> finish() {
+    if (!failed()) {
+      if (const int error = stepsOn(DiskStep::ReadBack))
+        failWriting(error);
+      else if (const QByteArray sum = readBack(); !sum.isEmpty())
+        return sum;
+      else
+        m_fault = notTheSame(m_target);
+    }
+    m_following.reset();
+    QFile::remove(m_beside);
+    return *m_fault;
+  }
+  void failWriting(int error) { m_fault = text::systemFault(text::FileAction::Write, m_target, error); }
+
+ private:
+  /// The sum; empty where the copy does not read back as it was written.
+  QByteArray readBack() {
+    if (m_following) return m_following->finish(m_written);
+    ReadBack back(m_beside);
+    back.goToEnd();
+    return back.error() == 0 && back.trace() == m_written ? back.sum() : QByteArray();
+  }
+  int stepsOn(DiskStep step) const { return m_watch.before ? m_watch.before(step, m_beside) : 0; }
+
+  QString m_target, m_beside;
+  const CopyWatch& m_watch;
+  Trace m_written;
+  std::unique_ptr<FollowingSum> m_following;
+  std::optional<Fault> m_fault;
+};
+
+CopyBatch::CopyBatch(CopyWatch watch) : m_watch(std::move(watch)) {}
+CopyBatch::~CopyBatch() = default;
+
+void CopyBatch::add(const HeldFile& source, const QString& target) {
+  m_copies.push_back(std::make_unique<Copying>(target, m_watch));
+  m_copies.back()->write(source);
 }
 
-Result<QByteArray> finishedSum(const QString& target, const Result<PendingSum>& copied) {
-  if (!copied) return copied.fault();
-  const QByteArray sum = copied->get();
-  if (!sum.isEmpty()) return sum;
-  QFile::remove(besideName(target));
-  return notTheSame(target);
+std::vector<Result<QByteArray>> CopyBatch::finish() {
+  std::optional<int> together;  // the errno of the one sync for all
+  for (const auto& copy : m_copies) {
+    if (copy->failed()) continue;
+    if (!together) together = copy->sync(m_copies.size() > 1 ? ::syncfs : ::fsync);
+    if (*together != 0) copy->failWriting(*together);
+  }
+  std::vector<Result<QByteArray>> sums;
+  for (const auto& copy : m_copies) sums.push_back(copy->finish());
+  return sums;
 }
 
 Done putInPlace(const QString& target, const CopyWatch& watch) {
@@ -316,8 +205,9 @@ Done pushOnto(const QString& standing, const QString& target, const CopyWatch& w
   if (::link(QFile::encodeName(standing).constData(), QFile::encodeName(beside).constData()) != 0) {
     const auto held = HeldFile::plain(standing);
     if (!held) return held.fault();
-    const CopyJob job{held->get(), target};
-    if (const auto sum = finishedSum(target, copyBeside({&job, 1}, watch).front()); !sum) return sum.fault();
+    CopyBatch batch(watch);
+    batch.add(**held, target);
+    if (const auto sums = batch.finish(); !sums.front()) return sums.front().fault();
   }
   return putInPlace(target, watch);
 }
@@ -341,18 +231,10 @@ void syncFolder(const QString& folder) { syncOpened(folder, ::fsync); }
 void syncDisk(const QString& folder) { syncOpened(folder, ::syncfs); }
 
 Result<QByteArray> sumOf(const QString& path) {
-  const OpenedFile file(path, O_RDONLY);
-  const qint64 size = file.error() == 0 ? file.size() : 0;
-  int error = file.error();
-  QByteArray part(kChunk, Qt::Uninitialized);
-  QCryptographicHash sum(kSum);
-  for (qint64 at = 0; error == 0 && at < size; at += kChunk) {
-    const qint64 count = std::min(size - at, kChunk);
-    error = file.read(at, part.data(), count);
-    if (error == 0) sum.addData(part.constData(), count);
-  }
-  if (error != 0) return text::systemFault(text::FileAction::Read, path, error);
-  return sum.result().toHex();
+  ReadBack back(path);
+  back.goToEnd();
+  if (back.error() != 0) return text::systemFault(text::FileAction::Read, path, back.error());
+  return back.sum();
 }
 
 bool isSoundDatabase(const QString& path) {

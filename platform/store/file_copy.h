@@ -3,9 +3,7 @@
 #include <QByteArray>
 #include <QString>
 #include <functional>
-#include <future>
 #include <memory>
-#include <span>
 #include <vector>
 
 #include "platform/text/result.h"
@@ -54,25 +52,30 @@ class HeldFile {
   QString m_path;
 };
 
-struct CopyJob {
-  const HeldFile* source;
-  QString target;
-};
-
 /// Where a copy stands until it takes the target's place. One name serves for ever, so that copies that were
 /// cut off leave nothing that piles up.
 QString besideName(const QString& target);
 
-/// The sum of a copy, worked out on another core while the next file is copied; "" where it could not be read
-/// back.
-using PendingSum = std::shared_future<QByteArray>;
+/// Copies of several files, made beside their targets on one disk.
+class CopyBatch {
+ public:
+  explicit CopyBatch(CopyWatch watch = {});
+  ~CopyBatch();
+  CopyBatch(const CopyBatch&) = delete;
+  CopyBatch& operator=(const CopyBatch&) = delete;
 
-/// Copies the files beside their targets, syncs them together, reads them back and compares them with their
-/// sources, which need not be held any longer then. A fault names its file; a copy that failed leaves
-/// nothing.
-std::vector<Result<PendingSum>> copyBeside(std::span<const CopyJob> jobs, const CopyWatch& watch = {});
-/// Waits for the sum of the copy beside the target; where there is none, the copy is taken away.
-Result<QByteArray> finishedSum(const QString& target, const Result<PendingSum>& copied);
+  /// Writes the copy. The source need not be held any longer then; the sum is worked out on another core
+  /// while the next file is copied.
+  void add(const HeldFile& source, const QString& target);
+  /// Syncs all copies at once and reads them back. Each copy's sum, in the order in which they were added, or
+  /// a fault that names the file; a copy that failed leaves nothing.
+  std::vector<Result<QByteArray>> finish();
+
+ private:
+  class Copying;
+  const CopyWatch m_watch;
+  std::vector<std::unique_ptr<Copying>> m_copies;
+};
 
 /// The copy beside takes the place of the target.
 Done putInPlace(const QString& target, const CopyWatch& watch = {});

@@ -29,8 +29,9 @@ class FileCopyTest : public StoreTest {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
   Result<QByteArray> copyOf(const HeldFile& held, const QString& target) const {
-    const CopyJob job{&held, path(target)};
-    return finishedSum(job.target, copyBeside({&job, 1}).front());
+    CopyBatch batch;
+    batch.add(held, path(target));
+    return batch.finish().front();
   }
   /// A file of many pages of every kind: rows, long rows, an index, free pages.
   QString filled() const {
