@@ -17,5 +17,6 @@ int day(const QStringList& arguments);
 int recompute(const QStringList& arguments);
 int pair(const QStringList& arguments);
 int settings(const QStringList& arguments);
+int backup(const QStringList& arguments);
 
 }  // namespace bench

@@ -22,8 +22,8 @@ struct CommandRow {
 };
 
 constexpr CommandRow kCommands[] = {
-    {"print", print},         {"jobs", jobs}, {"make", make},         {"find", find}, {"list", list},
-    {"recompute", recompute}, {"pair", pair}, {"settings", settings}, {"day", day},
+    {"print", print},         {"jobs", jobs}, {"make", make},         {"find", find},     {"list", list},
+    {"recompute", recompute}, {"pair", pair}, {"settings", settings}, {"backup", backup}, {"day", day},
 };
 
 /// The print workloads are held against the toolkit's PDF writer, which needs its fonts; all others do
@@ -48,10 +48,9 @@ int main(int argc, char** argv) {
     }
   }
   std::fputs(
-      "usage: bench print N OUT.pdf | jobs N DIR | make DIR PATIENTS VISITS CLAIMS BOOKINGS | find DIR | "
-      "list DIR |\n"
-      "       recompute DIR N | day DIR | pair make|store|check DIR [STAMP] | settings make|store|check DIR "
-      "[STAMP]\n",
+      "usage: bench print N OUT.pdf | jobs N DIR | make DIR PATIENTS VISITS CLAIMS BOOKINGS | find DIR |\n"
+      "       list DIR | recompute DIR N | day DIR | backup DIR | pair make|store|check DIR [STAMP] |\n"
+      "       settings make|store|check DIR [STAMP]\n",
       stderr);
   return 2;
 }
