@@ -28,6 +28,10 @@ std::optional<frame::DayAsked> dayTyped(const QString& year, const QString& mont
 
 frame::DayAsked numbersOf(QDate date) { return {date.year(), date.month(), date.day()}; }
 
+frame::DayAsked offeredDay(const frame::RunState& run) {
+  return run.dayAsked.year != 0 ? run.dayAsked : numbersOf(run.clock->today());
+}
+
 std::optional<QDate> rolled(const frame::DayAsked& day) {
   constexpr int kFirstYear = 100, kLastYear = 9999;
   const auto inRange = [](int year) { return year >= kFirstYear && year <= kLastYear; };

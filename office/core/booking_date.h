@@ -20,6 +20,8 @@ inline constexpr QStringView kNoDateText = u"年、月、日を数字で入力�
 
 /// The three numbers of a day.
 frame::DayAsked numbersOf(QDate date);
+/// What date lists begin on: the day asked for last, today where none was.
+frame::DayAsked offeredDay(const frame::RunState& run);
 
 /// The day that the date function makes of the numbers: a day or month that does not exist rolls over
 /// (31 February is 2 or 3 March, day 0 the last of the month before). nullopt outside the years 100 to 9999.

@@ -40,7 +40,7 @@ DayPickScreen::DayPickScreen(const ScreenRow& declaration, Services& services, f
     : Screen(declaration, services), m_run(run) {}
 
 void DayPickScreen::opened(const Request&) {
-  const frame::DayAsked day = m_run.dayAsked.year != 0 ? m_run.dayAsked : numbersOf(m_run.clock->today());
+  const frame::DayAsked day = offeredDay(m_run);
   setText(u"Combo1"_s, QString::number(day.year));
   setText(u"Combo2"_s, QString::number(day.month));
   setText(u"Combo3"_s, QString::number(day.day));

@@ -56,12 +56,11 @@ void TodaysBookingsScreen::rowShown(int) {
 
 // ---- A chosen day
 
-// The day asked for last, on this screen or on a date picker; today where none was.
 void TodaysBookingsScreen::fillLists() {
-  if (m_run.dayAsked.year == 0) m_run.dayAsked = numbersOf(m_run.clock->today());
-  setText(u"Combo1"_s, QString::number(m_run.dayAsked.year));
-  setText(u"Combo2"_s, QString::number(m_run.dayAsked.month));
-  setText(u"Combo3"_s, QString::number(m_run.dayAsked.day));
+  const frame::DayAsked day = offeredDay(m_run);
+  setText(u"Combo1"_s, QString::number(day.year));
+  setText(u"Combo2"_s, QString::number(day.month));
+  setText(u"Combo3"_s, QString::number(day.day));
 }
 
 std::optional<QDate> TodaysBookingsScreen::readLists() {

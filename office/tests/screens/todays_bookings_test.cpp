@@ -37,6 +37,15 @@ TEST_F(TodaysBookings, OpensWholeOnTodayInItsLists) {
                          u"患者NO"_s, u"予約日時"_s, u"予約NO"_s, u"メモ1"_s}));
 }
 
+TEST_F(TodaysBookings, TheListsFollowTheClockUntilADayIsAskedFor) {
+  list();
+  clock.set(QDate(2024, 6, 16));
+  EXPECT_EQ(dayOf(list()).last(), u"16"_s);
+  showDay(list(), u"2024"_s, u"6"_s, u"18"_s);
+  clock.set(QDate(2024, 6, 17));
+  EXPECT_EQ(dayOf(list()).last(), u"18"_s);
+}
+
 TEST_F(TodaysBookings, TheMainMenuLeadsToTheLastRow) {
   EXPECT_EQ(list({{u"最終行"_s, true}}).source().rows().absolutePosition(), 3);
 }
@@ -121,7 +130,7 @@ TEST_F(TodaysBookings, NoDateInTheListsIsTold) {
     EXPECT_EQ(told(), QStringList(kNoDate));
   }
   EXPECT_EQ(listed(screen).size(), 4);
-  EXPECT_EQ(run.dayAsked.month, 6);
+  EXPECT_EQ(run.dayAsked.year, 0) << "nothing was asked for";
 }
 
 TEST_F(TodaysBookings, WeekdayOfTheChosenDay) {
