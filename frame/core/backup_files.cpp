@@ -66,19 +66,23 @@ std::vector<std::vector<FreshCopy>> copyGroups(const std::vector<BackupGroup>& g
   std::vector<std::vector<FreshCopy>> all;
   for (const BackupGroup& group : groups) {
     std::vector<FreshCopy>& copies = all.emplace_back();
-    for (const BackupFile& file : group) copies.push_back({file, folder + u'/' + nameOf(file), QByteArray()});
+    for (const BackupFile& file : group)
+      copies.push_back({file, folder + u'/' + nameOf(file), QByteArray(), false});
     addGroup(copies, batch);
   }
+  batch.sync();
+  // The look at the copies goes on while their sums are worked out.
+  for (std::vector<FreshCopy>& copies : all)
+    for (FreshCopy& copy : copies) copy.whole = isWhole(copy.file, store::besideName(copy.target));
   const auto sums = batch.finish();
   auto sum = sums.begin();
   for (std::vector<FreshCopy>& copies : all) {
     for (FreshCopy& copy : copies) {
       if (!copy.sum) continue;
       copy.sum = *sum++;
-      const QString beside = store::besideName(copy.target);
-      if (!copy.sum || isWhole(copy.file, beside)) continue;
+      if (!copy.sum || copy.whole) continue;
       copy.sum = damaged(copy.file);
-      QFile::remove(beside);
+      QFile::remove(store::besideName(copy.target));
     }
   }
   return all;

@@ -28,6 +28,7 @@ struct FreshCopy {
   BackupFile file;
   QString target;
   text::Result<QByteArray> sum;  ///< the fault names the file
+  bool whole;                    ///< the copy can be used; else the sum is a fault
 };
 
 /// Copies all files beside their targets in the folder (`nameOf` gives the name there), each group held

@@ -176,13 +176,18 @@ void CopyBatch::add(const HeldFile& source, const QString& target) {
   m_copies.back()->write(source);
 }
 
-std::vector<Result<QByteArray>> CopyBatch::finish() {
+void CopyBatch::sync() {
+  m_synced = true;
   std::optional<int> together;  // the errno of the one sync for all
   for (const auto& copy : m_copies) {
     if (copy->failed()) continue;
     if (!together) together = copy->sync(m_copies.size() > 1 ? ::syncfs : ::fsync);
     if (*together != 0) copy->failWriting(*together);
   }
+}
+
+std::vector<Result<QByteArray>> CopyBatch::finish() {
+  if (!m_synced) sync();
   std::vector<Result<QByteArray>> sums;
   for (const auto& copy : m_copies) sums.push_back(copy->finish());
   return sums;

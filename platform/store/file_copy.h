@@ -67,14 +67,17 @@ class CopyBatch {
   /// Writes the copy. The source need not be held any longer then; the sum is worked out on another core
   /// while the next file is copied.
   void add(const HeldFile& source, const QString& target);
-  /// Syncs all copies at once and reads them back. Each copy's sum, in the order in which they were added, or
-  /// a fault that names the file; a copy that failed leaves nothing.
+  /// Syncs all copies at once; until finish() they may be looked at beside their targets.
+  void sync();
+  /// Reads the copies back, after syncing them. Each copy's sum, in the order in which they were added, or a
+  /// fault that names the file; a copy that failed leaves nothing.
   std::vector<Result<QByteArray>> finish();
 
  private:
   class Copying;
   const CopyWatch m_watch;
   std::vector<std::unique_ptr<Copying>> m_copies;
+  bool m_synced = false;
 };
 
 /// The copy beside takes the place of the target.
