@@ -102,9 +102,34 @@ class CopyBatch::Copying {
  public:
   Copying(QString target, const CopyWatch& watch)
       : m_target(std::move(target)), m_beside(besideName(m_target)), m_watch(watch) {}
+  ~Copying() { endReadBack(); }
 
   bool failed() const { return m_fault.has_value(); }
-  void write(const HeldFile& source) {
+  void write(const HeldFile& source, SumThread& sums) {
+    copy(source, sums);
+    if (failed()) return;
+    if (const int error = stepsOn(DiskStep::ReadBack)) failWriting(error);
+    endReadBack();
+  }
+  /// Syncs the copy, with syncfs() all that was written to its disk. The errno, 0: synced.
+  int sync(int (*syncOf)(int)) const {
+    if (const int error = stepsOn(DiskStep::Sync)) return error;
+    const OpenedFile file(m_beside, O_RDONLY);
+    return file.error() != 0 ? file.error() : syncOf(file.number()) != 0 ? lastError() : 0;
+  }
+  Result<QByteArray> finish() {
+    endReadBack();
+    if (!failed()) {
+      if (const QByteArray sum = m_back->sum(); !sum.isEmpty()) return sum;
+      m_fault = notTheSame(m_target);
+    }
+    QFile::remove(m_beside);
+    return *m_fault;
+  }
+  void failWriting(int error) { m_fault = text::systemFault(text::FileAction::Write, m_target, error); }
+
+ private:
+  void copy(const HeldFile& source, SumThread& sums) {
     const qint64 size = source.size();
     const auto failReading = [&](int error) {
       m_fault = text::systemFault(text::FileAction::Read, source.path(), error);
@@ -116,7 +141,7 @@ class CopyBatch::Copying {
     const bool known = ::stat(QFile::encodeName(source.path()).constData(), &facts) == 0;
     const OpenedFile file(m_beside, O_WRONLY | O_CREAT | O_EXCL, known ? facts.st_mode & 0777 : 0600);
     if (file.error() != 0) return failWriting(file.error());
-    if (size > kChunk) m_following = std::make_unique<FollowingSum>(m_beside);
+    m_back = sums.begin(m_beside);
     QByteArray part(std::min(size, kChunk), Qt::Uninitialized);
     for (qint64 at = 0; at < size; at += part.size()) {
       part.resize(std::min(size - at, kChunk));
@@ -125,55 +150,31 @@ class CopyBatch::Copying {
       int error = stepsOn(DiskStep::Write);
       if (error == 0) error = file.write(part.constData(), part.size());
       if (error != 0) return failWriting(error);
-      if (m_following) m_following->standing(at + part.size());
+      if (at + part.size() < size) m_back->standing(at + part.size());
       if (m_watch.copied) m_watch.copied(part.size());
     }
     ::sync_file_range(file.number(), 0, 0, SYNC_FILE_RANGE_WRITE);  // the disk may begin
   }
-  /// Syncs the copy, with syncfs() all that was written to its disk. The errno, 0: synced.
-  int sync(int (*syncOf)(int)) const {
-    if (const int error = stepsOn(DiskStep::Sync)) return error;
-    const OpenedFile file(m_beside, O_RDONLY);
-    return file.error() != 0 ? file.error() : syncOf(file.number()) != 0 ? lastError() : 0;
-  }
-  Result<QByteArray> finish() {
-    if (!failed()) {
-      if (const int error = stepsOn(DiskStep::ReadBack))
-        failWriting(error);
-      else if (const QByteArray sum = readBack(); !sum.isEmpty())
-        return sum;
-      else
-        m_fault = notTheSame(m_target);
-    }
-    m_following.reset();
-    QFile::remove(m_beside);
-    return *m_fault;
-  }
-  void failWriting(int error) { m_fault = text::systemFault(text::FileAction::Write, m_target, error); }
-
- private:
-  /// The sum; empty where the copy does not read back as it was written.
-  QByteArray readBack() {
-    if (m_following) return m_following->finish(m_written);
-    ReadBack back(m_beside);
-    back.goToEnd();
-    return back.error() == 0 && back.trace() == m_written ? back.sum() : QByteArray();
+  void endReadBack() {
+    if (m_back && !std::exchange(m_ended, true)) m_back->end(m_written);
   }
   int stepsOn(DiskStep step) const { return m_watch.before ? m_watch.before(step, m_beside) : 0; }
 
   QString m_target, m_beside;
   const CopyWatch& m_watch;
   Trace m_written;
-  std::unique_ptr<FollowingSum> m_following;
+  std::shared_ptr<SumThread::File> m_back;
+  bool m_ended = false;
   std::optional<Fault> m_fault;
 };
 
-CopyBatch::CopyBatch(CopyWatch watch) : m_watch(std::move(watch)) {}
+CopyBatch::CopyBatch(CopyWatch watch)
+    : m_watch(std::move(watch)), m_sums(std::make_unique<parts::SumThread>()) {}
 CopyBatch::~CopyBatch() = default;
 
 void CopyBatch::add(const HeldFile& source, const QString& target) {
   m_copies.push_back(std::make_unique<Copying>(target, m_watch));
-  m_copies.back()->write(source);
+  m_copies.back()->write(source, *m_sums);
 }
 
 void CopyBatch::sync() {

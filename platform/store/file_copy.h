@@ -8,6 +8,10 @@
 
 #include "platform/text/result.h"
 
+namespace store::parts {
+class SumThread;
+}
+
 namespace store {
 
 using text::Done;
@@ -69,14 +73,15 @@ class CopyBatch {
   void add(const HeldFile& source, const QString& target);
   /// Syncs all copies at once; until finish() they may be looked at beside their targets.
   void sync();
-  /// Reads the copies back, after syncing them. Each copy's sum, in the order in which they were added, or a
-  /// fault that names the file; a copy that failed leaves nothing.
+  /// Waits until the copies were read back, after syncing them. Each copy's sum, in the order in which they
+  /// were added, or a fault that names the file; a copy that failed leaves nothing.
   std::vector<Result<QByteArray>> finish();
 
  private:
   class Copying;
   const CopyWatch m_watch;
-  std::vector<std::unique_ptr<Copying>> m_copies;
+  std::unique_ptr<parts::SumThread> m_sums;
+  std::vector<std::unique_ptr<Copying>> m_copies;  ///< end before the thread that follows them
   bool m_synced = false;
 };
 

@@ -7,9 +7,12 @@
 #include <QCryptographicHash>
 #include <QFile>
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
+#include <condition_variable>
 #include <cstring>
+#include <memory>
+#include <mutex>
+#include <queue>
 #include <thread>
 
 namespace store::parts {
@@ -93,9 +96,10 @@ class ReadBack {
   void goOn(qint64 until) {
     for (; m_error == 0 && m_read < until; m_read += kChunk) {
       const qint64 count = std::min(until - m_read, kChunk);
+      m_part.resize(count);
       m_error = m_file.read(m_read, m_part.data(), count);
       if (m_error != 0) return;
-      m_sum.addData(m_part.constData(), count);
+      m_sum.addData(QByteArrayView(m_part));
       m_trace.add(m_part.constData(), count);
     }
   }
@@ -103,53 +107,105 @@ class ReadBack {
     if (m_error == 0) goOn(m_file.size());
   }
   int error() const { return m_error; }
-  bool endsHere() const { return m_file.size() == m_trace.length(); }
-  const Trace& trace() const { return m_trace; }
+  /// The sum where the file reads back as it was written, else nothing.
+  QByteArray sumAgainst(const Trace& written) const {
+    return m_error == 0 && m_trace == written && m_file.size() == written.length() ? sum() : QByteArray();
+  }
   QByteArray sum() const { return m_sum.result().toHex(); }
 
  private:
   OpenedFile m_file;
   int m_error;
   qint64 m_read = 0;
-  QByteArray m_part{kChunk, Qt::Uninitialized};
+  QByteArray m_part;
   QCryptographicHash m_sum{kSum};
   Trace m_trace;
 };
 
-/// Reads a file back while it still grows, on a thread of its own.
-class FollowingSum {
+/// Reads files back and sums them up on a thread of its own, each while it still grows, in the order in which
+/// they were begun.
+class SumThread {
  public:
-  explicit FollowingSum(const QString& path) : m_back(path), m_thread([this] { follow(); }) {}
-  ~FollowingSum() { end(); }
+  /// A file that is followed. Whoever began it must end it.
+  class File {
+   public:
+    /// So many bytes stand.
+    void standing(qint64 bytes) { tell(bytes, false); }
+    /// Nothing more will come; `written` is what was.
+    void end(const Trace& written) {
+      m_written = written;
+      tell(written.length(), true);
+    }
+    /// The sum, once it is known; empty where the file does not read back as it was written.
+    QByteArray sum() {
+      std::unique_lock lock(m_guard);
+      m_changed.wait(lock, [this] { return m_known; });
+      return m_sum;
+    }
 
-  void standing(qint64 bytes) { tell(bytes * 2); }
-  /// The sum of all that stands; empty where it does not read back as it was written.
-  QByteArray finish(const Trace& written) {
-    end();
-    return m_back.error() == 0 && m_back.endsHere() && m_back.trace() == written ? m_back.sum()
-                                                                                 : QByteArray();
+   private:
+    friend class SumThread;
+    explicit File(QString path) : m_path(std::move(path)) {}
+    void tell(qint64 bytes, bool whole) {
+      const std::lock_guard lock(m_guard);
+      m_standing = bytes, m_whole = whole;
+      m_changed.notify_all();
+    }
+    void follow() {
+      ReadBack back(m_path);
+      std::unique_lock lock(m_guard);
+      for (qint64 read = 0; !m_whole || read < m_standing;) {
+        m_changed.wait(lock, [&] { return m_whole || m_standing > read; });
+        read = m_standing;
+        lock.unlock();
+        back.goOn(read);
+        lock.lock();
+      }
+      m_sum = back.sumAgainst(m_written);
+      m_known = true;
+      m_changed.notify_all();
+    }
+    const QString m_path;
+    std::mutex m_guard;
+    std::condition_variable m_changed;
+    qint64 m_standing = 0;
+    bool m_whole = false, m_known = false;
+    Trace m_written;
+    QByteArray m_sum;
+  };
+
+  ~SumThread() {
+    if (!m_thread.joinable()) return;
+    put(nullptr);
+    m_thread.join();
+  }
+  std::shared_ptr<File> begin(const QString& path) {
+    const std::shared_ptr<File> file(new File(path));
+    put(file);
+    if (!m_thread.joinable()) m_thread = std::thread([this] { run(); });
+    return file;
   }
 
  private:
-  static constexpr qint64 kWhole = 1;  ///< in the lowest bit: nothing more will come
-  void tell(qint64 state) {
-    m_standing = state;
-    m_standing.notify_one();
+  void put(std::shared_ptr<File> file) {
+    const std::lock_guard lock(m_guard);
+    m_files.push(std::move(file));
+    m_waiting.notify_one();
   }
-  void end() {
-    if (!m_thread.joinable()) return;
-    tell(m_standing | kWhole);
-    m_thread.join();
+  void run() {
+    while (const std::shared_ptr<File> file = next()) file->follow();
   }
-  void follow() {
-    for (qint64 state = 0;; state = m_standing) {
-      m_back.goOn(state / 2);
-      if (state & kWhole) return;
-      m_standing.wait(state);
-    }
+  /// Nothing: no more will come.
+  std::shared_ptr<File> next() {
+    std::unique_lock lock(m_guard);
+    m_waiting.wait(lock, [this] { return !m_files.empty(); });
+    std::shared_ptr<File> file = std::move(m_files.front());
+    m_files.pop();
+    return file;
   }
-  std::atomic<qint64> m_standing = 0;
-  ReadBack m_back;
+  std::mutex m_guard;
+  std::condition_variable m_waiting;
+  std::queue<std::shared_ptr<File>> m_files;
   std::thread m_thread;
 };
 
