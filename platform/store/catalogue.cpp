@@ -68,6 +68,8 @@ const TableRow* tableOfFile(const QString& fileName) {
   return nullptr;
 }
 
+bool sortsAsDate(const QString& column) { return column == QStringView(u"治療日チェック"); }
+
 const ColumnRow* findColumn(const TableRow& table, const QString& column) {
   for (const ColumnRow& row : table.columns)
     if (column.compare(QStringView(row.name), Qt::CaseInsensitive) == 0) return &row;

@@ -25,6 +25,9 @@ struct TableRow {
 std::span<const TableRow> catalogue();
 /// The row of a file name (nullptr: not of this program).
 const TableRow* tableOfFile(const QString& fileName);
+/// Whether the texts of a column are western dates, "yyyy/m/d", that sort as dates: the shadow columns that
+/// stand beside dates kept as they were typed.
+bool sortsAsDate(const QString& column);
 /// The column of a table of a file, nullptr where it has none.
 const ColumnRow* findColumn(const TableRow& table, const QString& column);
 

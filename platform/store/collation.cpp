@@ -38,6 +38,15 @@ QByteArray japaneseSortKey(QStringView text) {
   return key;
 }
 
+QByteArray dateSortKey(QStringView text) {
+  QString padded;
+  for (const QStringView part : text.split(u'/')) {
+    if (!padded.isEmpty()) padded += u'/';
+    padded += part.toString().rightJustified(2, u'0');
+  }
+  return japaneseSortKey(padded);
+}
+
 QByteArray numberSortKey(qint64 number) {
   const quint64 shifted = static_cast<quint64>(number) ^ (quint64(1) << 63);
   QByteArray key(8, '\0');

@@ -6,8 +6,10 @@
 namespace store {
 namespace {
 
-bool isNumber(ColumnType type) {
-  return type == ColumnType::Integer || type == ColumnType::YesNo || type == ColumnType::Counter;
+SortedAs kindOf(const TableSchema& schema, int column) {
+  const ColumnType type = schema.type(column);
+  if (type == ColumnType::Integer || type == ColumnType::YesNo) return SortedAs::Number;
+  return sortsAsDate(schema.name(column)) ? SortedAs::Date : SortedAs::Text;
 }
 
 }  // namespace
@@ -16,23 +18,21 @@ RowSorter::RowSorter(const Order& order, const TableSchema& schema,
                      const std::function<const TextColumn&(int column)>& columnOf) {
   for (const SortKey& key : order) {
     const int column = schema.find(key.column);
-    const ColumnType type = schema.type(column);
-    if (type == ColumnType::Counter) {
+    if (schema.type(column) == ColumnType::Counter) {
       m_idDescending = key.descending;
       break;
     }
     const TextColumn& content = columnOf(column);
-    m_keys.push_back({content.numbers(), content.texts(), isNumber(type), key.descending});
+    m_keys.push_back({content.numbers(), content.texts(), kindOf(schema, column), key.descending});
   }
 }
 
 int RowSorter::Key::compare(uint32_t a, uint32_t b) const {
   const uint32_t left = (*numbers)[a], right = (*numbers)[b];
   if (left == right) return 0;
-  const int order = left == ColumnTexts::kNull ? -1
-                    : right == ColumnTexts::kNull
-                        ? 1
-                        : texts->key(left, byValue).compare(texts->key(right, byValue));
+  const int order = left == ColumnTexts::kNull    ? -1
+                    : right == ColumnTexts::kNull ? 1
+                                                  : texts->key(left, kind).compare(texts->key(right, kind));
   return descending ? -order : order;
 }
 

@@ -25,7 +25,7 @@ class RowSorter {
   struct Key {
     std::shared_ptr<const TextColumn::Numbers> numbers;
     std::shared_ptr<ColumnTexts> texts;
-    bool byValue;
+    SortedAs kind;
     bool descending;
     int compare(uint32_t a, uint32_t b) const;
   };

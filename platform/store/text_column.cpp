@@ -70,10 +70,13 @@ void ColumnTexts::markContaining(std::u16string_view needle, std::vector<char>& 
   }
 }
 
-const QByteArray& ColumnTexts::key(uint32_t number, bool byValue) {
+const QByteArray& ColumnTexts::key(uint32_t number, SortedAs kind) {
   if (m_keys.size() < count()) m_keys.resize(count());
   QByteArray& key = m_keys[number];
-  if (key.isNull()) key = byValue ? numberSortKey(text(number).toLongLong()) : japaneseSortKey(text(number));
+  if (key.isNull())
+    key = kind == SortedAs::Number ? numberSortKey(text(number).toLongLong())
+          : kind == SortedAs::Date ? dateSortKey(text(number))
+                                   : japaneseSortKey(text(number));
   return key;
 }
 

@@ -9,6 +9,9 @@
 
 namespace store {
 
+/// What the texts of a column are sorted as.
+enum class SortedAs { Text, Number, Date };
+
 /// The different texts of a column, by number, with what searching and sorting compare them by. Only ever
 /// grows, so that whoever sorts by it may keep it. Number 0 is NULL. A column of which nearly every row
 /// differs is not looked through for equal texts: two numbers may then stand for one text.
@@ -23,8 +26,8 @@ class ColumnTexts {
   std::u16string_view folded(uint32_t number);
   /// Marks, by number, the texts whose folded form holds the folded needle: one pass over all of them.
   void markContaining(std::u16string_view needle, std::vector<char>& marks);
-  /// Bytes that compare as the texts do, made when first compared: in Japanese order, or by value.
-  const QByteArray& key(uint32_t number, bool byValue);
+  /// Bytes that compare as the texts do, made when first compared: in Japanese order, by value, by date.
+  const QByteArray& key(uint32_t number, SortedAs kind);
 
  private:
   /// Texts end to end, each with a NUL behind it.

@@ -83,7 +83,10 @@ TEST_F(FewRowsTest, FewRowsAreSortedAsManyAre) {
     ASSERT_LT(wanted.size() * 16, kRows);
     const bool descending = sort.endsWith(u"DESC");
     std::stable_sort(wanted.begin(), wanted.end(), [&](qint64 a, qint64 b) {
-      const QString left = dateOf(static_cast<int>(a) - 1), right = dateOf(static_cast<int>(b) - 1);
+      const auto day = [](qint64 id) {
+        return QDate::fromString(dateOf(static_cast<int>(id) - 1), QStringLiteral("yyyy/M/d"));
+      };
+      const QDate left = day(a), right = day(b);
       return descending ? left > right : left < right;
     });
     Result<RecordSet> alone = ofKey(QStringLiteral("20240007"), sort);

@@ -86,6 +86,15 @@ TEST_F(OrderTest, WrongOrdersAreTold) {
   EXPECT_TRUE(sorted("無い項目 ASC", "ID").contains(QStringLiteral("無い項目")));
 }
 
+TEST(Collation, ShadowDatesCompareAsDates) {
+  const QStringList rising = {QStringLiteral(""),          QStringLiteral("1999/12/31"),
+                              QStringLiteral("2020/1/8"),  QStringLiteral("2020/1/20"),
+                              QStringLiteral("2020/2/1"),  QStringLiteral("2020/10/1"),
+                              QStringLiteral("2020/12/1"), QStringLiteral("未定")};
+  for (int i = 1; i < rising.size(); ++i)
+    EXPECT_LT(dateSortKey(rising[i - 1]).compare(dateSortKey(rising[i])), 0) << rising[i].toStdString();
+}
+
 TEST(Collation, KeysCompareAsTheTextsDo) {
   const QStringList texts = {QStringLiteral("ア"),        QStringLiteral("ｱ"), QStringLiteral("亜"),
                              QStringLiteral("見本 太郎"), QStringLiteral(""),  QStringLiteral("1"),

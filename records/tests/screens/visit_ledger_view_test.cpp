@@ -132,8 +132,7 @@ TEST_F(VisitLedgerView, WholeViewOfThePatientComesBackInOrder) {
   type(u"Text1", u"令和2年12月"_s);
   press(u"Command6");
   press(u"Men_VA");
-  EXPECT_EQ(onView(u"治療概略"_s), (QStringList{u"西暦"_s, u"一"_s, u"二"_s}))
-      << "kept: the shadow is a text, 2020/1/20 stands before 2020/1/8";
+  EXPECT_EQ(onView(u"治療概略"_s), (QStringList{u"一"_s, u"西暦"_s, u"二"_s})) << "8 January before the 20th";
 }
 
 TEST_F(VisitLedgerView, NoVisitOfThePatientIsToldByTheWholeView) {
