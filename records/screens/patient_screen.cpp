@@ -85,6 +85,16 @@ void PatientScreen::say(const QStringList& parts) {
 
 // ---- The record ----
 
+bool PatientScreen::isEmpty() const {
+  return source().rows().recordCount() == 0 && !source().rows().adding();
+}
+
+bool PatientScreen::noPatient() {
+  if (!isEmpty()) return false;
+  navigator().show(u"無データ"_s);
+  return true;
+}
+
 void PatientScreen::askNewPatient() {
   const bool yes = messages().ask(u"　　　新しい患者を追加しますか？"_s);
   m_run.lastAnswer = yes ? 1 : 0;
@@ -94,10 +104,12 @@ void PatientScreen::askNewPatient() {
 }
 
 void PatientScreen::startNewPatient() {
-  if (source().isOpen() && screen::settleRow(source())) startRow();
+  if (source().isOpen() && (isEmpty() || screen::settleRow(source()))) startRow();
 }
 
+// What was typed on the screen of an empty register becomes the first patient's.
 bool PatientScreen::startRow(const QString& patientName) {
+  const bool first = isEmpty();
   // Read again first: a patient whom another computer entered meanwhile must not get the same serial.
   if (const text::Done read = source().rows().refresh(); !read) {
     messages().tellDataFault(read.fault().message);
@@ -105,10 +117,13 @@ bool PatientScreen::startRow(const QString& patientName) {
   }
   QString last;
   if (source().rows().recordCount() > 0) {
-    move(&screen::DataSource::moveLast);
+    if (first)
+      source().rows().moveLast();  // of another computer, entered meanwhile: the typed text is not its own
+    else
+      move(&screen::DataSource::moveLast);
     last = source().rows().value(u"テキスト5"_s);
   }
-  if (!source().addNew()) return false;
+  if (!(first ? source().addNewAsShown() : source().addNew())) return false;
   setText(name(kSerial), nextSerial(last, m_run.clock->today()));
   if (!patientName.isEmpty()) setText(name(kName), patientName);
   focusOn(u"txtFields(1)"_s);
@@ -117,18 +132,17 @@ bool PatientScreen::startRow(const QString& patientName) {
 
 // The row just stored stays on view.
 void PatientScreen::storePatient() {
-  if (!source().isOpen() || !messages().ask(u"       　　    登録しますか？"_s)) return;
+  if (!source().isOpen() || noPatient() || !messages().ask(u"       　　    登録しますか？"_s)) return;
   refreshAge();
   if (source().write()) say({name(kStored)});
 }
 
 void PatientScreen::deletePatient() {
   if (!source().isOpen()) return;
-  store::RecordSet& rows = source().rows();
-  if (rows.recordCount() == 0 && !rows.adding()) return;
+  if (isEmpty()) return say(onView());
   if (!messages().ask(u"　現在の表示の患者を削除しますか？"_s)) return;
   // A row that was never stored only leaves the screen: the patient before it must not go instead.
-  if (rows.adding())
+  if (source().rows().adding())
     source().drop();
   else if (!source().remove())
     return;
@@ -220,7 +234,7 @@ bool PatientScreen::onCloseBox() {
 // ---- Other rooms ----
 
 bool PatientScreen::readyForChart() {
-  if (!source().isOpen()) return false;
+  if (!source().isOpen() || noPatient()) return false;
   if (source().rows().adding()) {
     messages().tell(name(kStoreFirst));
     return false;

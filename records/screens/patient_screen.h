@@ -66,6 +66,10 @@ class PatientScreen : public screen::Screen {
   void offerGrowth();
   QString file() const;
 
+  /// The open table has no rows, and none is being added.
+  bool isEmpty() const;
+  /// Offers a first patient where the table is empty; true there.
+  bool noPatient();
   bool startRow(const QString& patientName = QString());
   void takeSerial(const QString& serial);
   void takeBooked(const QString& patientName);

@@ -209,6 +209,49 @@ TEST_F(PatientScreenTest, DeletingTheOnlyPatientLeavesABlankScreen) {
   EXPECT_TRUE(messages.texts().isEmpty());
 }
 
+// ---- An empty register ----
+
+TEST_F(PatientScreenTest, NothingToStoreIsOfferedAsAFirstPatientWhoTakesWhatWasTyped) {
+  screen::Screen& screen = patients();
+  screen.setText(u"txtFields(4)"_s, u"見本 一郎"_s);
+  screen.trigger(u"cmdUpdate"_s);
+  EXPECT_TRUE(messages.texts().isEmpty()) << "not asked, not told as stored";
+  EXPECT_FALSE(channel.said().contains(u"登録しました"_s));
+  ASSERT_TRUE(isShown(u"無データ"));
+  navigator.loaded(u"無データ"_s)->trigger(u"Command1"_s);
+  EXPECT_EQ(name(screen), u"見本 一郎"_s);
+  EXPECT_EQ(screen.text(u"Text2"_s), u"20240615001"_s);
+  answer({true});
+  screen.trigger(u"cmdUpdate"_s);
+  EXPECT_EQ(stored(u"氏名"_s), QStringList{u"見本 一郎"_s});
+  EXPECT_EQ(channel.lastSaid(), u"登録しました"_s);
+}
+
+TEST_F(PatientScreenTest, TypedFirstPatientLeavesOneEnteredMeanwhileAlone) {
+  screen::Screen& screen = patients();
+  screen.setText(u"txtFields(4)"_s, u"見本 一郎"_s);
+  addPatient({{u"氏名"_s, u"例示 花子"_s}, {u"テキスト5"_s, u"20240615001"_s}});
+  answer({true, true});
+  screen.trigger(u"Men_FA"_s);
+  screen.trigger(u"cmdUpdate"_s);
+  EXPECT_EQ(stored(u"氏名"_s), (QStringList{u"例示 花子"_s, u"見本 一郎"_s}));
+  EXPECT_EQ(stored(u"テキスト5"_s), (QStringList{u"20240615001"_s, u"20240615002"_s}));
+}
+
+TEST_F(PatientScreenTest, AnEmptyRegisterHasNoCharts) {
+  screen::Screen& screen = patients();
+  screen.trigger(u"Command8"_s);  // today's date stands on the screen
+  for (const char16_t* chart : {u"Command2", u"Command4", u"Command5"}) {
+    screen.trigger(QString::fromUtf16(chart));
+    EXPECT_TRUE(isShown(u"無データ")) << QString::fromUtf16(chart).toStdString();
+    navigator.unload(u"無データ"_s);
+  }
+  EXPECT_TRUE(messages.texts().isEmpty()) << messages.texts().join(u'|').toStdString();
+  channel.clear();
+  screen.trigger(u"cmdDelete"_s);
+  EXPECT_EQ(channel.lastSaid(), u"患者数:"_s + QChar(254) + u"0"_s);
+}
+
 TEST_F(PatientScreenTest, MovesStayInsideTheTableAndTellTheirPlace) {
   addNamed({u"見本 一郎"_s, u"見本 二郎"_s, u"見本 三郎"_s});
   screen::Screen& screen = patients();
