@@ -59,6 +59,8 @@ void VisitLedgerScreen::startVisit(const QString& name, const QString& birth, co
 }
 
 bool VisitLedgerScreen::writeVisit() {
+  // A new row that a move has written may be deleted since: where none is left, none waits to be stored.
+  m_newRowPending = m_newRowPending && onVisit();
   if (noVisit() || !settleVisit()) return false;
   m_newRowPending = false;
   const text::Done passed = [this] {

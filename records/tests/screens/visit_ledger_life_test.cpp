@@ -164,6 +164,23 @@ TEST_F(VisitLedgerLife, PendingNewVisitKeepsItOpenUntilStored) {
   EXPECT_TRUE(navigator.isShown(u"治療台帳4"_s) || navigator.loaded(u"治療台帳4"_s) != nullptr);
 }
 
+TEST_F(VisitLedgerLife, ANewVisitThatIsGoneDoesNotLockTheUserIn) {
+  addOn(u"令和6年6月1日"_s, u"2024/6/1"_s);
+  open();
+  press(u"cmdAdd");
+  ledger().goFirst();  // writes it
+  answer({true, true});
+  press(u"cmdDelete");
+  press(u"cmdDelete");
+  ASSERT_EQ(label(u"Label14"), u"0"_s);
+  press(u"cmdClose");
+  EXPECT_EQ(lastMessage(), u"一度登録ボタンを押してから終了して下さい"_s);
+  press(u"cmdUpdate");
+  press(u"cmdClose");
+  settle();
+  EXPECT_EQ(navigator.loaded(u"治療台帳3"_s), nullptr);
+}
+
 TEST_F(VisitLedgerLife, ClosingWritesWhatWasTypedAndShowsTheOpener) {
   addOn(u"令和6年6月1日"_s, u"2024/6/1"_s);
   addNamed({u"見本　太郎"_s});
