@@ -37,7 +37,7 @@ void ClaimListScreen::opened(const screen::Request& request) {
     put(QString(), request["sort"].toString());
   }
   if (!request.isEmpty() && holdsRows()) focusOn("DBGrid1");
-  m_tellsEmpty = !holdsRows();
+  if (!holdsRows() || !m_growthFault.isEmpty()) m_onceActive.set([this] { tellOpening(); });
 }
 
 // The second file of an older version gets its new columns. Where it cannot, the list works with those that
@@ -54,17 +54,11 @@ void ClaimListScreen::growSecondFile() {
   }
 }
 
-// What is told of the opening waits until the list has the keyboard: told before it, the focus would go back
-// to the screen behind, and that would be heard.
-void ClaimListScreen::onActivate() {
-  const bool tellsEmpty = std::exchange(m_tellsEmpty, false);
-  const QString growthFault = std::exchange(m_growthFault, {});
-  if (!tellsEmpty && growthFault.isEmpty()) return;
-  const auto tell = [this, tellsEmpty, growthFault] {
-    if (!growthFault.isEmpty()) messages().tellDataFault(growthFault);
-    if (tellsEmpty && source().isOpen()) emptySet(kNoRows);
-  };
-  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+void ClaimListScreen::onActivate() { m_onceActive.run(*this); }
+
+void ClaimListScreen::tellOpening() {
+  if (!m_growthFault.isEmpty()) messages().tellDataFault(std::exchange(m_growthFault, {}));
+  if (source().isOpen() && !holdsRows()) emptySet(kNoRows);
 }
 
 bool ClaimListScreen::openWhole() {
@@ -74,10 +68,8 @@ bool ClaimListScreen::openWhole() {
 
 QString ClaimListScreen::noRowsText() const { return kNoRows; }
 
-void ClaimListScreen::setChanged() {
-  messages().holdSpeech();
-  voice().speakText(QStringLiteral("%1件です。").arg(source().rows().recordCount()));
-  focusOn("DBGrid1");
+QStringList ClaimListScreen::countOnView() const {
+  return {QStringLiteral("%1件です。").arg(source().rows().recordCount())};
 }
 
 // Hits stand in the order in which the claims were made.
@@ -86,7 +78,7 @@ void ClaimListScreen::search() {
 }
 
 void ClaimListScreen::showAll() {
-  if (openWhole() && !emptySet(kNoRows)) setChanged();
+  if (openWhole() && !emptySet(kNoRows)) tellResult(QStringLiteral("全患者を表示しました"));
 }
 
 // 更新: claims made meanwhile come in; a narrowed list becomes whole.
@@ -129,7 +121,7 @@ void ClaimListScreen::removeClaim() {
   const text::Done removed = file->remove(id);
   if (!removed) messages().tellDataFault(removed.fault().message);
   if (removed && onDisplay) navigator().unload(kForm);
-  if (openWhole()) setChanged();
+  if (openWhole() && removed) tellResult(QStringLiteral("削除しました"));
 }
 
 void ClaimListScreen::finish() {

@@ -6,6 +6,7 @@
 #include "claims/core/claims_state.h"
 #include "frame/core/run_state.h"
 #include "platform/screen/list_screen.h"
+#include "platform/screen/once_active.h"
 
 namespace claims {
 
@@ -41,19 +42,20 @@ class ClaimListScreen : public screen::ListScreen {
   bool openWhole() override;
   QString noRowsText() const override;
   QStringList rowOnView() const override;
-  /// Says how many claims are on view now.
-  void setChanged() override;
+  QStringList countOnView() const override;
 
  private:
   void growSecondFile();
+  /// What came of growing the second file, and that the list is empty.
+  void tellOpening();
   qint64 currentId() const;
   /// Both files; nothing where one of them cannot be opened, which was told.
   std::optional<ClaimFile> claimFile();
 
   frame::RunState& m_run;
   ClaimsState& m_state;
-  bool m_tellsEmpty = false;
   QString m_growthFault;  ///< until it was told
+  screen::OnceActive m_onceActive;
 };
 
 }  // namespace claims

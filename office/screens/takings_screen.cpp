@@ -21,7 +21,6 @@ const QString kDeleteQuestion = u"　現在の表示の患者のカルテを削�
 const QString kNothingToDelete = u"削除するデータがありません。"_s;
 
 const QString kVisitDate = u"治療日時"_s;
-const QString kGrid = u"DBGrid1"_s;
 const QString kCount = u"Label4"_s;
 
 }  // namespace
@@ -48,7 +47,7 @@ void TakingsScreen::opened(const screen::Request& request) {
 
 void TakingsScreen::onActivate() { m_onceActive.run(*this); }
 
-QStringList TakingsScreen::openingTexts() const { return QStringList{windowTitle()} + count(); }
+QStringList TakingsScreen::openingTexts() const { return QStringList{windowTitle()} + countOnView(); }
 
 bool TakingsScreen::openWhole() {
   return source().open(m_run.folders[frame::folder::kVisits], u"カルテ"_s);
@@ -60,33 +59,15 @@ void TakingsScreen::rowShown(int) {
   setText(kCount, QString::number(source().isOpen() ? source().rows().recordCount() : 0));
 }
 
-QStringList TakingsScreen::count() const { return {caption(kCount), text(kCount)}; }
+QStringList TakingsScreen::countOnView() const { return {caption(kCount), text(kCount)}; }
 
 QStringList TakingsScreen::rowOnView() const {
-  if (!holdsRows()) return count();
+  if (!holdsRows()) return countOnView();
   const store::RecordSet& rows = source().rows();
   return {source().positionText(), rows.value(kVisitDate), rows.value(u"氏名"_s)};
 }
 
-void TakingsScreen::tellResult(const QString& done) {
-  messages().holdSpeech();
-  voice().speakText((QStringList{done} + count()).join(voice::kSpeechSeparator));
-  focusOn(kGrid);
-}
-
 // ---- What is on view ----
-
-bool TakingsScreen::narrowBy(const QString& criteria) {
-  if (!ListScreen::narrowBy(criteria)) return false;
-  tellResult(u"抽出しました"_s);
-  return true;
-}
-
-bool TakingsScreen::sortBy(const QString& order) {
-  if (!ListScreen::sortBy(order)) return false;
-  tellResult(u"並び替えました"_s);
-  return true;
-}
 
 void TakingsScreen::setDay(QDate day) {
   setText(u"Combo1"_s, QString::number(day.year()));
@@ -100,13 +81,13 @@ void TakingsScreen::showDay() {
   const std::optional<QDate> day = asked ? rolled(*asked) : std::nullopt;
   if (!day || emptySet(kNoRowsOfDay)) return;
   const QString date = takingsDay(m_run.eraDates(), *day);
-  if (ListScreen::narrowBy(store::equalCriterion(kVisitDate, date))) tellResult(date);
+  narrow(store::equalCriterion(kVisitDate, date), date);
 }
 
 void TakingsScreen::showMonth() {
   const QString month = text(u"Text1"_s);
-  if (month.isEmpty()) return focusOn(u"Text1"_s);
-  if (ListScreen::narrowBy(store::prefixCriterion(kVisitDate, month))) tellResult(month);
+  if (month.isEmpty()) return askFor(u"Text1"_s);
+  narrow(store::prefixCriterion(kVisitDate, month), month);
 }
 
 void TakingsScreen::openCalendar() {

@@ -21,8 +21,6 @@ class TakingsScreen : public screen::ListScreen {
   bool onCloseBox() override;
   QStringList openingTexts() const override;
   void rowShown(int sourceNumber) override;
-  bool narrowBy(const QString& criteria) override;
-  bool sortBy(const QString& order) override;
 
   void showDay();
   void showMonth();
@@ -38,13 +36,10 @@ class TakingsScreen : public screen::ListScreen {
   bool openWhole() override;
   QString noRowsText() const override;
   QStringList rowOnView() const override;
+  QStringList countOnView() const override;
 
  private:
   void setDay(QDate day);
-  /// Caption and number of the rows on view.
-  QStringList count() const;
-  /// Says what came of a command and how many rows are on view, then the row that has the keyboard.
-  void tellResult(const QString& done);
 
   frame::RunState& m_run;
   screen::OnceActive m_onceActive;

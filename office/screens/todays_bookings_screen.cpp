@@ -45,7 +45,7 @@ bool TodaysBookingsScreen::openWhole() {
   return BookingList::openWhole();
 }
 
-void TodaysBookingsScreen::setChanged() {
+void TodaysBookingsScreen::setChanged(const QString& /*done*/) {
   m_narrowed = true;
   sayRows({});
 }

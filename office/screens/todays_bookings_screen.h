@@ -31,7 +31,7 @@ class TodaysBookingsScreen : public BookingList {
 
  protected:
   bool openWhole() override;
-  void setChanged() override;
+  void setChanged(const QString& done) override;
 
  private:
   /// The day of the three lists, told where they hold no date; its weekday is shown.

@@ -48,18 +48,12 @@ void ExtractDialog::extract() {
   const int chosen = chosenItem("Combo1");
   QString word = text("Text1");
   if (list == nullptr || chosen < 0) return;
-  if (word.isEmpty() && m_row.blankDoesNothing) return askForWord();
+  if (word.isEmpty() && m_row.blankDoesNothing) return askFor("Text1");
   const ColumnChoice& choice = m_row.columns[static_cast<size_t>(chosen)];
   if (choice.yesNo) word = yesNoText(word);
   if (!list->narrowBy(store::likeCriterion(QString::fromUtf16(choice.column), word))) return;
   navigator().show(listName);
   close();
-}
-
-// Said also where the text has the focus already: a command that does nothing must not be silent.
-void ExtractDialog::askForWord() {
-  focusOn("Text1");
-  voice().speakHeading({caption("Text1")});
 }
 
 void addExtractDialogs(ScreenRegistry& registry, std::span<const ExtractRow> rows) {

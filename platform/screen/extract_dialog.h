@@ -39,7 +39,6 @@ class ExtractDialog : private detail::ExtractDeclaration, public Screen {
   void cancel();
 
  private:
-  void askForWord();
   const ExtractRow& m_row;
 };
 

@@ -29,7 +29,9 @@ bool ListScreen::put(const QString& criteria, const QString& order) {
   return set.has_value();
 }
 
-bool ListScreen::narrowBy(const QString& criteria) {
+bool ListScreen::narrowBy(const QString& criteria) { return narrow(criteria, QStringLiteral("抽出しました")); }
+
+bool ListScreen::narrow(const QString& criteria, const QString& done) {
   if (emptySet(noRowsText())) return false;
   auto hits = setOf(criteria, QString());
   if (!hits) return false;
@@ -38,8 +40,14 @@ bool ListScreen::narrowBy(const QString& criteria) {
     return false;
   }
   source().assign(std::move(*hits));
-  setChanged();
+  setChanged(done);
   return true;
+}
+
+void ListScreen::tellResult(const QString& done) {
+  messages().holdSpeech();
+  voice().speakText((QStringList{done} + countOnView()).join(voice::kSpeechSeparator));
+  focusOn(QStringLiteral("DBGrid1"));
 }
 
 void ListScreen::step(void (DataSource::*move)()) {
@@ -54,7 +62,7 @@ void ListScreen::goLast() { step(&DataSource::moveLast); }
 
 bool ListScreen::sortBy(const QString& order) {
   if (emptySet(noRowsToSortText()) || !put(QString(), order)) return false;
-  setChanged();
+  setChanged(QStringLiteral("並び替えました"));
   return true;
 }
 

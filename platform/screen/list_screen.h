@@ -38,9 +38,16 @@ class ListScreen : public Screen {
   virtual QString noRowsToSortText() const { return noRowsText(); }
   /// What is said of the row that the record keys led to; nothing: they are silent.
   virtual QStringList rowOnView() const { return {}; }
-  /// After narrowBy() or sortBy() changed the set: counts, focus.
-  virtual void setChanged() {}
+  /// How many rows are on view, as the list says it.
+  virtual QStringList countOnView() const { return {}; }
+  /// After narrowBy() or sortBy() changed the set, with what was done in words.
+  virtual void setChanged(const QString& done) { tellResult(done); }
+  /// Says what came of a command and how many rows are on view. The keyboard goes to the list, whose row is
+  /// heard next.
+  void tellResult(const QString& done);
 
+  /// narrowBy() with its own words for what was done.
+  bool narrow(const QString& criteria, const QString& done);
   /// Tells the text where the set is empty; true where it was. A file that could not be opened is tried again
   /// and told by name instead.
   bool emptySet(const QString& text);

@@ -79,6 +79,9 @@ class Screen : public QMainWindow {
   void focusOn(const QString& control);
   QString focused() const;  ///< objectName of the control with the focus
   void showPage(const QString& caption);
+  /// Sends the focus to a field that a command needs filled. Where the focus is there already the field is
+  /// named all the same: a command that does nothing must not be silent.
+  void askFor(const QString& control);
   /// In an onLeave handler: the focus goes back to the control being left.
   void keepFocus();
 

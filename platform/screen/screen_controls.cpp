@@ -115,6 +115,11 @@ void Screen::focusOn(const QString& control) {
   giveFocus(*target);
 }
 
+void Screen::askFor(const QString& control) {
+  focusOn(control);
+  voice().speakHeading({caption(control)});
+}
+
 void giveFocus(QWidget& widget) {
   widget.setFocus(Qt::OtherFocusReason);
   const auto* list = qobject_cast<QComboBox*>(&widget);

@@ -112,11 +112,6 @@ void PatientExtractScreen::typeWord() {
     if (typedIn == kind.input) choose(u"Frame1"_s, name(kind.value));
 }
 
-void PatientExtractScreen::askFor(const QString& input) {
-  focusOn(input);
-  voice().speakHeading({caption(input)});
-}
-
 void PatientExtractScreen::extract() {
   const QString listName = u"一覧表"_s;
   auto* list = dynamic_cast<ListScreen*>(navigator().load(listName));

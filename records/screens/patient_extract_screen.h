@@ -15,9 +15,6 @@ class PatientExtractScreen : public screen::Screen {
   /// What is typed or chosen in a kind's input means that kind.
   void chooseSex();
   void typeWord();
-
- private:
-  void askFor(const QString& input);
 };
 
 /// The criteria of a kind (性別, キーワード, 年齢以上, 年齢以下, 住所) for what stands in its input.

@@ -32,9 +32,9 @@ void PatientListScreen::onLoad() {
   openWhole();
 }
 
-QStringList PatientListScreen::openingTexts() const {
-  return {windowTitle(), caption(u"Text2"_s), text(u"Text2"_s)};
-}
+QStringList PatientListScreen::openingTexts() const { return QStringList{windowTitle()} + countOnView(); }
+
+QStringList PatientListScreen::countOnView() const { return {caption(u"Text2"_s), text(u"Text2"_s)}; }
 
 bool PatientListScreen::openWhole() {
   return source().open(m_run.folders[frame::folder::kPatients], u"臨床QV"_s);
@@ -49,30 +49,12 @@ void PatientListScreen::rowShown(int) {
 }
 
 QStringList PatientListScreen::rowOnView() const {
-  if (!holdsRows()) return {caption(u"Text2"_s), text(u"Text2"_s)};
+  if (!holdsRows()) return countOnView();
   return {text(u"Text3"_s), source().rows().value(u"氏名"_s)};
-}
-
-bool PatientListScreen::narrowBy(const QString& criteria) {
-  if (!ListScreen::narrowBy(criteria)) return false;
-  tellResult(u"抽出しました"_s);
-  return true;
-}
-
-bool PatientListScreen::sortBy(const QString& order) {
-  if (!ListScreen::sortBy(order)) return false;
-  tellResult(u"並び替えました"_s);
-  return true;
 }
 
 void PatientListScreen::showAll() {
   if (openWhole() && !emptySet(kNoRows)) tellResult(u"全患者を表示しました"_s);
-}
-
-void PatientListScreen::tellResult(const QString& done) {
-  messages().holdSpeech();
-  voice().speakText(QStringList{done, caption(u"Text2"_s), text(u"Text2"_s)}.join(voice::kSpeechSeparator));
-  focusOn(u"DBGrid1"_s);
 }
 
 void PatientListScreen::handOver() {

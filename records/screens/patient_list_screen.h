@@ -19,8 +19,6 @@ class PatientListScreen : public screen::ListScreen {
   void onLoad() override;
   QStringList openingTexts() const override;
   void rowShown(int sourceNumber) override;
-  bool narrowBy(const QString& criteria) override;
-  bool sortBy(const QString& order) override;
 
   void showAll();
   void handOver();
@@ -32,10 +30,9 @@ class PatientListScreen : public screen::ListScreen {
   QString noRowsText() const override;
   QString noRowsToSortText() const override;
   QStringList rowOnView() const override;
+  QStringList countOnView() const override;
 
  private:
-  /// Says what came of a command and how many patients the list shows now; the list has the focus.
-  void tellResult(const QString& done);
   LabelAddress addressAt(int position) const;
   void drawSheet(report::ReportOperations& paper, int sheet) const;
   frame::RunState& m_run;

@@ -75,7 +75,7 @@ class VisitLedgerScreen : public screen::ListScreen {
   bool openWhole() override;
   QString noRowsText() const override;
   QString noRowsToSortText() const override;
-  void setChanged() override;
+  void setChanged(const QString& done) override;
 
  private:
   /// A row stands on the screen, stored or being added.
@@ -85,6 +85,8 @@ class VisitLedgerScreen : public screen::ListScreen {
   /// Writes what was typed in the visit on view. False: refused and told.
   bool settleVisit() { return !source().isOpen() || source().write(); }
   bool putPatient();
+  /// Says what is on view now; the list gets the focus.
+  void tellView();
   void offerFirstVisit();
   void startVisit(const QString& name, const QString& birth, const QString& patient);
   bool writeVisit();

@@ -31,7 +31,9 @@ bool VisitLedgerScreen::narrowBy(const QString& criteria) {
 
 bool VisitLedgerScreen::sortBy(const QString& order) { return settleVisit() && ListScreen::sortBy(order); }
 
-void VisitLedgerScreen::setChanged() {
+void VisitLedgerScreen::setChanged(const QString& /*done*/) { tellView(); }
+
+void VisitLedgerScreen::tellView() {
   say(QStringList{caption(u"LabelCount"_s), caption(u"Label14"_s)} + onView());
   focusOn(u"DBGrid1"_s);
 }
@@ -52,13 +54,13 @@ void VisitLedgerScreen::showPatient() {
   if (!settleVisit() || !openWhole()) return;
   if (!holdsRows()) return offerFirstVisit();
   if (!putPatient()) return;
-  if (holdsRows()) return setChanged();
+  if (holdsRows()) return tellView();
   messages().tell(u"該当がありません。追加ボタンを押し新規登録してください。"_s);
 }
 
 void VisitLedgerScreen::showAll() {
   if (!settleVisit() || !openWhole()) return;
-  setChanged();
+  tellView();
 }
 
 void VisitLedgerScreen::showTotals() {

@@ -106,7 +106,7 @@ TEST_F(ClaimListCommands, DeleteTakesBothHalvesAfterYes) {
   press(u"cmdDelete");
   EXPECT_EQ(told(), QStringList(qs(u"　現在の表示該当患者のレセプトを削除しますか？")));
   EXPECT_EQ(shown(), QStringList({qs(u"3"), qs(u"1")}));
-  EXPECT_TRUE(m_channel.said().contains(qs(u"2件です。")));
+  EXPECT_TRUE(m_channel.said().contains(qs(u"削除しました") + voice::kSpeechSeparator + qs(u"2件です。")));
   EXPECT_FALSE(first().find(2));
   EXPECT_FALSE(second().find(2));
   EXPECT_TRUE(second().find(3));

@@ -44,7 +44,7 @@ TEST_F(ConsentExtract, FromTheFirstDateOn) {
   // As texts: "令和6年12月5日" stands between 11月5日 and 令和7年.
   EXPECT_EQ(shown(), QStringList({qs(u"4"), qs(u"3"), qs(u"2")}));
   EXPECT_EQ(m_navigator.shows, QStringList(qs(u"レセプト一覧表")));
-  EXPECT_TRUE(m_channel.said().contains(qs(u"3件です。")));
+  EXPECT_TRUE(m_channel.said().contains(qs(u"抽出しました") + voice::kSpeechSeparator + qs(u"3件です。")));
   EXPECT_FALSE(stays());
 }
 

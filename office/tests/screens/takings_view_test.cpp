@@ -108,6 +108,9 @@ TEST_F(TakingsTest, ABlankMonthIsAskedForAndChangesNothing) {
   EXPECT_EQ(listed().size(), 2);
   EXPECT_EQ(screen.focused(), u"Text1"_s);
   EXPECT_EQ(told(), QStringList());
+  channel.clear();
+  screen.trigger(u"Command6"_s);
+  EXPECT_EQ(channel.lastSaid(), u"指定月:"_s) << "said also where the focus was there already";
 }
 
 TEST_F(TakingsTest, EnterInTheMonthShowsIt) {

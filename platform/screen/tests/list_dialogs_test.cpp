@@ -31,7 +31,11 @@ class SampleList : public ListScreen {
   QString noRowsText() const override { return "０件です"; }
   QString noRowsToSortText() const override { return "並び替える行がありません"; }
   QStringList rowOnView() const override { return {source().positionText(), source().rows().value("氏名")}; }
-  void setChanged() override { ++changes; }
+  QStringList countOnView() const override { return {QString::number(source().rows().recordCount())}; }
+  void setChanged(const QString& done) override {
+    ++changes;
+    ListScreen::setChanged(done);
+  }
   QStringList names() const {
     QStringList names;
     for (int row = 0; row < source().rows().recordCount(); ++row)
@@ -117,6 +121,8 @@ TEST_F(ListDialogs, ExtractionNarrowsShowsTheListAndCloses) {
   EXPECT_TRUE(isOpen("見本一覧"));
   EXPECT_FALSE(isOpen("抽出見本"));
   EXPECT_EQ(list().changes, 1);
+  EXPECT_TRUE(desk.spy.said().contains("抽出しました" + kPart + "2"));
+  EXPECT_EQ(list().focused(), "DBGrid1");
   extract("お名前", "あ");
   EXPECT_EQ(list().names(), QStringList{"見本 あ"}) << "the second searches what is on view";
   EXPECT_EQ(told(), QStringList());
