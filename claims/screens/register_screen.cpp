@@ -94,7 +94,7 @@ bool RegisterScreen::offerNew(const QStringList& texts) {
 }
 
 void RegisterScreen::startNew() {
-  if (!source().isOpen()) return;
+  if (!source().ready()) return;
   // Typed before 新規 into a register without rows: it is what the new row is to hold.
   if (!holdsRow() && source().pending()) {
     m_offered.clear();
@@ -105,7 +105,7 @@ void RegisterScreen::startNew() {
 }
 
 void RegisterScreen::store() {
-  if (!source().isOpen()) return;
+  if (!source().ready()) return;
   if (const int blank = firstBlank(texts()); blank >= 0) {
     messages().tell(blankFieldText(words(m_list.fields[size_t(blank)].label)));
     return focusOn(field(blank));
@@ -115,7 +115,7 @@ void RegisterScreen::store() {
 }
 
 void RegisterScreen::remove() {
-  if (!source().isOpen()) return;
+  if (!source().ready()) return;
   if (!holdsRow()) return messages().tell(words(kNothingToDelete));
   if (!messages().ask(words(m_list.deleteQuestion))) return;
   if (source().rows().adding())  // it was never stored
@@ -135,7 +135,7 @@ std::optional<store::RecordSet> RegisterScreen::wholeRegister() {
 }
 
 void RegisterScreen::search() {
-  if (!source().isOpen() || !leaveRow()) return;
+  if (!source().ready() || !leaveRow()) return;
   auto rows = wholeRegister();
   if (!rows) return;
   if (const QString word = text(u"Text1"_s); !word.isEmpty()) {

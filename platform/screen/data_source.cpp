@@ -10,11 +10,19 @@ namespace screen {
 
 bool DataSource::open(const QString& path, const QString& table) {
   auto database = store::Database::open(path);
-  if (!database) return told(database.fault());
-  auto rows = store::RecordSet::open(database.value(), table);
-  if (!rows) return told(rows.fault());
+  auto rows = database ? store::RecordSet::open(database.value(), table)
+                       : store::Result<store::RecordSet>(database.fault());
+  if (!rows) {
+    m_openFault = rows.fault().message;
+    return told(rows.fault());
+  }
   assign(std::move(rows.value()));
   return true;
+}
+
+bool DataSource::ready() {
+  if (!isOpen()) m_screen.messages().tellDataFault(m_openFault);
+  return isOpen();
 }
 
 void DataSource::assign(store::RecordSet rows) {

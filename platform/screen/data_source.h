@@ -19,6 +19,8 @@ class DataSource {
   /// Opens the table of the file; on a fault tells it and stays closed (the screen still works).
   bool open(const QString& path, const QString& table);
   bool isOpen() const { return m_rows.isOpen(); }
+  /// For a command that needs the file: what kept it from opening is told again. False: told.
+  bool ready();
   store::RecordSet& rows() { return m_rows; }
   const store::RecordSet& rows() const { return m_rows; }
   /// Puts another set (a filtered or sorted copy) in the place of the present one and shows its row.
@@ -67,6 +69,7 @@ class DataSource {
   Screen& m_screen;
   int m_number;
   store::RecordSet m_rows;
+  QString m_openFault;
 };
 
 }  // namespace screen

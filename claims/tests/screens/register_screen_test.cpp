@@ -369,8 +369,12 @@ TEST_F(RegisterScreenTest, AMissingFileIsToldByNameAndNothingBreaks) {
   ASSERT_EQ(texts.size(), 1);
   EXPECT_TRUE(texts[0].startsWith(qs(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :")));
   EXPECT_TRUE(texts[0].contains(qs(u"同意医師2000.mdb")));
-  for (const char16_t* command : {u"cmdAdd", u"cmdUpdate", u"cmdDelete", u"Command1", u"cmdClose"})
+  for (const char16_t* command : {u"cmdAdd", u"cmdUpdate", u"cmdDelete", u"Command1"}) {
     push(command);
+    EXPECT_EQ(told(), texts) << "each command that needs it tells it again";
+  }
+  push(u"cmdClose");
+  EXPECT_EQ(told(), QStringList());
   EXPECT_FALSE(QFile::exists(m_run.folders[frame::folder::kDoctors]));
 }
 
