@@ -10,9 +10,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const DictionaryRow kAcupoints{kAcupointScreen, frame::folder::kAcupoints, u"経穴"};
-
-constexpr char16_t kNewRow[] = u"新しい経穴を書き込んでから、更新ボタンを押してください";
+const DictionaryRow kAcupoints{kAcupointScreen, frame::folder::kAcupoints, u"経穴",
+                               u"新しい経穴を書き込んでから、更新ボタンを押してください"};
 
 }  // namespace
 
@@ -27,14 +26,13 @@ void AcupointScreen::onLoad() {
 QStringList AcupointScreen::onView() const { return {entry(), text(u"txtFields(1)"_s)}; }
 
 void AcupointScreen::add() {
-  if (!source().isOpen() || !source().addNew()) return;
-  focusEntry();
-  say({QString::fromUtf16(kNewRow)});
+  if (source().ready() && source().addNew()) askForEntry();
 }
 
 void AcupointScreen::search() {
   const QString word = text(u"Text1"_s), column = text(u"Combo1"_s);
-  if (word.isEmpty() || !source().isOpen() || !leaveRow()) return;
+  if (word.isEmpty()) return askFor(u"Text1"_s);
+  if (!source().ready() || !leaveRow()) return;
   if (!screen::findRow(*this, store::likeCriterion(column, word))) return;
   QStringList found = onView();
   // Named points are heard by their names; of another column the place that matched is heard too.

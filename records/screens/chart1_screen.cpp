@@ -15,6 +15,7 @@ namespace {
 
 const QString kMaster = u"治療台帳4"_s;
 const QString kName = u"txtFields(4)"_s;
+const QString kDictionaries[] = {u"frmCLmoji"_s, u"frmCl2moji"_s, u"frm経穴"_s};
 
 const QString kUpdateQuestion = u"       　　    更新しますか？"_s;
 const QString kUpdateWarning =
@@ -86,7 +87,7 @@ void Chart1Screen::updateAfterWarning() {
 }
 
 void Chart1Screen::store() {
-  if (!source().isOpen() || !source().write()) return;
+  if (!source().ready() || !source().write()) return;
   // The master stands on the same table: it shows what is stored now, unless something is being typed there.
   Screen* master = navigator().loaded(kMaster);
   if (master && master->source().isOpen() && !master->source().pending()) master->source().show();
@@ -111,8 +112,10 @@ void Chart1Screen::copyNow() {
 
 // Said last, and held: a window that goes must not let the focus cut it.
 void Chart1Screen::closeDictionaries() {
-  for (const QString& window : {u"frmCLmoji"_s, u"frmCl2moji"_s, u"frm経穴"_s})
-    if (navigator().loaded(window)) navigator().unload(window);
+  for (const QString& window : kDictionaries)
+    if (Screen* dictionary = navigator().loaded(window)) dictionary->close();
+  for (const QString& window : kDictionaries)
+    if (navigator().isShown(window)) return;  // it holds a text that its file refuses
   messages().holdSpeech();
   voice().speakText(u"辞典の窓を閉じました"_s);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/screen/control_book.h"
 #include "platform/shell/desktop.h"
 
 namespace records {
@@ -21,6 +22,7 @@ constexpr char16_t kDiscardQuestion[] = u"更新出来ませんでした。入�
 constexpr char16_t kStored[] = u"更新しました";
 constexpr char16_t kDeleted[] = u"削除しました";
 constexpr char16_t kCopied[] = u"クリップボードにコピーしました";
+constexpr char16_t kNothingToCopy[] = u"コピーする文字がありません";
 
 }  // namespace
 
@@ -34,7 +36,11 @@ void DictionaryScreen::onLoad() {
 }
 
 QString DictionaryScreen::entry() const { return text(kEntry); }
-void DictionaryScreen::focusEntry() { focusOn(kEntry); }
+
+void DictionaryScreen::askForEntry() {
+  focusOn(kEntry);
+  say({QString::fromUtf16(m_row.newRow)});
+}
 
 bool DictionaryScreen::holdsRow() const {
   return source().isOpen() && (source().rows().adding() || source().rows().absolutePosition() >= 0);
@@ -51,11 +57,16 @@ void DictionaryScreen::say(const QStringList& parts) {
 
 bool DictionaryScreen::leaveRow() {
   if (!holdsRow()) return true;
-  if (source().rows().adding() && entry().trimmed().isEmpty()) {
-    source().drop();
-    return true;
-  }
-  return source().write();
+  if (!blankNewRow()) return source().write();
+  source().drop();
+  return true;
+}
+
+bool DictionaryScreen::blankNewRow() {
+  if (!source().rows().adding()) return false;
+  for (const screen::Control* control : controls().boundTo(1))
+    if (control->changed() && !control->text().trimmed().isEmpty()) return false;
+  return true;
 }
 
 void DictionaryScreen::step(void (screen::DataSource::*move)()) {
@@ -74,12 +85,14 @@ void DictionaryScreen::goLast() { step(&screen::DataSource::moveLast); }
 
 // The row just stored stays on view. What was typed into a table without rows becomes its first.
 void DictionaryScreen::store() {
-  if (!source().isOpen() || (!holdsRow() && !source().addNewAsShown()) || !source().write()) return;
+  if (!source().ready()) return;
+  if (blankNewRow()) return askForEntry();
+  if ((!holdsRow() && !source().addNewAsShown()) || !source().write()) return;
   say(QStringList{QString::fromUtf16(kStored)} + onView());
 }
 
 void DictionaryScreen::remove() {
-  if (!source().isOpen()) return;
+  if (!source().ready()) return;
   if (!holdsRow()) return messages().tell(QString::fromUtf16(kNothingToDelete));
   if (!messages().ask(QString::fromUtf16(kDeleteQuestion), screen::Buttons::OkCancel,
                       QString::fromUtf16(kDeleteTitle)))
@@ -99,7 +112,7 @@ void DictionaryScreen::copyEntry() { services().desktop->copyText(entry()); }
 
 void DictionaryScreen::copy() {
   copyEntry();
-  say({entry(), QString::fromUtf16(kCopied)});
+  say({entry(), QString::fromUtf16(entry().isEmpty() ? kNothingToCopy : kCopied)});
 }
 
 // ---- Leaving ----

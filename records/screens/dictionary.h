@@ -10,6 +10,7 @@ struct DictionaryRow {
   const screen::ScreenRow& screen;
   int folder;
   const char16_t* table;
+  const char16_t* newRow;  ///< says how a new row is filled
 };
 
 /// Base of the small windows that stand open beside the chart: a list of rows, the fields of the row on view,
@@ -43,13 +44,16 @@ class DictionaryScreen : public screen::Screen {
   bool holdsRow() const;
   /// Puts the text on the clipboard in place of what was there.
   void copyEntry();
+  /// Goes to the first field of a new row and says how it is filled.
+  void askForEntry();
   void say(const QStringList& parts);
-  void focusEntry();
   /// Before the row changes: a new row that is still blank is dropped, what was typed is stored. False: told.
   bool leaveRow();
 
  private:
   void step(void (screen::DataSource::*move)());
+  /// A new row into which nothing was typed yet.
+  bool blankNewRow();
   const DictionaryRow& m_row;
   frame::RunState& m_run;
 };

@@ -53,8 +53,8 @@ constexpr ScreenRow kScreen1{
 constexpr ScreenRow kScreen2{
     .name = u"frmCl2moji", .caption = u"クリップ文字２", .rows = kRows2, .sources = 1, .functionKeys = true};
 
-constexpr DictionaryRow kDictionaries[] = {{kScreen1, frame::folder::kPhrases1, u"CLmoji"},
-                                           {kScreen2, frame::folder::kPhrases2, u"CL2moji"}};
+constexpr DictionaryRow kDictionaries[] = {{kScreen1, frame::folder::kPhrases1, u"CLmoji", kNewRow},
+                                           {kScreen2, frame::folder::kPhrases2, u"CL2moji", kNewRow}};
 
 }  // namespace
 
@@ -64,12 +64,11 @@ std::span<const DictionaryRow> phraseDictionaries() { return kDictionaries; }
 void PhraseScreen::rowReached() { copyEntry(); }
 
 void PhraseScreen::add() {
-  if (!source().isOpen()) return;
+  if (!source().ready()) return;
   if (entry().trimmed().isEmpty()) {
     source().drop();  // the row whose text was cleared to make room stays as it was stored
-    if (!source().addNew()) return;
-    focusEntry();
-    return say({QString::fromUtf16(kNewRow)});
+    if (source().addNew()) askForEntry();
+    return;
   }
   if (!source().rows().adding() && !source().addNewAsShown()) return;
   if (source().write()) say({QString::fromUtf16(kAdded), entry()});

@@ -158,6 +158,25 @@ TEST_F(AcupointScreenTest, ABlankSearchDoesNothing) {
   search(screen, u"経穴名漢字"_s, QString());
   EXPECT_EQ(screen.text(kName), u"承漿"_s);
   EXPECT_TRUE(messages.texts().isEmpty());
+  EXPECT_EQ(channel.lastSaid(), u"検索文字:"_s) << "the text is asked for";
+}
+
+TEST_F(AcupointScreenTest, ANewPointWithoutANameIsKeptWhenItsRowIsLeft) {
+  screen::Screen& screen = points();
+  screen.trigger(u"cmdAdd"_s);
+  screen.setText(u"txtFields(2)"_s, u"架空の位置"_s);
+  screen.goFirst();
+  const store::RecordSet rows = open(kPointsFile, kTable);
+  ASSERT_EQ(rows.recordCount(), 362);
+  EXPECT_EQ(rows.valueAt(361, u"取穴位置"_s), u"架空の位置"_s);
+  EXPECT_EQ(screen.text(kName), u"中府"_s);
+}
+
+TEST_F(AcupointScreenTest, ANewPointThatStayedBlankIsDropped) {
+  screen::Screen& screen = points();
+  screen.trigger(u"cmdAdd"_s);
+  screen.goFirst();
+  EXPECT_EQ(open(kPointsFile, kTable).recordCount(), 361);
 }
 
 TEST_F(AcupointScreenTest, NoHitIsToldAndTheRowStays) {

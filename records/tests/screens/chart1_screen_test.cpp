@@ -1,6 +1,8 @@
 #include <QAction>
 
 #include "platform/screen/testing/screen_probe.h"
+#include "platform/store/bulk.h"
+#include "platform/store/database.h"
 #include "records/tests/screens/records_fixture.h"
 
 // 治療台帳2 (カルテ１): the long texts of one patient.
@@ -215,6 +217,26 @@ TEST_F(Chart1Test, CbClosesTheHelperWindows) {
   settle();
   for (const char16_t* window : {u"frmCLmoji", u"frmCl2moji", u"frm経穴"}) EXPECT_FALSE(isShown(window));
   EXPECT_TRUE(channel.heardWhole().contains(u"辞典の窓を閉じました"_s));
+}
+
+TEST_F(Chart1Test, CbLeavesAWindowWhoseTextItsFileRefuses) {
+  const QString file = u"CLmoji2000.mdb"_s, field = u"txtFields(0)"_s;
+  makeFile(file);
+  ASSERT_TRUE(store::addRows(path(file), u"CLmoji"_s, {{{u"moji"_s, u"見本一"_s}}}));
+  screen::Screen& chart1 = hanako();
+  screen::Screen& phrases = *navigator.show(u"frmCLmoji"_s);
+  phrases.setText(field, u"書きかけ"_s);
+  {
+    auto other = store::RecordSet::open(store::Database::open(path(file)).value(), u"CLmoji"_s);
+    ASSERT_TRUE(other);
+    ASSERT_TRUE(other->remove());
+  }
+  answer({false});  // not given up
+  chart1.trigger(u"Command2"_s);
+  settle();
+  ASSERT_EQ(navigator.loaded(u"frmCLmoji"_s), &phrases);
+  EXPECT_EQ(phrases.text(field), u"書きかけ"_s);
+  EXPECT_FALSE(channel.heardWhole().contains(u"辞典の窓を閉じました"_s));
 }
 
 TEST_F(Chart1Test, TheMenuHoldsTheDictionaries) {

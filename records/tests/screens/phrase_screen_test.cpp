@@ -154,6 +154,27 @@ TEST_P(PhraseScreenTest, ABlankFieldStartsARowThatIsDroppedWhereNothingIsTyped) 
   EXPECT_EQ(stored().size(), 4);
 }
 
+TEST_P(PhraseScreenTest, ABlankNewRowIsNotStored) {
+  screen::Screen& screen = threePhrases();
+  screen.setText(kField, QString());
+  screen.trigger(u"cmdAdd"_s);
+  channel.clear();
+  screen.trigger(u"cmdUpdate"_s);
+  EXPECT_EQ(channel.lastSaid(), u"新しい文字を書き込んでから、更新ボタンを押してください"_s);
+  EXPECT_EQ(screen.focused(), kField);
+  EXPECT_EQ(stored().size(), 3);
+  EXPECT_TRUE(screen.source().rows().adding()) << "it waits for its text";
+}
+
+TEST_P(PhraseScreenTest, WithNothingToCopyTheClipboardIsClearedAndThatIsSaid) {
+  empty(GetParam().file, GetParam().table);
+  desktop.copyText(u"前の文字"_s);
+  screen::Screen& screen = phrases();
+  screen.trigger(u"Command1"_s);
+  EXPECT_EQ(desktop.copiedText(), QString());
+  EXPECT_EQ(channel.lastSaid(), u"コピーする文字がありません"_s);
+}
+
 TEST_P(PhraseScreenTest, StoringStaysOnTheStoredRow) {
   screen::Screen& screen = threePhrases();
   screen.goNext();
@@ -218,8 +239,14 @@ TEST_P(PhraseScreenTest, AMissingFileIsToldByNameAndNothingBreaks) {
   screen::Screen& screen = phrases();
   EXPECT_TRUE(lastMessage().startsWith(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"_s));
   EXPECT_TRUE(lastMessage().contains(GetParam().file));
-  for (const QString& command : {u"cmdAdd"_s, u"cmdDelete"_s, u"cmdUpdate"_s, u"Command1"_s, u"cmdClose"_s})
+  for (const QString& command : {u"cmdAdd"_s, u"cmdDelete"_s, u"cmdUpdate"_s}) {
+    messages.forget();
     screen.trigger(command);
+    ASSERT_EQ(messages.texts().size(), 1) << "told again where it is needed";
+    EXPECT_TRUE(lastMessage().contains(GetParam().file));
+  }
+  screen.trigger(u"cmdClose"_s);
+  EXPECT_EQ(messages.texts().size(), 1);
   EXPECT_FALSE(QFile::exists(path(GetParam().file)));
 }
 
