@@ -50,7 +50,7 @@ ConsentWatchScreen::ConsentWatchScreen(Services& services, frame::RunState& run,
 
 void ConsentWatchScreen::opened(const Request&) {
   auto found = claims::consentsRunningOut(m_run.folders[frame::folder::kClaims1], m_run.eraDates());
-  m_fault = found ? QString() : found.fault().message;
+  if (!found) m_onceActive.set([this, fault = found.fault().message] { messages().tellDataFault(fault); });
   m_rows = found ? *found : QList<claims::ConsentEnd>();
   QList<QStringList> texts;
   for (const claims::ConsentEnd& row : m_rows)
@@ -62,12 +62,7 @@ void ConsentWatchScreen::opened(const Request&) {
   if (std::exchange(m_openedBefore, true)) voice().speakText(count);
 }
 
-// Told once the window has the keyboard: told before, the focus would go back to the screen behind.
-void ConsentWatchScreen::onActivate() {
-  if (m_fault.isEmpty()) return;
-  const auto tell = [this, fault = std::exchange(m_fault, {})] { messages().tellDataFault(fault); };
-  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
-}
+void ConsentWatchScreen::onActivate() { m_onceActive.run(*this); }
 
 QStringList ConsentWatchScreen::openingTexts() const {
   return {QString::fromUtf16(kDeclaration.heading), caption(u"Label1"_s), caption(u"Label2"_s)};

@@ -3,6 +3,7 @@
 #include "claims/core/consent_watch.h"
 #include "frame/core/run_state.h"
 #include "platform/report/report_operations.h"
+#include "platform/screen/once_active.h"
 #include "platform/screen/screen.h"
 
 namespace printing {
@@ -25,7 +26,7 @@ class ConsentWatchScreen : public screen::Screen {
   frame::RunState& m_run;
   report::ReportOperations& m_engine;
   QList<claims::ConsentEnd> m_rows;
-  QString m_fault;  ///< of the reading, until it was told
+  screen::OnceActive m_onceActive;
   bool m_openedBefore = false;
 };
 
