@@ -3,8 +3,29 @@
 #include <QtWidgets/QtWidgets>
 
 namespace screen {
+namespace {
+
+/// Frames the current cell while the table has the keyboard: the row's colour alone does not show the column.
+class CellFrame : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QStyledItemDelegate::paint(painter, option, index);
+    if (!option.state.testFlag(QStyle::State_HasFocus)) return;
+    constexpr int kThickness = 2;
+    painter->save();
+    painter->setPen(QPen(option.palette.highlightedText(), kThickness));
+    painter->drawRect(option.rect.adjusted(kThickness, kThickness, -kThickness, -kThickness));
+    painter->restore();
+  }
+};
+
+}  // namespace
 
 GridView::GridView(QWidget* parent) : QTableView(parent) {
+  setItemDelegate(new CellFrame(this));
+  showKeyboard(false);
   setTabKeyNavigation(false);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   setSelectionMode(QAbstractItemView::SingleSelection);
@@ -17,6 +38,24 @@ GridView::GridView(QWidget* parent) : QTableView(parent) {
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setStretchLastSection(true);
   setMinimumHeight(6 * (fontMetrics().lineSpacing() + 8));
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+  showKeyboard(true);
+  QTableView::focusInEvent(event);
+}
+
+void GridView::focusOutEvent(QFocusEvent* event) {
+  QTableView::focusOutEvent(event);
+  showKeyboard(hasFocus());
+}
+
+void GridView::showKeyboard(bool here) {
+  if (here) return setPalette(QPalette());
+  QPalette pale;
+  pale.setBrush(QPalette::Highlight, pale.brush(QPalette::Midlight));
+  pale.setBrush(QPalette::HighlightedText, pale.brush(QPalette::Text));
+  setPalette(pale);
 }
 
 QSize GridView::sizeHint() const {

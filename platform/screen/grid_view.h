@@ -13,6 +13,14 @@ class GridView : public QTableView {
   QSize sizeHint() const override;
   /// Gives each column room for its caption and for what the first rows hold.
   void fitColumns();
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  /// The current row is strong in colour where the keyboard is in the table, pale elsewhere.
+  void showKeyboard(bool here);
 };
 
 }  // namespace screen

@@ -61,6 +61,8 @@ QStringList Screen::openingTexts() const {
 }
 
 bool Screen::event(QEvent* event) {
+  // The focus is drawn from the first moment, not only after the first Tab.
+  if (event->type() == QEvent::WindowActivate) setAttribute(Qt::WA_KeyboardFocusChange);
   const bool handled = QMainWindow::event(event);
   if (event->type() == QEvent::WindowActivate && !m_parts->closed) onActivate();
   return handled;

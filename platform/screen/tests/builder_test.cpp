@@ -141,6 +141,11 @@ TEST_F(Builder, NothingIsNamelessMuteOrOutOfReach) {
   EXPECT_EQ(probe.faults(), QStringList());
 }
 
+TEST_F(Builder, FocusIsDrawnBeforeTheFirstTab) {
+  probe.open();
+  EXPECT_TRUE(screen.testAttribute(Qt::WA_KeyboardFocusChange));
+}
+
 TEST_F(Builder, ButtonAndMenuTwinRunTheSameAction) {
   auto* twin = widget<QAction>("Men_FU");
   EXPECT_EQ(twin->text(), "登録(&S)");

@@ -89,6 +89,22 @@ TEST_F(GridRows, FocusSaysTheGridAndItsCell) {
   EXPECT_EQ(desk.spy.lastSaid(), "患者の一覧" + kPart + "氏名" + kPart + "見本一");
 }
 
+TEST_F(GridRows, TheCurrentCellIsSeen) {
+  const auto cell = [&](int column) {
+    return view()->viewport()->grab(view()->visualRect(view()->model()->index(0, column))).toImage();
+  };
+  const auto frame = [&](int column) { return cell(column).pixelColor(2, cell(column).height() / 2); };
+  const QPalette standard;
+  EXPECT_EQ(frame(0), standard.color(QPalette::HighlightedText)) << "the cell that has the keyboard";
+  EXPECT_EQ(frame(1), standard.color(QPalette::Highlight)) << "the rest of its row";
+  probe.press(Qt::Key_Right);
+  EXPECT_EQ(frame(0), standard.color(QPalette::Highlight));
+  EXPECT_EQ(frame(1), standard.color(QPalette::HighlightedText));
+  screen.focusOn("txtMemo");
+  EXPECT_NE(frame(0), standard.color(QPalette::Highlight)) << "the keyboard is elsewhere";
+  EXPECT_EQ(frame(0), frame(1));
+}
+
 TEST_F(GridRows, TypingDoesNotSearchTheTable) {
   probe.type("見本三");
   QTest::keyClick(view(), Qt::Key_A);
