@@ -15,9 +15,6 @@ std::optional<frame::DayAsked> dayTyped(const QString& year, const QString& mont
 /// Calendar mode of the run in which the calendar serves the appointment book; any other serves the takings.
 inline constexpr int kBookingCalendar = 1;
 
-/// What is told where the lists hold no date.
-inline constexpr QStringView kNoDateText = u"年、月、日を数字で入力して下さい。";
-
 /// The three numbers of a day.
 frame::DayAsked numbersOf(QDate date);
 /// What date lists begin on: the day asked for last, today where none was.

@@ -33,7 +33,7 @@ QString BookingList::noRowsText() const {
 }
 
 QStringList BookingList::rowOnView() const {
-  if (!holdsRows()) return {};
+  if (!holdsRows()) return countOnView();
   const store::RecordSet& rows = source().rows();
   return {rows.value(u"予約月"_s) + u"月"_s + rows.value(u"予約日"_s) + u"日"_s, rows.value(u"予約時間"_s),
           rows.value(u"予約患者"_s)};
@@ -50,16 +50,19 @@ std::optional<store::RecordSet> BookingList::bookingsOfDay(const frame::DayAsked
   return std::nullopt;
 }
 
+QStringList BookingList::countOnView() const {
+  return {u"予約 %1 件"_s.arg(source().isOpen() ? source().rows().recordCount() : 0)};
+}
+
 void BookingList::sayWithCount(const QStringList& parts) {
-  const int count = source().isOpen() ? source().rows().recordCount() : 0;
   // The sentence that a window opens with is not cut.
   if (!voice().isHeld()) messages().holdSpeech();
-  voice().speakText((parts + QStringList(u"予約 %1 件"_s.arg(count))).join(voice::kSpeechSeparator));
+  voice().speakText((parts + countOnView()).join(voice::kSpeechSeparator));
 }
 
 void BookingList::sayRows(const QStringList& parts) {
   sayWithCount(parts);
-  if (focused() == u"DBGrid1") return voice().speakText(rowOnView().join(voice::kSpeechSeparator));
+  if (focused() == u"DBGrid1" && holdsRows()) return voice().speakText(rowOnView().join(voice::kSpeechSeparator));
   focusOn(u"DBGrid1"_s);
 }
 

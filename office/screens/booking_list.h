@@ -26,6 +26,7 @@ class BookingList : public screen::ListScreen {
   bool openWhole() override;
   QString noRowsText() const override;
   QStringList rowOnView() const override;
+  QStringList countOnView() const override;
 
   /// The bookings of the day among the rows on view; nothing where there are none at all or the engine
   /// refused, which was told.

@@ -16,6 +16,10 @@ const QString kPatientId = u"txtFields(1)"_s, kName = u"txtFields(2)"_s, kTime =
               kStamp = u"txtFields(7)"_s, kYear = u"Combo1"_s, kMonth = u"Combo2"_s, kDay = u"Combo3"_s,
               kWeekday = u"Combo4"_s, kShadow = u"Text2"_s, kSerial = u"Text3"_s;
 
+/// The columns of the day once more: hidden, each beside its list.
+const std::pair<QString, QString> kDayFields[] = {
+    {u"txtFields(3)"_s, kYear}, {u"txtFields(4)"_s, kMonth}, {u"txtFields(5)"_s, kDay}};
+
 /// Everything that is stored but the row's key.
 const QStringList kFields{u"txtFields(0)"_s, kPatientId, kName,  kYear, kMonth, kDay, kWeekday, kTime, kStamp,
                           u"txtFields(8)"_s, kShadow,    kSerial};
@@ -35,6 +39,7 @@ BookingScreen::BookingScreen(screen::Services& services, frame::RunState& run)
 
 void BookingScreen::onLoad() {
   for (const QString& hidden : {u"Text1"_s, kShadow, kSerial}) setShown(hidden, false);
+  for (const auto& [hidden, list] : kDayFields) setShown(hidden, false);
 }
 
 void BookingScreen::opened(const screen::Request& request) {
@@ -44,6 +49,15 @@ void BookingScreen::opened(const screen::Request& request) {
     showBooking(request[u"ID"_s].toLongLong());
   else
     begin(request);
+  // Another booking in the open window: what came on view is said as at its opening.
+  if (isVisible()) sayNext(openingTexts());
+  focusOnField();
+}
+
+QStringList BookingScreen::openingTexts() const {
+  QStringList texts{windowTitle()};
+  if (source().isOpen() && source().rows().adding()) texts += u"新規予約"_s;
+  return texts + bookingOnView();
 }
 
 void BookingScreen::onActivate() {
@@ -69,7 +83,11 @@ void BookingScreen::begin(const screen::Request& patient) {
   setText(kName, patient.value(u"氏名"_s).toString());
   setText(kSerial, patient.value(u"テキスト5"_s).toString());
   m_shown = fields();
-  focusOn(text(kName).isEmpty() ? kName : kYear);
+}
+
+void BookingScreen::focusOnField() {
+  const bool adding = source().isOpen() && source().rows().adding();
+  focusOn(!adding ? kFields.first() : text(kName).isEmpty() ? kName : kYear);
 }
 
 void BookingScreen::showBooking(qint64 id) {
@@ -106,12 +124,14 @@ void BookingScreen::addBooking() {
   if (!mayDrop()) return;
   begin({});
   sayBooking(u"新規追加"_s);
+  focusOnField();
 }
 
 void BookingScreen::step(void (screen::DataSource::*move)()) {
-  if (!source().isOpen() || !mayDrop()) return;
+  if (!source().ready() || !mayDrop()) return;
   source().drop();
   (source().*move)();
+  if (!hasBooking()) return voice().speakHeading({u"予約 0 件"_s});
   voice().speakHeading(
       {source().positionText(), text(kMonth) + u"月"_s + text(kDay) + u"日"_s, text(kTime), text(kName)});
 }
@@ -122,41 +142,42 @@ void BookingScreen::goNext() { step(&screen::DataSource::moveNext); }
 void BookingScreen::goLast() { step(&screen::DataSource::moveLast); }
 
 void BookingScreen::sayBooking(const QString& done) {
+  sayNext(QStringList{done} + bookingOnView());
+}
+
+void BookingScreen::sayNext(const QStringList& parts) {
   messages().holdSpeech();
-  QStringList parts{done};
-  if (!hasBooking()) return voice().speakText(done);
-  for (const QString& field : {kYear, kMonth, kDay, kWeekday, kTime, kName})
-    if (!text(field).isEmpty()) parts += text(field);
   voice().speakText(parts.join(voice::kSpeechSeparator));
+}
+
+QStringList BookingScreen::bookingOnView() const {
+  if (!hasBooking()) return {};
+  QString day;
+  const std::pair<QString, QChar> numbers[] = {{kYear, u'年'}, {kMonth, u'月'}, {kDay, u'日'}};
+  for (const auto& [list, unit] : numbers)
+    if (!text(list).isEmpty()) day += text(list) + unit;
+  QStringList parts{day, text(kWeekday), text(kTime), text(kName)};
+  parts.removeAll(QString());
+  return parts;
 }
 
 // ---- Date and time
 
 void BookingScreen::putDay(QDate date) {
-  setText(kYear, QString::number(date.year()));
-  setText(kMonth, QString::number(date.month()));
-  setText(kDay, QString::number(date.day()));
+  putNumbers(numbersOf(date));
   setText(kWeekday, weekday(date));
 }
 
-std::optional<QDate> BookingScreen::listedDay() {
-  const auto day = dayTyped(text(kYear), text(kMonth), text(kDay));
-  const auto date = day ? rolled(*day) : std::nullopt;
-  if (!date) {
-    messages().tell(kNoDateText.toString());
-    focusOn(kYear);
-  }
-  return date;
+void BookingScreen::putNumbers(const frame::DayAsked& day) {
+  putDayLists(*this, day);
+  for (const auto& [hidden, list] : kDayFields) setText(hidden, text(list));
 }
 
 // Kept: only the date text rolls over; month and day stay as typed, and a search goes by them.
-void BookingScreen::putDerived(QDate date) {
-  const auto day = dayTyped(text(kYear), text(kMonth), text(kDay));
-  setText(kYear, QString::number(day->year));
-  setText(kMonth, QString::number(day->month));
-  setText(kDay, QString::number(day->day));
-  setText(kShadow, shadowDate(date));
-  setText(kWeekday, weekday(date));
+void BookingScreen::putDerived(const ListedDay& day) {
+  putNumbers(day.numbers);
+  setText(kShadow, shadowDate(day.date));
+  setText(kWeekday, weekday(day.date));
 }
 
 void BookingScreen::fillToday() {
@@ -186,10 +207,10 @@ void BookingScreen::rewriteTimes() {
 }
 
 void BookingScreen::showWeekday() {
-  const auto date = listedDay();
-  if (!date) return;
-  setText(kWeekday, weekday(*date));
-  voice().speakHeading({dayText(m_run.eraDates(), *date)});
+  const auto day = askedDay(*this);
+  if (!day) return;
+  setText(kWeekday, weekday(day->date));
+  voice().speakHeading({dayText(m_run.eraDates(), day->date)});
 }
 
 // ---- Storing
@@ -217,10 +238,10 @@ void BookingScreen::storeBooking() {
     if (!openTable() || !source().addNew()) return;
     putFields(typed);
   }
-  const auto date = listedDay();
-  if (!date) return;
+  const auto day = askedDay(*this);
+  if (!day) return;
   setText(kStamp, stampText(m_run.eraDates(), m_run.clock->now()));
-  putDerived(*date);
+  putDerived(*day);
   // A booking that was refused must not look like a stored one.
   if (!putSerial() || !write()) return putFields(typed);
   messages().tell(u"更新しました。一旦、閉じるを押してください。"_s);
@@ -253,17 +274,16 @@ void BookingScreen::finish() {
     navigator().show(u"更新の確認"_s, {{u"caller"_s, caller()}});
     return;
   }
-  const auto day = dayTyped(text(kYear), text(kMonth), text(kDay));
-  const auto date = day ? rolled(*day) : std::nullopt;
-  if (!date) {
+  const auto day = dayOfLists(*this);
+  if (!day) {
     // A stored row without a date is left as it is; one that was changed is put right first.
     if (fields() != m_shown)
-      listedDay();
+      askedDay(*this);
     else
       leave();
     return;
   }
-  putDerived(*date);
+  putDerived(*day);
   if (write() || messages().ask(kCannotStore, screen::Buttons::YesNo)) leave();
 }
 

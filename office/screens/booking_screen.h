@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frame/core/run_state.h"
+#include "office/screens/day_lists.h"
 #include "platform/screen/screen.h"
 
 namespace office {
@@ -9,8 +10,8 @@ namespace office {
 /// two rows. Only 登録 and 閉じる store; whatever else leaves a booking asks before it drops what was typed.
 ///
 /// Request keys: "ID" (that booking), else a new booking is begun, for the patient of "患者ID", "氏名" and
-/// "テキスト5" where they are handed over; "opener": the list that 閉じる goes back to, where the caller's
-/// mark of the run does not say it; "戻る": back to the booking on view.
+/// "テキスト5" where they are handed over; "opener": the list that 閉じる goes back to, before the caller's mark
+/// of the run is asked; "戻る": back to the booking on view.
 class BookingScreen : public screen::Screen {
  public:
   BookingScreen(screen::Services& services, frame::RunState& run);
@@ -18,6 +19,7 @@ class BookingScreen : public screen::Screen {
   void onLoad() override;
   void opened(const screen::Request& request) override;
   void onActivate() override;
+  QStringList openingTexts() const override;
   bool onCloseBox() override;
   void rowShown(int sourceNumber) override;
   void goFirst() override;
@@ -39,11 +41,13 @@ class BookingScreen : public screen::Screen {
   bool openTable();
   void begin(const screen::Request& patient);
   void showBooking(qint64 id);
+  /// To where the user begins: the first field of a booking, of a new one what is still to be told.
+  void focusOnField();
   void putDay(QDate date);
-  /// The day of the three lists; where they hold no date that is told.
-  std::optional<QDate> listedDay();
-  /// Weekday and date text of the day, and the three lists as digits.
-  void putDerived(QDate date);
+  /// The lists of the day, and the hidden fields of the same columns.
+  void putNumbers(const frame::DayAsked& day);
+  /// What follows from the day of the lists: weekday, date text, and the lists and their fields as digits.
+  void putDerived(const ListedDay& day);
   bool putSerial();
   bool hasBooking() const;
   /// Texts of all fields that are stored, hidden ones too.
@@ -55,7 +59,11 @@ class BookingScreen : public screen::Screen {
   QString caller() const;
   void leave();
   void step(void (screen::DataSource::*step)());
+  /// Date, weekday, time and name, as far as they are filled in.
+  QStringList bookingOnView() const;
   void sayBooking(const QString& done);
+  /// Said before what the focus says next.
+  void sayNext(const QStringList& parts);
 
   frame::RunState& m_run;
   QString m_opener;

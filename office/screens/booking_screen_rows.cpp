@@ -14,8 +14,8 @@ consteval TextField field(int index, const char16_t* caption, const char16_t* co
   return TextField{.name = {u"txtFields", index}, .caption = caption, .bind = Column{column}, .width = width};
 }
 
-consteval TextField hidden(const char16_t* name, const char16_t* caption, const char16_t* column) {
-  return TextField{.name = {name}, .caption = caption, .bind = Column{column}, .readOnly = true};
+consteval TextField hidden(ControlName name, const char16_t* caption, const char16_t* column) {
+  return TextField{.name = name, .caption = caption, .bind = Column{column}, .readOnly = true};
 }
 
 consteval TextField patientName() {
@@ -52,9 +52,13 @@ constexpr Row kRows[] = {
     field(7, u"登録日時:", u"登録日時", 22),
     EndGroup{},
     memo(),
-    hidden(u"Text1", u"ID:", u"ID"),
-    hidden(u"Text2", u"日時1:", u"日時1"),
-    hidden(u"Text3", u"テキスト1:", u"テキスト1"),
+    hidden({u"Text1"}, u"ID:", u"ID"),
+    // The lists' columns once more.
+    hidden({u"txtFields", 3}, u"予約年の値:", u"予約年"),
+    hidden({u"txtFields", 4}, u"予約月の値:", u"予約月"),
+    hidden({u"txtFields", 5}, u"予約日の値:", u"予約日"),
+    hidden({u"Text2"}, u"日時1:", u"日時1"),
+    hidden({u"Text3"}, u"テキスト1:", u"テキスト1"),
     Bar{},
     Command{.name = {u"Command1"}, .caption = u"今日の日付", .run = run<&BookingScreen::fillToday>},
     Command{.name = {u"Command2"}, .caption = u"今の時間", .run = run<&BookingScreen::fillNow>},

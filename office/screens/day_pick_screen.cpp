@@ -2,6 +2,7 @@
 
 #include "office/core/booking_date.h"
 #include "office/screens/booking_rows.h"
+#include "office/screens/day_lists.h"
 
 namespace office {
 
@@ -40,16 +41,13 @@ DayPickScreen::DayPickScreen(const ScreenRow& declaration, Services& services, f
     : Screen(declaration, services), m_run(run) {}
 
 void DayPickScreen::opened(const Request&) {
-  const frame::DayAsked day = offeredDay(m_run);
-  setText(u"Combo1"_s, QString::number(day.year));
-  setText(u"Combo2"_s, QString::number(day.month));
-  setText(u"Combo3"_s, QString::number(day.day));
+  putDayLists(*this, offeredDay(m_run));
 }
 
 void DayPickScreen::pick() {
-  const auto day = dayTyped(text(u"Combo1"_s), text(u"Combo2"_s), text(u"Combo3"_s));
-  if (!day || !rolled(*day)) return messages().tell(kNoDateText.toString());
-  m_run.dayAsked = *day;
+  const auto day = askedDay(*this);
+  if (!day) return;
+  m_run.dayAsked = day->numbers;
   navigator().show(u"今日の予約"_s, {{u"指定日"_s, true}});
   close();
 }

@@ -13,6 +13,8 @@ constexpr const char16_t* kSearchColumns[] = {u"予約患者", u"予約時間", 
                                               // Kept: no column of the table; the engine refuses it.
                                               u"予約曜日", u"患者NO", u"予約日時", u"予約NO", u"メモ1"};
 
+constexpr Handler kShowDay = call<&TodaysBookingsScreen::showChosenDay>;
+
 constexpr Row kRows[] = {
     Grid{.name = {u"DBGrid1"},
          .caption = u"予約の一覧",
@@ -20,9 +22,9 @@ constexpr Row kRows[] = {
          .columns = kBookingColumns,
          .onActivate = call<&TodaysBookingsScreen::editBooking>},
     Group{.name = {u"Frame1"}, .caption = u"予約日の指定", .columns = 6},
-    dateList(u"Combo1", u"年:", Unbound{u"the day to look for"}, kListYears.items),
-    dateList(u"Combo2", u"月:", Unbound{u"the day to look for"}, kMonths),
-    dateList(u"Combo3", u"日:", Unbound{u"the day to look for"}, kDays),
+    dateList(u"Combo1", u"年:", Unbound{u"the day to look for"}, kListYears.items, kShowDay),
+    dateList(u"Combo2", u"月:", Unbound{u"the day to look for"}, kMonths, kShowDay),
+    dateList(u"Combo3", u"日:", Unbound{u"the day to look for"}, kDays, kShowDay),
     TextField{.name = {u"Text1"},
               .caption = u"曜日:",
               .bind = Unbound{u"weekday of the day to look for"},
@@ -88,7 +90,8 @@ constexpr Row kRows[] = {
     Entry{.name = {u"Men_YY"},
           .under = kMenu,
           .caption = u"新規予約",
-          .run = run<&TodaysBookingsScreen::newBooking>},
+          .run = run<&TodaysBookingsScreen::newBooking>,
+          .key = u"Ctrl+N"},
     Entry{.name = {u"Men_YE"},
           .under = kMenu,
           .caption = u"表示患者の予約編集",

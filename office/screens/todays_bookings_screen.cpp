@@ -1,6 +1,7 @@
 #include "office/screens/todays_bookings_screen.h"
 
 #include "office/core/booking_date.h"
+#include "office/screens/day_lists.h"
 #include "platform/screen/find_row.h"
 #include "platform/store/criteria_text.h"
 
@@ -27,10 +28,24 @@ void TodaysBookingsScreen::opened(const screen::Request& request) {
   const bool calendar = m_run.platformValue != kCalendarFails;
   setShown(u"Command4"_s, calendar);
   setShown(u"Men_YC"_s, calendar);
-  if (std::exchange(m_loaded, true)) readAgain();
-  fillLists();
+  const bool again = std::exchange(m_loaded, true);
+  if (again) readAgain();
+  putDayLists(*this, offeredDay(m_run));
   if (request.value(u"最終行"_s).toBool() && holdsRows()) source().moveLast();
-  if (request.value(u"指定日"_s).toBool()) whenActive([this] { showDayAsked(); });
+  m_showsDay = request.value(u"指定日"_s).toBool();
+  if (m_showsDay) return whenActive([this] { showDayAsked(); });
+  // Coming back, the listener has to know whether all bookings are on view.
+  if (again) sayWithCount(headingTexts());
+}
+
+QStringList TodaysBookingsScreen::headingTexts() const {
+  QStringList texts{windowTitle()};
+  if (m_narrowed) texts += u"抽出中"_s;
+  return texts;
+}
+
+QStringList TodaysBookingsScreen::openingTexts() const {
+  return m_showsDay ? QStringList(windowTitle()) : headingTexts() + countOnView();
 }
 
 void TodaysBookingsScreen::readAgain() {
@@ -56,23 +71,12 @@ void TodaysBookingsScreen::rowShown(int) {
 
 // ---- A chosen day
 
-void TodaysBookingsScreen::fillLists() {
-  const frame::DayAsked day = offeredDay(m_run);
-  setText(u"Combo1"_s, QString::number(day.year));
-  setText(u"Combo2"_s, QString::number(day.month));
-  setText(u"Combo3"_s, QString::number(day.day));
-}
-
 std::optional<QDate> TodaysBookingsScreen::readLists() {
-  const auto day = dayTyped(text(u"Combo1"_s), text(u"Combo2"_s), text(u"Combo3"_s));
-  const auto date = day ? rolled(*day) : std::nullopt;
-  if (!date) {
-    messages().tell(kNoDateText.toString());
-    return std::nullopt;
-  }
-  m_run.dayAsked = *day;
-  setText(u"Text1"_s, weekday(*date));
-  return date;
+  const auto day = askedDay(*this);
+  if (!day) return std::nullopt;
+  m_run.dayAsked = day->numbers;
+  setText(u"Text1"_s, weekday(day->date));
+  return day->date;
 }
 
 void TodaysBookingsScreen::showChosenDay() {
@@ -86,10 +90,10 @@ void TodaysBookingsScreen::showDayAsked() {
   if (!hits) return;
   if (hits->recordCount() == 0) {
     screen::tellNotFound(*this);
+    QStringList texts{dayText(m_run.eraDates(), *date) + u"の予約はありません。"_s};
     // A day is sought among the rows on view: whoever hears "no match" has to know that.
-    if (m_narrowed)
-      sayWithCount({u"表示中の予約の中から探しました。全表示に戻すと、すべての予約から探せます。"_s});
-    return;
+    if (m_narrowed) texts += u"表示中の予約の中から探しました。全表示に戻すと、すべての予約から探せます。"_s;
+    return sayWithCount(texts << u"表示中"_s);
   }
   source().assign(std::move(*hits));
   m_narrowed = true;

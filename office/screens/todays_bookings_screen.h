@@ -16,6 +16,7 @@ class TodaysBookingsScreen : public BookingList {
 
   void onLoad() override;
   void opened(const screen::Request& request) override;
+  QStringList openingTexts() const override;
   void rowShown(int sourceNumber) override;
 
   void showChosenDay();
@@ -36,7 +37,8 @@ class TodaysBookingsScreen : public BookingList {
  private:
   /// The day of the three lists, told where they hold no date; its weekday is shown.
   std::optional<QDate> readLists();
-  void fillLists();
+  /// Title, and that not all bookings are on view.
+  QStringList headingTexts() const;
   /// Opens a calendar screen in the mode of the appointment book.
   void showForBookings(const QString& calendar);
   void showDayAsked();
@@ -44,6 +46,7 @@ class TodaysBookingsScreen : public BookingList {
   void readAgain();
   bool m_loaded = false;
   bool m_narrowed = false;
+  bool m_showsDay = false;  ///< opened for a day: its bookings are told, not those on view before
 };
 
 extern const screen::ScreenRow kTodaysBookings;

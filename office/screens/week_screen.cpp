@@ -24,7 +24,7 @@ constexpr Row kRows[] = {
               .bind = Unbound{u"the day on view"},
               .width = 18,
               .readOnly = true},
-    TabRow{.name = {u"SSTab1"}, .caption = u"曜日:", .tabs = kTabs, .onChoose = call<&WeekScreen::showTab>},
+    TabRow{.name = {u"SSTab1"}, .caption = u"曜日:", .tabs = kTabs, .onChoose = call<&WeekScreen::showDay>},
     Grid{.name = {u"DBGrid1"}, .caption = u"予約の一覧", .source = 1, .columns = kBookingColumns},
     Bar{},
     Command{.name = {u"Command2"}, .caption = u"今週", .run = run<&WeekScreen::showThisWeek>},
@@ -48,8 +48,8 @@ WeekScreen::WeekScreen(screen::Services& services, frame::RunState& run)
     : BookingList(kWeek, services, run) {}
 
 void WeekScreen::opened(const screen::Request&) {
-  focusOn(u"SSTab1"_s);
-  whenActive([this] { showThisWeek(); });
+  standOn(0);
+  whenActive([this] { showDay(); });
 }
 
 void WeekScreen::showThisWeek() { showWeek(0); }
@@ -57,6 +57,11 @@ void WeekScreen::showNextWeek() { showWeek(kDaysOfWeek); }
 void WeekScreen::showLastWeek() { showWeek(-kDaysOfWeek); }
 
 void WeekScreen::showWeek(int days) {
+  standOn(days);
+  showDay();
+}
+
+void WeekScreen::standOn(int days) {
   m_reference = m_run.clock->today().addDays(days);
   setText(u"SSTab1"_s, QString::fromUtf16(kTabs[tabOf(m_reference) - 1]));
   // Before the button under the focus goes out, the focus goes to the days.
@@ -65,11 +70,6 @@ void WeekScreen::showWeek(int days) {
   setEnabledControl(u"Command2"_s, days != 0);
   setEnabledControl(u"Command3"_s, days == 0);
   setEnabledControl(u"Command4"_s, days == 0);
-  showDay();
-}
-
-void WeekScreen::showTab() {
-  if (m_reference.isValid()) showDay();
 }
 
 void WeekScreen::showDay() {

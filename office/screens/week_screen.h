@@ -13,7 +13,8 @@ class WeekScreen : public BookingList {
 
   void opened(const screen::Request& request) override;
 
-  void showTab();
+  /// The day of the chosen tab.
+  void showDay();
   void showThisWeek();
   void showNextWeek();
   void showLastWeek();
@@ -21,7 +22,8 @@ class WeekScreen : public BookingList {
  private:
   /// The week around the day that many days from today, on today's weekday.
   void showWeek(int days);
-  void showDay();
+  /// The same without the bookings: tab and buttons.
+  void standOn(int days);
   QDate m_reference;
 };
 

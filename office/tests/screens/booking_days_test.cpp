@@ -39,8 +39,9 @@ TEST_F(WeekView, OpensOnToday) {
   EXPECT_EQ(screen.text(u"SSTab1"_s), u"火曜日"_s);
   EXPECT_EQ(listed(screen), QStringList(u"火曜　太郎"_s));
   EXPECT_EQ(enabled(screen), QList<bool>({false, true, true}));
-  EXPECT_TRUE(channel.said().contains(spoken({u"令和6年10月1日火曜日"_s, u"予約 1 件"_s})))
-      << channel.said().join(u'\n').toStdString();
+  EXPECT_EQ(channel.said(), QStringList({u"予約週間表"_s, spoken({u"曜日:"_s, u"火曜日"_s}),
+                                         spoken({u"令和6年10月1日火曜日"_s, u"予約 1 件"_s})}))
+      << "no other tab before";
 }
 
 TEST_F(WeekView, ATabShowsItsDayAndRollsOverTheMonth) {

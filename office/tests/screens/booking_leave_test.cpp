@@ -172,9 +172,8 @@ TEST_F(BookingLeave, ANewBookingOnlyLeavesTheScreen) {
   form.trigger(u"cmdDelete"_s);
   EXPECT_EQ(stored(u"予約患者"_s), QStringList(u"見本"_s));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"見本"_s);
-  EXPECT_TRUE(channel.lastSaid().startsWith(
-      spoken({u"中止しました"_s, u"表示中の予約"_s, u"2024"_s, u"6"_s, u"15"_s})))
-      << channel.lastSaid().toStdString();
+  EXPECT_EQ(channel.lastSaid(), spoken({u"中止しました"_s, u"表示中の予約"_s, u"2024年6月15日"_s,
+                                        u"9 時 0 分"_s, u"見本"_s}));
 }
 
 // ---- Nothing typed is lost unasked
@@ -208,6 +207,17 @@ TEST_F(BookingLeave, RecordKeysWalkTheBook) {
   EXPECT_EQ(told(), QStringList());
 }
 
+TEST_F(BookingLeave, RecordKeysOfAnEmptyBookAreNotMute) {
+  screen::Screen& form = fresh();
+  answer({true});
+  form.trigger(u"cmdDelete"_s);
+  for (const Qt::Key key : {Qt::Key_F1, Qt::Key_F2, Qt::Key_F3, Qt::Key_F4}) {
+    channel.clear();
+    QTest::keyClick(&form, key);
+    EXPECT_EQ(channel.lastSaid(), u"予約 0 件"_s);
+  }
+}
+
 TEST_F(BookingLeave, AnotherBookingAsksWhereSomethingWasTyped) {
   screen::Screen& form = fresh();
   form.setText(u"txtFields(2)"_s, u"例示"_s);
@@ -227,7 +237,7 @@ TEST_F(BookingLeave, AddingAgainIsHeard) {
   form.trigger(u"cmdAdd"_s);
   EXPECT_EQ(form.text(u"txtFields(2)"_s), QString());
   EXPECT_TRUE(channel.heardWhole().contains(
-      spoken({u"新規追加"_s, u"2024"_s, u"6"_s, u"15"_s, u"土曜日"_s, u"9 時 5 分"_s})))
+      spoken({u"新規追加"_s, u"2024年6月15日"_s, u"土曜日"_s, u"9 時 5 分"_s})))
       << channel.heardWhole().join(u'\n').toStdString();
 }
 

@@ -177,6 +177,42 @@ TEST_F(BookingTest, ShowsTheBookingAskedFor) {
   EXPECT_EQ(told(), QStringList());
 }
 
+TEST_F(BookingTest, SaysWhatCameOnView) {
+  book(u"2024/6/15"_s, u"9 時 0 分"_s, u"見本"_s);
+  book(u"2024/2/31"_s, u"朝"_s, u"例示"_s);
+  screen::Screen& form = fresh();
+  EXPECT_EQ(channel.said().value(0),
+            spoken({u"予約"_s, u"新規予約"_s, u"2024年6月15日"_s, u"土曜日"_s, u"9 時 5 分"_s}));
+  form.focusOn(u"Command5"_s);
+  channel.clear();
+  fresh({{u"ID"_s, 2}});
+  EXPECT_EQ(channel.heardWhole(), QStringList({spoken({u"予約"_s, u"2024年2月31日"_s, u"朝"_s, u"例示"_s}),
+                                               spoken({u"予約NO:"_s, u""_s})}))
+      << channel.said().join(u'\n').toStdString();
+  EXPECT_EQ(form.focused(), u"txtFields(0)"_s);
+}
+
+TEST_F(BookingTest, TheDayStandsInItsHiddenFieldsToo) {
+  const QStringList hidden{u"txtFields(3)"_s, u"txtFields(4)"_s, u"txtFields(5)"_s};
+  const auto shown = [&](const screen::Screen& form) {
+    QStringList texts;
+    for (const QString& field : hidden) texts += form.text(field);
+    return texts;
+  };
+  screen::Screen& form = fresh();
+  EXPECT_EQ(shown(form), QStringList({u"2024"_s, u"6"_s, u"15"_s}));
+  form.setText(u"txtFields(2)"_s, u"見本"_s);
+  type(form, u"2025"_s, u"02"_s, u"３１"_s);
+  form.trigger(u"cmdUpdate"_s);
+  EXPECT_EQ(shown(form), QStringList({u"2025"_s, u"2"_s, u"31"_s}));
+  type(form, u"2025"_s, u"7"_s, u"8"_s);
+  form.trigger(u"cmdUpdate"_s);
+  EXPECT_EQ(stored(u"予約月"_s), QStringList(u"7"_s)) << "the field of the same column does not undo the list";
+  fresh({{u"ID"_s, 1}});
+  EXPECT_EQ(shown(form), QStringList({u"2025"_s, u"7"_s, u"8"_s}));
+  for (const QString& field : hidden) EXPECT_FALSE(form.isControlShown(field)) << field.toStdString();
+}
+
 TEST_F(BookingTest, ABookingDeletedMeanwhileIsNotFound) {
   fresh({{u"ID"_s, 7}});
   EXPECT_EQ(messages.titles(), QStringList(u"Not found"_s));

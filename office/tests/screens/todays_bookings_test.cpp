@@ -37,6 +37,47 @@ TEST_F(TodaysBookings, OpensWholeOnTodayInItsLists) {
                          u"患者NO"_s, u"予約日時"_s, u"予約NO"_s, u"メモ1"_s}));
 }
 
+TEST_F(TodaysBookings, SaysHowManyBookingsAreOnView) {
+  screen::Screen& screen = list();
+  EXPECT_EQ(channel.said().value(0), spoken({u"今日の予約"_s, u"予約 4 件"_s}));
+  showDay(screen, u"2024"_s, u"6"_s, u"15"_s);
+  channel.clear();
+  list();
+  EXPECT_TRUE(channel.said().contains(spoken({u"今日の予約"_s, u"抽出中"_s, u"予約 2 件"_s})))
+      << "coming back to a narrowed list: " << channel.said().join(u'\n').toStdString();
+}
+
+TEST_F(TodaysBookings, AnEmptyBookIsHeardAsSuch) {
+  ASSERT_TRUE(QFile::remove(path(kBookings)));
+  makeFile(kBookings);
+  screen::Screen& screen = list();
+  EXPECT_EQ(channel.said().value(0), spoken({u"今日の予約"_s, u"予約 0 件"_s}));
+  for (const Qt::Key key : {Qt::Key_F1, Qt::Key_F2, Qt::Key_F3, Qt::Key_F4}) {
+    channel.clear();
+    QTest::keyClick(&screen, key);
+    EXPECT_EQ(channel.lastSaid(), u"予約 0 件"_s);
+  }
+}
+
+TEST_F(TodaysBookings, EnterInTheListsShowsTheDay) {
+  for (const QString& part : {u"Combo1"_s, u"Combo2"_s, u"Combo3"_s}) {
+    screen::Screen& screen = list();
+    screen.trigger(u"cmdRefresh"_s);
+    type(screen, u"2024"_s, u"6"_s, u"18"_s);
+    screen.focusOn(part);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(listed(screen), QStringList(u"架空　次郎"_s)) << part.toStdString();
+    EXPECT_EQ(screen.focused(), u"DBGrid1"_s);
+  }
+}
+
+TEST_F(TodaysBookings, AKeyBeginsANewBooking) {
+  screen::Screen& screen = list();
+  QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &screen, Qt::Key_N,
+                  Qt::ControlModifier);
+  EXPECT_TRUE(isShown(u"予約2"));
+}
+
 TEST_F(TodaysBookings, TheListsFollowTheClockUntilADayIsAskedFor) {
   list();
   clock.set(QDate(2024, 6, 16));
@@ -95,6 +136,8 @@ TEST_F(TodaysBookings, ADayWithoutBookingsLeavesTheListAsItWas) {
   EXPECT_EQ(listed(screen).size(), 4);
   EXPECT_EQ(screen.source().rows().absolutePosition(), 2);
   EXPECT_EQ(screen.text(u"Text1"_s), u"月曜日"_s);
+  EXPECT_EQ(channel.lastSaid(),
+            spoken({u"令和6年7月15日月曜日の予約はありません。"_s, u"表示中"_s, u"予約 4 件"_s}));
 }
 
 TEST_F(TodaysBookings, ADayIsSoughtAmongTheRowsOnViewUntilAllAreShown) {
@@ -103,8 +146,9 @@ TEST_F(TodaysBookings, ADayIsSoughtAmongTheRowsOnViewUntilAllAreShown) {
   showDay(screen, u"2024"_s, u"6"_s, u"18"_s);
   EXPECT_EQ(told(), QStringList(kNotFound));
   EXPECT_EQ(channel.lastSaid(),
-            spoken({u"表示中の予約の中から探しました。全表示に戻すと、すべての予約から探せます。"_s,
-                    u"予約 2 件"_s}));
+            spoken({u"令和6年6月18日火曜日の予約はありません。"_s,
+                    u"表示中の予約の中から探しました。全表示に戻すと、すべての予約から探せます。"_s,
+                    u"表示中"_s, u"予約 2 件"_s}));
   screen.trigger(u"cmdRefresh"_s);
   EXPECT_EQ(listed(screen).size(), 4);
   EXPECT_EQ(screen.source().rows().absolutePosition(), 0);
