@@ -42,7 +42,7 @@ Done runUpdate(Engine& engine, Scanner& scanner) {
   std::vector<qint64> written;
   quint32 before = 0;
   const Done done = engine.write([&]() -> Done {
-    before = engine.changeCounter();
+    before = engine.counterAtBegin();
     for (const qint64 id : selected->ids()) {
       const Result<Row> now = file.read(id);
       if (!now) return now.fault();

@@ -84,6 +84,11 @@ Done Engine::write(const std::function<Done()>& work) {
   return transaction.commit();
 }
 
+quint32 Engine::counterAtBegin() {
+  if (!copiesAreTrue()) m_copies.clear();
+  return m_copiesCounter = changeCounter();
+}
+
 Done Engine::read(const std::function<Done()>& work) {
   if (!sqlite3_get_autocommit(handle())) return work();
   if (const Done begun = execute(handle(), path(), QStringLiteral("BEGIN")); !begun) return begun;

@@ -89,7 +89,7 @@ Done PairStore::State::transact(const std::function<Done()>& work) {
   Transaction transaction(handle, path);
   if (const Done begun = transaction.begin(); !begun) return begun;
   for (Half* half : halves()) {
-    half->before = half->database->engine().changeCounter();
+    half->before = half->database->engine().counterAtBegin();
     half->written.clear();
     half->removed.clear();
   }

@@ -148,7 +148,7 @@ Done RecordSet::remove() {
   quint32 before = 0;
   const int changed = state.engine().rowsChanged();
   const Done done = state.engine().write([&] {
-    before = state.engine().changeCounter();
+    before = state.engine().counterAtBegin();
     return state.file->remove(id);
   });
   if (!done) return done;

@@ -72,7 +72,7 @@ Done RecordSet::State::write(const std::function<Result<qint64>()>& work) {
   qint64 written = kNoBookmark;
   const int changed = engine().rowsChanged();
   const Done done = engine().write([&]() -> Done {
-    before = engine().changeCounter();
+    before = engine().counterAtBegin();
     const Result<qint64> wrote = work();
     if (!wrote) return wrote.fault();
     written = *wrote;
@@ -100,7 +100,7 @@ Done RecordSet::State::writeColumn(const QVector<int>& columns,
   std::vector<qint64> written;
   std::vector<std::pair<qint64, Value>> changed;
   const Done done = engine().write([&]() -> Done {
-    before = engine().changeCounter();
+    before = engine().counterAtBegin();
     const Done walked =
         walkRows(engine(), schema(), ids.idsAscending(), columns, [&](qint64 id, RowViews values) {
           const std::optional<Value> made = newValue(values.first(own));

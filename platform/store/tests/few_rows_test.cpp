@@ -147,6 +147,63 @@ TEST_F(FewRowsTest, AWriteThatChangesNothingHidesNoWriteOfAnotherProgram) {
   EXPECT_EQ(ofKey(QStringLiteral("20240007"))->recordCount(), before + 3);
 }
 
+QByteArray bytesOf(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// A copy of the file is put back by hand while the program is open. First over the bytes of the file: its
+// counter goes back, and this program's next write brings it to where it was.
+TEST_F(FewRowsTest, BytesThatWerePutBackAreSeenByTheNextSearch) {
+  const QString key = QStringLiteral("20240007");
+  RecordSet mine = openSet(kFile, kTable);
+  const int before = ofKey(key)->recordCount();
+  const QByteArray kept = bytesOf(path(kFile));
+  const auto putBack = [&] {
+    QFile file(path(kFile));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.write(kept) == kept.size() &&
+                file.resize(kept.size()));
+  };
+  for (const bool writes : {false, true}) {
+    elsewhere("UPDATE カルテ SET ETC1='20240007' WHERE ID IN (3, 4)");
+    EXPECT_EQ(ofKey(key)->recordCount(), before + 2);
+    putBack();
+    if (writes) {
+      mine.moveLast();
+      ASSERT_TRUE(mine.edit().ok() && mine.setValue(kKey, QStringLiteral("20249999")).ok());
+      ASSERT_TRUE(mine.update().ok());
+    }
+    EXPECT_EQ(ofKey(key)->recordCount(), before) << writes;
+  }
+}
+
+// Then as another file under the same name. What is open goes on with the file that was replaced and may not
+// store into it, for that would be lost; what is opened from then on is the file put back.
+TEST_F(FewRowsTest, AFileThatWasPutBackIsNeverWrittenPast) {
+  const QString key = QStringLiteral("20240007"), spare = path(QStringLiteral("spare"));
+  RecordSet mine = std::move(*ofKey(key));
+  const int before = mine.recordCount();
+  ASSERT_TRUE(QFile::copy(path(kFile), spare));
+  elsewhere("UPDATE カルテ SET ETC1='20240007' WHERE ID IN (3, 4)");
+  ASSERT_TRUE(mine.refresh().ok());
+  EXPECT_EQ(mine.recordCount(), before + 2);
+  ASSERT_EQ(::rename(QFile::encodeName(spare).constData(), QFile::encodeName(path(kFile)).constData()), 0);
+
+  ASSERT_TRUE(mine.edit().ok() && mine.setValue(kDate, QStringLiteral("2030/1/1")).ok());
+  const Done stored = mine.update();
+  ASSERT_FALSE(stored.ok());
+  EXPECT_TRUE(stored.fault().message.contains(u"置き換えられた")) << stored.fault().message.toStdString();
+  EXPECT_EQ(mine.value(kDate), QStringLiteral("2030/1/1")) << "what was typed stays";
+  EXPECT_TRUE(mine.editing());
+  EXPECT_FALSE(mine.remove().ok());
+
+  RecordSet again = std::move(*ofKey(key));
+  EXPECT_EQ(again.recordCount(), before);
+  ASSERT_TRUE(again.edit().ok() && again.setValue(kDate, QStringLiteral("2030/1/1")).ok());
+  ASSERT_TRUE(again.update().ok());
+  EXPECT_EQ(ofKey(key)->value(kDate), QStringLiteral("2030/1/1"));
+}
+
 TEST_F(FewRowsTest, ValuesWithoutQuotesNarrowOneAfterAnother) {
   const QString file = QStringLiteral("予約2000.mdb"), table = QStringLiteral("予約");
   fresh(file);
