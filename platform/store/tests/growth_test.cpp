@@ -150,6 +150,24 @@ TEST_P(GrowthTest, AnOpenFileSeesTheNewColumnsAndWritesThem) {
   EXPECT_EQ(set.value(qs(run.note)), u"見本"_qs);
 }
 
+// A form that is open meanwhile keeps what was typed, and stores it.
+TEST_P(GrowthTest, ARowThatIsBeingEditedIsStoredAfterwards) {
+  const RunRow& run = GetParam();
+  const QString at = older(run);
+  RecordSet set = openSet(qs(run.file), qs(run.table)), list = openSet(qs(run.file), qs(run.table));
+  set.moveFirst();
+  ASSERT_TRUE(set.edit().ok() && set.setValue(qs(run.note), u"書いた"_qs).ok());
+  ASSERT_TRUE(grow(at, run.run).ok());
+  EXPECT_EQ(set.value(qs(run.note)), u"書いた"_qs);
+  const Done stored = set.update();
+  ASSERT_TRUE(stored.ok()) << stored.fault().message.toStdString();
+  ASSERT_TRUE(list.refresh().ok());
+  EXPECT_EQ(column(list, qs(run.note)), (QStringList{u"書いた"_qs, u"例示"_qs}));
+  list.setFilter(qs(run.marker) + u" like '*'"_qs);
+  const auto found = list.openRecordset();
+  ASSERT_TRUE(found.ok()) << found.fault().message.toStdString();
+}
+
 TEST_P(GrowthTest, AFileThatMayOnlyBeReadIsToldAndStaysAsItWas) {
   const RunRow& run = GetParam();
   const QString at = older(run);
