@@ -5,7 +5,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QUrl>
+#include <chrono>
 #include <cstring>
+#include <future>
 
 #include "platform/store/database.h"
 #include "platform/store/file_copy_parts.h"
@@ -17,6 +19,8 @@ namespace store {
 using namespace parts;
 
 namespace {
+
+constexpr std::chrono::milliseconds kTellEvery(50);
 
 class HeldDatabase : public HeldFile {
  public:
@@ -107,15 +111,21 @@ class CopyBatch::Copying {
   bool failed() const { return m_fault.has_value(); }
   void write(const HeldFile& source, SumThread& sums) {
     copy(source, sums);
-    if (failed()) return;
-    if (const int error = stepsOn(DiskStep::ReadBack)) failWriting(error);
-    endReadBack();
+    const int error = failed() ? 0 : stepsOn(DiskStep::ReadBack);
+    if (error != 0) failWriting(error);
+    endReadBack();  // of a copy that failed as well: the thread goes on to the next
   }
-  /// Syncs the copy, with syncfs() all that was written to its disk. The errno, 0: synced.
+  /// Syncs the copy, with syncfs() all that was written to its disk. The errno, 0: synced. A slow disk takes
+  /// its time here; who looks on is told meanwhile that nothing more came to stand.
   int sync(int (*syncOf)(int)) const {
     if (const int error = stepsOn(DiskStep::Sync)) return error;
     const OpenedFile file(m_beside, O_RDONLY);
-    return file.error() != 0 ? file.error() : syncOf(file.number()) != 0 ? lastError() : 0;
+    if (file.error() != 0) return file.error();
+    auto synced =
+        std::async(std::launch::async, [&] { return syncOf(file.number()) != 0 ? lastError() : 0; });
+    while (synced.wait_for(kTellEvery) != std::future_status::ready)
+      if (m_watch.copied) m_watch.copied(0);
+    return synced.get();
   }
   Result<QByteArray> finish() {
     endReadBack();
@@ -206,9 +216,9 @@ Done putInPlace(const QString& target, const CopyWatch& watch) {
 Done pushOnto(const QString& standing, const QString& target, const CopyWatch& watch) {
   const QString beside = besideName(target);
   QFile::remove(beside);
-  int error = watch.before ? watch.before(DiskStep::Link, target) : 0;
-  if (error != 0) return text::systemFault(text::FileAction::Write, target, error);
-  if (::link(QFile::encodeName(standing).constData(), QFile::encodeName(beside).constData()) != 0) {
+  const bool knowsNames = !watch.before || watch.before(DiskStep::Link, target) == 0;
+  if (!knowsNames ||
+      ::link(QFile::encodeName(standing).constData(), QFile::encodeName(beside).constData()) != 0) {
     const auto held = HeldFile::plain(standing);
     if (!held) return held.fault();
     CopyBatch batch(watch);

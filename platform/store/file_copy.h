@@ -18,14 +18,14 @@ using text::Done;
 using text::Fault;
 using text::Result;
 
-/// Copies of whole files: taken of one moment, written beside the target, synced, read back and compared, and
+/// Copies of whole files: taken of one moment, written beside the target, read back and compared, synced, and
 /// only then put in the target's place by a rename. Whoever reads the target finds the old copy or the new.
 
 enum class DiskStep { Create, Write, Sync, ReadBack, Link, Rename };
 
 /// Who looks on while files are copied.
 struct CopyWatch {
-  /// The bytes that came to stand in copies since the last call.
+  /// The bytes that came to stand in copies since the last call; 0 from time to time while the disk syncs.
   std::function<void(qint64 bytes)> copied;
   /// Asked before each step on the disk; a number other than 0 is the errno that the step fails with. Tests
   /// cut the power here, fill the disk, or take the target away.

@@ -1,6 +1,7 @@
 #include "platform/store/file_copy.h"
 
 #include <sqlite3.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -9,6 +10,16 @@
 #include "platform/store/bulk.h"
 #include "platform/store/integrity.h"
 #include "platform/store/tests/store_fixture.h"
+
+namespace {
+useconds_t slowDisk = 0;  ///< what a sync of the whole disk takes longer
+}
+
+/// Stands before the library's own.
+extern "C" int syncfs(int file) noexcept {
+  ::usleep(slowDisk);
+  return static_cast<int>(::syscall(SYS_syncfs, file));
+}
 
 namespace store {
 namespace {
@@ -145,6 +156,76 @@ TEST_F(FileCopyTest, PushingKeepsTheFileThatStands) {
   EXPECT_TRUE(isSameFile(path(QStringLiteral("1")), path(QStringLiteral("2"))));
   EXPECT_FALSE(pushOnto(path(QStringLiteral("none")), path(QStringLiteral("2"))).ok());
   EXPECT_EQ(bytesOf(QStringLiteral("2")), "one");
+}
+
+// Sticks and some shared folders know no second names of a file.
+TEST_F(FileCopyTest, PushingCopiesWhereThereAreNoSecondNames) {
+  const QByteArray big(3'000'000, 'x');
+  std::optional<DiskStep> full;
+  const CopyWatch watch{{}, [&](DiskStep step, const QString&) {
+                          return step == DiskStep::Link ? EPERM : step == full ? ENOSPC : 0;
+                        }};
+  put(QStringLiteral("1"), big);
+  for (const DiskStep step :
+       {DiskStep::Create, DiskStep::Write, DiskStep::Sync, DiskStep::ReadBack, DiskStep::Rename}) {
+    put(QStringLiteral("2"), "two");
+    full = step;
+    EXPECT_FALSE(pushOnto(path(QStringLiteral("1")), path(QStringLiteral("2")), watch).ok());
+    EXPECT_EQ(bytesOf(QStringLiteral("2")), "two");
+    EXPECT_FALSE(QFile::exists(besideName(path(QStringLiteral("2")))));
+  }
+  full.reset();
+  ASSERT_TRUE(pushOnto(path(QStringLiteral("1")), path(QStringLiteral("2")), watch).ok());
+  EXPECT_EQ(bytesOf(QStringLiteral("2")), big);
+  EXPECT_EQ(bytesOf(QStringLiteral("1")), big);
+  EXPECT_FALSE(isSameFile(path(QStringLiteral("1")), path(QStringLiteral("2"))));
+}
+
+// Whatever fails of a batch, the sums of the others come, and nothing waits for what will not come.
+TEST_F(FileCopyTest, ACopyThatFailsHoldsUpNoOther) {
+  constexpr int kFiles = 4;
+  const auto name = [](int number) { return QString::number(number); };
+  for (int number = 0; number < kFiles; ++number)
+    put(name(number), QByteArray(3'000'000 + number, static_cast<char>('a' + number)));
+  for (const DiskStep at : {DiskStep::Create, DiskStep::Write, DiskStep::ReadBack}) {
+    for (int failing = 0; failing < kFiles; ++failing) {
+      for (const bool finished : {true, false}) {
+        int writes = 0;
+        CopyBatch batch({{}, [&](DiskStep step, const QString& beside) {
+                           const bool meant =
+                               step == at && beside.endsWith(name(failing) + QStringLiteral("c.~"));
+                           return meant && (at != DiskStep::Write || ++writes == 2) ? EIO : 0;
+                         }});
+        for (int number = 0; number < kFiles; ++number) {
+          const auto held = HeldFile::plain(path(name(number)));
+          ASSERT_TRUE(held.ok());
+          batch.add(**held, path(name(number) + QLatin1Char('c')));
+        }
+        if (!finished) continue;
+        const auto sums = batch.finish();
+        for (int number = 0; number < kFiles; ++number) {
+          const auto& sum = sums[static_cast<size_t>(number)];
+          ASSERT_EQ(sum.ok(), number != failing);
+          EXPECT_TRUE(!sum || *sum == *sumOf(path(name(number))));
+        }
+      }
+    }
+  }
+}
+
+TEST_F(FileCopyTest, WhoLooksOnIsToldWhileTheDiskIsSlow) {
+  put(QStringLiteral("1"), "one");
+  int told = 0;
+  CopyBatch batch({[&](qint64 bytes) { told += bytes == 0; }, {}});
+  for (const char16_t* name : {u"2", u"3"}) {
+    const auto held = HeldFile::plain(path(QStringLiteral("1")));
+    batch.add(**held, path(QString::fromUtf16(name)));
+  }
+  slowDisk = 300'000;
+  batch.sync();
+  slowDisk = 0;
+  EXPECT_GT(told, 0);
+  for (const auto& sum : batch.finish()) EXPECT_TRUE(sum.ok());
 }
 
 }  // namespace
