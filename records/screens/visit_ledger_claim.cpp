@@ -16,7 +16,7 @@ const QString kForm = u"frmレセプトフォーム"_s;
 }  // namespace
 
 bool VisitLedgerScreen::claimPending() const {
-  return m_claimId != 0 && (source(2).pending() || source(3).pending());
+  return onClaim() && (source(2).pending() || source(3).pending());
 }
 
 claims::ClaimRecord VisitLedgerScreen::typedClaim() const {
@@ -27,24 +27,16 @@ claims::ClaimRecord VisitLedgerScreen::typedClaim() const {
   return typed;
 }
 
-bool VisitLedgerScreen::writeClaim(bool repair) {
-  const bool halfMissing = source(2).rows().recordCount() == 0;
-  const text::Done done = m_claims->together([&]() -> text::Done {
-    if (halfMissing && repair)
-      if (const text::Done repaired = m_claims->repairSecond(m_claimId); !repaired) return repaired;
-    return m_claims->store(m_claimId, m_seen, typedClaim());
-  });
-  if (done) {
-    readClaimAgain();
-    return true;
+bool VisitLedgerScreen::writeClaim() {
+  if (const text::Done done = m_claim->write(typedClaim()); !done) {
+    messages().tellDataFault(done.fault().message);
+    return false;
   }
-  messages().tellDataFault(done.fault().message);
-  // What was typed stays on the screen; the next time it is written over the claim as it stands now.
-  if (auto now = m_claims->read(m_claimId)) m_seen = *now;
-  return false;
+  readClaimAgain();
+  return true;
 }
 
-bool VisitLedgerScreen::leaveClaim() { return !claimPending() || writeClaim(true); }
+bool VisitLedgerScreen::leaveClaim() { return !claimPending() || writeClaim(); }
 
 void VisitLedgerScreen::readClaimAgain() {
   if (const text::Done read = source(3).rows().refresh(); !read)
@@ -53,19 +45,15 @@ void VisitLedgerScreen::readClaimAgain() {
 }
 
 void VisitLedgerScreen::storeGrid() {
-  if (m_claimId == 0) return;
-  claims::ClaimRecord claim = m_seen;
-  const claims::ClaimRecord typed = typedClaim();
-  for (auto column = typed.columns().cbegin(); column != typed.columns().cend(); ++column)
-    claim.set(column.key(), column.value());
-  if (const QString message = claims::ledgerGridMessage(claim, m_flags); !message.isNull())
-    return messages().tell(message);
+  if (!onClaim()) return;
+  const QString message = claims::ledgerGridMessage(m_claim->with(typedClaim()), m_flags);
+  if (!message.isNull()) return messages().tell(message);
   // The form holds the claim as it read it: it must not stay beside a claim that changes under it.
   if (navigator().loaded(kForm)) {
     navigator().show(kForm);
     return messages().tell(u"既にレセプトフォームは開かれています"_s);
   }
-  if (writeClaim(true)) handOver();
+  if (writeClaim()) handOver();
 }
 
 // The form is loaded without being shown, as long as the question stands.
@@ -74,7 +62,7 @@ void VisitLedgerScreen::handOver() {
   {
     const screen::Hourglass loading;
     form = navigator().load(kForm);
-    if (form) form->opened({{u"ID"_s, m_claimId}, {u"opener"_s, u"治療台帳3"_s}});
+    if (form) form->opened({{u"ID"_s, m_claim->id()}, {u"opener"_s, u"治療台帳3"_s}});
   }
   if (!form) return;
   if (!messages().ask(u"レセプトデータの登録を押してください。"_s)) return navigator().unload(kForm);

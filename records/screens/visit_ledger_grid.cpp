@@ -1,5 +1,4 @@
 #include "claims/core/day_codes.h"
-#include "platform/store/criteria_text.h"
 #include "records/core/day_grid.h"
 #include "records/screens/visit_ledger_screen.h"
 
@@ -14,8 +13,6 @@ namespace {
 constexpr int kCells = 31;
 const QString kTick = u"Check1"_s;
 const QString kFrame = u"Frame1"_s;
-const QString kTable = u"保険申請"_s;
-const QString kInOrder = u"order by ID"_s;
 
 QString code(int cell) { return u"Text5(%1)"_s.arg(cell); }
 QString visit(int cell) { return u"Text6(%1)"_s.arg(cell); }
@@ -40,16 +37,15 @@ void VisitLedgerScreen::gridToggled() {
 void VisitLedgerScreen::hideGrid() {
   setShown(kFrame, false);
   setChecked(kTick, false);
-  m_claimId = 0;
-  m_seen = {};
+  m_claim.reset();
   m_flags = {};
   // The first halves stand whole again behind the hidden frame.
-  if (source(3).isOpen()) source(3).open(m_run.folders[frame::folder::kClaims1], kTable);
+  if (source(3).isOpen()) source(3).open(m_run.folders[frame::folder::kClaims1], u"保険申請"_s);
 }
 
 void VisitLedgerScreen::openGrid() {
   setShown(kFrame, true);
-  if (!openClaims() || !putClaims()) return hideGrid();
+  if (!putClaims()) return hideGrid();
   say({caption(kFrame), text(u"txtFields(114)"_s), text(u"txtFields(67)"_s)});
   // Once the frame has its place: before that the window cannot scroll to the cell.
   const auto goToFirstDay = [this, from = focused()] {
@@ -66,47 +62,21 @@ void VisitLedgerScreen::gridMonthEntered() {
   if (leaveClaim()) openGrid();
 }
 
-bool VisitLedgerScreen::openClaims() {
-  auto file = claims::ClaimFile::open(m_run.folders);
-  if (!file) {
-    messages().tellDataFault(file.fault().message);
+// A patient without any claim has nothing to write the days into, whether or not a month was asked for.
+bool VisitLedgerScreen::putClaims() {
+  auto opened = GridClaim::open(m_run.folders);
+  if (!opened) {
+    messages().tellDataFault(opened.fault().message);
     return false;
   }
-  m_claims.emplace(std::move(*file));
-  const std::pair<int, store::RecordSet*> halves[] = {{frame::folder::kClaims1, &m_firstHalves},
-                                                      {frame::folder::kClaims2, &m_secondHalves}};
-  for (const auto& [entry, rows] : halves) {
-    auto database = store::Database::open(m_run.folders[static_cast<size_t>(entry)]);
-    if (!database) {
-      messages().tellDataFault(database.fault().message);
-      return false;
-    }
-    auto opened = store::RecordSet::open(*database, kTable);
-    if (!opened) {
-      messages().tellDataFault(opened.fault().message);
-      return false;
-    }
-    *rows = std::move(*opened);
-  }
-  return true;
-}
-
-// The patient's claims, of them those of the month asked for. A patient without any has nothing to write the
-// days into, whether or not a month was asked for.
-bool VisitLedgerScreen::putClaims() {
-  const QString key = text(u"Text2"_s).isEmpty() ? m_key : text(u"Text2"_s);
-  const QString month = text(u"txtFields(115)"_s);
-  m_firstHalves.setFilter(store::likeCriterion(u"番号1"_s, key) + kInOrder);
-  auto claims = m_firstHalves.openRecordset();
-  if (claims && !month.isEmpty()) {
-    claims->setFilter(store::likeCriterion(u"申請年月"_s, month) + kInOrder);
-    claims = claims->openRecordset();
-  }
+  m_claim.emplace(std::move(*opened));
+  const QString patient = text(u"Text2"_s).isEmpty() ? m_key : text(u"Text2"_s);
+  auto claims = m_claim->of(patient, text(u"txtFields(115)"_s));
   if (!claims) {
     messages().tellDataFault(claims.fault().message);
     return false;
   }
-  if (key.isEmpty() || claims->recordCount() == 0) {
+  if (claims->recordCount() == 0) {
     messages().tell(
         u"レセプトデータがありません。新規でレセプトを制作するか、「翌月へ継続」で、今月のデータを作ってから"
         u"クリックして下さい。"_s);
@@ -118,27 +88,12 @@ bool VisitLedgerScreen::putClaims() {
 
 void VisitLedgerScreen::showClaim() {
   const store::RecordSet& rows = source(3).rows();
-  m_claimId = rows.recordCount() > 0 ? rows.value(u"ID"_s).toLongLong() : 0;
-  auto read = m_claims->read(m_claimId);
-  if (!read) messages().tellDataFault(read.fault().message);
-  m_seen = read ? *read : claims::ClaimRecord();
-  putSecondHalf();
+  auto half = m_claim->take(rows.recordCount() > 0 ? rows.value(u"ID"_s).toLongLong() : 0);
+  if (half)
+    source(2).assign(std::move(*half));
+  else
+    messages().tellDataFault(half.fault().message);
   applyGridMonth();
-}
-
-bool VisitLedgerScreen::putSecondHalf() {
-  const auto half = [this] {
-    m_secondHalves.setFilter(u"Id = %1"_s.arg(m_claimId));
-    return m_secondHalves.openRecordset();
-  };
-  auto rows = half();
-  if (rows && rows->recordCount() == 0 && m_secondHalves.refresh()) rows = half();  // made meanwhile
-  if (!rows) {
-    messages().tellDataFault(rows.fault().message);
-    return false;
-  }
-  source(2).assign(std::move(*rows));
-  return true;
 }
 
 void VisitLedgerScreen::applyGridMonth() {

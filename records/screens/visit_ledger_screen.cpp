@@ -60,7 +60,7 @@ void VisitLedgerScreen::onActivate() {
     QMetaObject::invokeMethod(
         this, [this] { offerFirstVisit(); }, Qt::QueuedConnection);
   // The claim form may have stored the claim of the grid meanwhile.
-  if (m_claimId != 0 && !claimPending()) readClaimAgain();
+  if (onClaim() && !claimPending()) readClaimAgain();
 }
 
 void VisitLedgerScreen::offerFirstVisit() { navigator().show(kFirstVisit, {{u"氏名"_s, m_name}}); }

@@ -2,10 +2,10 @@
 
 #include <optional>
 
-#include "claims/core/claim_file.h"
 #include "claims/core/rule_dates.h"
 #include "frame/core/run_state.h"
 #include "platform/screen/list_screen.h"
+#include "records/core/grid_claim.h"
 #include "records/core/previous_visit.h"
 
 namespace records {
@@ -101,16 +101,15 @@ class VisitLedgerScreen : public screen::ListScreen {
   bool gridShown() const;
   void openGrid();
   void hideGrid();
-  bool openClaims();
   bool putClaims();
   void showClaim();
-  bool putSecondHalf();
   void applyGridMonth();
+  /// A claim stands in the grid.
+  bool onClaim() const { return m_claim && m_claim->id() != 0; }
   bool claimPending() const;
   claims::ClaimRecord typedClaim() const;
-  /// Writes what was typed into the claim, both halves in one transaction; a missing second half is made
-  /// where `repair`. False: refused and told, what was typed stays.
-  bool writeClaim(bool repair);
+  /// Writes what was typed into the claim. False: refused and told, what was typed stays.
+  bool writeClaim();
   bool leaveClaim();
   void readClaimAgain();
   void handOver();
@@ -118,12 +117,9 @@ class VisitLedgerScreen : public screen::ListScreen {
   frame::RunState& m_run;
   PreviousVisit& m_previous;
   QString m_key, m_name, m_birth, m_opener;
-  bool m_newRowPending = false;  ///< from 新規追加 until 登録
-  bool m_offersFirst = false;    ///< カルテ2の新規 comes up once the window has the keyboard
-  std::optional<claims::ClaimFile> m_claims;
-  store::RecordSet m_firstHalves, m_secondHalves;  ///< whole, of which sources 3 and 2 show the patient's
-  claims::ClaimRecord m_seen;                      ///< the claim as it was read
-  qint64 m_claimId = 0;                            ///< 0: no claim in the grid
+  bool m_newRowPending = false;      ///< from 新規追加 until 登録
+  bool m_offersFirst = false;        ///< カルテ2の新規 comes up once the window has the keyboard
+  std::optional<GridClaim> m_claim;  ///< while the grid is shown
   claims::MonthFlags m_flags;
 };
 

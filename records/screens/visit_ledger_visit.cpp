@@ -133,7 +133,7 @@ void VisitLedgerScreen::convertDates(QString (frame::EraDates::*conversion)(cons
   QStringList parts;
   for (const QString& field : {u"txtFields(1)"_s, kDate, u"txtFields(32)"_s}) {
     const QString before = text(field);
-    if (before.isEmpty() || (field == u"txtFields(32)" && m_claimId == 0)) continue;
+    if (before.isEmpty() || (field == u"txtFields(32)" && !onClaim())) continue;
     if (const QString after = (dates.*conversion)(before); after != before) setText(field, after);
     parts << caption(field) << text(field);
   }
