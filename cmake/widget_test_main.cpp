@@ -6,8 +6,8 @@
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  // Program folders of the tests lie in memory where there is one: each test makes its database files anew and
-  // syncs some fifty times, and a disk that is busy with other work would take a minute over that.
+  // Program folders of the tests lie in memory where there is one: each test makes its database files anew
+  // and syncs some fifty times, and a disk that is busy with other work would take a minute over that.
   if (qEnvironmentVariableIsEmpty("TMPDIR") && QFileInfo(QStringLiteral("/dev/shm")).isWritable())
     qputenv("TMPDIR", "/dev/shm");
   QApplication application(argc, argv);
