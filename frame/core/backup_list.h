@@ -23,6 +23,8 @@ class BackupList {
   /// "" where the name is not listed.
   QByteArray sumOf(const QString& name) const { return m_sums.value(name); }
   void put(const QString& name, const QByteArray& sum) { m_sums.insert(name, sum); }
+  /// For a file that is no copy any more: it changes.
+  void takeOut(const QString& name) { m_sums.remove(name); }
   /// Tells the sum that the name is about to have.
   void announce(const QString& name, const QByteArray& sum) { m_coming.insert(name, sum); }
   void forgetAnnounced() { m_coming.clear(); }

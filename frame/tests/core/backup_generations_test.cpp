@@ -1,5 +1,7 @@
 #include "frame/core/backup_generations.h"
 
+#include <sys/stat.h>
+
 #include "frame/core/backup_list.h"
 #include "frame/tests/core/backup_fixture.h"
 #include "platform/store/pair.h"
@@ -163,6 +165,58 @@ TEST_F(BackupGenerationsTest, ADamagedHalfKeepsBothHalves) {
   EXPECT_EQ(generations(test::kClaims1File), (QList<int>{2, 1, -1}));
   EXPECT_EQ(generations(test::kClaims2File), (QList<int>{2, 1, -1}));
   EXPECT_EQ(generations(test::kPatientsFile), (QList<int>{3, 2, 1}));
+  expectOrder(backup(QString()));
+}
+
+// A copy may be worked with where it lies. It is the live file then: copies come and go beside it.
+TEST_F(BackupGenerationsTest, AGenerationThatIsWorkedWithIsLeftOut) {
+  for (int digit = 1; digit <= 3; ++digit) {
+    run.folders[folder::kPatients] = live(test::kPatientsFile);
+    QDir(backup(QString())).removeRecursively();
+    for (int number = 1; number <= 3; ++number) runWith(number);
+    const QString worked = generation(digit, test::kPatientsFile);
+    run.folders[folder::kPatients] = worked;
+    for (const int number : {7, 8}) {
+      ASSERT_TRUE(test::runOn(worked, "PRAGMA user_version=" + QByteArray::number(number)));
+      const test::OtherProgram open(worked, "SELECT count(*) FROM sqlite_master");
+      backUpGenerations(run);
+      EXPECT_EQ(stampOf(worked), number) << digit;
+    }
+    ASSERT_TRUE(test::runOn(worked, "PRAGMA user_version=9"));
+    QList<int> now = {9};
+    for (const int other : {1, 2, 3})
+      if (other != digit) now += stampOf(generation(other, test::kPatientsFile));
+    EXPECT_EQ(now, (QList<int>{9, 8, 7})) << digit;
+    EXPECT_FALSE(checkedBySystem(backup(QString())).contains(u"FAILED"));
+    EXPECT_EQ(besides(backup(QString())), QStringList());
+    EXPECT_FALSE(QFileInfo::exists(backup(QStringLiteral("4_") + test::kPatientsFile)));
+  }
+}
+
+TEST_F(BackupGenerationsTest, ALivingGenerationIsStillOneFileForOtherPrograms) {
+  runWith(1);
+  const QString worked = generation(1, test::kPatientsFile);
+  run.folders[folder::kPatients] = worked;
+  struct stat before {
+  }, after{};
+  ASSERT_EQ(::stat(QFile::encodeName(worked).constData(), &before), 0);
+  backUpGenerations(run);
+  ASSERT_EQ(::stat(QFile::encodeName(worked).constData(), &after), 0);
+  EXPECT_EQ(before.st_ino, after.st_ino);
+  EXPECT_EQ(after.st_nlink, 1u);
+}
+
+// No list, no new copies: they leave nothing behind on the disk, and the next run goes on.
+TEST_F(BackupGenerationsTest, AListThatCannotBeWrittenLeavesNoNewCopies) {
+  for (int number = 1; number <= 2; ++number) runWith(number);
+  const QString list = BackupList::pathIn(backup(QString())), aside = backup(QStringLiteral("aside"));
+  ASSERT_TRUE(QFile::rename(list, aside) && QDir().mkpath(list));
+  runWith(3);
+  EXPECT_EQ(besides(backup(QString())), QStringList());
+  for (const QString& name : test::kBackupNames) EXPECT_EQ(stampOf(generation(1, name)), 2);
+  ASSERT_TRUE(QDir().rmdir(list) && QFile::rename(aside, list));
+  runWith(4);
+  expectAll({4, 2, 1});
   expectOrder(backup(QString()));
 }
 
