@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <algorithm>
 #include <cerrno>
 
 #include "frame/core/backup_files.h"
@@ -48,8 +49,10 @@ class FolderBackup {
     std::vector<BackupGroup> groups = backupGroups(m_run);
     for (BackupGroup& group : groups)
       std::erase_if(group, [this](const BackupFile& file) { return !takesItsName(file); });
-    for (const auto& copies : copyGroups(groups, m_folder, nameInFolder, m_watch))
+    for (auto& copies : copyGroups(groups, m_folder, nameInFolder, m_watch)) {
+      keepTogether(copies);
       for (const FreshCopy& copy : copies) place(copy);
+    }
     writeList();
     copyPictures();
     m_list.keepStanding(m_folder);
@@ -70,6 +73,22 @@ class FolderBackup {
           {QStringLiteral("「%1」は、同じ名前の別のファイルがあるためコピーしていません。（%2）")
                .arg(nameInFolder(file), file.path)});
     return taken.isEmpty();
+  }
+
+  /// Where an older copy of one half of the claims has to stay, that of the other half stays too: a new one
+  /// beside it would be of another moment.
+  static void keepTogether(std::vector<FreshCopy>& copies) {
+    const auto stays = std::find_if(copies.begin(), copies.end(), [](const FreshCopy& copy) {
+      return !copy.sum && QFileInfo::exists(copy.target);
+    });
+    if (stays == copies.end()) return;
+    for (FreshCopy& copy : copies) {
+      if (!copy.sum) continue;
+      QFile::remove(store::besideName(copy.target));
+      copy.sum = text::Fault{
+          QStringLiteral("「%1」は、「%2」と同じ時のものがそろわないためコピーしていません。（%3）")
+              .arg(nameInFolder(copy.file), nameInFolder(stays->file), copy.file.path)};
+    }
   }
 
   void place(const FreshCopy& copy) {

@@ -157,7 +157,7 @@ TEST_F(BackupFolderTest, AFullFolderKeepsTheOlderCopies) {
 TEST_F(BackupFolderTest, EveryFailingStepIsTold) {
   using store::DiskStep;
   for (const auto step : {DiskStep::Create, DiskStep::Write, DiskStep::ReadBack, DiskStep::Rename}) {
-    for (const QString& name : {test::kClaims2File, QStringLiteral("図 2.bmp")}) {
+    for (const QString& name : {test::kPatientsFile, QStringLiteral("図 2.bmp")}) {
       const BackupReport report = backUpToFolder(run, folder(), failing(step, EIO, name));
       ASSERT_EQ(told(report).size(), 1) << int(step);
       EXPECT_TRUE(told(report)[0].startsWith(u"「%1」に書き込むことができません。"_s.arg(name))) << int(step);
@@ -177,6 +177,37 @@ TEST_F(BackupFolderTest, AFailingSyncKeepsAllOlderCopies) {
   EXPECT_EQ(report.copied, QStringList());
   EXPECT_EQ(report.pictures, 4);
   expectCopies(1);
+}
+
+// A new half of the claims beside an older one would be of two moments.
+TEST_F(BackupFolderTest, AHalfOfTheClaimsThatFailsKeepsBackTheOther) {
+  const auto fails = failing(store::DiskStep::Write, ENOSPC, test::kClaims2File);
+  EXPECT_EQ(backUpToFolder(run, folder(), fails).faults.size(), 1u);
+  EXPECT_EQ(stampOf(copy(test::kClaims1File)), 1) << "where none stands, one half is better than nothing";
+  ASSERT_TRUE(backUpToFolder(run, folder()).whole());
+  stampAll(2);
+  const BackupReport report = backUpToFolder(run, folder(), fails);
+  EXPECT_EQ(report.faults.size(), 2u);
+  EXPECT_EQ(told(report)[0],
+            QStringLiteral("「%1」は、「%2」と同じ時のものがそろわないためコピーしていません。（%3）")
+                .arg(test::kClaims1File, test::kClaims2File, live(test::kClaims1File)));
+  EXPECT_FALSE(report.copied.contains(test::kClaims1File));
+  for (const QString& name : kOwnNames)
+    EXPECT_EQ(stampOf(copy(name)), name.startsWith(u"保険申請") ? 1 : 2) << name.toStdString();
+  EXPECT_EQ(checkedBySystem(folder()), QString());
+  EXPECT_EQ(besides(folder()), QStringList());
+}
+
+TEST_F(BackupFolderTest, AFileThatIsLockedIsTold) {
+  const auto database = store::Database::open(live(test::kPatientsFile));
+  ASSERT_TRUE(database.ok());
+  sqlite3_busy_timeout((*database)->handle(), 1);
+  const test::OtherProgram holds(live(test::kPatientsFile), "BEGIN EXCLUSIVE");
+  const BackupReport report = backUpToFolder(run, folder());
+  ASSERT_EQ(told(report).size(), 1);
+  EXPECT_TRUE(
+      told(report)[0].startsWith(u"「臨床QV2000N.mdb」は、ほかのコンピュータまたは画面で使用中です。"));
+  EXPECT_EQ(report.copied.size(), 11);
 }
 
 // What the folder gives back is compared with what was read.
