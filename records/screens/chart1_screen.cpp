@@ -115,7 +115,10 @@ void Chart1Screen::closeDictionaries() {
   for (const QString& window : kDictionaries)
     if (Screen* dictionary = navigator().loaded(window)) dictionary->close();
   for (const QString& window : kDictionaries)
-    if (navigator().isShown(window)) return;  // it holds a text that its file refuses
+    if (navigator().isShown(window)) {  // it holds a text that its file refuses
+      navigator().show(window);
+      return;
+    }
   messages().holdSpeech();
   voice().speakText(u"辞典の窓を閉じました"_s);
 }

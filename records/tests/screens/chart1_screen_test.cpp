@@ -236,6 +236,7 @@ TEST_F(Chart1Test, CbLeavesAWindowWhoseTextItsFileRefuses) {
   settle();
   ASSERT_EQ(navigator.loaded(u"frmCLmoji"_s), &phrases);
   EXPECT_EQ(phrases.text(field), u"書きかけ"_s);
+  EXPECT_EQ(navigator.front(), &phrases);
   EXPECT_FALSE(channel.heardWhole().contains(u"辞典の窓を閉じました"_s));
 }
 
