@@ -41,6 +41,7 @@ constexpr char16_t kNoRows[] = u"同意期限が一ヶ月以内の患者はい�
 constexpr char16_t kNothingToPrint[] = u"印刷するデータがありません。";
 constexpr char16_t kNotRead[] = u"同意期限を調べることができませんでした。";
 constexpr char16_t kSent[] = u"印刷に送りました。";
+constexpr char16_t kNotSent[] = u"印刷を開始できませんでした。プリンタを確認して下さい。";
 
 }  // namespace
 
@@ -82,7 +83,9 @@ void ConsentWatchScreen::print() {
   job.draw = [this](report::ReportOperations& engine, int page) {
     drawConsentPage(engine, m_rows, m_run.clock->today(), page);
   };
-  if (runHandPrint(m_engine, job) == RunEnd::Printed) voice().speakText(QString::fromUtf16(kSent));
+  const RunEnd end = runHandPrint(m_engine, job);
+  if (end != RunEnd::Cancelled)
+    voice().speakText(QString::fromUtf16(end == RunEnd::Printed ? kSent : kNotSent));
 }
 
 void ConsentWatchScreen::printerOptions() { m_engine.PR_PrinterSetupDlg(winId()); }

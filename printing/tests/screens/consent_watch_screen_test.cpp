@@ -133,7 +133,7 @@ TEST_F(ConsentWatchRoom, AnEmptyListIsNotPrinted) {
   EXPECT_EQ(engine.calls, QStringList());
 }
 
-TEST_F(ConsentWatchRoom, APrinterThatRefusesIsSilent) {
+TEST_F(ConsentWatchRoom, APrinterThatRefusesIsSaidWithoutAMessage) {
   add(u"見本　太郎"_s, u"令和6年11月20日"_s);
   engine.startResult = 11;
   screen::Screen& screen = open(kScreen);
@@ -142,6 +142,7 @@ TEST_F(ConsentWatchRoom, APrinterThatRefusesIsSilent) {
   EXPECT_EQ(messages.texts().size(), 1);
   EXPECT_TRUE(engine.calls.last().startsWith(u"PR_StartDC"));
   EXPECT_FALSE(channel.said().contains(u"印刷に送りました。"_s));
+  EXPECT_EQ(channel.lastSaid(), u"印刷を開始できませんでした。プリンタを確認して下さい。"_s);
 }
 
 TEST_F(ConsentWatchRoom, AFileThatCannotBeReadIsToldByName) {
