@@ -30,12 +30,15 @@ void VisitLedgerScreen::onLoad() {
   if (const auto needed = store::needsGrowth(path, store::GrowthRun::Visit); needed && *needed)
     if (const text::Done grown = store::grow(path, store::GrowthRun::Visit); !grown)
       messages().tellDataFault(grown.fault().message);
-  openWhole();
+  rowShown(1);
 }
 
 void VisitLedgerScreen::opened(const screen::Request& request) {
   if (request.value(u"新規"_s).toBool()) return startVisit(m_name, m_birth, m_key);
-  if (!request.contains(u"テキスト5"_s)) return;
+  if (!request.contains(u"テキスト5"_s)) {
+    if (!source().isOpen()) openWhole();
+    return;
+  }
   if (!settleVisit() || !leaveClaim()) return;  // told; the patient before stays with what was typed
   navigator().unload(kFirstVisit);              // asked for the patient before
   const QString key = request.value(u"テキスト5"_s).toString();

@@ -282,11 +282,19 @@ TEST_F(VisitLedgerLife, AnOlderFileGrowsAtLoadWithoutAQuestion) {
   EXPECT_EQ(visitsStored(u"氏名"_s), QStringList{u"見本　太郎"_s});
 }
 
+TEST_F(VisitLedgerLife, WithoutAPatientItShowsAllVisits) {
+  addOn(u"令和6年6月1日"_s, u"2024/6/1"_s);
+  addVisit({{u"氏名"_s, u"例示　花子"_s}}, u"Q9"_s);
+  navigator.show(u"治療台帳3"_s);
+  EXPECT_EQ(label(u"Label14"), u"2"_s);
+}
+
 TEST_F(VisitLedgerLife, MissingFileIsToldByNameOnceAndNothingIsMade) {
   ASSERT_TRUE(QFile::remove(path(kVisitFile)));
-  navigator.show(u"治療台帳3"_s);
+  open();
   ASSERT_EQ(messages.texts().size(), 1);
   EXPECT_TRUE(lastMessage().contains(kVisitFile));
+  EXPECT_FALSE(ledger().findChild<QLineEdit*>(u"txtFields(2)"_s)->isEnabled()) << "nothing would keep it";
   EXPECT_FALSE(QFile::exists(path(kVisitFile)));
   for (const char16_t* command :
        {u"cmdAdd", u"cmdUpdate", u"Command6", u"Command7", u"cmdRefresh", u"Command2"})
