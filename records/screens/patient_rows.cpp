@@ -65,7 +65,7 @@ constexpr Row kRows[] = {
               .bind = Column{u"生年月日"},
               .width = 16,
               .tip = u"生年月日の記入例：2019/5/25（西暦）",
-              .onEnter = call<&PatientScreen::refreshAge>},
+              .onEnter = call<&PatientScreen::enterBirth>},
     field(7, u"年齢:", u"年齢", 4),
     TextField{.name = {u"txtF24"}, .caption = u"初診日:", .bind = Column{u"初診日"}, .width = 16},
     field(23, u"日付1:", u"日付1", 16),

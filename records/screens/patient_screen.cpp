@@ -86,7 +86,7 @@ void PatientScreen::say(const QStringList& parts) {
 // ---- The record ----
 
 bool PatientScreen::isEmpty() const {
-  return source().rows().recordCount() == 0 && !source().rows().adding();
+  return source().isOpen() && source().rows().recordCount() == 0 && !source().rows().adding();
 }
 
 bool PatientScreen::noPatient() {
@@ -151,10 +151,7 @@ void PatientScreen::deletePatient() {
 
 void PatientScreen::search() {
   const QString word = text(u"Combo3"_s);
-  if (word.isEmpty()) {
-    focusOn(u"Combo3"_s);
-    return voice().speakHeading({caption(u"Combo3"_s)});
-  }
+  if (word.isEmpty()) return askFor(u"Combo3"_s);
   if (!source().isOpen() || !screen::settleRow(source())) return;
   const SearchHistory history(m_run.programFolder);
   // A history that cannot be written costs nothing: the search itself goes on.
@@ -171,7 +168,12 @@ void PatientScreen::chooseSex() { setText(u"txtFields(5)"_s, text(u"Combo2"_s));
 
 void PatientScreen::refreshAge() {
   if (const std::optional<int> age = m_run.eraDates().ageFromBirthDate(text(name(kBirth))))
-    setText(u"txtFields(7)"_s, QString::number(*age));
+    setText(name(kAge), QString::number(*age));
+}
+
+void PatientScreen::enterBirth() {
+  refreshAge();
+  say({caption(name(kAge)), text(name(kAge))});
 }
 
 void PatientScreen::convert(const DateConversion& conversion) {
@@ -281,24 +283,31 @@ screen::Request PatientScreen::patientColumns() const {
   return request;
 }
 
-void PatientScreen::openNewClaim() { navigator().show(u"新規レセプト"_s, patientColumns()); }
+void PatientScreen::openNewClaim() {
+  if (!noPatient()) navigator().show(u"新規レセプト"_s, patientColumns());
+}
 
 // A claim is tied to its patient by the serial; a patient of an older register has none and goes by the name.
 void PatientScreen::openClaims() {
+  if (noPatient()) return;
   const QString serial = text(name(kSerial));
   const QString criteria =
       serial.isEmpty() ? u"氏名='"_s + text(u"txtFields(4)"_s) + u"' "_s : u"番号1 ='"_s + serial + u"' "_s;
   navigator().show(u"レセプト一覧表"_s, {{u"criteria"_s, criteria}});
 }
 
-void PatientScreen::openReceipt() { navigator().show(u"領収証選択"_s, patientColumns()); }
+void PatientScreen::openReceipt() {
+  if (!noPatient()) navigator().show(u"領収証選択"_s, patientColumns());
+}
 
 void PatientScreen::openBooking(const QString& screenName, const screen::Request& request) {
   m_run.callerMark = kBackToPatients;
   navigator().show(screenName, request);
 }
 
-void PatientScreen::openPatientAppointment() { openBooking(u"予約2"_s, patientColumns()); }
+void PatientScreen::openPatientAppointment() {
+  if (!noPatient()) openBooking(u"予約2"_s, patientColumns());
+}
 void PatientScreen::openAppointment() { openBooking(u"予約2"_s); }
 void PatientScreen::openToday() { openBooking(u"今日の予約"_s); }
 void PatientScreen::openWeek() { openBooking(u"予約週間表"_s); }

@@ -40,6 +40,8 @@ class PatientScreen : public screen::Screen {
 
   // Dates.
   void refreshAge();
+  /// Enter in the birth date: says the age.
+  void enterBirth();
   void toSeireki();
   void toWareki();
   void fillFirstVisit();
@@ -66,7 +68,7 @@ class PatientScreen : public screen::Screen {
   void offerGrowth();
   QString file() const;
 
-  /// The open table has no rows, and none is being added.
+  /// The table is open and has no rows, and none is being added.
   bool isEmpty() const;
   /// Offers a first patient where the table is empty; true there.
   bool noPatient();

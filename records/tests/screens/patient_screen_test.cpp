@@ -238,12 +238,13 @@ TEST_F(PatientScreenTest, TypedFirstPatientLeavesOneEnteredMeanwhileAlone) {
   EXPECT_EQ(stored(u"テキスト5"_s), (QStringList{u"20240615001"_s, u"20240615002"_s}));
 }
 
-TEST_F(PatientScreenTest, AnEmptyRegisterHasNoCharts) {
+TEST_F(PatientScreenTest, AnEmptyRegisterHasNobodyToOpenARoomFor) {
   screen::Screen& screen = patients();
   screen.trigger(u"Command8"_s);  // today's date stands on the screen
-  for (const char16_t* chart : {u"Command2", u"Command4", u"Command5"}) {
-    screen.trigger(QString::fromUtf16(chart));
-    EXPECT_TRUE(isShown(u"無データ")) << QString::fromUtf16(chart).toStdString();
+  for (const char16_t* room :
+       {u"Command2", u"Command4", u"Command5", u"Command6", u"Command7", u"Men_RA", u"Men_YD"}) {
+    screen.trigger(QString::fromUtf16(room));
+    EXPECT_TRUE(isShown(u"無データ")) << QString::fromUtf16(room).toStdString();
     navigator.unload(u"無データ"_s);
   }
   EXPECT_TRUE(messages.texts().isEmpty()) << messages.texts().join(u'|').toStdString();
@@ -382,6 +383,7 @@ TEST_F(PatientScreenTest, EnterInTheBirthDateComputesTheAge) {
   QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
   QCoreApplication::sendEvent(screen.focusWidget(), &enter);
   EXPECT_EQ(screen.text(u"txtFields(7)"_s), u"24"_s);
+  EXPECT_EQ(channel.lastSaid(), u"年齢:"_s + QChar(254) + u"24"_s);
 }
 
 TEST_F(PatientScreenTest, BothDatesChangeNotationTogether) {
