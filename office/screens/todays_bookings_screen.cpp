@@ -56,8 +56,9 @@ void TodaysBookingsScreen::readAgain() {
 }
 
 bool TodaysBookingsScreen::openWhole() {
+  if (!BookingList::openWhole()) return false;
   m_narrowed = false;
-  return BookingList::openWhole();
+  return true;
 }
 
 void TodaysBookingsScreen::setChanged(const QString& /*done*/) {

@@ -77,9 +77,9 @@ void WeekScreen::showDay() {
   const QString spelled = dayText(m_run.eraDates(), date);
   setText(u"Text1"_s, spelled);
   m_run.dayAsked = numbersOf(date);
-  if (!openWhole()) return;
-  auto hits = bookingsOfDay(m_run.dayAsked);
-  if (!hits) return;
+  auto hits = openWhole() ? bookingsOfDay(m_run.dayAsked) : std::nullopt;
+  // Told by then: no other day's rows are left under this date.
+  if (!hits) return source().assign({});
   const bool none = hits->recordCount() == 0;
   source().assign(std::move(*hits));
   if (none) screen::tellNotFound(*this);

@@ -113,6 +113,23 @@ TEST_F(WeekView, AnEmptyTableSaysSo) {
   EXPECT_EQ(told(), QStringList(kNoRows));
 }
 
+TEST_F(WeekView, ABookThatCannotBeReadLeavesNoOtherDaysRows) {
+  screen::Screen& screen = week();
+  ASSERT_EQ(listed(screen).size(), 1);
+  const QString away = path(kBookings) + u".away"_s;
+  ASSERT_TRUE(QFile::rename(path(kBookings), away));
+  choose(screen, 2);
+  EXPECT_TRUE(told().join(u' ').contains(kBookings));
+  EXPECT_EQ(listed(screen), QStringList());
+  QTest::keyClick(&screen, Qt::Key_F1);
+  EXPECT_EQ(channel.lastSaid(), u"予約 0 件"_s);
+  screen.trigger(u"Command8"_s);
+  EXPECT_EQ(told(), QStringList(u"代入するデータがありません。"_s));
+  ASSERT_TRUE(QFile::rename(away, path(kBookings)));
+  choose(screen, 3);
+  EXPECT_EQ(listed(screen), QStringList(u"火曜　太郎"_s));
+}
+
 TEST_F(WeekView, HandsOverAndGoesBackToTheCaller) {
   run.callerMark = 3;
   screen::Screen& screen = week();

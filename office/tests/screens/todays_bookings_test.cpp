@@ -47,6 +47,18 @@ TEST_F(TodaysBookings, SaysHowManyBookingsAreOnView) {
       << "coming back to a narrowed list: " << channel.said().join(u'\n').toStdString();
 }
 
+TEST_F(TodaysBookings, AListThatCouldNotBeWidenedStillCountsAsNarrowed) {
+  showDay(list(), u"2024"_s, u"6"_s, u"15"_s);
+  const QString away = path(kBookings) + u".away"_s;
+  ASSERT_TRUE(QFile::rename(path(kBookings), away));
+  list().trigger(u"cmdRefresh"_s);
+  ASSERT_TRUE(QFile::rename(away, path(kBookings)));
+  channel.clear();
+  EXPECT_EQ(listed(list()).size(), 2);
+  EXPECT_TRUE(channel.said().contains(spoken({u"今日の予約"_s, u"抽出中"_s, u"予約 2 件"_s})))
+      << channel.said().join(u'\n').toStdString();
+}
+
 TEST_F(TodaysBookings, AnEmptyBookIsHeardAsSuch) {
   ASSERT_TRUE(QFile::remove(path(kBookings)));
   makeFile(kBookings);
