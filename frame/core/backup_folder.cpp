@@ -94,6 +94,7 @@ class FolderBackup {
   void place(const FreshCopy& copy) {
     const text::Done placed = copy.sum ? store::putInPlace(copy.target, m_watch) : copy.sum.fault();
     if (!placed) return m_report.faults.push_back(placed.fault());
+    store::dropJournal(copy.target);
     m_list.put(nameInFolder(copy.file), *copy.sum);
     m_report.copied += nameInFolder(copy.file);
   }

@@ -50,7 +50,10 @@ class Generations {
     for (const Rotation& rotation : m_rotations) listOlder(rotation);
     if (!m_list.write(m_folder)) return dropNewCopies();
     for (Rotation& rotation : m_rotations)
-      if (store::putInPlace(pathOf(1, rotation), m_watch)) m_list.put(rotation.name(1), rotation.newSum);
+      if (store::putInPlace(pathOf(1, rotation), m_watch)) {
+        store::dropJournal(pathOf(1, rotation));
+        m_list.put(rotation.name(1), rotation.newSum);
+      }
     store::syncFolder(m_folder);
     m_list.forgetAnnounced();
     m_list.keepStanding(m_folder);
@@ -112,8 +115,9 @@ class Generations {
     const QByteArray& sum = rotation.sums[static_cast<size_t>(place)];
     if (sum.isEmpty() || rotation.pushedBefore || place == rotation.places()) return;
     const QString from = pathOf(place, rotation), to = pathOf(place + 1, rotation);
-    if (store::isSameFile(from, to) || store::pushOnto(from, to, m_watch))
-      rotation.sums[static_cast<size_t>(place) + 1] = sum;
+    if (!store::isSameFile(from, to) && !store::pushOnto(from, to, m_watch)) return;
+    store::dropJournal(to);
+    rotation.sums[static_cast<size_t>(place) + 1] = sum;
   }
 
   void listOlder(const Rotation& rotation) {

@@ -213,6 +213,8 @@ Done putInPlace(const QString& target, const CopyWatch& watch) {
   return text::systemFault(text::FileAction::Write, target, error);
 }
 
+void dropJournal(const QString& target) { QFile::remove(target + QStringLiteral("-journal")); }
+
 Done pushOnto(const QString& standing, const QString& target, const CopyWatch& watch) {
   const QString beside = besideName(target);
   QFile::remove(beside);

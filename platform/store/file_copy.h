@@ -88,6 +88,10 @@ class CopyBatch {
 /// The copy beside takes the place of the target.
 Done putInPlace(const QString& target, const CopyWatch& watch = {});
 
+/// For a database file that was put in place of another: a journal that a program left beside the old one
+/// would be taken back into the new one by whoever opens it first.
+void dropJournal(const QString& target);
+
 /// The target becomes the same file as the one that stands: by a second name where the folder knows such,
 /// else as a copy. The file that stands stays.
 Done pushOnto(const QString& standing, const QString& target, const CopyWatch& watch = {});

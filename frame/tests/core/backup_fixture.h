@@ -50,6 +50,51 @@ inline void scribble(const QString& path, qint64 at) {
   ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(at) && file.write(QByteArray(300, '\x55')) == 300);
 }
 
+/// Another program that holds a file open while the test goes on.
+class OtherProgram {
+ public:
+  /// Runs the texts on one handle, then waits; `dies` ends without tidying up instead.
+  OtherProgram(const QString& path, const QByteArray& sql, bool dies = false) {
+    int ready[2];
+    EXPECT_EQ(::pipe(ready), 0);
+    m_child = ::fork();
+    if (m_child == 0) {
+      sqlite3* handle = nullptr;
+      const bool done = sqlite3_open(QFile::encodeName(path).constData(), &handle) == SQLITE_OK &&
+                        sqlite3_exec(handle, sql.constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
+      if (::write(ready[1], done ? "y" : "n", 1) != 1 || dies) ::_exit(9);
+      for (;;) ::pause();
+    }
+    char answer = 0;
+    EXPECT_EQ(::read(ready[0], &answer, 1), 1);
+    EXPECT_EQ(answer, 'y');
+    ::close(ready[0]);
+    ::close(ready[1]);
+    if (dies) ::waitpid(std::exchange(m_child, 0), nullptr, 0);
+  }
+  ~OtherProgram() {
+    if (m_child == 0) return;
+    ::kill(m_child, SIGKILL);
+    ::waitpid(m_child, nullptr, 0);
+  }
+
+ private:
+  pid_t m_child = 0;
+};
+
+/// Lets a program die in the middle of a write, so that the file stands half written beside its journal.
+/// `before`: its bytes before that write.
+inline void leaveJournal(const QString& path, QByteArray* before = nullptr) {
+  ASSERT_TRUE(
+      runOn(path,
+            "CREATE TABLE big(x); INSERT INTO big SELECT zeroblob(3000) FROM "
+            "(WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<200) SELECT i FROM n)"));
+  if (QFile file(path); before && file.open(QIODevice::ReadOnly)) *before = file.readAll();
+  const OtherProgram died(
+      path, "PRAGMA cache_size=5; BEGIN; UPDATE big SET x=randomblob(3000); PRAGMA user_version=77", true);
+  ASSERT_TRUE(QFileInfo::exists(path + QStringLiteral("-journal")));
+}
+
 /// A program folder with all twelve files, each with a number by which its copies are told apart.
 class BackupTest : public testing::Test {
  protected:
@@ -144,38 +189,6 @@ class BackupTest : public testing::Test {
   }
   QTemporaryDir m_folder{pattern()};
   RunState run;
-};
-
-/// Another program that holds a file open while the test goes on.
-class OtherProgram {
- public:
-  /// Runs the texts on one handle, then waits; `dies` ends without tidying up instead.
-  OtherProgram(const QString& path, const QByteArray& sql, bool dies = false) {
-    int ready[2];
-    EXPECT_EQ(::pipe(ready), 0);
-    m_child = ::fork();
-    if (m_child == 0) {
-      sqlite3* handle = nullptr;
-      const bool done = sqlite3_open(QFile::encodeName(path).constData(), &handle) == SQLITE_OK &&
-                        sqlite3_exec(handle, sql.constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
-      if (::write(ready[1], done ? "y" : "n", 1) != 1 || dies) ::_exit(9);
-      for (;;) ::pause();
-    }
-    char answer = 0;
-    EXPECT_EQ(::read(ready[0], &answer, 1), 1);
-    EXPECT_EQ(answer, 'y');
-    ::close(ready[0]);
-    ::close(ready[1]);
-    if (dies) ::waitpid(std::exchange(m_child, 0), nullptr, 0);
-  }
-  ~OtherProgram() {
-    if (m_child == 0) return;
-    ::kill(m_child, SIGKILL);
-    ::waitpid(m_child, nullptr, 0);
-  }
-
- private:
-  pid_t m_child = 0;
 };
 
 }  // namespace frame::test

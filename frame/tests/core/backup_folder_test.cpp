@@ -198,6 +198,16 @@ TEST_F(BackupFolderTest, AHalfOfTheClaimsThatFailsKeepsBackTheOther) {
   EXPECT_EQ(besides(folder()), QStringList());
 }
 
+// A copy that was worked with, and whose program died, is a copy that stands like any other.
+TEST_F(BackupFolderTest, AJournalBesideAnOlderCopyIsNotTakenBackIntoTheNewOne) {
+  ASSERT_TRUE(backUpToFolder(run, folder()).whole());
+  test::leaveJournal(copy(test::kPatientsFile));
+  stampAll(2);
+  ASSERT_TRUE(backUpToFolder(run, folder()).whole());
+  expectCopies(2);
+  EXPECT_EQ(bytesOf(copy(test::kPatientsFile)), bytesOf(live(test::kPatientsFile)));
+}
+
 TEST_F(BackupFolderTest, AFileThatIsLockedIsTold) {
   const auto database = store::Database::open(live(test::kPatientsFile));
   ASSERT_TRUE(database.ok());
