@@ -107,7 +107,8 @@ class FolderBackup {
     }
     const Pictures pictures = listPictures(root);
     for (const QString& folder : QStringList{QStringLiteral(".")} + pictures.folders) {
-      const QString source = root + u'/' + folder, target = m_folder + u'/' + name + u'/' + folder;
+      const QString source = QDir::cleanPath(root + u'/' + folder);
+      const QString target = QDir::cleanPath(m_folder + u'/' + name + u'/' + folder);
       errno = 0;
       if (!QFileInfo(source).isReadable())
         m_report.pictureFaults.push_back(text::systemFault(text::FileAction::Read, source, EACCES));
@@ -179,11 +180,15 @@ text::Done checkBackupFolder(const RunState& run, const QString& folder) {
   if (liesIn(target, pictures)) return refuse(u"人体図のフォルダの中にあります。");
   if (liesIn(target, real(run.programFolder + QStringLiteral("/backup"))))
     return refuse(u"治療台帳が自動でバックアップするフォルダです。");
-  if (!pictures.isEmpty() && target == real(QFileInfo(picturesOf(run)).path()))
-    return refuse(u"元のデータのあるフォルダです。");
+  // Where a path is a link, the file's own folder is meant as well as the link's.
+  const auto holds = [&](const QString& path) {
+    return target == real(QFileInfo(path).path()) ||
+           (QFileInfo::exists(path) && target == QFileInfo(real(path)).path());
+  };
+  if (!pictures.isEmpty() && holds(picturesOf(run))) return refuse(u"元のデータのあるフォルダです。");
   for (const BackupGroup& group : backupGroups(run))
     for (const BackupFile& file : group)
-      if (target == real(QFileInfo(file.path).path())) return refuse(u"元のデータのあるフォルダです。");
+      if (holds(file.path)) return refuse(u"元のデータのあるフォルダです。");
   return {};
 }
 

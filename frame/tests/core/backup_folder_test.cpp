@@ -292,6 +292,20 @@ TEST_F(BackupFolderTest, PlacesThatAreNoPlaceForCopiesAreRefused) {
   run.folders[folder::kFees] = program(QStringLiteral("shared/料金設定2000.mdb"));
   EXPECT_TRUE(why(program(QStringLiteral("shared"))).contains(u"元のデータのあるフォルダです。"));
   EXPECT_EQ(why(folder()), QString());
+  const QString doctors = QStringLiteral("同意医師2000.mdb");
+  ASSERT_TRUE(QFile::rename(live(doctors), copy(doctors)) && QFile::link(copy(doctors), live(doctors)));
+  EXPECT_TRUE(why(folder()).contains(u"元のデータのあるフォルダです。")) << "behind a link";
+}
+
+TEST_F(BackupFolderTest, APictureFolderThatCannotBeMadeIsTold) {
+  QFile inTheWay(copy(QStringLiteral("GDATA")));
+  ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+  inTheWay.close();
+  const BackupReport report = backUpToFolder(run, folder());
+  EXPECT_EQ(report.copied.size(), 12);
+  EXPECT_EQ(report.pictures, 0);
+  EXPECT_TRUE(told(report)[0].startsWith(u"「GDATA」に書き込むことができません。"))
+      << told(report)[0].toStdString();
 }
 
 TEST_F(BackupFolderTest, ManyPicturesThatFailAreCounted) {
