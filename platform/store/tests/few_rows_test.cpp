@@ -1,5 +1,8 @@
 #include <sqlite3.h>
 
+#include <functional>
+#include <random>
+
 #include "platform/store/bulk.h"
 #include "platform/store/tests/store_fixture.h"
 #include "platform/text/fold.h"
@@ -202,6 +205,70 @@ TEST_F(FewRowsTest, AFileThatWasPutBackIsNeverWrittenPast) {
   ASSERT_TRUE(again.edit().ok() && again.setValue(kDate, QStringLiteral("2030/1/1")).ok());
   ASSERT_TRUE(again.update().ok());
   EXPECT_EQ(ofKey(key)->value(kDate), QStringLiteral("2030/1/1"));
+}
+
+// Whoever writes, and whether this program looked in between or not: a search gives what a scan of the file
+// gives.
+TEST_F(FewRowsTest, HandsOfEveryKindAreSeenByTheNextSearch) {
+  std::mt19937 random{5};
+  RecordSet mine = openSet(kFile, kTable);
+  Connection connection;
+  ASSERT_TRUE(connection.open(connectionString(path(kFile))).ok());
+  QByteArray kept = bytesOf(path(kFile));
+  const auto key = [&] { return QStringLiteral("2024%1").arg(random() % 4, 4, 10, QLatin1Char('0')); };
+  const auto id = [&] { return QString::number(random() % kRows + 1); };
+  const auto onSomeRow = [&](const std::function<bool()>& work) {
+    mine.setAbsolutePosition(static_cast<int>(random() % static_cast<unsigned>(mine.recordCount())));
+    if (!work()) mine.cancelUpdate();  // another one changed or deleted it
+  };
+  const std::function<void()> hands[] = {
+      [&] { onSomeRow([&] { return mine.edit() && mine.setValue(kKey, key()) && mine.update(); }); },
+      [&] { onSomeRow([&] { return mine.remove().ok(); }); },
+      [&] {
+        add(mine, {{kKey, key()}, {kDate, QStringLiteral("2025/1/1")}});
+      },
+      [&] {
+        (void)connection.execute(
+            QStringLiteral("UPDATE カルテ SET ETC1 = '%1' WHERE ID = %2").arg(key(), id()));
+      },
+      [&] { elsewhere(QStringLiteral("UPDATE カルテ SET ETC1='%1' WHERE ID=%2").arg(key(), id()).toUtf8()); },
+      [&] { elsewhere(QStringLiteral("INSERT INTO カルテ (ETC1) VALUES ('%1')").arg(key()).toUtf8()); },
+      [&] { elsewhere(QStringLiteral("DELETE FROM カルテ WHERE ID=%1").arg(id()).toUtf8()); },
+      [&] { kept = bytesOf(path(kFile)); },
+      [&] {
+        QFile file(path(kFile));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.write(kept) == kept.size());
+        ASSERT_TRUE(file.resize(kept.size()));
+        file.close();
+        add(mine, {{kKey, key()}});
+      },
+  };
+  for (int step = 0; step < 200; ++step) {
+    const size_t hand = random() % std::size(hands);
+    hands[hand]();
+    if (HasFatalFailure()) return;
+    if (random() % 2) continue;
+    if (random() % 8 == 0) {
+      ASSERT_TRUE(mine.refresh().ok());
+    }
+    const QString sought = key();
+    QList<qint64> wanted;
+    sqlite3* other = nullptr;
+    sqlite3_stmt* rows = nullptr;
+    ASSERT_EQ(sqlite3_open(QFile::encodeName(path(kFile)).constData(), &other), SQLITE_OK);
+    ASSERT_EQ(sqlite3_prepare_v2(other, "SELECT ID, ETC1 FROM カルテ ORDER BY ID", -1, &rows, nullptr),
+              SQLITE_OK);
+    while (sqlite3_step(rows) == SQLITE_ROW) {
+      const auto* text = static_cast<const QChar*>(sqlite3_column_text16(rows, 1));
+      if (text && text::foldForComparison(QString(text)).contains(text::foldForComparison(sought)))
+        wanted += sqlite3_column_int64(rows, 0);
+    }
+    sqlite3_finalize(rows);
+    sqlite3_close(other);
+    Result<RecordSet> found = ofKey(sought);
+    ASSERT_TRUE(found.ok());
+    ASSERT_EQ(idsOf(*found), wanted) << "step " << step << " hand " << hand;
+  }
 }
 
 TEST_F(FewRowsTest, ValuesWithoutQuotesNarrowOneAfterAnother) {
