@@ -53,10 +53,6 @@ void RegisterScreen::opened(const screen::Request& request) {
 
 // ---- The row on view ----
 
-bool RegisterScreen::holdsRow() const {
-  return source().isOpen() && (source().rows().adding() || source().rows().absolutePosition() >= 0);
-}
-
 QStringList RegisterScreen::texts() const {
   QStringList texts;
   for (size_t i = 0; i < m_list.fields.size(); ++i) texts << text(field(qsizetype(i)));
@@ -96,7 +92,7 @@ bool RegisterScreen::offerNew(const QStringList& texts) {
 void RegisterScreen::startNew() {
   if (!source().ready()) return;
   // Typed before 新規 into a register without rows: it is what the new row is to hold.
-  if (!holdsRow() && source().pending()) {
+  if (!source().holdsRow() && source().pending()) {
     m_offered.clear();
     if (source().addNewAsShown()) focusOn(field(0));
     return;
@@ -110,13 +106,13 @@ void RegisterScreen::store() {
     messages().tell(blankFieldText(words(m_list.fields[size_t(blank)].label)));
     return focusOn(field(blank));
   }
-  if ((!holdsRow() && !source().addNewAsShown()) || !source().write()) return;
+  if ((!source().holdsRow() && !source().addNewAsShown()) || !source().write()) return;
   voice().speakText(words(kStored) + voice::kSpeechSeparator + text(field(0)));
 }
 
 void RegisterScreen::remove() {
   if (!source().ready()) return;
-  if (!holdsRow()) return messages().tell(words(kNothingToDelete));
+  if (!source().holdsRow()) return messages().tell(words(kNothingToDelete));
   if (!messages().ask(words(m_list.deleteQuestion))) return;
   if (source().rows().adding())  // it was never stored
     source().drop();

@@ -39,7 +39,6 @@ class RegisterScreen final : public screen::Screen {
 
  private:
   bool leaveRow();
-  bool holdsRow() const;
   /// What the fields show, in their order.
   QStringList texts() const;
   /// A new row with the texts, which were not typed: leaving it loses nothing.

@@ -101,9 +101,7 @@ void BookingScreen::showBooking(qint64 id) {
   source().assign(std::move(*hit));
 }
 
-bool BookingScreen::hasBooking() const {
-  return source().isOpen() && (source().rows().adding() || source().rows().absolutePosition() >= 0);
-}
+bool BookingScreen::hasBooking() const { return source().holdsRow(); }
 
 QStringList BookingScreen::fields() const {
   QStringList texts;

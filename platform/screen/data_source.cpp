@@ -20,6 +20,10 @@ bool DataSource::open(const QString& path, const QString& table) {
   return true;
 }
 
+bool DataSource::holdsRow() const {
+  return m_rows.isOpen() && (m_rows.adding() || m_rows.absolutePosition() >= 0);
+}
+
 bool DataSource::ready() {
   if (!isOpen()) m_screen.messages().tellDataFault(m_openFault);
   return isOpen();
@@ -31,7 +35,7 @@ void DataSource::assign(store::RecordSet rows) {
 }
 
 void DataSource::show() {
-  const bool hasRow = m_rows.isOpen() && (m_rows.adding() || m_rows.absolutePosition() >= 0);
+  const bool hasRow = holdsRow();
   for (Control* control : m_screen.m_parts->book.boundTo(m_number))
     control->load(hasRow ? m_rows.value(control->column()) : store::Value());
   for (GridControl* grid : m_screen.m_parts->book.gridsOf(m_number)) grid->follow();

@@ -19,6 +19,8 @@ class DataSource {
   /// Opens the table of the file; on a fault tells it and stays closed (the screen still works).
   bool open(const QString& path, const QString& table);
   bool isOpen() const { return m_rows.isOpen(); }
+  /// A row stands on the screen, stored or being added.
+  bool holdsRow() const;
   /// For a command that needs the file: what kept it from opening is told again. False: told.
   bool ready();
   store::RecordSet& rows() { return m_rows; }

@@ -42,10 +42,6 @@ void DictionaryScreen::askForEntry() {
   say({QString::fromUtf16(m_row.newRow)});
 }
 
-bool DictionaryScreen::holdsRow() const {
-  return source().isOpen() && (source().rows().adding() || source().rows().absolutePosition() >= 0);
-}
-
 void DictionaryScreen::say(const QStringList& parts) {
   QStringList spoken;
   for (const QString& part : parts)
@@ -56,7 +52,7 @@ void DictionaryScreen::say(const QStringList& parts) {
 // ---- Moves ----
 
 bool DictionaryScreen::leaveRow() {
-  if (!holdsRow()) return true;
+  if (!source().holdsRow()) return true;
   if (!blankNewRow()) return source().write();
   source().drop();
   return true;
@@ -87,13 +83,13 @@ void DictionaryScreen::goLast() { step(&screen::DataSource::moveLast); }
 void DictionaryScreen::store() {
   if (!source().ready()) return;
   if (blankNewRow()) return askForEntry();
-  if ((!holdsRow() && !source().addNewAsShown()) || !source().write()) return;
+  if ((!source().holdsRow() && !source().addNewAsShown()) || !source().write()) return;
   say(QStringList{QString::fromUtf16(kStored)} + onView());
 }
 
 void DictionaryScreen::remove() {
   if (!source().ready()) return;
-  if (!holdsRow()) return messages().tell(QString::fromUtf16(kNothingToDelete));
+  if (!source().holdsRow()) return messages().tell(QString::fromUtf16(kNothingToDelete));
   if (!messages().ask(QString::fromUtf16(kDeleteQuestion), screen::Buttons::OkCancel,
                       QString::fromUtf16(kDeleteTitle)))
     return;

@@ -41,7 +41,6 @@ class DictionaryScreen : public screen::Screen {
   virtual QStringList onView() const { return {entry()}; }
   /// The text that is copied.
   QString entry() const;
-  bool holdsRow() const;
   /// Puts the text on the clipboard in place of what was there.
   void copyEntry();
   /// Goes to the first field of a new row and says how it is filled.
