@@ -1,5 +1,6 @@
 #include "records/screens/visit_ledger_screen.h"
 
+#include "platform/screen/hourglass.h"
 #include "platform/store/growth.h"
 #include "records/core/visit_dates.h"
 #include "records/screens/visit_ledger_rows.h"
@@ -51,8 +52,11 @@ void VisitLedgerScreen::opened(const screen::Request& request) {
   hideGrid();
   for (const QString& month : {u"Text1"_s, u"txtFields(115)"_s})
     setText(month, presentMonthText(m_run.eraDates()));
-  if (!openWhole()) return;
-  m_offersFirst = !putPatient() || !holdsRows();
+  {
+    const screen::Hourglass counting;
+    if (!openWhole()) return;
+    m_offersFirst = !putPatient() || !holdsRows();
+  }
   if (isVisible()) say(openingTexts());
 }
 
@@ -93,7 +97,7 @@ bool VisitLedgerScreen::openWhole() {
   return source().open(m_run.folders[frame::folder::kVisits], u"カルテ"_s);
 }
 
-QStringList VisitLedgerScreen::onView() const {
+QStringList VisitLedgerScreen::rowOnView() const {
   if (!onVisit()) return {caption(u"LabelCount"_s), caption(u"Label14"_s)};
   QStringList parts{caption(u"Data1"_s)};
   for (const QString& field : {u"txtFields(2)"_s, u"txtFields(3)"_s})
@@ -105,16 +109,6 @@ void VisitLedgerScreen::say(const QStringList& parts) {
   messages().holdSpeech();
   voice().speakHeading(parts);
 }
-
-void VisitLedgerScreen::step(void (screen::DataSource::*move)()) {
-  (source().*move)();
-  voice().speakHeading(onView());
-}
-
-void VisitLedgerScreen::goFirst() { step(&screen::DataSource::moveFirst); }
-void VisitLedgerScreen::goPrevious() { step(&screen::DataSource::movePrevious); }
-void VisitLedgerScreen::goNext() { step(&screen::DataSource::moveNext); }
-void VisitLedgerScreen::goLast() { step(&screen::DataSource::moveLast); }
 
 // What the file keeps refusing (read only, deleted by another computer) must not lock the user in.
 void VisitLedgerScreen::leave() {

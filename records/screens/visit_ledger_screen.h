@@ -33,10 +33,6 @@ class VisitLedgerScreen : public screen::ListScreen {
   bool onCloseBox() override;
   QStringList openingTexts() const override;
   void rowShown(int sourceNumber) override;
-  void goFirst() override;
-  void goPrevious() override;
-  void goNext() override;
-  void goLast() override;
   void leave();
 
   // One visit: visit_ledger_visit.cpp.
@@ -75,6 +71,7 @@ class VisitLedgerScreen : public screen::ListScreen {
   bool openWhole() override;
   QString noRowsText() const override;
   QString noRowsToSortText() const override;
+  QStringList rowOnView() const override;
   void setChanged(const QString& done) override;
 
  private:
@@ -92,8 +89,6 @@ class VisitLedgerScreen : public screen::ListScreen {
   bool writeVisit();
   void convertDates(QString (frame::EraDates::*conversion)(const QString&) const);
   screen::Request patient() const;
-  void step(void (screen::DataSource::*move)());
-  QStringList onView() const;
   /// Speaks a result that the next focus waits behind.
   void say(const QStringList& parts);
 

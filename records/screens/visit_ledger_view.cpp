@@ -34,7 +34,7 @@ bool VisitLedgerScreen::sortBy(const QString& order) { return settleVisit() && L
 void VisitLedgerScreen::setChanged(const QString& /*done*/) { tellView(); }
 
 void VisitLedgerScreen::tellView() {
-  say(QStringList{caption(u"LabelCount"_s), caption(u"Label14"_s)} + onView());
+  say(QStringList{caption(u"LabelCount"_s), caption(u"Label14"_s)} + rowOnView());
   focusOn(u"DBGrid1"_s);
 }
 

@@ -89,7 +89,7 @@ void VisitLedgerScreen::deleteVisit() {
   } else if (!source().remove()) {
     return;
   }
-  say(QStringList{u"削除しました"_s} + onView());
+  say(QStringList{u"削除しました"_s} + rowOnView());
 }
 
 void VisitLedgerScreen::fillToday() {
