@@ -49,23 +49,20 @@ void VisitLedgerScreen::opened(const screen::Request& request) {
   m_birth = request.value(u"生年月日"_s).toString();
   m_opener = request.value(u"opener"_s).toString();
   m_newRowPending = false;
+  m_onceActive.set(nullptr);
   hideGrid();
   for (const QString& month : {u"Text1"_s, u"txtFields(115)"_s})
     setText(month, presentMonthText(m_run.eraDates()));
   {
     const screen::Hourglass counting;
     if (!openWhole()) return;
-    m_offersFirst = !putPatient() || !holdsRows();
+    if (!putPatient() || !holdsRows()) m_onceActive.set([this] { offerFirstVisit(); });
   }
   if (isVisible()) say(openingTexts());
 }
 
-// The question for a first visit waits until the ledger has the keyboard: asked before it, it would lie
-// behind.
 void VisitLedgerScreen::onActivate() {
-  if (std::exchange(m_offersFirst, false))
-    QMetaObject::invokeMethod(
-        this, [this] { offerFirstVisit(); }, Qt::QueuedConnection);
+  m_onceActive.run(*this);
   // The claim form may have stored the claim of the grid meanwhile.
   if (onClaim() && !claimPending()) readClaimAgain();
 }

@@ -5,6 +5,7 @@
 #include "claims/core/rule_dates.h"
 #include "frame/core/run_state.h"
 #include "platform/screen/list_screen.h"
+#include "platform/screen/once_active.h"
 #include "records/core/grid_claim.h"
 #include "records/core/previous_visit.h"
 
@@ -113,7 +114,7 @@ class VisitLedgerScreen : public screen::ListScreen {
   PreviousVisit& m_previous;
   QString m_key, m_name, m_birth, m_opener;
   bool m_newRowPending = false;      ///< from 新規追加 until 登録
-  bool m_offersFirst = false;        ///< カルテ2の新規 comes up once the window has the keyboard
+  screen::OnceActive m_onceActive;   ///< the question for a first visit
   std::optional<GridClaim> m_claim;  ///< while the grid is shown
   claims::MonthFlags m_flags;
 };
