@@ -2,6 +2,7 @@
 
 #include <QtWidgets/QtWidgets>
 
+#include "platform/screen/accessibility.h"
 #include "platform/screen/layout.h"
 #include "platform/voice/voice_guide.h"
 
@@ -41,13 +42,12 @@ CalendarControl::CalendarControl(Screen& screen, const Calendar& row, QWidget* p
       m_dayText(row.dayText),
       m_box(new QWidget(parent)),
       m_field(new QLineEdit(m_box)),
-      m_sheet(new QCalendarWidget(m_box)),
+      m_sheet(makeSheet(m_box)),
       m_voice(voice) {
   m_field->setObjectName(m_name);
   m_field->setReadOnly(true);
   constexpr int kLongestDay = 16;
   fitWidth(m_field, kLongestDay);
-  makeSheet();
   auto* column = new QVBoxLayout(m_box);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(m_field);
@@ -58,21 +58,24 @@ CalendarControl::CalendarControl(Screen& screen, const Calendar& row, QWidget* p
 }
 
 // The sheet is looked at and clicked; the keyboard and the ear stay in the field.
-void CalendarControl::makeSheet() {
-  m_sheet->setLocale(QLocale(QLocale::Japanese, QLocale::Japan));
-  m_sheet->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-  m_sheet->setGridVisible(true);
-  const QList<QWidget*> parts = m_sheet->findChildren<QWidget*>();
+QCalendarWidget* CalendarControl::makeSheet(QWidget* parent) {
+  const UntoldChange untold;
+  auto* sheet = new QCalendarWidget(parent);
+  sheet->setLocale(QLocale(QLocale::Japanese, QLocale::Japan));
+  sheet->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  sheet->setGridVisible(true);
+  const QList<QWidget*> parts = sheet->findChildren<QWidget*>();
   for (QWidget* part : parts) part->setFocusPolicy(Qt::NoFocus);
-  m_sheet->setFocusPolicy(Qt::NoFocus);
-  m_sheet->setAccessibleName(QStringLiteral("月の暦"));
+  sheet->setFocusPolicy(Qt::NoFocus);
+  sheet->setAccessibleName(QStringLiteral("月の暦"));
   constexpr std::pair<const char*, const char16_t*> kNames[] = {
       {"qt_calendar_prevmonth", u"前の月"},     {"qt_calendar_nextmonth", u"次の月"},
       {"qt_calendar_monthbutton", u"月の選択"}, {"qt_calendar_yearbutton", u"年の選択"},
       {"qt_calendar_yearedit", u"年"},          {"qt_calendar_calendarview", u"月の暦"}};
   for (const auto& [part, name] : kNames)
-    if (auto* widget = m_sheet->findChild<QWidget*>(QLatin1String(part)))
+    if (auto* widget = sheet->findChild<QWidget*>(QLatin1String(part)))
       widget->setAccessibleName(QString::fromUtf16(name));
+  return sheet;
 }
 
 QList<QWidget*> CalendarControl::focusWidgets() const { return {m_field}; }
@@ -86,6 +89,8 @@ void CalendarControl::setDay(const QDate& day) {
   m_day = within;
   m_field->setText(m_dayText(m_screen, within));
   m_field->setCursorPosition(0);
+  // Its cell would be told as the new focus, and screen readers would leave the field.
+  const UntoldChange untold;
   quietly([&] { m_sheet->setSelectedDate(within); });
 }
 

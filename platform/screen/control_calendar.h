@@ -26,7 +26,7 @@ class CalendarControl : public Control {
   void setDay(const QDate& day);
 
  private:
-  void makeSheet();
+  static QCalendarWidget* makeSheet(QWidget* parent);
   void moveTo(const QDate& day);
   DayText m_dayText;
   QWidget* m_box;

@@ -43,11 +43,22 @@ GridView::GridView(QWidget* parent) : QTableView(parent) {
 void GridView::focusInEvent(QFocusEvent* event) {
   showKeyboard(true);
   QTableView::focusInEvent(event);
+  // Screen readers are told of the table first; its cell is what they read.
+  const auto tellCell = [this] {
+    if (hasFocus() && currentIndex().isValid()) QTableView::currentChanged(currentIndex(), currentIndex());
+  };
+  QMetaObject::invokeMethod(this, tellCell, Qt::QueuedConnection);
 }
 
 void GridView::focusOutEvent(QFocusEvent* event) {
   QTableView::focusOutEvent(event);
   showKeyboard(hasFocus());
+}
+
+// A table tells screen readers that the focus is on its new cell also where it is elsewhere, and they follow.
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  if (hasFocus()) return QTableView::currentChanged(current, previous);
+  QAbstractItemView::currentChanged(current, previous);
 }
 
 void GridView::showKeyboard(bool here) {

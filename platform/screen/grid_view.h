@@ -17,6 +17,7 @@ class GridView : public QTableView {
  protected:
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
  private:
   /// The current row is strong in colour where the keyboard is in the table, pale elsewhere.

@@ -153,6 +153,7 @@ def booking_heard(on):
     on.desk.wait_spoken(re.compile("令和6年11月8日.*予約 1 件"), on.mark)
     row, = on.desk.rows()
     assert row[1] == "見本　太郎" and row[4] == "8", row
+    calendar_walked(on)
     on.press("週間表")
     on.question("該当がありません。", "OK")  # nothing today
     on.back_at("予約週間表")
@@ -162,10 +163,33 @@ def booking_heard(on):
         on.desk.wait_window("予約週間表")
     on.desk.keys("Right")
     on.desk.wait_spoken(re.compile("令和6年11月8日金曜日.*予約 1 件"), on.mark)
+    assert focus_told(on)[-1].role == "page tab", "a screen reader stays on the days"
     row, = on.desk.rows()
     assert row[1] == "見本　太郎", row
+    on.desk.tab()
+    on.hears_the_focus("予約週間表")
+    assert focus_told(on)[-1].role == "table cell", "a screen reader gets to the cell with the table"
     on.press("閉じる")
     on.at("選択")
+
+
+def focus_told(on, mark=0):
+    """What screen readers were told to be in focus."""
+    return [event[3] for event in on.desk.bus.events.since(mark) if event[1] == "Focus:Focus"]
+
+
+def calendar_walked(on):
+    """Each key says its day; a screen reader stays in the field and is not sent to the cells of the sheet."""
+    on.press("カレンダー表示")
+    on.at("予約カレンダー")
+    for key, day in (("Right", "令和6年11月6日水曜日"), ("Down", "令和6年11月13日水曜日"), ("Home", "令和6年11月1日金曜日")):
+        told = on.desk.bus.events.mark()
+        on.desk.keys(key)
+        on.desk.wait_spoken(day, on.mark)
+        assert focus_told(on, told) == [], focus_told(on, told)
+        assert on.desk.focus().text == day, on.desk.focus().text
+    on.desk.keys("Escape")
+    on.back_at("今日の予約")
 
 
 def takings_heard(on):

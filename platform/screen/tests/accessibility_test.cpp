@@ -27,6 +27,21 @@ bool isInView(const QWidget* widget, const QWidget* window) {
   return window->rect().contains(place);
 }
 
+// What is told itself is heard on a desk with accessibility only: the journeys listen there.
+TEST(UntoldChanges, EndWithTheHandlerThatWasThere) {
+  const auto handler = [](QAccessibleEvent*) {};
+  const QAccessible::UpdateHandler before = handler;
+  QAccessible::installUpdateHandler(before);
+  {
+    const UntoldChange untold;
+    const QAccessible::UpdateHandler meanwhile = QAccessible::installUpdateHandler(nullptr);
+    EXPECT_NE(meanwhile, nullptr);
+    EXPECT_NE(meanwhile, before);
+    QAccessible::installUpdateHandler(meanwhile);
+  }
+  EXPECT_EQ(QAccessible::installUpdateHandler(nullptr), before);
+}
+
 TEST(SmallWindow, ScrollsToTheControlWithTheFocus) {
   Desk desk;
   SampleScreen screen(desk.services);
