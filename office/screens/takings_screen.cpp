@@ -49,9 +49,7 @@ void TakingsScreen::onActivate() { m_onceActive.run(*this); }
 
 QStringList TakingsScreen::openingTexts() const { return QStringList{windowTitle()} + countOnView(); }
 
-bool TakingsScreen::openWhole() {
-  return source().open(m_run.folders[frame::folder::kVisits], u"カルテ"_s);
-}
+bool TakingsScreen::openWhole() { return source().open(m_run.folders[frame::folder::kVisits], u"カルテ"_s); }
 
 QString TakingsScreen::noRowsText() const { return kNoRows; }
 

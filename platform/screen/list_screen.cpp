@@ -29,7 +29,9 @@ bool ListScreen::put(const QString& criteria, const QString& order) {
   return set.has_value();
 }
 
-bool ListScreen::narrowBy(const QString& criteria) { return narrow(criteria, QStringLiteral("抽出しました")); }
+bool ListScreen::narrowBy(const QString& criteria) {
+  return narrow(criteria, QStringLiteral("抽出しました"));
+}
 
 bool ListScreen::narrow(const QString& criteria, const QString& done) {
   if (emptySet(noRowsText())) return false;

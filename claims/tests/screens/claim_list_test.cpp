@@ -71,7 +71,8 @@ TEST_F(ClaimListTest, SaysHowManyClaimsAreOnView) {
   EXPECT_TRUE(m_channel.said().contains(qs(u"抽出しました") + voice::kSpeechSeparator + qs(u"2件です。")));
   m_channel.clear();
   press(u"cmdRefresh");
-  EXPECT_TRUE(m_channel.said().contains(qs(u"全患者を表示しました") + voice::kSpeechSeparator + qs(u"3件です。")));
+  EXPECT_TRUE(
+      m_channel.said().contains(qs(u"全患者を表示しました") + voice::kSpeechSeparator + qs(u"3件です。")));
 }
 
 TEST_F(ClaimListTest, ASearchSeesNoDifferenceOfWidthAndKana) {

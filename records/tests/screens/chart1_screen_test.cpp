@@ -46,8 +46,7 @@ TEST_F(Chart1Test, OpensOnThePatientAndSaysWho) {
   EXPECT_EQ(screen.windowTitle(), u"カルテ１"_s);
   EXPECT_EQ(nameOn(screen), u"例示 花子"_s);
   EXPECT_EQ(screen.text(u"txtFields(27)"_s), u"鍼"_s);
-  EXPECT_TRUE(
-      channel.said().contains(u"例示 花子"_s + voice::kSpeechSeparator + u"カルテ1を起動しました"_s));
+  EXPECT_TRUE(channel.said().contains(u"例示 花子"_s + voice::kSpeechSeparator + u"カルテ1を起動しました"_s));
 }
 
 TEST_F(Chart1Test, CalledForAnotherPatientWhileOpenItGoesThereAndSaysSo) {
@@ -137,7 +136,8 @@ TEST_F(Chart1Test, ARowThatChangedMeanwhileIsRefusedAndTheTextStays) {
   ASSERT_TRUE(other.update());
   answer({true});
   screen.trigger(u"cmdUpdate"_s);
-  EXPECT_TRUE(lastMessage().startsWith(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"_s)) << lastMessage().toStdString();
+  EXPECT_TRUE(lastMessage().startsWith(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"_s))
+      << lastMessage().toStdString();
   EXPECT_EQ(stored(u"治療"_s).last(), u"他の窓"_s);
   EXPECT_EQ(screen.text(u"txtFields(27)"_s), u"灸"_s);
 }
@@ -266,8 +266,7 @@ TEST_F(Chart1Test, TheMasterOpensItOnThePatientOnView) {
   screen::Screen* screen = navigator.loaded(u"治療台帳2"_s);
   ASSERT_NE(screen, nullptr);
   EXPECT_EQ(nameOn(*screen), u"例示 花子"_s);
-  EXPECT_TRUE(
-      channel.said().contains(u"例示 花子"_s + voice::kSpeechSeparator + u"カルテ1を起動しました"_s));
+  EXPECT_TRUE(channel.said().contains(u"例示 花子"_s + voice::kSpeechSeparator + u"カルテ1を起動しました"_s));
 }
 
 }  // namespace
