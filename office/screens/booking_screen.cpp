@@ -60,11 +60,7 @@ QStringList BookingScreen::openingTexts() const {
   return texts + bookingOnView();
 }
 
-void BookingScreen::onActivate() {
-  if (!std::exchange(m_tellsNotFound, false)) return;
-  QMetaObject::invokeMethod(
-      this, [this] { screen::tellNotFound(*this); }, Qt::QueuedConnection);
-}
+void BookingScreen::onActivate() { m_onceActive.run(*this); }
 
 bool BookingScreen::openTable() {
   return source().open(m_run.folders[frame::folder::kAppointments], u"予約"_s);
@@ -97,7 +93,7 @@ void BookingScreen::showBooking(qint64 id) {
   auto hit = rows.openRecordset();
   rows.setFilter(QString());
   if (!hit) return messages().tellDataFault(hit.fault().message);
-  m_tellsNotFound = hit->recordCount() == 0;
+  if (hit->recordCount() == 0) m_onceActive.set([this] { screen::tellNotFound(*this); });
   source().assign(std::move(*hit));
 }
 

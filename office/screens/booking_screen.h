@@ -2,6 +2,7 @@
 
 #include "frame/core/run_state.h"
 #include "office/screens/day_lists.h"
+#include "platform/screen/once_active.h"
 #include "platform/screen/screen.h"
 
 namespace office {
@@ -68,7 +69,7 @@ class BookingScreen : public screen::Screen {
   frame::RunState& m_run;
   QString m_opener;
   QStringList m_shown;  ///< the fields as they were shown or filled in, before the user typed
-  bool m_tellsNotFound = false;
+  screen::OnceActive m_onceActive;
 };
 
 extern const screen::ScreenRow kBooking;

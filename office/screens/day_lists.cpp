@@ -11,6 +11,13 @@ namespace {
 
 const QString kYear = u"Combo1"_s, kMonth = u"Combo2"_s, kDay = u"Combo3"_s;
 
+/// The list to put right: the first without a number, else the year, which is out of the range of dates.
+QString wrongList(const screen::Screen& screen) {
+  for (const QString& list : {kYear, kMonth, kDay})
+    if (!dayTyped(u"1"_s, u"1"_s, screen.text(list))) return list;
+  return kYear;
+}
+
 }  // namespace
 
 void putDayLists(screen::Screen& screen, const frame::DayAsked& day) {
@@ -30,7 +37,7 @@ std::optional<ListedDay> askedDay(screen::Screen& screen) {
   auto day = dayOfLists(screen);
   if (!day) {
     screen.messages().tell(u"年、月、日を数字で入力して下さい。"_s);
-    screen.focusOn(kYear);
+    screen.focusOn(wrongList(screen));
   }
   return day;
 }

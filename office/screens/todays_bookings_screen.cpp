@@ -109,7 +109,8 @@ void TodaysBookingsScreen::showWeekday() {
 
 void TodaysBookingsScreen::extract() {
   const QString word = text(u"txtFields(0)"_s);
-  if (!word.isEmpty()) narrowBy(store::likeCriterion(text(u"Combo4"_s), word));
+  if (word.isEmpty()) return askFor(u"txtFields(0)"_s);
+  narrowBy(store::likeCriterion(text(u"Combo4"_s), word));
 }
 
 void TodaysBookingsScreen::showAll() {

@@ -210,6 +210,11 @@ TEST_P(DayPick, NoDateStaysWithWhatWasTyped) {
   EXPECT_EQ(told(), QStringList(kNoDate));
   EXPECT_TRUE(navigator.isShown(QString::fromUtf16(GetParam())));
   EXPECT_EQ(screen.text(u"Combo2"_s), u"七"_s);
+  EXPECT_EQ(screen.focused(), u"Combo2"_s) << "what is to be put right";
+  type(screen, u"99999"_s, u"7"_s, u"8"_s);
+  screen.trigger(u"Command1"_s);
+  EXPECT_EQ(told(), QStringList(kNoDate));
+  EXPECT_EQ(screen.focused(), u"Combo1"_s);
   EXPECT_FALSE(isShown(u"今日の予約"));
 }
 

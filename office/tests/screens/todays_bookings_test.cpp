@@ -224,6 +224,8 @@ TEST_F(TodaysBookings, ExtractingNarrowsByAPartOfTheText) {
   screen::Screen& screen = list();
   screen.trigger(u"Command3"_s);
   EXPECT_EQ(listed(screen).size(), 4) << "a blank text changes nothing";
+  EXPECT_EQ(screen.focused(), u"txtFields(0)"_s);
+  EXPECT_EQ(channel.lastSaid(), u"抽出する文字:"_s) << "and is not silent";
   screen.setText(u"txtFields(0)"_s, u"見本"_s);
   screen.trigger(u"Command3"_s);
   EXPECT_EQ(listed(screen), QStringList({u"見本　太郎"_s, u"見本　花子"_s}));
