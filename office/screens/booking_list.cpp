@@ -62,7 +62,8 @@ void BookingList::sayWithCount(const QStringList& parts) {
 
 void BookingList::sayRows(const QStringList& parts) {
   sayWithCount(parts);
-  if (focused() == u"DBGrid1" && holdsRows()) return voice().speakText(rowOnView().join(voice::kSpeechSeparator));
+  if (focused() == u"DBGrid1" && holdsRows())
+    return voice().speakText(rowOnView().join(voice::kSpeechSeparator));
   focusOn(u"DBGrid1"_s);
 }
 

@@ -38,8 +38,7 @@ inline constexpr const char16_t* kDays[] = {u"1",  u"2",  u"3",  u"4",  u"5",  u
 
 /// A list for a part of a date; every text may be typed as well.
 consteval screen::Combo dateList(const char16_t* name, const char16_t* caption, screen::Binding bind,
-                                 std::span<const char16_t* const> items,
-                                 screen::Handler onEnter = nullptr) {
+                                 std::span<const char16_t* const> items, screen::Handler onEnter = nullptr) {
   return screen::Combo{.name = {name},
                        .caption = caption,
                        .bind = bind,

@@ -135,9 +135,7 @@ void BookingScreen::goPrevious() { step(&screen::DataSource::movePrevious); }
 void BookingScreen::goNext() { step(&screen::DataSource::moveNext); }
 void BookingScreen::goLast() { step(&screen::DataSource::moveLast); }
 
-void BookingScreen::sayBooking(const QString& done) {
-  sayNext(QStringList{done} + bookingOnView());
-}
+void BookingScreen::sayBooking(const QString& done) { sayNext(QStringList{done} + bookingOnView()); }
 
 void BookingScreen::sayNext(const QStringList& parts) {
   messages().holdSpeech();

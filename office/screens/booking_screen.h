@@ -11,8 +11,8 @@ namespace office {
 /// two rows. Only 登録 and 閉じる store; whatever else leaves a booking asks before it drops what was typed.
 ///
 /// Request keys: "ID" (that booking), else a new booking is begun, for the patient of "患者ID", "氏名" and
-/// "テキスト5" where they are handed over; "opener": the list that 閉じる goes back to, before the caller's mark
-/// of the run is asked; "戻る": back to the booking on view.
+/// "テキスト5" where they are handed over; "opener": the list that 閉じる goes back to, before the caller's
+/// mark of the run is asked; "戻る": back to the booking on view.
 class BookingScreen : public screen::Screen {
  public:
   BookingScreen(screen::Services& services, frame::RunState& run);

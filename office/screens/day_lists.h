@@ -22,8 +22,8 @@ struct ListedDay {
 void putDayLists(screen::Screen& screen, const frame::DayAsked& day);
 /// nullopt where the lists hold no date.
 std::optional<ListedDay> dayOfLists(const screen::Screen& screen);
-/// The same for a command that needs one: where there is none that is told, and the list that holds no number, or
-/// else the year, has the focus.
+/// The same for a command that needs one: where there is none that is told, and the list that holds no
+/// number, or else the year, has the focus.
 std::optional<ListedDay> askedDay(screen::Screen& screen);
 
 }  // namespace office

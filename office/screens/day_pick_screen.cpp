@@ -40,9 +40,7 @@ std::span<const ScreenRow> dayPickScreens() { return kScreens; }
 DayPickScreen::DayPickScreen(const ScreenRow& declaration, Services& services, frame::RunState& run)
     : Screen(declaration, services), m_run(run) {}
 
-void DayPickScreen::opened(const Request&) {
-  putDayLists(*this, offeredDay(m_run));
-}
+void DayPickScreen::opened(const Request&) { putDayLists(*this, offeredDay(m_run)); }
 
 void DayPickScreen::pick() {
   const auto day = askedDay(*this);

@@ -61,9 +61,9 @@ bool TodaysBookingsScreen::openWhole() {
   return true;
 }
 
-void TodaysBookingsScreen::setChanged(const QString& /*done*/) {
+void TodaysBookingsScreen::setChanged(const QString& done) {
   m_narrowed = true;
-  sayRows({});
+  sayRows({done});
 }
 
 void TodaysBookingsScreen::rowShown(int) {

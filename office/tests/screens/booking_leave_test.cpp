@@ -172,8 +172,8 @@ TEST_F(BookingLeave, ANewBookingOnlyLeavesTheScreen) {
   form.trigger(u"cmdDelete"_s);
   EXPECT_EQ(stored(u"予約患者"_s), QStringList(u"見本"_s));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"見本"_s);
-  EXPECT_EQ(channel.lastSaid(), spoken({u"中止しました"_s, u"表示中の予約"_s, u"2024年6月15日"_s,
-                                        u"9 時 0 分"_s, u"見本"_s}));
+  EXPECT_EQ(channel.lastSaid(),
+            spoken({u"中止しました"_s, u"表示中の予約"_s, u"2024年6月15日"_s, u"9 時 0 分"_s, u"見本"_s}));
 }
 
 // ---- Nothing typed is lost unasked
@@ -236,8 +236,8 @@ TEST_F(BookingLeave, AddingAgainIsHeard) {
   screen::Screen& form = storedBooking();
   form.trigger(u"cmdAdd"_s);
   EXPECT_EQ(form.text(u"txtFields(2)"_s), QString());
-  EXPECT_TRUE(channel.heardWhole().contains(
-      spoken({u"新規追加"_s, u"2024年6月15日"_s, u"土曜日"_s, u"9 時 5 分"_s})))
+  EXPECT_TRUE(
+      channel.heardWhole().contains(spoken({u"新規追加"_s, u"2024年6月15日"_s, u"土曜日"_s, u"9 時 5 分"_s})))
       << channel.heardWhole().join(u'\n').toStdString();
 }
 

@@ -207,7 +207,8 @@ TEST_F(BookingTest, TheDayStandsInItsHiddenFieldsToo) {
   EXPECT_EQ(shown(form), QStringList({u"2025"_s, u"2"_s, u"31"_s}));
   type(form, u"2025"_s, u"7"_s, u"8"_s);
   form.trigger(u"cmdUpdate"_s);
-  EXPECT_EQ(stored(u"予約月"_s), QStringList(u"7"_s)) << "the field of the same column does not undo the list";
+  EXPECT_EQ(stored(u"予約月"_s), QStringList(u"7"_s))
+      << "the field of the same column does not undo the list";
   fresh({{u"ID"_s, 1}});
   EXPECT_EQ(shown(form), QStringList({u"2025"_s, u"7"_s, u"8"_s}));
   for (const QString& field : hidden) EXPECT_FALSE(form.isControlShown(field)) << field.toStdString();

@@ -230,7 +230,7 @@ TEST_F(TodaysBookings, ExtractingNarrowsByAPartOfTheText) {
   screen.trigger(u"Command3"_s);
   EXPECT_EQ(listed(screen), QStringList({u"見本　太郎"_s, u"見本　花子"_s}));
   EXPECT_EQ(screen.focused(), u"DBGrid1"_s);
-  EXPECT_TRUE(channel.heardWhole().contains(u"予約 2 件"_s))
+  EXPECT_TRUE(channel.heardWhole().contains(spoken({u"抽出しました"_s, u"予約 2 件"_s})))
       << channel.heardWhole().join(u'\n').toStdString();
   screen.setText(u"Combo4"_s, u"予約年"_s);
   screen.setText(u"txtFields(0)"_s, u"2023"_s);
