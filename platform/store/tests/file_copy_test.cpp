@@ -213,6 +213,28 @@ TEST_F(FileCopyTest, ACopyThatFailsHoldsUpNoOther) {
   }
 }
 
+// The copy is of the file that was opened, whatever comes to stand under its name.
+TEST_F(FileCopyTest, AFileThatIsReplacedMeanwhileIsCopiedAsItWas) {
+  filled();
+  put(QStringLiteral("plain"), QByteArray(3'000'000, 'x'));
+  for (const QString& name : {kFile, QStringLiteral("plain")}) {
+    const QByteArray before = bytesOf(name);
+    const auto held = name == kFile ? HeldFile::database(path(name)) : HeldFile::plain(path(name));
+    ASSERT_TRUE(held.ok());
+    CopyBatch batch({{}, [&](DiskStep step, const QString&) {
+                       if (step != DiskStep::Create) return 0;
+                       put(QStringLiteral("other"), QByteArray(5000, 'o'));
+                       return ::rename(QFile::encodeName(path(QStringLiteral("other"))).constData(),
+                                       QFile::encodeName(path(name)).constData());
+                     }});
+    batch.add(**held, path(QStringLiteral("copy")));
+    ASSERT_TRUE(batch.finish().front().ok());
+    ASSERT_TRUE(putInPlace(path(QStringLiteral("copy"))).ok());
+    EXPECT_EQ(bytesOf(QStringLiteral("copy")), before);
+    EXPECT_EQ(bytesOf(name), QByteArray(5000, 'o'));
+  }
+}
+
 TEST_F(FileCopyTest, WhoLooksOnIsToldWhileTheDiskIsSlow) {
   put(QStringLiteral("1"), "one");
   int told = 0;
