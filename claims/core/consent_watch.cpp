@@ -20,31 +20,39 @@ Consent consentOf(const store::Cursor& claim) {
   return {claim.value(QStringLiteral("氏名")), kindOf(treatment) == Kind::Massage};
 }
 
-/// Latest end of each consent, of those that end within the days.
-QHash<Consent, QDate> endsWithin(store::Cursor& claims, QDate from, QDate to, const frame::EraDates& dates) {
-  QHash<Consent, QDate> latest;
+/// The ends that all claims tell: by their ID those within the days, and the latest behind them.
+struct Ends {
+  QHash<QString, QDate> within;
+  QHash<Consent, QDate> behind;
+};
+
+Ends endsOf(store::Cursor& claims, QDate from, QDate to, const frame::EraDates& dates) {
+  Ends ends;
   for (; !claims.eof(); claims.moveNext()) {
     const QString text = claims.value(QStringLiteral("要加療期間2"));
     if (text.trimmed().isEmpty()) continue;
     const std::optional<QDate> end = dates.anyDate(text);
     if (!end || *end < from) continue;
-    QDate& known = latest[consentOf(claims)];
-    if (!known.isValid() || *end > known) known = *end;
+    if (*end <= to)
+      ends.within.insert(claims.value(QStringLiteral("ID")), *end);
+    else if (QDate& latest = ends.behind[consentOf(claims)]; !latest.isValid() || *end > latest)
+      latest = *end;
   }
-  erase_if(latest, [to](const auto& consent) { return consent.value() > to; });
-  return latest;
+  return ends;
 }
 
-/// The newest claim of each consent with its end, as rows in the order of the claims.
-QList<ConsentEnd> rowsOf(store::Cursor& claims, QHash<Consent, QDate> ends, const frame::EraDates& dates) {
+/// Of each name the first claim with an end within the days.
+QList<ConsentEnd> rowsOf(store::Cursor& claims, const Ends& ends) {
   QList<ConsentEnd> rows;
-  for (; !claims.eof() && !ends.isEmpty(); claims.moveNext()) {
-    const auto known = ends.find(consentOf(claims));
-    if (known == ends.end()) continue;
-    if (dates.anyDate(claims.value(QStringLiteral("要加療期間2"))) != known.value()) continue;
-    rows.append({claims.value(QStringLiteral("氏名")), claims.value(QStringLiteral("保険の種類")),
-                 known.value(), claims.value(QStringLiteral("施術内容"))});
-    ends.erase(known);
+  QSet<QString> told;
+  for (; !claims.eof(); claims.moveNext()) {
+    const auto end = ends.within.constFind(claims.value(QStringLiteral("ID")));
+    if (end == ends.within.cend()) continue;
+    const QString name = claims.value(QStringLiteral("氏名"));
+    if (told.contains(name)) continue;
+    told.insert(name);
+    rows.append({name, claims.value(QStringLiteral("保険の種類")), *end,
+                 claims.value(QStringLiteral("施術内容")), ends.behind.value(consentOf(claims))});
   }
   return rows;
 }
@@ -65,15 +73,8 @@ text::Result<QList<ConsentEnd>> consentsRunningOut(const QString& claimsPath, co
   if (!newestFirst) return newestFirst.fault();
 
   const QDate today = dates.clock().today();
-  QList<ConsentEnd> rows =
-      rowsOf(*newestFirst, endsWithin(*byConsent, today, today.addMonths(1), dates), dates);
+  QList<ConsentEnd> rows = rowsOf(*newestFirst, endsOf(*byConsent, today, today.addMonths(1), dates));
   std::ranges::stable_sort(rows, {}, &ConsentEnd::end);
-  QSet<QString> told;
-  rows.removeIf([&told](const ConsentEnd& row) {
-    const bool again = told.contains(row.name);
-    told.insert(row.name);
-    return again;
-  });
   return rows;
 }
 

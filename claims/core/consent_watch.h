@@ -15,6 +15,7 @@ struct ConsentEnd {
   QString insurance;  ///< 保険の種類
   QDate end;          ///< the consent's last day, 要加療期間2
   QString treatment;  ///< 施術内容
+  QDate later;  ///< a later end of the patient's consent for this treatment, beyond the month; else invalid
 
   bool operator==(const ConsentEnd&) const = default;
 };
@@ -22,13 +23,13 @@ struct ConsentEnd {
 /// 同意期限 as the list shows it: "2024年11月5日".
 QString consentEndText(QDate end);
 
-/// The patients whose consent ends from today up to one month ahead, both days included, the nearest end
-/// first. The 31st of January reaches to the last day of February.
+/// The claims whose 要加療期間2 lies from today up to one month ahead, both days included; of each 氏名 the
+/// newest such claim, so that a patient is told once. The nearest end stands first. The 31st of January
+/// reaches to the last day of February.
 ///
-/// The end of a consent is the latest readable 要加療期間2 among the claims of the patient's 氏名 and kind of
-/// treatment, so that an older claim does not warn once its consent was renewed; acupuncture and massage have
-/// a consent each. The newest claim with that end gives the row. A patient is told once: where both consents
-/// run out, by the nearer end. Dates of any form are read; what cannot be read is left out.
+/// Dates of any form are read; what cannot be read is left out. A later consent does not take the warning
+/// back, as a year typed wrong would silence it; it is told beside the end (`later`), for acupuncture and
+/// massage apart, which have a consent each.
 text::Result<QList<ConsentEnd>> consentsRunningOut(const QString& claimsPath, const frame::EraDates& dates);
 
 }  // namespace claims

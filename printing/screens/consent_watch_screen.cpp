@@ -11,7 +11,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr const char16_t* kColumns[] = {u"氏名", u"保険の種類", u"同意期限", u"施術内容"};
+constexpr const char16_t* kColumns[] = {u"氏名", u"保険の種類", u"同意期限", u"施術内容",
+                                        u"その後の同意期限"};
 
 constexpr Row kRows[] = {
     Note{.name = {u"Label1"}, .caption = u"同意期限が一ヶ月以内の患者はいません。", .spoken = true},
@@ -55,7 +56,8 @@ void ConsentWatchScreen::opened(const Request&) {
   m_rows = found ? *found : QList<claims::ConsentEnd>();
   QList<QStringList> texts;
   for (const claims::ConsentEnd& row : m_rows)
-    texts.append({row.name, row.insurance, claims::consentEndText(row.end), row.treatment});
+    texts.append({row.name, row.insurance, claims::consentEndText(row.end), row.treatment,
+                  row.later.isValid() ? claims::consentEndText(row.later) : QString()});
   setRows(u"List1"_s, texts);
   QString count = u"同意期限が一ヶ月以内の患者は、%1名です。"_s.arg(m_rows.size());
   if (m_rows.isEmpty()) count = QString::fromUtf16(found ? kNoRows : kNotRead);

@@ -57,7 +57,7 @@ TEST_F(ConsentWatch, EmptyFileGivesNobody) { EXPECT_EQ(shown(), QStringList()); 
 
 TEST_F(ConsentWatch, ARowTellsNameInsuranceEndAndTreatment) {
   add({{u"見本　太郎", u"令和6年11月20日", u"あマ", u"後期高齢"}});
-  const QList<ConsentEnd> expected = {{u"見本　太郎"_s, u"後期高齢"_s, QDate(2024, 11, 20), u"あマ"_s}};
+  const QList<ConsentEnd> expected = {{u"見本　太郎"_s, u"後期高齢"_s, QDate(2024, 11, 20), u"あマ"_s, {}}};
   EXPECT_EQ(rows({2024, 11, 5}), expected);
   EXPECT_EQ(consentEndText({2024, 11, 20}), u"2024年11月20日"_s);
   EXPECT_EQ(consentEndText({2025, 1, 5}), u"2025年1月5日"_s);
@@ -113,13 +113,18 @@ TEST_F(ConsentWatch, TheNearestEndStandsFirstWhateverTheCalendar) {
 
 TEST_F(ConsentWatch, APatientIsToldOnceByTheNewestClaim) {
   add({{u"見本", u"令和6年11月20日", u"鍼灸", u"国保"}, {u"見本", u"R6/11/20", u"鍼灸", u"後期高齢"}});
-  const QList<ConsentEnd> expected = {{u"見本"_s, u"後期高齢"_s, QDate(2024, 11, 20), u"鍼灸"_s}};
+  const QList<ConsentEnd> expected = {{u"見本"_s, u"後期高齢"_s, QDate(2024, 11, 20), u"鍼灸"_s, {}}};
   EXPECT_EQ(rows({2024, 11, 5}), expected);
 }
 
-TEST_F(ConsentWatch, ARenewedConsentWarnsNoMore) {
-  add({{u"見本", u"令和6年11月20日"}, {u"見本", u"令和7年5月20日"}});
-  EXPECT_EQ(shown(), QStringList());
+// A later consent is told beside the end and does not take the warning back.
+TEST_F(ConsentWatch, ARenewedConsentTellsItsLaterEnd) {
+  add({{u"見本", u"令和6年11月20日"}, {u"見本", u"令和7年5月20日"}, {u"例示", u"令和6年11月21日"}});
+  const QList<ConsentEnd> found = rows({2024, 11, 5});
+  ASSERT_EQ(found.size(), 2);
+  EXPECT_EQ(found[0].end, QDate(2024, 11, 20));
+  EXPECT_EQ(found[0].later, QDate(2025, 5, 20));
+  EXPECT_FALSE(found[1].later.isValid());
 }
 
 TEST_F(ConsentWatch, ALateClaimOfAnEarlierMonthHidesNothing) {
@@ -132,12 +137,15 @@ TEST_F(ConsentWatch, AcupunctureAndMassageHaveAConsentEach) {
        {u"甲", u"令和7年5月20日", u"鍼灸"},
        {u"乙", u"令和6年11月21日", u"鍼"},
        {u"乙", u"令和7年5月20日", u"鍼灸"}});
-  EXPECT_EQ(shown(), QStringList{u"甲 2024年11月20日 あマ"_s}) << "鍼 and 鍼灸 are one consent";
+  const QList<ConsentEnd> found = rows({2024, 11, 5});
+  ASSERT_EQ(found.size(), 2);
+  EXPECT_FALSE(found[0].later.isValid()) << "the consent to needles is another one";
+  EXPECT_EQ(found[1].later, QDate(2025, 5, 20)) << "鍼 and 鍼灸 are one consent";
 }
 
-TEST_F(ConsentWatch, WhereBothRunOutTheNearerEndIsTold) {
+TEST_F(ConsentWatch, OfTwoEndsTheNewestClaimIsTold) {
   add({{u"甲", u"令和6年11月10日", u"あマ"}, {u"甲", u"令和6年12月1日", u"鍼灸"}});
-  EXPECT_EQ(shown(), QStringList{u"甲 2024年11月10日 あマ"_s});
+  EXPECT_EQ(shown(), QStringList{u"甲 2024年12月1日 鍼灸"_s});
 }
 
 TEST_F(ConsentWatch, AMissingFileIsAFault) {

@@ -44,6 +44,7 @@ TEST_F(ConsentWatchRoom, ShowsAndCountsThePatients) {
   add(u"見本　太郎"_s, u"令和6年11月20日"_s);
   add(u"例示　花子"_s, u"2024/11/9"_s);
   add(u"架空　次郎"_s, u"令和6年12月6日"_s);
+  add(u"見本　太郎"_s, u"令和7年5月20日"_s);
   screen::Screen& screen = open(kScreen);
   EXPECT_EQ(screen.windowTitle(), u"同意期限一ヶ月以内"_s);
   const QAbstractItemModel& model = *view(screen)->model();
@@ -53,8 +54,10 @@ TEST_F(ConsentWatchRoom, ShowsAndCountsThePatients) {
     headers << model.headerData(column, Qt::Horizontal).toString();
     first << model.index(0, column).data().toString();
   }
-  EXPECT_EQ(headers, QStringList({u"氏名"_s, u"保険の種類"_s, u"同意期限"_s, u"施術内容"_s}));
-  EXPECT_EQ(first, QStringList({u"例示　花子"_s, u"国保"_s, u"2024年11月9日"_s, u"鍼灸"_s}));
+  EXPECT_EQ(headers, QStringList({u"氏名"_s, u"保険の種類"_s, u"同意期限"_s, u"施術内容"_s,
+                                  u"その後の同意期限"_s}));
+  EXPECT_EQ(first, QStringList({u"例示　花子"_s, u"国保"_s, u"2024年11月9日"_s, u"鍼灸"_s, u""_s}));
+  EXPECT_EQ(model.index(1, 4).data().toString(), u"2025年5月20日"_s) << "renewed, and told all the same";
   EXPECT_TRUE(spoken().contains(u"同意期限が一ヶ月以内の患者は、2名です。"_s));
   EXPECT_TRUE(spoken().contains(u"要加療期間2"_s)) << "the way without the list is told";
 }
