@@ -66,7 +66,7 @@ QStringList RegisterScreen::onView() const {
 bool RegisterScreen::leaveRow() {
   if (!source().pending()) return true;
   const bool untouched = source().rows().adding() && texts() == m_offered;
-  if (!untouched && !messages().ask(words(kDiscardQuestion), screen::Buttons::YesNo)) return false;
+  if (!untouched && !messages().askToDrop(words(kDiscardQuestion))) return false;
   source().drop();
   return true;
 }

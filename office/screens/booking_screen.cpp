@@ -111,7 +111,7 @@ void BookingScreen::putFields(const QStringList& texts) {
 
 bool BookingScreen::mayDrop() {
   if (!source().isOpen() || fields() == m_shown) return true;
-  return messages().ask(kKeptFromDropping);
+  return messages().askToDrop(kKeptFromDropping);
 }
 
 void BookingScreen::addBooking() {
@@ -276,7 +276,7 @@ void BookingScreen::finish() {
     return;
   }
   putDerived(*day);
-  if (write() || messages().ask(kCannotStore, screen::Buttons::YesNo)) leave();
+  if (write() || messages().askToDrop(kCannotStore)) leave();
 }
 
 void BookingScreen::leave() {

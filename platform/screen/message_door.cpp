@@ -63,6 +63,10 @@ bool MessageDoor::ask(const QString& text, Buttons buttons, const QString& title
   return show(text, buttons, title, icon);
 }
 
+bool MessageDoor::askToDrop(const QString& text) {
+  return show(text, Buttons::YesNo, QString(), Icon::Question, true);
+}
+
 void MessageDoor::tellDataFault(const QString& engineText) {
   tell(QString::fromUtf16(kDataControlText) + engineText, QString(), Icon::Exclamation);
 }
@@ -82,7 +86,8 @@ void MessageDoor::forget() {
   m_titles.clear();
 }
 
-bool MessageDoor::show(const QString& text, Buttons buttons, const QString& title, Icon icon) {
+bool MessageDoor::show(const QString& text, Buttons buttons, const QString& title, Icon icon,
+                       bool startsOnRefusal) {
   const QString heading = title.isNull() ? QString::fromUtf16(kProgramTitle) : title;
   m_texts += text;
   m_titles += heading;
@@ -99,7 +104,7 @@ bool MessageDoor::show(const QString& text, Buttons buttons, const QString& titl
   const Captions names = captions(buttons);
   QPushButton* accept = addButton(box, names.accept, QMessageBox::AcceptRole);
   QPushButton* refuse = names.refuse ? addButton(box, names.refuse, QMessageBox::RejectRole) : accept;
-  box.setDefaultButton(accept);
+  box.setDefaultButton(startsOnRefusal ? refuse : accept);
   box.setEscapeButton(refuse);
   QObject::connect(qApp, &QApplication::focusChanged, &box, [this, &box](QWidget*, QWidget* now) {
     auto* button = qobject_cast<QPushButton*>(now);

@@ -36,6 +36,8 @@ class MessageDoor {
   /// A question; true for OK or はい. Escape and the close box are the refusal.
   bool ask(const QString& text, Buttons buttons = Buttons::OkCancel, const QString& title = QString(),
            Icon icon = Icon::Question);
+  /// はい or いいえ to losing what was typed; it starts on いいえ, so that Enter loses nothing.
+  bool askToDrop(const QString& text);
   /// A fault of the engine behind the data-control label.
   void tellDataFault(const QString& engineText);
 
@@ -54,7 +56,8 @@ class MessageDoor {
   void setParent(QWidget* window) { m_parent = window; }
 
  private:
-  bool show(const QString& text, Buttons buttons, const QString& title, Icon icon);
+  bool show(const QString& text, Buttons buttons, const QString& title, Icon icon,
+            bool startsOnRefusal = false);
   voice::VoiceGuide& m_voice;
   QWidget* m_parent = nullptr;
   QStringList m_texts, m_titles;

@@ -129,7 +129,7 @@ void Chart1Screen::closeDictionaries() {
 void Chart1Screen::finish() {
   if (!source().isOpen() || source().write()) {
     if (ask(kCloseQuestion)) closeNow();
-  } else if (messages().ask(kDropQuestion, screen::Buttons::YesNo)) {
+  } else if (messages().askToDrop(kDropQuestion)) {
     closeNow();
   }
 }

@@ -115,7 +115,7 @@ void DictionaryScreen::copy() {
 
 void DictionaryScreen::finish() {
   if (source().isOpen() && !leaveRow()) {
-    if (!messages().ask(QString::fromUtf16(kDiscardQuestion), screen::Buttons::YesNo)) return;
+    if (!messages().askToDrop(QString::fromUtf16(kDiscardQuestion))) return;
     source().drop();
   }
   navigator().unload(objectName());

@@ -210,8 +210,8 @@ void PatientScreen::focusTreatment() { focusOn(u"txtFields(27)"_s); }
 // A row that the file keeps refusing (read only, or deleted by another computer) must not lock the user in.
 bool PatientScreen::mayLeave() {
   if (screen::settleRow(source())) return true;
-  const bool yes = messages().ask(
-      u"登録出来ませんでした。入力した内容を捨てて、メインメニューへ戻りますか？"_s, screen::Buttons::YesNo);
+  const bool yes =
+      messages().askToDrop(u"登録出来ませんでした。入力した内容を捨てて、メインメニューへ戻りますか？"_s);
   m_run.lastAnswer = yes ? 1 : 0;
   if (yes) source().drop();
   return yes;

@@ -112,7 +112,7 @@ void VisitLedgerScreen::leave() {
   if (m_newRowPending) return messages().tell(u"一度登録ボタンを押してから終了して下さい"_s);
   const bool visitKept = settleVisit(), claimKept = leaveClaim();
   if ((!visitKept || !claimKept) &&
-      !messages().ask(u"登録出来ませんでした。入力した内容を捨てて、閉じますか？"_s, screen::Buttons::YesNo))
+      !messages().askToDrop(u"登録出来ませんでした。入力した内容を捨てて、閉じますか？"_s))
     return;
   const QString before = navigator().loaded(u"治療台帳4"_s) ? u"治療台帳4"_s : u"選択3"_s;
   navigator().show(m_opener.isEmpty() ? before : m_opener);

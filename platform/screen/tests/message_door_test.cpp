@@ -31,11 +31,11 @@ struct BoxCase {
   QStringList captions;
 };
 
-class MessageBox : public ::testing::TestWithParam<BoxCase> {
+class ShownMessage {
  protected:
-  /// Shows the message and hands the open box to `work`.
-  template <class Work>
-  bool whileShown(Work work) {
+  /// Asks, and hands the open box to `work`.
+  template <class Ask, class Work>
+  bool whileAsked(Ask ask, Work work) {
     QTimer::singleShot(0, &screen, [this, work] {
       (void)QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; });
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -45,11 +45,19 @@ class MessageBox : public ::testing::TestWithParam<BoxCase> {
       work(*box);
       if (box->isVisible()) box->reject();
     });
-    return messages.ask("登録しますか？", GetParam().buttons, "題");
+    return ask();
   }
   Desk desk;
   MessageDoor messages{desk.voice};
   SampleScreen screen{desk.services};
+};
+
+class MessageBox : public ShownMessage, public ::testing::TestWithParam<BoxCase> {
+ protected:
+  template <class Work>
+  bool whileShown(Work work) {
+    return whileAsked([this] { return messages.ask("登録しますか？", GetParam().buttons, "題"); }, work);
+  }
 };
 
 TEST_P(MessageBox, NamesItsButtonsAndGivesTheFirstTheFocus) {
@@ -82,6 +90,21 @@ INSTANTIATE_TEST_SUITE_P(All, MessageBox,
                          ::testing::Values(BoxCase{Buttons::Ok, {"OK"}},
                                            BoxCase{Buttons::OkCancel, {"OK", "キャンセル"}},
                                            BoxCase{Buttons::YesNo, {"はい", "いいえ"}}));
+
+class DropQuestion : public ShownMessage, public ::testing::Test {
+ protected:
+  bool answered(const QList<Qt::Key>& keys) {
+    return whileAsked([this] { return messages.askToDrop("入力した内容を捨てますか？"); },
+                      [&](QMessageBox&) {
+                        EXPECT_EQ(desk.spy.heardWhole(),
+                                  QStringList({"入力した内容を捨てますか？", "いいえ"}));
+                        for (const Qt::Key key : keys) QTest::keyClick(QApplication::focusWidget(), key);
+                      });
+  }
+};
+
+TEST_F(DropQuestion, EnterKeepsWhatWasTyped) { EXPECT_FALSE(answered({Qt::Key_Return})); }
+TEST_F(DropQuestion, YesIsOneTabAway) { EXPECT_TRUE(answered({Qt::Key_Tab, Qt::Key_Return})); }
 
 TEST(MessageFocus, ReturnsToTheFieldAndDoesNotCutTheResult) {
   Desk desk;
