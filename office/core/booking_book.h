@@ -10,7 +10,7 @@ namespace office {
 
 /// The bookings of a day among the rows of the set, in the order of their times; without a hit an empty set.
 ///
-/// Kept: the year, the month and the day narrow one after another, each as it was typed, so that a booking of
+/// Kept: the year, the month and the day narrow each for itself, as it was typed, so that a booking of
 /// 31 February is found as such and not in March; and times are sorted as texts: 10 時 stands before 9 時.
 store::Result<store::RecordSet> bookingsOf(store::RecordSet& rows, const frame::DayAsked& day);
 

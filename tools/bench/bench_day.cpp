@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "office/core/booking_book.h"
 #include "platform/store/database.h"
 #include "records/core/visit_totals.h"
 #include "tools/bench/bench_rows.h"
@@ -114,9 +115,7 @@ int sums(const QString& path, const char* name, const QString& month) {
 }
 
 int bookings(const QString& path) {
-  const QStringList filters = {QStringLiteral("予約年 like 2024"), QStringLiteral("予約月 like 10"),
-                               QStringLiteral("予約日 like 7")};
-  const QString sort = QStringLiteral("予約時間 ASC");
+  const frame::DayAsked day{2024, 10, 7};
   const QString scan = QStringLiteral(
       "SELECT ID FROM 予約 WHERE 予約年='2024' AND 予約月='10' AND 予約日='7' ORDER BY 予約時間, ID");
   PlainFile plain(path);
@@ -124,12 +123,12 @@ int bookings(const QString& path) {
   const double floor = middleMilliseconds(3, [&] { scanned = plain.numbers(scan); });
   const double first = middleMilliseconds(3, [&] {
     auto all = openTable(path, QStringLiteral("予約"));
-    if (all) listed = shown(narrowed(*all, filters, sort), kTime);
+    if (all) listed = shown(office::bookingsOf(*all, day), kTime);
   });
   auto all = openTable(path, QStringLiteral("予約"));
   if (!all) return failed("予約");
   const double again =
-      middleMilliseconds(kRuns, [&] { listed = shown(narrowed(*all, filters, sort), kTime); });
+      middleMilliseconds(kRuns, [&] { listed = shown(office::bookingsOf(*all, day), kTime); });
   std::sort(listed.begin(), listed.end());
   std::sort(scanned.begin(), scanned.end());
   if (listed != scanned || listed.empty()) return failed("a day's bookings differ from the scan's");
