@@ -214,7 +214,7 @@ def consent_warned_of(on):
     on.press("同意期限一ヶ月以内表示")
     on.at("同意期限一ヶ月以内", re.compile("同意期限が一ヶ月以内の患者は、1名です。"))
     rows = on.desk.rows()
-    assert rows == [["見本　太郎", "国保", "2024年12月5日", "鍼灸"]], rows
+    assert rows == [["見本　太郎", "国保", "2024年12月5日", "鍼灸", ""]], rows
     on.desk.keys("Right", "Right")
     on.desk.wait_spoken("同意期限、2024年12月5日", on.mark)
     before = len(on.desk.printed())
