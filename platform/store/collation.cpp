@@ -2,6 +2,7 @@
 
 #include <unicode/ucol.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace store {
@@ -13,6 +14,24 @@ const UCollator* japanese() {
     return std::unique_ptr<UCollator, decltype(&ucol_close)>(ucol_open("ja", &status), &ucol_close);
   }();
   return collator.get();
+}
+
+/// The text with every number in it, of twelve digits at most, filled up with zeros in front to one length.
+QString withEvenNumbers(QStringView text) {
+  constexpr qsizetype kDigits = 12;
+  QString even;
+  for (qsizetype at = 0; at < text.size();) {
+    qsizetype end = at;
+    while (end < text.size() && text[end] >= u'0' && text[end] <= u'9') ++end;
+    if (end == at) {
+      even += text[at++];
+      continue;
+    }
+    even += QString(std::max<qsizetype>(0, kDigits - (end - at)), u'0');
+    even += text.mid(at, end - at);
+    at = end;
+  }
+  return even;
 }
 
 }  // namespace
@@ -38,13 +57,10 @@ QByteArray japaneseSortKey(QStringView text) {
   return key;
 }
 
-QByteArray dateSortKey(QStringView text) {
-  QString padded;
-  for (const QStringView part : text.split(u'/')) {
-    if (!padded.isEmpty()) padded += u'/';
-    padded += part.toString().rightJustified(2, u'0');
-  }
-  return japaneseSortKey(padded);
+QByteArray dateSortKey(QStringView text) { return japaneseSortKey(withEvenNumbers(text)); }
+
+int compareByNumbers(QStringView a, QStringView b) {
+  return compareJapanese(withEvenNumbers(a), withEvenNumbers(b));
 }
 
 QByteArray numberSortKey(qint64 number) {

@@ -10,8 +10,9 @@ namespace store {
 int compareJapanese(QStringView a, QStringView b);
 /// Bytes that compare as the texts do.
 QByteArray japaneseSortKey(QStringView text);
-/// Bytes that compare as the dates do: months and days without a leading zero, 2020/1/8 before 2020/1/20. A
-/// text that is no such date compares by its letters.
+/// The same with the numbers in the texts by their value: 2020/1/8 before 2020/1/20, 令和6年9月 before 10月.
+int compareByNumbers(QStringView a, QStringView b);
+/// Bytes that compare so, for columns of dates.
 QByteArray dateSortKey(QStringView text);
 /// Bytes that compare as the numbers do.
 QByteArray numberSortKey(qint64 number);

@@ -92,12 +92,12 @@ bool holds(Comparison comparison, int order) {
 }
 
 /// Order of a text against the searched value: as numbers where the value is one (a text that is none fits
-/// nothing), else in Japanese order.
+/// nothing), else in Japanese order with the numbers in them by value, as dates need it.
 bool holdsInOrder(Comparison comparison, std::u16string_view text, const QString& value) {
   const QStringView seen(text.data(), static_cast<qsizetype>(text.size()));
   bool valueIsNumber = false;
   const double number = value.toDouble(&valueIsNumber);
-  if (!valueIsNumber) return holds(comparison, compareJapanese(seen, text::foldForComparison(value)));
+  if (!valueIsNumber) return holds(comparison, compareByNumbers(seen, text::foldForComparison(value)));
   bool textIsNumber = false;
   const double left = seen.trimmed().toDouble(&textIsNumber);
   return textIsNumber && holds(comparison, left < number ? -1 : left > number ? 1 : 0);

@@ -41,7 +41,6 @@ TEST_F(ConsentExtract, IsReachableAndNamed) {
 
 TEST_F(ConsentExtract, FromTheFirstDateOn) {
   extract(u"令和6年11月5日");
-  // As texts: "令和6年12月5日" stands between 11月5日 and 令和7年.
   EXPECT_EQ(shown(), QStringList({qs(u"4"), qs(u"3"), qs(u"2")}));
   EXPECT_EQ(m_navigator.shows, QStringList(qs(u"レセプト一覧表")));
   EXPECT_TRUE(m_channel.said().contains(qs(u"抽出しました") + voice::kSpeechSeparator + qs(u"3件です。")));
@@ -53,11 +52,11 @@ TEST_F(ConsentExtract, UpToTheSecondDate) {
   EXPECT_EQ(shown(), QStringList({qs(u"3"), qs(u"2")}));
 }
 
-TEST_F(ConsentExtract, DatesAreComparedAsTexts) {
-  addClaim({{u"要加療期間2", u"令和6年9月30日"}});
+TEST_F(ConsentExtract, DatesAreComparedByTheirNumbers) {
+  for (const char16_t* end : {u"令和6年9月30日", u"令和6年10月1日"}) addClaim({{u"要加療期間2", end}});
   press(u"cmdRefresh");
-  extract(u"令和6年11月1日", u"令和6年9月31日");
-  EXPECT_TRUE(shown().contains(qs(u"6"))) << "9 stands behind 1";
+  extract(u"令和6年10月1日", u"令和6年11月4日");
+  EXPECT_EQ(shown(), QStringList({qs(u"7"), qs(u"1")})) << "9月 stands before 10月";
 }
 
 TEST_F(ConsentExtract, NoHitLeavesTheListAndTheDates) {

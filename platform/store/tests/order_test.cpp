@@ -95,6 +95,14 @@ TEST(Collation, ShadowDatesCompareAsDates) {
     EXPECT_LT(dateSortKey(rising[i - 1]).compare(dateSortKey(rising[i])), 0) << rising[i].toStdString();
 }
 
+TEST(Collation, NumbersInTextsCompareByValue) {
+  EXPECT_LT(compareByNumbers(u"令和6年9月30日", u"令和6年10月1日"), 0);
+  EXPECT_LT(compareByNumbers(u"2024/9/30", u"2024/10/1"), 0);
+  EXPECT_EQ(compareByNumbers(u"2024/09/30", u"2024/9/30"), 0);
+  EXPECT_LT(compareByNumbers(u"平成31年4月30日", u"令和1年5月1日"), 0);
+  EXPECT_LT(compareByNumbers(u"", u"1"), 0);
+}
+
 TEST(Collation, KeysCompareAsTheTextsDo) {
   const QStringList texts = {QStringLiteral("ア"),        QStringLiteral("ｱ"), QStringLiteral("亜"),
                              QStringLiteral("見本 太郎"), QStringLiteral(""),  QStringLiteral("1"),
