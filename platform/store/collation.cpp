@@ -57,7 +57,13 @@ QByteArray japaneseSortKey(QStringView text) {
   return key;
 }
 
-QByteArray dateSortKey(QStringView text) { return japaneseSortKey(withEvenNumbers(text)); }
+QByteArray dateSortKey(QStringView text) {
+  const QString even = withEvenNumbers(text);
+  // Nearly all are western dates: their letters need no Japanese order, and stand before all other texts.
+  const auto western = [](QChar letter) { return letter == u'/' || (letter >= u'0' && letter <= u'9'); };
+  if (std::all_of(text.begin(), text.end(), western)) return '\x01' + even.toLatin1();
+  return '\x02' + japaneseSortKey(even);
+}
 
 int compareByNumbers(QStringView a, QStringView b) {
   return compareJapanese(withEvenNumbers(a), withEvenNumbers(b));
