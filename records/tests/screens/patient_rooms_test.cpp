@@ -1,0 +1,135 @@
+#include "records/tests/screens/patient_screen_fixture.h"
+
+// The ways from the patient screen to other rooms and back to the menu.
+
+namespace records {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using test::PatientScreenTest;
+
+TEST_F(PatientScreenTest, AClaimOpensItsOwnPatient) {
+  for (const auto& [serial, patient] :
+       {std::pair(u"A1"_s, u"見本 一郎"_s), std::pair(u"A2"_s, u"見本 二郎"_s)})
+    addPatient({{u"テキスト5"_s, serial}, {u"氏名"_s, patient}});
+  screen::Screen& screen = patients();
+  navigator.show(u"治療台帳4"_s, {{u"テキスト5"_s, u"A2"_s}});
+  EXPECT_EQ(name(screen), u"見本 二郎"_s);
+  navigator.show(u"治療台帳4"_s, {{u"テキスト5"_s, u"A2"_s}});
+  EXPECT_EQ(name(screen), u"見本 二郎"_s);
+}
+
+TEST_F(PatientScreenTest, LeavingWritesThePendingEditAndShowsTheMenu) {
+  addNamed({u"見本 一郎"_s, u"見本 二郎"_s});
+  screen::Screen& screen = patients();
+  screen.trigger(u"Command18"_s);
+  screen.setText(u"txtFields(16)"_s, u"自営"_s);
+  screen.trigger(u"cmdClose"_s);
+  EXPECT_FALSE(isShown(u"治療台帳4"));
+  EXPECT_TRUE(isShown(u"選択3"));
+  EXPECT_EQ(stored(u"職業"_s).last(), u"自営"_s);
+  EXPECT_EQ(name(patients()), u"見本 二郎"_s);
+}
+
+TEST_F(PatientScreenTest, CloseBoxTurnsTheDatesIntoEraNotationFirst) {
+  addPatient({{u"生年月日"_s, u"1953/3/5"_s}, {u"初診日"_s, u"2024/4/1"_s}});
+  patients().close();
+  EXPECT_FALSE(isShown(u"治療台帳4"));
+  EXPECT_TRUE(isShown(u"選択3"));
+  EXPECT_EQ(stored(u"生年月日"_s), QStringList{u"昭和28年3月5日"_s});
+  EXPECT_EQ(stored(u"初診日"_s), QStringList{u"令和6年4月1日"_s});
+}
+
+TEST_F(PatientScreenTest, ARowThatCannotBeWrittenDoesNotLockTheUserIn) {
+  addNamed({u"見本 一郎"_s, u"見本 二郎"_s});
+  screen::Screen& screen = patients();
+  screen.setText(u"txtFields(16)"_s, u"自営"_s);
+  store::RecordSet other = table();  // another computer deletes the patient on view
+  ASSERT_TRUE(other.remove());
+  answer({false, true});
+  screen.trigger(u"cmdClose"_s);
+  EXPECT_TRUE(isShown(u"治療台帳4"));
+  EXPECT_EQ(screen.text(u"txtFields(16)"_s), u"自営"_s) << "what was typed stays until it is given up";
+  screen.trigger(u"cmdClose"_s);
+  EXPECT_FALSE(isShown(u"治療台帳4"));
+  EXPECT_TRUE(isShown(u"選択3"));
+  EXPECT_EQ(
+      messages.texts().count(u"登録出来ませんでした。入力した内容を捨てて、メインメニューへ戻りますか？"_s),
+      2);
+  EXPECT_EQ(run.lastAnswer, 1);
+  EXPECT_EQ(stored(u"氏名"_s), QStringList{u"見本 二郎"_s});
+}
+
+TEST_F(PatientScreenTest, NewClaimIsHandedThePatient) {
+  addPatient({{u"氏名"_s, u"見本 太郎"_s},
+              {u"ふりがな"_s, u"ﾐﾎﾝ ﾀﾛｳ"_s},
+              {u"生年月日"_s, u"昭和28年3月5日"_s},
+              {u"性別"_s, u"男"_s},
+              {u"住所1"_s, u"あ"_s.repeated(30)},
+              {u"住所2"_s, u"い"_s.repeated(30)},
+              {u"電話1"_s, u"00-0000-0001"_s},
+              {u"テキスト5"_s, u"20240401001"_s}});
+  standIn(u"新規レセプト"_s);
+  patients().trigger(u"Command6"_s);
+  const screen::Request request = requestOf(u"新規レセプト"_s);
+  EXPECT_EQ(request.value(u"氏名"_s).toString(), u"見本 太郎"_s);
+  EXPECT_EQ(request.value(u"ふりがな"_s).toString(), u"ﾐﾎﾝ ﾀﾛｳ"_s);
+  EXPECT_EQ(request.value(u"生年月日"_s).toString(), u"昭和28年3月5日"_s);
+  EXPECT_EQ(request.value(u"性別"_s).toString(), u"男"_s);
+  EXPECT_EQ(request.value(u"電話1"_s).toString(), u"00-0000-0001"_s);
+  EXPECT_EQ(request.value(u"テキスト5"_s).toString(), u"20240401001"_s);
+  EXPECT_EQ(request.value(u"住所1"_s).toString(), u"あ"_s.repeated(30) + u"い"_s.repeated(9));
+}
+
+TEST_F(PatientScreenTest, ClaimsOfThePatientGoByTheSerialElseByTheName) {
+  addPatient({{u"氏名"_s, u"見本 太郎"_s}, {u"テキスト5"_s, u"20240401001"_s}});
+  addPatient({{u"氏名"_s, u"見本 次郎"_s}});
+  standIn(u"レセプト一覧表"_s);
+  screen::Screen& screen = patients();
+  screen.trigger(u"Men_FR"_s);
+  EXPECT_EQ(requestOf(u"レセプト一覧表"_s).value(u"criteria"_s).toString(), u"番号1 ='20240401001' "_s);
+  screen.trigger(u"Command17"_s);
+  screen.trigger(u"Command7"_s);
+  EXPECT_EQ(requestOf(u"レセプト一覧表"_s).value(u"criteria"_s).toString(), u"氏名='見本 次郎' "_s);
+}
+
+TEST_F(PatientScreenTest, ChartOneNeedsASerial) {
+  addNamed({u"見本"_s});
+  patients().trigger(u"Command2"_s);
+  EXPECT_TRUE(messages.texts().isEmpty());
+}
+
+struct RoomCase {
+  QString command, room;
+};
+class PatientRoomTest : public PatientScreenTest, public testing::WithParamInterface<RoomCase> {};
+
+TEST_P(PatientRoomTest, CommandOpensItsRoom) {
+  addPatient({{u"テキスト5"_s, u"20240401001"_s}});
+  standIn(GetParam().room);
+  patients().trigger(GetParam().command);
+  EXPECT_TRUE(navigator.isShown(GetParam().room)) << GetParam().command.toStdString();
+  EXPECT_TRUE(messages.texts().isEmpty());
+}
+
+TEST_F(PatientScreenTest, RoomThatIsNotThereYetIsToldByName) {
+  addPatient({{u"テキスト5"_s, u"20240401001"_s}});
+  patients().trigger(u"Command5"_s);
+  EXPECT_EQ(messages.texts(), QStringList{notYet(u"GEDIT"_s)});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, PatientRoomTest,
+    testing::Values(RoomCase{u"Command2"_s, u"治療台帳2"_s}, RoomCase{u"Men_FK1"_s, u"治療台帳2"_s},
+                    RoomCase{u"Command4"_s, u"治療台帳3"_s}, RoomCase{u"Men_FK2"_s, u"治療台帳3"_s},
+                    RoomCase{u"Command5"_s, u"GEDIT"_s}, RoomCase{u"cmdAdd"_s, u"frm経穴"_s},
+                    RoomCase{u"Men_FJ3"_s, u"frm経穴"_s}, RoomCase{u"Men_FJ1"_s, u"frmCLmoji"_s},
+                    RoomCase{u"Men_FJ2"_s, u"frmCl2moji"_s}, RoomCase{u"Men_FO"_s, u"一覧表"_s},
+                    RoomCase{u"Men_RA"_s, u"領収証選択"_s}, RoomCase{u"Men_YD"_s, u"予約2"_s},
+                    RoomCase{u"Men_YY"_s, u"予約2"_s}, RoomCase{u"Men_YK"_s, u"今日の予約"_s},
+                    RoomCase{u"Men_YI"_s, u"予約週間表"_s}, RoomCase{u"Men_AT"_s, u"登録"_s},
+                    RoomCase{u"Men_ALF"_s, u"LANフォルダ指定"_s}, RoomCase{u"Men_ACHK"_s, u"txtbox"_s},
+                    RoomCase{u"Men_Am"_s, u"データ送"_s}, RoomCase{u"Men_Amml"_s, u"データ送2"_s}));
+
+}  // namespace
+}  // namespace records
