@@ -5,15 +5,19 @@ namespace store {
 namespace {
 
 QString term(const QString& column, QLatin1StringView comparison, const QString& text) {
-  QString whole = text;
-  whole.replace(QLatin1Char('\''), QLatin1String("''"));
-  return column + QLatin1Char(' ') + comparison + QLatin1String(" '") + whole + QLatin1String("' ");
+  return column + QLatin1Char(' ') + comparison + QLatin1Char(' ') + quotedText(text) + QLatin1Char(' ');
 }
 
 constexpr QLatin1StringView kLike("like");
 constexpr QLatin1Char kAnyRun('*');
 
 }  // namespace
+
+QString quotedText(const QString& text) {
+  QString whole = text;
+  whole.replace(QLatin1Char('\''), QLatin1String("''"));
+  return QLatin1Char('\'') + whole + QLatin1Char('\'');
+}
 
 QString likeCriterion(const QString& column, const QString& text) {
   return term(column, kLike, kAnyRun + text + kAnyRun);
