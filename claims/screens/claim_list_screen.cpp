@@ -11,8 +11,6 @@ namespace {
 const QString kForm = QStringLiteral("frmレセプトフォーム");
 const QString kTable = QStringLiteral("保険申請");
 const QString kNewestFirst = QStringLiteral("ID DESC");
-const QString kNoRows =
-    QStringLiteral("検索データが０件です。「全患者表示及び再表示」をクリックして下さい。");
 const QString kNothingToDelete = QStringLiteral("削除するデータがありません。");
 const QString kDeleteQuestion = QStringLiteral("　現在の表示該当患者のレセプトを削除しますか？");
 
@@ -58,15 +56,13 @@ void ClaimListScreen::onActivate() { m_onceActive.run(*this); }
 
 void ClaimListScreen::tellOpening() {
   if (!m_growthFault.isEmpty()) messages().tellDataFault(std::exchange(m_growthFault, {}));
-  if (source().isOpen() && !holdsRows()) emptySet(kNoRows);
+  if (source().isOpen() && !holdsRows()) emptySet();
 }
 
 bool ClaimListScreen::openWhole() {
   if (!source().open(m_run.folders[frame::folder::kClaims1], kTable)) return false;
   return put(QString(), kNewestFirst);
 }
-
-QString ClaimListScreen::noRowsText() const { return kNoRows; }
 
 QStringList ClaimListScreen::countOnView() const {
   return {QStringLiteral("%1件です。").arg(source().rows().recordCount())};
@@ -78,14 +74,14 @@ void ClaimListScreen::search() {
 }
 
 void ClaimListScreen::showAll() {
-  if (openWhole() && !emptySet(kNoRows)) tellResult(QStringLiteral("全患者を表示しました"));
+  if (openWhole() && !emptySet()) tellResult(QStringLiteral("全患者を表示しました"));
 }
 
 // 更新: claims made meanwhile come in; a narrowed list becomes whole.
 void ClaimListScreen::refresh() { showAll(); }
 
 void ClaimListScreen::askSort() {
-  if (!emptySet(kNoRows)) navigator().show(QStringLiteral("ソート3"));
+  if (!emptySet()) navigator().show(QStringLiteral("ソート3"));
 }
 
 qint64 ClaimListScreen::currentId() const {
@@ -100,7 +96,7 @@ std::optional<ClaimFile> ClaimListScreen::claimFile() {
 }
 
 void ClaimListScreen::openClaim() {
-  if (emptySet(kNoRows)) return;
+  if (emptySet()) return;
   const qint64 id = currentId();
   if (id == 0) return;
   auto file = claimFile();

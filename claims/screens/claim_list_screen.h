@@ -40,7 +40,6 @@ class ClaimListScreen : public screen::ListScreen {
 
  protected:
   bool openWhole() override;
-  QString noRowsText() const override;
   QStringList rowOnView() const override;
   QStringList countOnView() const override;
 

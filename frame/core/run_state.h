@@ -11,6 +11,15 @@
 
 namespace frame {
 
+/// Values of RunState::callerMark.
+namespace caller {
+inline constexpr int kMainMenu = 2, kPatients = 3;
+}
+/// Values of RunState::calendarMode.
+namespace calendar {
+inline constexpr int kBookings = 1, kTakings = 2;
+}
+
 /// A day as three numbers, as it was asked for: it need not exist (2月31日).
 struct DayAsked {
   int year = 0;
@@ -24,25 +33,25 @@ struct DayAsked {
 /// in their own strings; all other values (licence numbers 18 to 20 and their flag 16, captions 22 to 26,
 /// conditions 68 to 70, topics 88, the slots that are merely carried) in `settings`.
 struct RunState {
-  QString programFolder;          ///< folder of the program file, without a slash at the end
-  SettingsSlots settings;         ///< the 90 fields of qv.dat as read (SettingsSlots)
-  DataFolders folders;            ///< sixteen paths
-  DataFolders pendingFolders;     ///< as typed on LANフォルダ指定, until its question is answered
+  QString programFolder;       ///< folder of the program file, without a slash at the end
+  SettingsSlots settings;      ///< the 90 fields of qv.dat as read (SettingsSlots)
+  DataFolders folders;         ///< sixteen paths
+  DataFolders pendingFolders;  ///< as typed on LANフォルダ指定, until its question is answered
   ClinicProfile profile;
-  QString prefectureCode;         ///< "01" to "47"
-  QString aichiSubmission;        ///< "3" or "4"
-  QString tokyoSubmission;        ///< "5" or "6"
+  QString prefectureCode;   ///< "01" to "47"
+  QString aichiSubmission;  ///< "3" or "4"
+  QString tokyoSubmission;  ///< "5" or "6"
   int runCounter = 0;
   EraCapability eraCapability = EraCapability::Supported;
-  int lastAnswer = 0;             ///< answer of the last question: 1 is OK or はい
-  int lastScreenMode = 0;         ///< 1 receipts, 2 claims; set by the main menu
-  qint64 patientOnView = -1;      ///< ID of the patient on view when the patient screen was last left
-  int callerMark = 0;             ///< where the appointment screens go back to: 2 選択3, 3 治療台帳4
-  DayAsked dayAsked;              ///< the last day asked for in the appointment book
-  int calendarMode = 1;           ///< 1: 予約カレンダー serves the appointment book, else the takings
-  QString platformValue;          ///< of the settings: "Xp" hides the calendar; nothing sets it here
-  bool menuLoadedBefore = false;  ///< the main menu speaks its greeting on the first load only
-  bool itemsOnlyNoteSilenced = false;  ///< 項目のみ印刷の注意事項 stays closed for this run
+  int lastAnswer = 0;         ///< answer of the last question: 1 is OK or はい
+  int lastScreenMode = 0;     ///< 1 receipts, 2 claims; set by the main menu
+  qint64 patientOnView = -1;  ///< ID of the patient on view when the patient screen was last left
+  int callerMark = 0;         ///< where the appointment screens go back to (caller); 0: nowhere
+  DayAsked dayAsked;          ///< the last day asked for in the appointment book
+  int calendarMode = calendar::kBookings;  ///< whom the calendar serves; any other value: the takings
+  QString platformValue;                   ///< of the settings: "Xp" hides the calendar; nothing sets it here
+  bool menuLoadedBefore = false;           ///< the main menu speaks its greeting on the first load only
+  bool itemsOnlyNoteSilenced = false;      ///< 項目のみ印刷の注意事項 stays closed for this run
   const text::Clock* clock = nullptr;
 
   /// Era operations with this run's capability and clock.

@@ -99,8 +99,7 @@ void MainMenuScreen::openReceipts() {
 }
 
 void MainMenuScreen::openBookings() {
-  constexpr int kBackToMenu = 2;
-  m_run.callerMark = kBackToMenu;
+  m_run.callerMark = caller::kMainMenu;
   navigator().show(u"今日の予約"_s, {{u"最終行"_s, true}});
 }
 
@@ -118,7 +117,8 @@ QString MainMenuScreen::todayForReceipt() const {
 void MainMenuScreen::backUp() {
   const QString folder = services().desktop->pickFolder(u"フォルダの選択"_s);
   if (folder.isEmpty()) return;
-  if (const text::Done fit = checkBackupFolder(m_run, folder); !fit) return messages().tell(fit.fault().message);
+  if (const text::Done fit = checkBackupFolder(m_run, folder); !fit)
+    return messages().tell(fit.fault().message);
   const BackupReport report = [&] {
     BackupProgress progress(voice(), backupSize(m_run));
     return backUpToFolder(m_run, folder, progress.watch());

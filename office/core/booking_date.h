@@ -12,9 +12,6 @@ namespace office {
 /// Year, month and day as typed into three lists, full-width digits too; nullopt where one is no number.
 std::optional<frame::DayAsked> dayTyped(const QString& year, const QString& month, const QString& day);
 
-/// Calendar mode of the run in which the calendar serves the appointment book; any other serves the takings.
-inline constexpr int kBookingCalendar = 1;
-
 /// The three numbers of a day.
 frame::DayAsked numbersOf(QDate date);
 /// What date lists begin on: the day asked for last, today where none was.

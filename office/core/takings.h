@@ -8,9 +8,6 @@
 
 namespace office {
 
-/// RunState::calendarMode while the calendar serves the takings; 1 is the appointment book.
-inline constexpr int kTakingsCalendar = 2;
-
 /// The years that takings are asked for: from 2000 to the last year of the era tables, 2038, and on to the
 /// present year after that.
 QStringList takingsYears(QDate today);

@@ -8,9 +8,9 @@ namespace office {
 using namespace Qt::Literals::StringLiterals;
 
 QString callerOf(const frame::RunState& run) {
-  constexpr int kMainMenu = 2, kPatients = 3;
-  if (run.callerMark == kMainMenu && !run.folders[frame::folder::kPatients].isEmpty()) return u"選択3"_s;
-  return run.callerMark == kPatients ? u"治療台帳4"_s : QString();
+  if (run.callerMark == frame::caller::kMainMenu && !run.folders[frame::folder::kPatients].isEmpty())
+    return u"選択3"_s;
+  return run.callerMark == frame::caller::kPatients ? u"治療台帳4"_s : QString();
 }
 
 BookingList::BookingList(const screen::ScreenRow& declaration, screen::Services& services,
@@ -40,7 +40,7 @@ QStringList BookingList::rowOnView() const {
 }
 
 std::optional<store::RecordSet> BookingList::bookingsOfDay(const frame::DayAsked& day) {
-  if (emptySet(noRowsText())) return std::nullopt;
+  if (emptySet()) return std::nullopt;
   auto hits = [&] {
     const screen::Hourglass seeking;
     return bookingsOf(source().rows(), day);

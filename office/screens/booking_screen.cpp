@@ -50,7 +50,7 @@ void BookingScreen::opened(const screen::Request& request) {
   else
     begin(request);
   // Another booking in the open window: what came on view is said as at its opening.
-  if (isVisible()) sayNext(openingTexts());
+  if (isVisible()) sayResult(openingTexts());
   focusOnField();
 }
 
@@ -135,12 +135,7 @@ void BookingScreen::goPrevious() { step(&screen::DataSource::movePrevious); }
 void BookingScreen::goNext() { step(&screen::DataSource::moveNext); }
 void BookingScreen::goLast() { step(&screen::DataSource::moveLast); }
 
-void BookingScreen::sayBooking(const QString& done) { sayNext(QStringList{done} + bookingOnView()); }
-
-void BookingScreen::sayNext(const QStringList& parts) {
-  messages().holdSpeech();
-  voice().speakText(parts.join(voice::kSpeechSeparator));
-}
+void BookingScreen::sayBooking(const QString& done) { sayResult(QStringList{done} + bookingOnView()); }
 
 QStringList BookingScreen::bookingOnView() const {
   if (!hasBooking()) return {};

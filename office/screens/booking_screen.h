@@ -63,8 +63,6 @@ class BookingScreen : public screen::Screen {
   /// Date, weekday, time and name, as far as they are filled in.
   QStringList bookingOnView() const;
   void sayBooking(const QString& done);
-  /// Said before what the focus says next.
-  void sayNext(const QStringList& parts);
 
   frame::RunState& m_run;
   QString m_opener;

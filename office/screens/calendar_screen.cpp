@@ -38,7 +38,7 @@ QString CalendarScreen::dayText(const QDate& day) const { return office::dayText
 
 void CalendarScreen::extract() {
   const QDate chosen = day(u"Calendar1"_s);
-  if (m_run.calendarMode == kBookingCalendar) {
+  if (m_run.calendarMode == frame::calendar::kBookings) {
     m_run.dayAsked = numbersOf(chosen);
     navigator().show(u"今日の予約"_s, {{u"指定日"_s, true}});
   } else {

@@ -11,7 +11,7 @@ class Screen;
 
 namespace office {
 
-// The lists of year, month and day, Combo1 to Combo3, as the screens of the appointment book have them.
+// The lists of year, month and day, Combo1 to Combo3, as the appointment book and the takings have them.
 
 /// A day as the lists hold it, and the date that the date function makes of it.
 struct ListedDay {

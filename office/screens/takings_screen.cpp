@@ -2,6 +2,7 @@
 
 #include "office/core/booking_date.h"
 #include "office/core/takings.h"
+#include "office/screens/day_lists.h"
 #include "office/screens/takings_rows.h"
 #include "platform/screen/find_row.h"
 #include "platform/store/criteria_text.h"
@@ -14,7 +15,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString kNoRows = u"検索データが０件です。「全患者表示及び再表示」をクリックして下さい。"_s;
 // Kept: asked for a day, an empty list speaks of a button of another screen.
 const QString kNoRowsOfDay = u"検索データが０件です。「全表示に戻す」をクリックして下さい。"_s;
 const QString kDeleteQuestion = u"　現在の表示の患者のカルテを削除しますか？"_s;
@@ -32,7 +32,7 @@ void TakingsScreen::onLoad() {
   setShown(u"Text2"_s, false);
   const QDate today = m_run.clock->today();
   setItems(u"Combo1"_s, takingsYears(today));
-  setDay(today);
+  putDayLists(*this, numbersOf(today));
   setText(u"Text1"_s, records::presentMonthText(m_run.eraDates()));
   openWhole();
 }
@@ -41,7 +41,7 @@ void TakingsScreen::opened(const screen::Request& request) {
   if (request.value(u"最終行"_s).toBool()) source().moveLast();
   const QDate day = QDate::fromString(request.value(u"日付"_s).toString(), Qt::ISODate);
   if (!day.isValid()) return;
-  setDay(day);
+  putDayLists(*this, numbersOf(day));
   m_onceActive.set([this] { showDay(); });
 }
 
@@ -50,8 +50,6 @@ void TakingsScreen::onActivate() { m_onceActive.run(*this); }
 QStringList TakingsScreen::openingTexts() const { return QStringList{windowTitle()} + countOnView(); }
 
 bool TakingsScreen::openWhole() { return source().open(m_run.folders[frame::folder::kVisits], u"カルテ"_s); }
-
-QString TakingsScreen::noRowsText() const { return kNoRows; }
 
 void TakingsScreen::rowShown(int) {
   setText(kCount, QString::number(source().isOpen() ? source().rows().recordCount() : 0));
@@ -67,18 +65,11 @@ QStringList TakingsScreen::rowOnView() const {
 
 // ---- What is on view ----
 
-void TakingsScreen::setDay(QDate day) {
-  setText(u"Combo1"_s, QString::number(day.year()));
-  setText(u"Combo2"_s, QString::number(day.month()));
-  setText(u"Combo3"_s, QString::number(day.day()));
-}
-
 // Texts are compared: a visit whose date was typed in western form is not found.
 void TakingsScreen::showDay() {
-  const auto asked = dayTyped(text(u"Combo1"_s), text(u"Combo2"_s), text(u"Combo3"_s));
-  const std::optional<QDate> day = asked ? rolled(*asked) : std::nullopt;
+  const auto day = askedDay(*this);
   if (!day || emptySet(kNoRowsOfDay)) return;
-  const QString date = takingsDay(m_run.eraDates(), *day);
+  const QString date = takingsDay(m_run.eraDates(), day->date);
   narrow(store::equalCriterion(kVisitDate, date), date);
 }
 
@@ -89,12 +80,12 @@ void TakingsScreen::showMonth() {
 }
 
 void TakingsScreen::openCalendar() {
-  m_run.calendarMode = kTakingsCalendar;
+  m_run.calendarMode = frame::calendar::kTakings;
   navigator().show(u"集計カレンダー"_s);
 }
 
 void TakingsScreen::askSort() {
-  if (!emptySet(kNoRows)) navigator().show(u"ソート2"_s);
+  if (!emptySet()) navigator().show(u"ソート2"_s);
 }
 
 void TakingsScreen::showAll() {
@@ -112,7 +103,7 @@ void TakingsScreen::showTotals() {
 
 // A visit without its link would show whoever stands first in the register.
 void TakingsScreen::openPatient() {
-  if (emptySet(kNoRows)) return;
+  if (emptySet()) return;
   const QString serial = source().rows().value(u"ETC1"_s);
   if (serial.isEmpty()) return screen::tellNotFound(*this);
   navigator().show(u"治療台帳4"_s, {{u"テキスト5"_s, serial}});

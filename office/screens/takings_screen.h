@@ -34,13 +34,10 @@ class TakingsScreen : public screen::ListScreen {
 
  protected:
   bool openWhole() override;
-  QString noRowsText() const override;
   QStringList rowOnView() const override;
   QStringList countOnView() const override;
 
  private:
-  void setDay(QDate day);
-
   frame::RunState& m_run;
   screen::OnceActive m_onceActive;
 };

@@ -13,7 +13,7 @@ constexpr const char16_t* kSearchColumns[] = {u"予約患者", u"予約時間", 
                                               // Kept: no column of the table; the engine refuses it.
                                               u"予約曜日", u"患者NO", u"予約日時", u"予約NO", u"メモ1"};
 
-constexpr Handler kShowDay = call<&TodaysBookingsScreen::showChosenDay>;
+constexpr Handler kShowDay = call<&TodaysBookingsScreen::showDay>;
 
 constexpr Row kRows[] = {
     Grid{.name = {u"DBGrid1"},
@@ -32,7 +32,7 @@ constexpr Row kRows[] = {
               .readOnly = true},
     Command{.name = {u"Command1"},
             .caption = u"上記の指定日の予約の表示",
-            .run = run<&TodaysBookingsScreen::showChosenDay>},
+            .run = run<&TodaysBookingsScreen::showDay>},
     Command{.name = {u"Command2"}, .caption = u"曜日の表示", .run = run<&TodaysBookingsScreen::showWeekday>},
     EndGroup{},
     Group{.name = {u"Frame2"}, .caption = u"抽出", .columns = 3},

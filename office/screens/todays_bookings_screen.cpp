@@ -33,7 +33,7 @@ void TodaysBookingsScreen::opened(const screen::Request& request) {
   putDayLists(*this, offeredDay(m_run));
   if (request.value(u"最終行"_s).toBool() && holdsRows()) source().moveLast();
   m_showsDay = request.value(u"指定日"_s).toBool();
-  if (m_showsDay) return whenActive([this] { showDayAsked(); });
+  if (m_showsDay) return whenActive([this] { showDay(); });
   // Coming back, the listener has to know whether all bookings are on view.
   if (again) sayWithCount(headingTexts());
 }
@@ -80,11 +80,7 @@ std::optional<QDate> TodaysBookingsScreen::readLists() {
   return day->date;
 }
 
-void TodaysBookingsScreen::showChosenDay() {
-  if (readLists()) showDayAsked();
-}
-
-void TodaysBookingsScreen::showDayAsked() {
+void TodaysBookingsScreen::showDay() {
   const auto date = readLists();
   if (!date) return;
   auto hits = bookingsOfDay(m_run.dayAsked);
@@ -114,10 +110,7 @@ void TodaysBookingsScreen::extract() {
 }
 
 void TodaysBookingsScreen::showAll() {
-  if (!openWhole()) return;
-  source().rows().moveLast();
-  source().moveFirst();
-  sayRows({u"全表示"_s});
+  if (openWhole()) sayRows({u"全表示"_s});
 }
 
 void TodaysBookingsScreen::removeBooking() {
@@ -136,7 +129,7 @@ void TodaysBookingsScreen::openCalendar() { showForBookings(u"予約カレンダ
 void TodaysBookingsScreen::askCalendar() { showForBookings(u"カレンダーのチェック"_s); }
 
 void TodaysBookingsScreen::showForBookings(const QString& calendar) {
-  m_run.calendarMode = kBookingCalendar;
+  m_run.calendarMode = frame::calendar::kBookings;
   navigator().show(calendar);
 }
 

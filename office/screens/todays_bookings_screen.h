@@ -19,7 +19,8 @@ class TodaysBookingsScreen : public BookingList {
   QStringList openingTexts() const override;
   void rowShown(int sourceNumber) override;
 
-  void showChosenDay();
+  /// The day of the three lists.
+  void showDay();
   void showWeekday();
   void extract();
   void openCalendar();
@@ -41,7 +42,6 @@ class TodaysBookingsScreen : public BookingList {
   QStringList headingTexts() const;
   /// Opens a calendar screen in the mode of the appointment book.
   void showForBookings(const QString& calendar);
-  void showDayAsked();
   /// The rows on view are read again, where they lie behind what happened on other screens.
   void readAgain();
   bool m_loaded = false;

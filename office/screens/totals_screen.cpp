@@ -11,7 +11,8 @@ namespace {
 using namespace screen;
 
 /// The boxes in their order and the numbers that fill them.
-constexpr const char16_t* kSums[] = {u"rows", u"insurer", u"share", u"treatment", u"receipts", u"newPatients"};
+constexpr const char16_t* kSums[] = {u"rows",      u"insurer",  u"share",
+                                     u"treatment", u"receipts", u"newPatients"};
 constexpr int kFirst = 0, kNewPatients = 5;
 
 constexpr Unbound kSum{u"a sum handed over by the opener"};
@@ -67,9 +68,7 @@ void TotalsScreen::opened(const Request& request) {
   for (const char16_t* sum : kSums)
     setText(boxName(index++), text::thousands(request.value(QString::fromUtf16(sum)).toLongLong()));
   // Shown again while it is open, it has no opening of its own.
-  if (!isVisible()) return;
-  messages().holdSpeech();
-  voice().speakText(openingTexts().join(voice::kSpeechSeparator));
+  if (isVisible()) sayResult(openingTexts());
 }
 
 QStringList TotalsScreen::openingTexts() const {
@@ -78,7 +77,8 @@ QStringList TotalsScreen::openingTexts() const {
   for (int index = kFirst; index <= kNewPatients; ++index) {
     if (!isControlShown(boxName(index))) continue;
     const QString sum = text(boxName(index));
-    texts << caption(boxName(index)) << (sum.isEmpty() ? u"なし"_s : sum + caption(unitName(index)).trimmed());
+    texts << caption(boxName(index))
+          << (sum.isEmpty() ? u"なし"_s : sum + caption(unitName(index)).trimmed());
   }
   return texts;
 }

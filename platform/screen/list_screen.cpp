@@ -34,7 +34,7 @@ bool ListScreen::narrowBy(const QString& criteria) {
 }
 
 bool ListScreen::narrow(const QString& criteria, const QString& done) {
-  if (emptySet(noRowsText())) return false;
+  if (emptySet()) return false;
   auto hits = setOf(criteria, QString());
   if (!hits) return false;
   if (hits->recordCount() == 0) {
@@ -47,8 +47,7 @@ bool ListScreen::narrow(const QString& criteria, const QString& done) {
 }
 
 void ListScreen::tellResult(const QString& done) {
-  messages().holdSpeech();
-  voice().speakText((QStringList{done} + countOnView()).join(voice::kSpeechSeparator));
+  sayResult(QStringList{done} + countOnView());
   focusOn(QStringLiteral("DBGrid1"));
 }
 

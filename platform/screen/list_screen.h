@@ -7,6 +7,12 @@
 
 namespace screen {
 
+/// What an empty list says to a search; to sorting, some speak of 全会員 (kept: the words differ).
+inline constexpr char16_t kNoRowsText[] =
+    u"検索データが０件です。「全患者表示及び再表示」をクリックして下さい。";
+inline constexpr char16_t kNoRowsOfMembersText[] =
+    u"検索データが０件です。「全会員表示及び再表示」をクリックして下さい。";
+
 /// Base of the screens that list the rows of source 1 and narrow and sort them.
 ///
 /// A search narrows the set on view, so that a second one searches in the hits of the first; without a hit
@@ -34,7 +40,7 @@ class ListScreen : public Screen {
   /// Opens the table and shows it as the list begins: whole, in its own order. False: a fault was told.
   virtual bool openWhole() = 0;
   /// What an empty set says to a search, and to sorting.
-  virtual QString noRowsText() const = 0;
+  virtual QString noRowsText() const { return QString::fromUtf16(kNoRowsText); }
   virtual QString noRowsToSortText() const { return noRowsText(); }
   /// What is said of the row that the record keys led to; nothing: they are silent.
   virtual QStringList rowOnView() const { return {}; }
@@ -51,6 +57,7 @@ class ListScreen : public Screen {
   /// Tells the text where the set is empty; true where it was. A file that could not be opened is tried again
   /// and told by name instead.
   bool emptySet(const QString& text);
+  bool emptySet() { return emptySet(noRowsText()); }
   /// The narrowed or sorted copy of the set on view. What the engine refuses is told in its words.
   std::optional<store::RecordSet> setOf(const QString& criteria, const QString& order);
   /// Puts that copy in the list's place, also without rows; false where it was refused.

@@ -60,8 +60,8 @@ class Screen : public QMainWindow {
   void setItems(const QString& combo, const QStringList& items);
   /// Position of the item that the list shows (of like items the one chosen); -1: its text is none of them.
   int chosenItem(const QString& combo) const;
-  /// Puts rows into a table, texts in the order of its columns; the first becomes current, and chosenItem() is
-  /// the current one.
+  /// Puts rows into a table, texts in the order of its columns; the first becomes current, and chosenItem()
+  /// is the current one.
   void setRows(const QString& table, const QList<QStringList>& rows);
   /// The day of a date cursor.
   QDate day(const QString& calendar) const;
@@ -79,6 +79,10 @@ class Screen : public QMainWindow {
   void focusOn(const QString& control);
   QString focused() const;  ///< objectName of the control with the focus
   void showPage(const QString& caption);
+  /// Says what came of a command; blank parts are left out.
+  void say(const QStringList& parts) { voice().speakParts(parts); }
+  /// The same, heard to its end: what the focus says next waits behind it.
+  void sayResult(const QStringList& parts);
   /// Sends the focus to a field that a command needs filled. Where the focus is there already the field is
   /// named all the same: a command that does nothing must not be silent.
   void askFor(const QString& control);
@@ -116,7 +120,8 @@ class Screen : public QMainWindow {
   void speakOpening();
   /// Before loading: the speech of the screen before is cut, what is said from now on waits its turn.
   void prepareOpening();
-  /// Shown, and no key was pressed since: the desk may still hand the keyboard to and fro before it stays here.
+  /// Shown, and no key was pressed since: the desk may still hand the keyboard to and fro before it stays
+  /// here.
   bool awaitsKeyboard() const;
   /// What speakOpening() says: the heading (where none is declared the caption) and the spoken notes.
   /// Screens with their own sentence override it; an empty list says nothing.

@@ -115,6 +115,11 @@ void Screen::focusOn(const QString& control) {
   giveFocus(*target);
 }
 
+void Screen::sayResult(const QStringList& parts) {
+  messages().holdSpeech();
+  say(parts);
+}
+
 void Screen::askFor(const QString& control) {
   focusOn(control);
   voice().speakHeading({caption(control)});

@@ -39,12 +39,14 @@ void VoiceGuide::speakText(const QString& text) {
   trap([&] { m_control.VoiceGo(); });
 }
 
+void VoiceGuide::speakParts(QStringList parts) {
+  parts.removeAll(QString());
+  speakText(parts.join(kSpeechSeparator));
+}
+
 void VoiceGuide::speakHeading(const QStringList& parts) {
-  QStringList spoken;
-  for (const QString& part : parts)
-    if (!part.isEmpty()) spoken += part;
   stopSpeech();
-  speakText(spoken.join(kSpeechSeparator));
+  speakParts(parts);
 }
 
 void VoiceGuide::holdForOpening() { ++m_openings; }

@@ -23,7 +23,9 @@ class VoiceGuide {
   void speakFocus(const QString& text, bool stopLibrary = false);
   /// Texts of whole screens, messages and results: say and go on the voice control only, no stop.
   void speakText(const QString& text);
-  /// The same for parts that are joined with the separator, after a stop: a screen's heading and notes.
+  /// The same for parts that are joined with the separator; blank ones are left out.
+  void speakParts(QStringList parts);
+  /// The same after a stop: a screen's heading and notes.
   void speakHeading(const QStringList& parts);
 
   /// Until the next call of release(), speakField and speakFocus queue behind what is being said instead

@@ -37,9 +37,7 @@ void Chart1Screen::opened(const screen::Request& request) {
   m_called = request.value(u"氏名"_s).toString();
   find(request.value(u"テキスト5"_s).toString());
   // Called for another patient while it is open, it has no opening of its own.
-  if (!isVisible()) return;
-  messages().holdSpeech();
-  voice().speakText(openingTexts().join(voice::kSpeechSeparator));
+  if (isVisible()) sayResult(openingTexts());
 }
 
 void Chart1Screen::onActivate() { m_onceActive.run(*this); }
@@ -119,8 +117,7 @@ void Chart1Screen::closeDictionaries() {
       navigator().show(window);
       return;
     }
-  messages().holdSpeech();
-  voice().speakText(u"辞典の窓を閉じました"_s);
+  sayResult({u"辞典の窓を閉じました"_s});
 }
 
 // ---- Leaving ----

@@ -42,13 +42,6 @@ void DictionaryScreen::askForEntry() {
   say({QString::fromUtf16(m_row.newRow)});
 }
 
-void DictionaryScreen::say(const QStringList& parts) {
-  QStringList spoken;
-  for (const QString& part : parts)
-    if (!part.isEmpty()) spoken << part;
-  voice().speakText(spoken.join(voice::kSpeechSeparator));
-}
-
 // ---- Moves ----
 
 bool DictionaryScreen::leaveRow() {

@@ -45,7 +45,6 @@ class DictionaryScreen : public screen::Screen {
   void copyEntry();
   /// Goes to the first field of a new row and says how it is filled.
   void askForEntry();
-  void say(const QStringList& parts);
   /// Before the row changes: a new row that is still blank is dropped, what was typed is stored. False: told.
   bool leaveRow();
 

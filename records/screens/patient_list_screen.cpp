@@ -11,9 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString kNoRows = u"検索データが０件です。「全患者表示及び再表示」をクリックして下さい。"_s;
-// Kept: sorting an empty list speaks of 全会員.
-const QString kNoRowsToSort = u"検索データが０件です。「全会員表示及び再表示」をクリックして下さい。"_s;
 const QString kLabelQuestion =
     u"現在、表示の患者を全てタック印刷を行います。シートをプリンタにセットして下さい。"_s;
 const QString kLabelTitle = u"タック印刷"_s;
@@ -40,8 +37,9 @@ bool PatientListScreen::openWhole() {
   return source().open(m_run.folders[frame::folder::kPatients], u"臨床QV"_s);
 }
 
-QString PatientListScreen::noRowsText() const { return kNoRows; }
-QString PatientListScreen::noRowsToSortText() const { return kNoRowsToSort; }
+QString PatientListScreen::noRowsToSortText() const {
+  return QString::fromUtf16(screen::kNoRowsOfMembersText);
+}
 
 void PatientListScreen::rowShown(int) {
   setText(u"Text2"_s, QString::number(source().isOpen() ? source().rows().recordCount() : 0));
@@ -54,11 +52,11 @@ QStringList PatientListScreen::rowOnView() const {
 }
 
 void PatientListScreen::showAll() {
-  if (openWhole() && !emptySet(kNoRows)) tellResult(u"全患者を表示しました"_s);
+  if (openWhole() && !emptySet()) tellResult(u"全患者を表示しました"_s);
 }
 
 void PatientListScreen::handOver() {
-  if (emptySet(kNoRows)) return;
+  if (emptySet()) return;
   const store::RecordSet& rows = source().rows();
   const QString name = rows.value(u"氏名"_s);
   if (Screen* dialog = navigator().loaded(u"選択4"_s)) dialog->opened({{u"氏名"_s, name}});
@@ -88,7 +86,7 @@ void PatientListScreen::drawSheet(report::ReportOperations& paper, int sheet) co
 }
 
 void PatientListScreen::printLabels() {
-  if (emptySet(kNoRows)) return;
+  if (emptySet()) return;
   const int labels = source().rows().recordCount();
   const printing::RunEnd end = printing::runHandPrint(
       m_engine, {.prompt = [this] { return messages().ask(kLabelQuestion); },

@@ -27,7 +27,6 @@ class PatientListScreen : public screen::ListScreen {
 
  protected:
   bool openWhole() override;
-  QString noRowsText() const override;
   QString noRowsToSortText() const override;
   QStringList rowOnView() const override;
   QStringList countOnView() const override;

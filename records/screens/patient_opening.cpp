@@ -32,7 +32,7 @@ void PatientScreen::opened(const screen::Request& request) {
   } else if (request.contains(u"ID"_s)) {
     takeListed(request[u"ID"_s].toLongLong(), request[u"氏名"_s].toString());
   } else if (request.contains(u"表示患者"_s)) {
-    sayOnOpening();
+    sayResult(onView());
   } else {
     showAgain();
   }
@@ -74,11 +74,6 @@ void PatientScreen::showAgain() {
   if (source().rows().refresh()) source().show();
 }
 
-void PatientScreen::sayOnOpening() {
-  messages().holdSpeech();
-  say(onView());
-}
-
 void PatientScreen::fillSearchRow(const QString& patientName) {
   setText(u"Combo1"_s, u"氏名"_s);
   setText(u"Combo3"_s, patientName);
@@ -90,7 +85,7 @@ void PatientScreen::noteFound(const text::Result<bool>& found) {
   else if (!*found)
     m_notice = {QString::fromUtf16(screen::kNotFoundText), QString::fromUtf16(screen::kNotFoundTitle)};
   else
-    sayOnOpening();
+    sayResult(onView());
 }
 
 void PatientScreen::takeSerial(const QString& serial) {

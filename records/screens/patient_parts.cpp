@@ -40,8 +40,7 @@ void convertDates(screen::Screen& screen, const frame::EraDates& dates, const Da
 void sayDates(screen::Screen& screen, const DateConversion& conversion) {
   QStringList spoken{name(conversion.done)};
   for (const char16_t* field : kDates) spoken += screen.text(name(field));
-  spoken.removeAll(QString());
-  screen.voice().speakText(spoken.join(voice::kSpeechSeparator));
+  screen.say(spoken);
 }
 
 }  // namespace records

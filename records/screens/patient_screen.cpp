@@ -23,7 +23,6 @@ constexpr char16_t kDeleted[] = u"削除しました";
 
 constexpr char16_t kStoreFirst[] =
     u"記入後には、登録ボタンを押してからカルテへ移動してください。登録ボタンをおさないとカルテは開きません。";
-constexpr int kBackToPatients = 3;  ///< callerMark: the appointment screens come back here
 
 }  // namespace
 
@@ -74,13 +73,6 @@ QStringList PatientScreen::onView() const {
   if (!source().isOpen() || source().rows().recordCount() == 0)
     return {caption(u"LabelCount"_s), caption(u"Label14"_s)};
   return {caption(u"Data1"_s), text(name(kName))};
-}
-
-void PatientScreen::say(const QStringList& parts) {
-  QStringList spoken;
-  for (const QString& part : parts)
-    if (!part.isEmpty()) spoken << part;
-  voice().speakText(spoken.join(voice::kSpeechSeparator));
 }
 
 // ---- The record ----
@@ -291,8 +283,8 @@ void PatientScreen::openNewClaim() {
 void PatientScreen::openClaims() {
   if (noPatient()) return;
   const QString serial = text(name(kSerial));
-  const QString criteria =
-      serial.isEmpty() ? u"氏名='"_s + text(u"txtFields(4)"_s) + u"' "_s : u"番号1 ='"_s + serial + u"' "_s;
+  const QString criteria = serial.isEmpty() ? u"氏名="_s + store::quotedText(text(name(kName))) + u" "_s
+                                            : u"番号1 ="_s + store::quotedText(serial) + u" "_s;
   navigator().show(u"レセプト一覧表"_s, {{u"criteria"_s, criteria}});
 }
 
@@ -301,7 +293,7 @@ void PatientScreen::openReceipt() {
 }
 
 void PatientScreen::openBooking(const QString& screenName, const screen::Request& request) {
-  m_run.callerMark = kBackToPatients;
+  m_run.callerMark = frame::caller::kPatients;
   navigator().show(screenName, request);
 }
 

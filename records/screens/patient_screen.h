@@ -80,8 +80,6 @@ class PatientScreen : public screen::Screen {
   void showAgain();
   /// Says who is on view, or keeps the refusal until the screen has the keyboard.
   void noteFound(const text::Result<bool>& found);
-  /// Says who is on view while the screen opens.
-  void sayOnOpening();
 
   /// Whether the charts may open: a row that was not stored has none yet. False: told.
   bool readyForChart();
@@ -91,8 +89,6 @@ class PatientScreen : public screen::Screen {
   void step(void (screen::DataSource::*step)());
   /// Position and name of the patient on view; of an empty register the number of patients.
   QStringList onView() const;
-  /// Speaks a result; blank parts are left out.
-  void say(const QStringList& parts);
   bool mayLeave();
   void convert(const DateConversion& conversion);
   screen::Request patientColumns() const;

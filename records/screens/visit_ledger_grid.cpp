@@ -31,7 +31,7 @@ void VisitLedgerScreen::gridToggled() {
   const bool typed = claimPending();
   if (!leaveClaim()) return setChecked(kTick, true);  // told; what was typed stays
   hideGrid();
-  say({caption(kFrame), typed ? u"登録しました"_s : u"表示なし"_s});
+  sayResult({caption(kFrame), typed ? u"登録しました"_s : u"表示なし"_s});
 }
 
 void VisitLedgerScreen::hideGrid() {
@@ -46,7 +46,7 @@ void VisitLedgerScreen::hideGrid() {
 void VisitLedgerScreen::openGrid() {
   setShown(kFrame, true);
   if (!putClaims()) return hideGrid();
-  say({caption(kFrame), text(u"txtFields(114)"_s), text(u"txtFields(67)"_s)});
+  sayResult({caption(kFrame), text(u"txtFields(114)"_s), text(u"txtFields(67)"_s)});
   // Once the frame has its place: before that the window cannot scroll to the cell.
   const auto goToFirstDay = [this, from = focused()] {
     if (gridShown() && focused() == from) focusOn(code(0));

@@ -58,7 +58,7 @@ void VisitLedgerScreen::opened(const screen::Request& request) {
     if (!openWhole()) return;
     if (!putPatient() || !holdsRows()) m_onceActive.set([this] { offerFirstVisit(); });
   }
-  if (isVisible()) say(openingTexts());
+  if (isVisible()) sayResult(openingTexts());
 }
 
 void VisitLedgerScreen::onActivate() {
@@ -100,11 +100,6 @@ QStringList VisitLedgerScreen::rowOnView() const {
   for (const QString& field : {u"txtFields(2)"_s, u"txtFields(3)"_s})
     if (!text(field).isEmpty()) parts << text(field);
   return parts;
-}
-
-void VisitLedgerScreen::say(const QStringList& parts) {
-  messages().holdSpeech();
-  voice().speakHeading(parts);
 }
 
 // What the file keeps refusing (read only, deleted by another computer) must not lock the user in.

@@ -70,7 +70,6 @@ class VisitLedgerScreen : public screen::ListScreen {
 
  protected:
   bool openWhole() override;
-  QString noRowsText() const override;
   QString noRowsToSortText() const override;
   QStringList rowOnView() const override;
   void setChanged(const QString& done) override;
@@ -90,8 +89,6 @@ class VisitLedgerScreen : public screen::ListScreen {
   bool writeVisit();
   void convertDates(QString (frame::EraDates::*conversion)(const QString&) const);
   screen::Request patient() const;
-  /// Speaks a result that the next focus waits behind.
-  void say(const QStringList& parts);
 
   // The claim of the grid.
   bool gridShown() const;

@@ -16,12 +16,8 @@ const QString kDetail = u"治療台帳detail"_s;
 
 }  // namespace
 
-QString VisitLedgerScreen::noRowsText() const {
-  return u"検索データが０件です。「全患者表示及び再表示」をクリックして下さい。"_s;
-}
-
 QString VisitLedgerScreen::noRowsToSortText() const {
-  return u"検索データが０件です。「全会員表示及び再表示」をクリックして下さい。"_s;
+  return QString::fromUtf16(screen::kNoRowsOfMembersText);
 }
 
 // What was typed belongs to a row of the set on view: it is written before another set takes its place.
@@ -34,7 +30,7 @@ bool VisitLedgerScreen::sortBy(const QString& order) { return settleVisit() && L
 void VisitLedgerScreen::setChanged(const QString& /*done*/) { tellView(); }
 
 void VisitLedgerScreen::tellView() {
-  say(QStringList{caption(u"LabelCount"_s), caption(u"Label14"_s)} + rowOnView());
+  sayResult(QStringList{caption(u"LabelCount"_s), caption(u"Label14"_s)} + rowOnView());
   focusOn(u"DBGrid1"_s);
 }
 
@@ -64,7 +60,7 @@ void VisitLedgerScreen::showAll() {
 }
 
 void VisitLedgerScreen::showTotals() {
-  if (!settleVisit() || emptySet(noRowsText())) return;
+  if (!settleVisit() || emptySet()) return;
   const auto summed = [this] {
     const screen::Hourglass summing;
     return totalsOf(source().rows());

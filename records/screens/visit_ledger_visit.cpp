@@ -54,7 +54,7 @@ void VisitLedgerScreen::startVisit(const QString& name, const QString& birth, co
     if (const text::Done set = rows.setValue(column, value); !set)
       messages().tellDataFault(set.fault().message);
   source().show();
-  say({u"新規追加"_s, caption(u"LabelCount"_s), caption(u"Label14"_s)});
+  sayResult({u"新規追加"_s, caption(u"LabelCount"_s), caption(u"Label14"_s)});
   focusOn(kDate);
 }
 
@@ -89,7 +89,7 @@ void VisitLedgerScreen::deleteVisit() {
   } else if (!source().remove()) {
     return;
   }
-  say(QStringList{u"削除しました"_s} + rowOnView());
+  sayResult(QStringList{u"削除しました"_s} + rowOnView());
 }
 
 void VisitLedgerScreen::fillToday() {
@@ -97,13 +97,13 @@ void VisitLedgerScreen::fillToday() {
   if (!text(kDate).isEmpty())
     return messages().tell(u"治療日の項目に日付が入っています。削除してから実行して下さい。"_s);
   setText(kDate, todayText(m_run.eraDates()));
-  say({caption(kDate), text(kDate)});
+  sayResult({caption(kDate), text(kDate)});
 }
 
 void VisitLedgerScreen::copyToday() {
   const QString today = m_run.eraDates().formatEra(m_run.clock->today());
   services().desktop->copyText(today);
-  say({today, u"コピーしました"_s});
+  sayResult({today, u"コピーしました"_s});
 }
 
 void VisitLedgerScreen::copySummary() {
@@ -111,7 +111,7 @@ void VisitLedgerScreen::copySummary() {
   if (!text(kSummary).isEmpty())
     return messages().tell(u"治療概略の項目に文字が入っています。削除してから実行して下さい。"_s);
   setText(kSummary, m_previous.value(PreviousVisit::Summary));
-  say({caption(kSummary), text(kSummary)});
+  sayResult({caption(kSummary), text(kSummary)});
 }
 
 void VisitLedgerScreen::copyAmounts() {
@@ -124,7 +124,7 @@ void VisitLedgerScreen::copyAmounts() {
     setText(field, m_previous.value(slot));
     parts << caption(field) << text(field);
   }
-  say(parts);
+  sayResult(parts);
 }
 
 void VisitLedgerScreen::convertDates(QString (frame::EraDates::*conversion)(const QString&) const) {
@@ -137,7 +137,7 @@ void VisitLedgerScreen::convertDates(QString (frame::EraDates::*conversion)(cons
     if (const QString after = (dates.*conversion)(before); after != before) setText(field, after);
     parts << caption(field) << text(field);
   }
-  if (!parts.isEmpty()) say(parts);
+  if (!parts.isEmpty()) sayResult(parts);
 }
 
 void VisitLedgerScreen::toSeireki() { convertDates(&frame::EraDates::seireki); }
