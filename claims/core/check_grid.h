@@ -27,8 +27,9 @@ QString specialAreaMessage(const ClaimRecord& claim);
 /// From 2024/10: too many different numbers of areas or limbs.
 QString areaNumbersMessage(const ClaimRecord& claim);
 
-/// The day grid as the visit ledger validates it before it hands the claim to the form: filled, not mixed, the
-/// codes' rule of the month, and the numbers of areas under one form of visit. Warnings are left to the form.
+/// The day grid as the visit ledger validates it before it hands the claim to the form: filled, not mixed,
+/// the codes' rule of the month, and the numbers of areas under one form of visit. Warnings are left to the
+/// form.
 QString ledgerGridMessage(const ClaimRecord& claim, const MonthFlags& flags);
 
 }  // namespace claims

@@ -133,8 +133,8 @@ class ClaimFormScreen : public screen::Screen {
   /// where `since201810`.
   void openSingle(const QString& name, bool since201810);
   void convertDates(QString (frame::EraDates::*conversion)(const QString&) const);
-  /// Fills the fields beside a list from the register row behind the chosen entry; the list itself stays where
-  /// it is, so that two entries of one text are told apart.
+  /// Fills the fields beside a list from the register row behind the chosen entry; the list itself stays
+  /// where it is, so that two entries of one text are told apart.
   void fillSiblings(int combo, const char16_t* column, const Register& list, const RegisterRows& rows);
   void leaveTo(const QString& screenName);
 

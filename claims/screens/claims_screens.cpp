@@ -36,9 +36,10 @@ void registerScreens(screen::ScreenRegistry& registry, frame::RunState& run, Cla
   registry.add<FillingHelp2018Screen>(u"記入の仕方2018"_s, run, state);
   registry.add<FillingHelp2024Screen>(u"記入の仕方2024"_s, run, state);
   for (const screen::ScreenRow& preview : previewScreens()) {
-    registry.add(QString::fromUtf16(preview.name.get()), [&preview, &run, &state](screen::Services& services) {
-      return std::make_unique<PreviewScreen>(preview, services, run, state);
-    });
+    registry.add(QString::fromUtf16(preview.name.get()),
+                 [&preview, &run, &state](screen::Services& services) {
+                   return std::make_unique<PreviewScreen>(preview, services, run, state);
+                 });
   }
   registry.add<ShareScreen>(u"計算式確認"_s);
   const auto addRegister = [&](const screen::ScreenRow& row, const Register& list) {

@@ -34,8 +34,8 @@ namespace profile {
 inline constexpr int kPractitioner = 29, kClinicAddress = 30, kClinicName = 31, kClinicZip = 32,
                      kPractitionerNumber = 75, kMarginNumber = 74, kPresident = 57, kAssociation = 56,
                      kMassageToo = 63, kRelationPrinted = 76, kElderlyNamePrinted = 77, kElderlyHari = 78,
-                     kElderlyMassage = 79, kInstitutionHari = 82, kInstitutionMassage = 83, kHealthOffice = 84,
-                     kMail = 86, kRegistration = 87;
+                     kElderlyMassage = 79, kInstitutionHari = 82, kInstitutionMassage = 83,
+                     kHealthOffice = 84, kMail = 86, kRegistration = 87;
 }
 
 }  // namespace frame

@@ -21,11 +21,11 @@ struct EraParts {
 
 /// Today as the menus use it.
 struct TodayParts {
-  QString eraYear;     ///< "令和1年"; of an earlier era where today lies in one
-  QString month;       ///< "5"
-  QString day;         ///< "25"
-  QString eraDate;     ///< today in the platform's era form
-  QString reiwaDate;   ///< today in the "令和n年m月d日" form; the platform's form outside the table
+  QString eraYear;    ///< "令和1年"; of an earlier era where today lies in one
+  QString month;      ///< "5"
+  QString day;        ///< "25"
+  QString eraDate;    ///< today in the platform's era form
+  QString reiwaDate;  ///< today in the "令和n年m月d日" form; the platform's form outside the table
 };
 
 /// The one implementation of the era operations. The texts that dates are kept as are told with each
@@ -52,8 +52,8 @@ class EraDates {
   /// WesternToReiwa: "2019/" to "2038/" or a shorthand to "令和n年m月d日". The year alone decides: 1 January
   /// of 2019 is 令和1年 here.
   std::optional<QString> westernToReiwa(const QString& text) const;
-  /// HeiseiToReiwa: a day that the platform formats as 平成31年 to 平成50年 as 令和1年 to 20年, by the era year
-  /// alone; earlier eras are left (nullopt).
+  /// HeiseiToReiwa: a day that the platform formats as 平成31年 to 平成50年 as 令和1年 to 20年, by the era
+  /// year alone; earlier eras are left (nullopt).
   std::optional<QString> heiseiToReiwa(QDate date) const;
   bool isAfterReiwaCutover(QDate date, QDate cutover) const { return date >= cutover; }
   /// Completed years by the yyyymmdd arithmetic with halves to the even neighbour.

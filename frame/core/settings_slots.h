@@ -9,11 +9,11 @@ namespace frame {
 
 /// Numbers of the fields of qv.dat that code names; the field's meaning is its position.
 namespace slot {
-inline constexpr int kWarning = 0, kRunCounter = 1, kMarkerFolders = 2, kUpdatePage = 13, kMarkerCheckBox = 15,
-                     kPrintLicence = 16, kAichi = 17, kLicenceHari = 18, kLicenceKyu = 19, kLicenceMassage = 20,
-                     kMarkerTextBox = 21, kCaptionText1 = 22, kCaptionText2 = 23, kCaptionText3 = 24,
-                     kCaptionSymptom = 25, kCaptionTreatment = 26, kPrintApplicantName = 27,
-                     kMarkerProfile = 28, kTopics = 88, kTokyo = 89;
+inline constexpr int kWarning = 0, kRunCounter = 1, kMarkerFolders = 2, kUpdatePage = 13,
+                     kMarkerCheckBox = 15, kPrintLicence = 16, kAichi = 17, kLicenceHari = 18,
+                     kLicenceKyu = 19, kLicenceMassage = 20, kMarkerTextBox = 21, kCaptionText1 = 22,
+                     kCaptionText2 = 23, kCaptionText3 = 24, kCaptionSymptom = 25, kCaptionTreatment = 26,
+                     kPrintApplicantName = 27, kMarkerProfile = 28, kTopics = 88, kTokyo = 89;
 }
 
 /// SettingsSlots: the fields of qv.dat in memory, index 0 to 100, of which 0 to 89 are in the file.

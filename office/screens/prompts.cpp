@@ -9,10 +9,9 @@ namespace {
 
 constexpr Note kUnfinishedLines[] = {
     {.name = {u"Label1"},
-     .caption =
-         u"予約患者名が入っていないか、更新ボタンが押されていません。必ず予約を登録したい場合は、"
-         u"更新ボタンを押してから、閉じるのボタンを押してください。"
-         u"このままＯＫボタンを押すとデータは保存、更新されません。"}};
+     .caption = u"予約患者名が入っていないか、更新ボタンが押されていません。必ず予約を登録したい場合は、"
+                u"更新ボタンを押してから、閉じるのボタンを押してください。"
+                u"このままＯＫボタンを押すとデータは保存、更新されません。"}};
 constexpr PromptButton kUnfinishedButtons[] = {
     {.name = {u"Command1"}, .caption = u"ＯＫ", .action = u"dropBooking"},
     {.name = {u"Command2"}, .caption = u"予約フォームに戻る", .action = u"backToBooking"}};

@@ -16,8 +16,9 @@ constexpr ColumnChoice kSearched[] = {
     {u"領収証チェック", u"領収証チェック", true},
     {u"新患", u"新患", true},
 };
-constexpr Note kNotes[] = {
-    {.name = {u"Label1"}, .caption = u"※領収証チェックと新患は、Yes か No を入力して下さい。", .spoken = true}};
+constexpr Note kNotes[] = {{.name = {u"Label1"},
+                            .caption = u"※領収証チェックと新患は、Yes か No を入力して下さい。",
+                            .spoken = true}};
 constexpr ExtractRow kExtracts[] = {{.name = u"集計抽出",
                                      .caption = u"集計抽出",
                                      .list = u"集計",

@@ -70,9 +70,8 @@ constexpr Row kRows[] = {
     Command{.name = {u"Command2"}, .caption = u"総合金額の表示", .run = run<&TakingsScreen::showTotals>},
     EndBar{},
     Bar{},
-    Command{.name = {u"Command8"},
-            .caption = u"選択した患者のカルテへ",
-            .run = run<&TakingsScreen::openPatient>},
+    Command{
+        .name = {u"Command8"}, .caption = u"選択した患者のカルテへ", .run = run<&TakingsScreen::openPatient>},
     Command{.name = {u"Command5"}, .caption = u"集計印刷", .run = opens<u"集計年月">},
     Command{.name = {u"cmdDelete"}, .caption = u"削除", .run = run<&TakingsScreen::removeVisit>},
     Command{.name = {u"cmdClose"}, .caption = u"閉じる", .run = run<&TakingsScreen::finish>},

@@ -63,7 +63,8 @@ void OptionsControl::setPrefix(const QString& prefix) {
 
 QStringList OptionsControl::partCaptions() const {
   QStringList captions;
-  for (const Choice& choice : m_choices) captions += accessibleCaption(QString::fromUtf16(choice.caption.get()));
+  for (const Choice& choice : m_choices)
+    captions += accessibleCaption(QString::fromUtf16(choice.caption.get()));
   return captions;
 }
 

@@ -6,7 +6,8 @@ namespace printing {
 namespace {
 
 constexpr int kFirstItem = 21, kLines = 6;
-/// The tick 印刷する of 新摘要欄 (Text25). Where it was never set, remarks that were typed are meant to print.
+/// The tick 印刷する of 新摘要欄 (Text25). Where it was never set, remarks that were typed are meant to
+/// print.
 constexpr char16_t kNewRemarksPrinted[] = u"txtdummy25";
 
 bool printsNewRemarks(const Sheet& sheet) {

@@ -6,21 +6,21 @@ namespace {
 using namespace screen;
 
 constexpr ColumnChoice kSearched[] = {
-    {u"治療日時", u"治療日時"},
-    {u"治療概略", u"治療概略"},
-    {u"保険者負担金", u"保険者負担金"},
-    {u"保険の一部負担金", u"保険の一部負担金"},
-    {u"治療金額", u"治療金額"},
-    {u"領収証チェック", u"領収証チェック", true},
+    {u"治療日時", u"治療日時"},         {u"治療概略", u"治療概略"},
+    {u"保険者負担金", u"保険者負担金"}, {u"保険の一部負担金", u"保険の一部負担金"},
+    {u"治療金額", u"治療金額"},         {u"領収証チェック", u"領収証チェック", true},
     {u"新患", u"新患", true},
 };
 constexpr Note kNotes[] = {
     // Kept: the sentence ends there.
     {.name = {u"Label1"},
-     .caption = u"※１年分の場合は、左側を「治療日時」にして、この欄に「令和2年」と入力すると、令和2年のみ表示されます"
-                u"。1ケ月分は、「令和2年1月」の",
+     .caption =
+         u"※１年分の場合は、左側を「治療日時」にして、この欄に「令和2年」と入力すると、令和2年のみ表示されます"
+         u"。1ケ月分は、「令和2年1月」の",
      .spoken = true},
-    {.name = {u"Label2"}, .caption = u"※領収証チェックと新患は、Yes か No を入力して下さい。", .spoken = true},
+    {.name = {u"Label2"},
+     .caption = u"※領収証チェックと新患は、Yes か No を入力して下さい。",
+     .spoken = true},
 };
 constexpr ExtractRow kExtracts[] = {{.name = u"カルテ2の抽出",
                                      .caption = u"カルテ2の抽出",

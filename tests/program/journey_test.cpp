@@ -81,8 +81,8 @@ QString JourneyTest::printedText() {
   return QString::fromUtf8(reader.readAllStandardOutput()).remove(u' ').remove(u'\n');
 }
 
-// はり 1,610 yen twice and はりきゅう 1,770 yen once (fees of the notice for 令和6年10月): 4,990 yen; three tenths
-// are 1,497 yen, the insurer pays 3,493 yen.
+// はり 1,610 yen twice and はりきゅう 1,770 yen once (fees of the notice for 令和6年10月): 4,990 yen; three
+// tenths are 1,497 yen, the insurer pays 3,493 yen.
 TEST_F(JourneyTest, FromAnEmptyFolderToThePrintedFormAndTheNextMonth) {
   start();
   enterPatient();
@@ -106,7 +106,8 @@ TEST_F(JourneyTest, FromAnEmptyFolderToThePrintedFormAndTheNextMonth) {
   answer({true});
   press(u"レセプト印刷2024"_s, u"Command1"_s);
   const QString paper = printedText();
-  for (const QString& text : {u"療　養　費　支　給　申　請　書"_s, u"見本　太郎"_s, u"4,990"_s, u"1,497"_s, u"3,493"_s, u"1,770"_s})
+  for (const QString& text :
+       {u"療　養　費　支　給　申　請　書"_s, u"見本　太郎"_s, u"4,990"_s, u"1,497"_s, u"3,493"_s, u"1,770"_s})
     EXPECT_TRUE(paper.contains(text)) << text.toStdString();
   told();
 

@@ -9,7 +9,6 @@
 #include "platform/screen/testing/screen_probe.h"
 #include "platform/voice/recording_channel.h"
 
-
 namespace program {
 
 /// The whole program in a fresh folder of its own, with a voice that is written down, answers that are queued

@@ -20,9 +20,11 @@ struct OpRow {
 };
 
 constexpr OpRow kOps[] = {
-    {"era", era},       {"nextMonth", nextMonth}, {"feeFile", feeFile}, {"fees", fees},   {"tally", tally},
-    {"boxes", boxes},   {"amounts", amounts},     {"check", check},     {"entry", entry}, {"trim", trim},
-    {"print", print},   {"order", order},         {"match", match},     {"template", formTemplate},
+    {"era", era},         {"nextMonth", nextMonth},   {"feeFile", feeFile},
+    {"fees", fees},       {"tally", tally},           {"boxes", boxes},
+    {"amounts", amounts}, {"check", check},           {"entry", entry},
+    {"trim", trim},       {"print", print},           {"order", order},
+    {"match", match},     {"template", formTemplate},
 };
 
 QJsonObject answer(const QByteArray& line, Context& context) {
@@ -46,8 +48,8 @@ QJsonObject answer(const QByteArray& line, Context& context) {
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   rulecheck::Context context;
-  context.programFolder = argc > 1 ? QString::fromLocal8Bit(argv[1])
-                                   : QCoreApplication::applicationDirPath() + "/../program";
+  context.programFolder =
+      argc > 1 ? QString::fromLocal8Bit(argv[1]) : QCoreApplication::applicationDirPath() + "/../program";
   context.programFolder = QFileInfo(context.programFolder).absoluteFilePath();
   std::string line;
   while (std::getline(std::cin, line)) {

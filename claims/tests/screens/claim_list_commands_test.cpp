@@ -179,10 +179,14 @@ TEST_F(ClaimListCommands, TheMenuOffersWhatTheButtonsDo) {
 
 TEST_F(ClaimListCommands, TheRoomsOpenByTheirNames) {
   openList();
-  const std::pair<const char16_t*, const char16_t*> rooms[] = {
-      {u"Command4", u"年月"},        {u"Command5", u"施術録"},          {u"Command8", u"レセプト一覧表2"},
-      {u"Command9", u"総括表700_1"}, {u"Command10", u"往療行程の印刷"}, {u"Command11", u"同意期限一ヶ月"},
-      {u"Command12", u"jintaizu"},   {u"fm_14", u"抽出6"}};
+  const std::pair<const char16_t*, const char16_t*> rooms[] = {{u"Command4", u"年月"},
+                                                               {u"Command5", u"施術録"},
+                                                               {u"Command8", u"レセプト一覧表2"},
+                                                               {u"Command9", u"総括表700_1"},
+                                                               {u"Command10", u"往療行程の印刷"},
+                                                               {u"Command11", u"同意期限一ヶ月"},
+                                                               {u"Command12", u"jintaizu"},
+                                                               {u"fm_14", u"抽出6"}};
   for (const auto& [command, room] : rooms) {
     press(command);
     EXPECT_EQ(m_navigator.shows.last(), qs(room));

@@ -34,9 +34,8 @@ struct PreviewCase {
 };
 
 const PreviewCase kCases[] = {
-    // 1,300 x 2 + 1,520 + 30 = 4,150; visits of 2 and 6 km: 1,800 x 2 and one add-on of 1,540; 4,150 + 3,600
-    // +
-    // 1,540 = 9,290. Three tenths are 2,787.
+    // 1,300 x 2 + 1,520 + 30 = 4,150; visits of 2 and 6 km: 1,800 x 2 and one add-on of 1,540.
+    // 4,150 + 3,600 + 1,540 = 9,290. Three tenths are 2,787.
     {"AcupunctureInSteps",
      u"施術料金1",
      u"平成30年5月",
@@ -106,10 +105,8 @@ const PreviewCase kCases[] = {
      u"1,044円",
      u"2,436円"},
     // first 1,950; one art 1,610 x 2; two arts 1,770; 電療 100 x 1; a visit to one person 3,910; 突発 2,300
-    // with
-    // its one art day; special area on both of these: 250 x 2. 1,950 + 3,220 + 1,770 + 100 + 3,910 + 2,300 +
-    // 500
-    // = 13,750; three tenths are 4,125.
+    // with its one art day; special area on both of these: 250 x 2.
+    // 1,950 + 3,220 + 1,770 + 100 + 3,910 + 2,300 + 500 = 13,750; three tenths are 4,125.
     {"AcupunctureWithVisits",
      u"施術料金2024H",
      u"令和6年10月",
@@ -135,8 +132,7 @@ const PreviewCase kCases[] = {
      u"4,125円",
      u"9,625円"},
     // two areas on two days 900 x 2; two limbs 940; hot pack 180; visits of three persons: two areas 1,360 x
-    // 2,
-    // and of ten: 1,050. 1,800 + 940 + 180 + 2,720 + 1,050 = 6,690; no rate, no share.
+    // 2, and of ten: 1,050. 1,800 + 940 + 180 + 2,720 + 1,050 = 6,690; no rate, no share.
     {"MassageWithVisits",
      u"施術料金2024A",
      u"令和6年10月",
@@ -235,8 +231,9 @@ TEST_P(Preview, TellsOfTheTwoNumbersOfAreasOnlyWhereTheyRule) {
   m_run.clock = &m_clock;
   open(GetParam());
   EXPECT_EQ(m_screen->isControlShown(qs(u"Label1")), qs(GetParam().screen) == qs(u"施術料金2024A"));
-  EXPECT_EQ(m_screen->caption(qs(u"Label1")),
-            qs(u"通所及び訪問施術は、異なる局数は２つまで対応。それ以外は表示しませんし、合計にも、含まれません。"));
+  EXPECT_EQ(
+      m_screen->caption(qs(u"Label1")),
+      qs(u"通所及び訪問施術は、異なる局数は２つまで対応。それ以外は表示しませんし、合計にも、含まれません。"));
 }
 
 TEST_P(Preview, SpeaksEveryLineByTab) {

@@ -14,9 +14,7 @@ TEST(TakingsYears, RunFrom2000ToTheEndOfTheEraTables) {
   EXPECT_EQ(years.last(), u"2038"_s);
 }
 
-TEST(TakingsYears, TodayIsAlwaysAmongThem) {
-  EXPECT_EQ(takingsYears(QDate(2041, 1, 1)).last(), u"2041"_s);
-}
+TEST(TakingsYears, TodayIsAlwaysAmongThem) { EXPECT_EQ(takingsYears(QDate(2041, 1, 1)).last(), u"2041"_s); }
 
 struct DayCase {
   frame::EraCapability capability;

@@ -10,14 +10,15 @@ using namespace Qt::Literals::StringLiterals;
 using TakingsCommandsTest = test::TakingsFixture;
 
 TEST_F(TakingsCommandsTest, TheSumsAreOfTheRowsOnView) {
-  addVisits({{{u"治療日時"_s, u"令和6年6月15日"_s},
-              {u"保険者負担金"_s, u"1120"_s},
-              {u"保険の一部負担金"_s, u"480"_s},
-              {u"治療金額"_s, u"1600"_s},
-              {u"領収証チェック"_s, u"-1"_s},
-              {u"新患"_s, u"-1"_s}},
-             {{u"治療日時"_s, u"令和6年6月15日"_s}, {u"治療金額"_s, u"3500"_s}, {u"領収証チェック"_s, u"-1"_s}},
-             {{u"治療日時"_s, u"令和6年6月14日"_s}, {u"治療金額"_s, u"9000"_s}, {u"新患"_s, u"-1"_s}}});
+  addVisits(
+      {{{u"治療日時"_s, u"令和6年6月15日"_s},
+        {u"保険者負担金"_s, u"1120"_s},
+        {u"保険の一部負担金"_s, u"480"_s},
+        {u"治療金額"_s, u"1600"_s},
+        {u"領収証チェック"_s, u"-1"_s},
+        {u"新患"_s, u"-1"_s}},
+       {{u"治療日時"_s, u"令和6年6月15日"_s}, {u"治療金額"_s, u"3500"_s}, {u"領収証チェック"_s, u"-1"_s}},
+       {{u"治療日時"_s, u"令和6年6月14日"_s}, {u"治療金額"_s, u"9000"_s}, {u"新患"_s, u"-1"_s}}});
   screen::Screen& screen = takings();
   screen.trigger(u"Command1"_s);
   screen.source().moveTo(1);
@@ -115,7 +116,8 @@ TEST_F(TakingsCommandsTest, NothingToDeleteIsTold) {
   screen::Screen& screen = takings();
   answer({true});
   screen.trigger(u"cmdDelete"_s);
-  EXPECT_EQ(told(), QStringList({u"　現在の表示の患者のカルテを削除しますか？"_s, u"削除するデータがありません。"_s}));
+  EXPECT_EQ(told(), QStringList({u"　現在の表示の患者のカルテを削除しますか？"_s,
+                                 u"削除するデータがありません。"_s}));
 }
 
 TEST_F(TakingsCommandsTest, ThePrintAsksForItsDateOnItsOwnScreen) {

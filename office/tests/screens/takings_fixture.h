@@ -18,7 +18,8 @@ class TakingsFixture : public frame::test::DeskFixture {
 
   TakingsFixture() {
     registerScreens(registry, run);
-    for (const QString& room : {u"選択3"_s, u"治療台帳4"_s, u"集計カレンダー"_s, u"集計年月"_s}) standIn(room);
+    for (const QString& room : {u"選択3"_s, u"治療台帳4"_s, u"集計カレンダー"_s, u"集計年月"_s})
+      standIn(room);
   }
 
   void SetUp() override {
@@ -26,7 +27,9 @@ class TakingsFixture : public frame::test::DeskFixture {
     makeFile(kFile);
   }
 
-  void addVisits(const QList<Visit>& visits) { ASSERT_TRUE(store::addRows(path(kFile), u"カルテ"_s, visits)); }
+  void addVisits(const QList<Visit>& visits) {
+    ASSERT_TRUE(store::addRows(path(kFile), u"カルテ"_s, visits));
+  }
   /// Visits on these dates, of patients 見本 1, 見本 2, ...
   void addDates(const QStringList& dates) {
     QList<Visit> visits;

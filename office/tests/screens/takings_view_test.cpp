@@ -61,12 +61,9 @@ struct DayRow {
 
 // A day that does not exist is the one that the date function makes of it.
 TEST_F(TakingsTest, DaysAreRolledAndWrittenInTheirEra) {
-  const DayRow rows[] = {{u"2024", u"2", u"31", u"令和6年3月2日"},
-                         {u"2023", u"2", u"29", u"令和5年3月1日"},
-                         {u"2024", u"6", u"31", u"令和6年7月1日"},
-                         {u"2019", u"4", u"30", u"平成31年4月30日"},
-                         {u"2019", u"5", u"1", u"令和1年5月1日"},
-                         {u"2000", u"1", u"1", u"平成12年1月1日"}};
+  const DayRow rows[] = {{u"2024", u"2", u"31", u"令和6年3月2日"}, {u"2023", u"2", u"29", u"令和5年3月1日"},
+                         {u"2024", u"6", u"31", u"令和6年7月1日"}, {u"2019", u"4", u"30", u"平成31年4月30日"},
+                         {u"2019", u"5", u"1", u"令和1年5月1日"},  {u"2000", u"1", u"1", u"平成12年1月1日"}};
   QStringList dates;
   for (const DayRow& row : rows) dates += QString::fromUtf16(row.found);
   addDates(dates);
@@ -205,7 +202,8 @@ INSTANTIATE_TEST_SUITE_P(
                     ExtractCase{u"治療日時"_s, u"6月"_s, kOne}, ExtractCase{u"治療概略"_s, u"腰"_s, kOne},
                     ExtractCase{u"保険者負担金"_s, u"112"_s, kOne},
                     ExtractCase{u"保険の一部負担金"_s, u"480"_s, kOne},
-                    ExtractCase{u"治療金額"_s, u"16"_s, kOne}, ExtractCase{u"領収証チェック"_s, u"Yes"_s, kOne},
+                    ExtractCase{u"治療金額"_s, u"16"_s, kOne},
+                    ExtractCase{u"領収証チェック"_s, u"Yes"_s, kOne},
                     ExtractCase{u"領収証チェック"_s, u"no"_s, kTwo}, ExtractCase{u"新患"_s, u"yes"_s, kTwo},
                     ExtractCase{u"新患"_s, u"No"_s, kOne}));
 
@@ -225,14 +223,16 @@ TEST_F(TakingsTest, AQuoteGivesTheEnginesTextAndNothingElse) {
   screen::Screen& screen = takings();
   screen.setText(u"Text1"_s, u"令和' or '1'='1"_s);
   screen.trigger(u"Command6"_s);
-  EXPECT_TRUE(lastMessage().startsWith(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"_s)) << lastMessage().toStdString();
+  EXPECT_TRUE(lastMessage().startsWith(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"_s))
+      << lastMessage().toStdString();
   EXPECT_EQ(listed().size(), 2);
 }
 
 TEST_F(TakingsTest, DatesAreSortedByTheirShadow) {
-  addVisits({{{u"氏名"_s, u"平成"_s}, {u"治療日時"_s, u"平成30年1月1日"_s}, {u"治療日チェック"_s, u"2018/1/1"_s}},
-             {{u"氏名"_s, u"昭和"_s}, {u"治療日時"_s, u"昭和60年1月1日"_s}, {u"治療日チェック"_s, u"1985/1/1"_s}},
-             {{u"氏名"_s, u"令和"_s}, {u"治療日時"_s, u"令和2年1月1日"_s}, {u"治療日チェック"_s, u"2020/1/1"_s}}});
+  addVisits(
+      {{{u"氏名"_s, u"平成"_s}, {u"治療日時"_s, u"平成30年1月1日"_s}, {u"治療日チェック"_s, u"2018/1/1"_s}},
+       {{u"氏名"_s, u"昭和"_s}, {u"治療日時"_s, u"昭和60年1月1日"_s}, {u"治療日チェック"_s, u"1985/1/1"_s}},
+       {{u"氏名"_s, u"令和"_s}, {u"治療日時"_s, u"令和2年1月1日"_s}, {u"治療日チェック"_s, u"2020/1/1"_s}}});
   screen::Screen& screen = takings();
   screen.trigger(u"Command7"_s);
   screen::Screen* dialog = navigator.loaded(u"ソート2"_s);

@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 class TotalsTest : public test::TakingsFixture {
  protected:
   static screen::Request sums(const QString& opener) {
-    return {{u"opener"_s, opener},  {u"rows"_s, 1234}, {u"insurer"_s, 1234567890}, {u"share"_s, 0},
+    return {{u"opener"_s, opener},  {u"rows"_s, 1234},  {u"insurer"_s, 1234567890}, {u"share"_s, 0},
             {u"treatment"_s, 5100}, {u"receipts"_s, 2}, {u"newPatients"_s, 1}};
   }
   screen::Screen& open(const QString& opener, const QString& name = u"集計総合金額"_s) {
@@ -31,10 +31,10 @@ TEST_F(TotalsTest, TheSumsStandInGroupsOfThreeDigitsAndNothingIsEmpty) {
 
 TEST_F(TotalsTest, AllSixAreHeardWhenItOpens) {
   open(u"集計"_s);
-  EXPECT_TRUE(channel.heardWhole().contains(sentence(
-      {u"集計総合金額"_s, kNote, u"総患者数:"_s, u"1,234人"_s, u"保険者負担金:"_s, u"1,234,567,890円"_s,
-       u"保険の一部負担金:"_s, u"なし"_s, u"治療金額:"_s, u"5,100円"_s, u"領収証発行数:"_s, u"2"_s, u"新患数:"_s,
-       u"1人"_s})));
+  EXPECT_TRUE(channel.heardWhole().contains(
+      sentence({u"集計総合金額"_s, kNote, u"総患者数:"_s, u"1,234人"_s, u"保険者負担金:"_s,
+                u"1,234,567,890円"_s, u"保険の一部負担金:"_s, u"なし"_s, u"治療金額:"_s, u"5,100円"_s,
+                u"領収証発行数:"_s, u"2"_s, u"新患数:"_s, u"1人"_s})));
 }
 
 TEST_F(TotalsTest, TheLedgerCountsTreatmentsAndHasNoSixthBox) {
@@ -43,9 +43,9 @@ TEST_F(TotalsTest, TheLedgerCountsTreatmentsAndHasNoSixthBox) {
   EXPECT_EQ(screen.caption(u"unit(0)"_s), u"回"_s);
   for (const QString& control : {u"txtFields(5)"_s, u"unit(5)"_s, u"Label1"_s})
     EXPECT_FALSE(screen.isControlShown(control)) << control.toStdString();
-  EXPECT_TRUE(channel.heardWhole().contains(
-      sentence({u"集計総合金額"_s, u"治療回数:"_s, u"1,234回"_s, u"保険者負担金:"_s, u"1,234,567,890円"_s,
-                u"保険の一部負担金:"_s, u"なし"_s, u"治療金額:"_s, u"5,100円"_s, u"領収証発行数:"_s, u"2"_s})));
+  EXPECT_TRUE(channel.heardWhole().contains(sentence(
+      {u"集計総合金額"_s, u"治療回数:"_s, u"1,234回"_s, u"保険者負担金:"_s, u"1,234,567,890円"_s,
+       u"保険の一部負担金:"_s, u"なし"_s, u"治療金額:"_s, u"5,100円"_s, u"領収証発行数:"_s, u"2"_s})));
 }
 
 TEST_F(TotalsTest, TheTakingsTakeTheLedgersDressOffAndSayTheSumsAgain) {

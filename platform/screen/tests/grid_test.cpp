@@ -152,7 +152,8 @@ TEST(GridMarks, AreShownInTheWordsOfTheirSearch) {
   Desk desk;
   const QString path = desk.folder.filePath("カルテ2データ2000.mdb");
   ASSERT_TRUE(store::createFresh(path, "カルテ2データ2000.mdb"));
-  const QList<QHash<QString, store::Value>> visits = {{{"新患", "-1"}}, {{"新患", "0"}, {"治療概略", "-1"}}, {}};
+  const QList<QHash<QString, store::Value>> visits = {
+      {{"新患", "-1"}}, {{"新患", "0"}, {"治療概略", "-1"}}, {}};
   ASSERT_TRUE(store::addRows(path, "カルテ", visits));
   auto rows = store::RecordSet::open(store::Database::open(path).value(), "カルテ");
   ASSERT_TRUE(rows);

@@ -94,12 +94,12 @@ INSTANTIATE_TEST_SUITE_P(All, MessageBox,
 class DropQuestion : public ShownMessage, public ::testing::Test {
  protected:
   bool answered(const QList<Qt::Key>& keys) {
-    return whileAsked([this] { return messages.askToDrop("入力した内容を捨てますか？"); },
-                      [&](QMessageBox&) {
-                        EXPECT_EQ(desk.spy.heardWhole(),
-                                  QStringList({"入力した内容を捨てますか？", "いいえ"}));
-                        for (const Qt::Key key : keys) QTest::keyClick(QApplication::focusWidget(), key);
-                      });
+    return whileAsked(
+        [this] { return messages.askToDrop("入力した内容を捨てますか？"); },
+        [&](QMessageBox&) {
+          EXPECT_EQ(desk.spy.heardWhole(), QStringList({"入力した内容を捨てますか？", "いいえ"}));
+          for (const Qt::Key key : keys) QTest::keyClick(QApplication::focusWidget(), key);
+        });
   }
 };
 

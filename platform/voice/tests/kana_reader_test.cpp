@@ -86,9 +86,12 @@ TEST(SpokenNumbers, QuantitiesAreNumbersAndMarksAreDigits) {
 }
 
 TEST(SpokenWords, SignsAreSaidAndSeparatorsPause) {
-  const Row rows[] = {{u"※", u"コメジルシ"},  {u"①⑳", u"マル1マル20"},
-                      {u"～", u"カラ"},       {u"氏名:\u00FE見本", u"氏名、、見本"},
-                      {u"（注）", u"、注、"}, {u"𠮷", u"吉"},
+  const Row rows[] = {{u"※", u"コメジルシ"},
+                      {u"①⑳", u"マル1マル20"},
+                      {u"～", u"カラ"},
+                      {u"氏名:\u00FE見本", u"氏名、、見本"},
+                      {u"（注）", u"、注、"},
+                      {u"𠮷", u"吉"},
                       {u"㈱", u"カブ"},
                       {u"×", u"バツ"},
                       {u"1:× 2", u"1、バツ 2"},

@@ -34,14 +34,11 @@ TEST(InsurerNumber, LateElderlyBeginsWithThirtyNine) {
   const struct {
     const char16_t* number;
     const char* row;
-  } rows[] = {{u"131234", "39131234"},
-              {u"39131234", "39131234"},  // typed with its 39
-              {u"不明", "________"},      // no digit: neither the 3 nor the 9
-              {u"", "________"},
-              {u"1312345678", "________"},   // too long to stand behind 39
-              {u"131234  ", "________"},     // blanks count: eight characters and more are not printed
-              {u"131234 ", "39131234"},
-              {u"13 234", "3913_234"}};
+  } rows[] = {{u"131234", "39131234"},   {u"39131234", "39131234"},    // typed with its 39
+              {u"不明", "________"},                                   // no digit: neither the 3 nor the 9
+              {u"", "________"},         {u"1312345678", "________"},  // too long to stand behind 39
+              {u"131234  ", "________"},  // blanks count: eight characters and more are not printed
+              {u"131234 ", "39131234"},  {u"13 234", "3913_234"}};
   for (const auto& row : rows) {
     Filled filled;
     filled.set({{u"保険の種類", u"後期高齢"}, {u"保険者番号", row.number}});

@@ -54,8 +54,8 @@ TEST_F(ConsentWatchRoom, ShowsAndCountsThePatients) {
     headers << model.headerData(column, Qt::Horizontal).toString();
     first << model.index(0, column).data().toString();
   }
-  EXPECT_EQ(headers, QStringList({u"氏名"_s, u"保険の種類"_s, u"同意期限"_s, u"施術内容"_s,
-                                  u"その後の同意期限"_s}));
+  EXPECT_EQ(headers,
+            QStringList({u"氏名"_s, u"保険の種類"_s, u"同意期限"_s, u"施術内容"_s, u"その後の同意期限"_s}));
   EXPECT_EQ(first, QStringList({u"例示　花子"_s, u"国保"_s, u"2024年11月9日"_s, u"鍼灸"_s, u""_s}));
   EXPECT_EQ(model.index(1, 4).data().toString(), u"2025年5月20日"_s) << "renewed, and told all the same";
   EXPECT_TRUE(spoken().contains(u"同意期限が一ヶ月以内の患者は、2名です。"_s));

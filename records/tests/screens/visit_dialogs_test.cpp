@@ -44,9 +44,8 @@ class VisitDialogsTest : public test::RecordsFixture {
   void SetUp() override {
     RecordsFixture::SetUp();
     makeFile(kVisits);
-    registry.add(u"治療台帳3"_s, [this](screen::Services& all) {
-      return std::make_unique<VisitList>(all, path(kVisits));
-    });
+    registry.add(u"治療台帳3"_s,
+                 [this](screen::Services& all) { return std::make_unique<VisitList>(all, path(kVisits)); });
     ASSERT_TRUE(store::addRows(path(kVisits), u"カルテ"_s,
                                {{{u"治療日時"_s, u"令和2年1月5日"_s},
                                  {u"治療日チェック"_s, u"2020/1/5"_s},
@@ -82,11 +81,12 @@ class VisitDialogsTest : public test::RecordsFixture {
 TEST_F(VisitDialogsTest, TheSearchOffersItsColumnsAndItsHelp) {
   screen::Screen& dialog = shown(u"カルテ2の抽出");
   EXPECT_EQ(dialog.items(u"Combo1"_s),
-            QStringList({u"治療日時"_s, u"治療概略"_s, u"保険者負担金"_s, u"保険の一部負担金"_s, u"治療金額"_s,
-                         u"領収証チェック"_s, u"新患"_s}));
-  EXPECT_EQ(dialog.caption(u"Label1"_s),
-            u"※１年分の場合は、左側を「治療日時」にして、この欄に「令和2年」と入力すると、令和2年のみ表示されます。"
-            u"1ケ月分は、「令和2年1月」の"_s);
+            QStringList({u"治療日時"_s, u"治療概略"_s, u"保険者負担金"_s, u"保険の一部負担金"_s,
+                         u"治療金額"_s, u"領収証チェック"_s, u"新患"_s}));
+  EXPECT_EQ(
+      dialog.caption(u"Label1"_s),
+      u"※１年分の場合は、左側を「治療日時」にして、この欄に「令和2年」と入力すると、令和2年のみ表示されます。"
+      u"1ケ月分は、「令和2年1月」の"_s);
   EXPECT_TRUE(channel.said().filter(dialog.caption(u"Label1"_s)).size() == 1) << "the help is heard";
 }
 
@@ -138,13 +138,15 @@ TEST_F(VisitDialogsTest, DatesAreSortedByTheirShadow) {
 
 TEST_F(VisitDialogsTest, TheSummaryIsOfferedByANameThatTheTableLacks) {
   sort(u"治療概要"_s, u"Command1"_s);
-  EXPECT_TRUE(lastMessage().startsWith(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"_s)) << lastMessage().toStdString();
+  EXPECT_TRUE(lastMessage().startsWith(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"_s))
+      << lastMessage().toStdString();
   EXPECT_EQ(dates(), kFirst + kSecond);
 }
 
 TEST_F(VisitDialogsTest, TheOtherChoicesAreColumns) {
-  EXPECT_EQ(shown(u"ソート5").items(u"Combo1"_s),
-            QStringList({u"治療日時"_s, u"治療概要"_s, u"保険者負担金"_s, u"保険の一部負担金"_s, u"治療金額"_s}));
+  EXPECT_EQ(
+      shown(u"ソート5").items(u"Combo1"_s),
+      QStringList({u"治療日時"_s, u"治療概要"_s, u"保険者負担金"_s, u"保険の一部負担金"_s, u"治療金額"_s}));
   for (const QString& column : {u"保険者負担金"_s, u"保険の一部負担金"_s, u"治療金額"_s})
     sort(column, u"Command3"_s);
   EXPECT_EQ(messages.texts(), QStringList());
@@ -162,7 +164,8 @@ TEST_P(VisitRoomTest, EveryControlIsNamedSpokenAndReached) {
   EXPECT_EQ(probe.faults(), QStringList());
   EXPECT_EQ(probe.unknownColumns({kFile}), QStringList());
 }
-INSTANTIATE_TEST_SUITE_P(Screens, VisitRoomTest, testing::Values(u"治療台帳2"_s, u"カルテ2の抽出"_s, u"ソート5"_s));
+INSTANTIATE_TEST_SUITE_P(Screens, VisitRoomTest,
+                         testing::Values(u"治療台帳2"_s, u"カルテ2の抽出"_s, u"ソート5"_s));
 
 }  // namespace
 }  // namespace records
