@@ -1,22 +1,25 @@
 #pragma once
 
 #include <QString>
-#include <QVariantMap>
+
+#include "platform/screen/route.h"
 
 namespace screen {
 
 class Screen;
 
-/// What the opener hands to the opened screen, by field name ("テキスト5": a serial, "ID": a claim ...).
-using Request = QVariantMap;
-
-/// Opens screens by their names. Each screen is one instance, re-entered by showing it.
+/// Opens screens. Each screen is one instance, re-entered by showing it.
 class Navigator {
  public:
   virtual ~Navigator() = default;
 
-  /// Shows the screen, loading it first where it is not loaded; Screen::opened() gets the request. A
-  /// screen that this build does not have says so by name, spoken.
+  /// Takes a route: shows its screen, loading it first where it is not loaded, and hands the route over.
+  template <Route R>
+  Screen* show(const R& route) {
+    return show(R::screen.text(), Request(route));
+  }
+  /// Shows a screen by its name, with nothing handed over: the way back to an opener. A screen that this
+  /// build does not have is reported by name, spoken.
   virtual Screen* show(const QString& screenName, const Request& request = {}) = 0;
   /// Loads without showing.
   virtual Screen* load(const QString& screenName) = 0;

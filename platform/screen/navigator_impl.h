@@ -16,11 +16,11 @@ class ScreenRegistry {
   using Factory = std::function<std::unique_ptr<Screen>(Services&)>;
 
   void add(const QString& screenName, Factory factory) { m_factories[screenName] = std::move(factory); }
-  /// A screen whose constructor takes the services and further references:
-  /// registry.add<PatientScreen>(u"治療台帳4"_qs, runState).
-  template <class S, class... State>
-  void add(const QString& screenName, State&... state) {
-    add(screenName,
+  /// The screen that a route leads to; its constructor takes the services and further references:
+  /// registry.add<routes::PatientRegister, PatientScreen>(runState).
+  template <Route R, class S, class... State>
+  void add(State&... state) {
+    add(R::screen,
         Factory([&state...](Services& services) { return std::make_unique<S>(services, state...); }));
   }
   /// nullptr where no such screen is registered.
