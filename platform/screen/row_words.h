@@ -4,6 +4,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "platform/screen/route.h"
 #include "platform/store/column.h"
 
 // What rows are written with: texts, names, columns and actions. These types have no default constructor and
@@ -19,6 +20,7 @@ class Words {
   consteval Words(const char16_t* text) : m_text(text) {
     if (text == nullptr || text[0] == u'\0') throw "a row needs a text here";
   }
+  consteval Words(const ScreenName& screen) : m_text(screen.get()) {}
   constexpr const char16_t* get() const { return m_text; }
 
  private:
