@@ -6,6 +6,7 @@
 
 #include "claims/core/claim_record.h"
 #include "claims/core/print_chooser.h"
+#include "frame/core/patient.h"
 
 namespace claims {
 
@@ -36,7 +37,7 @@ struct ClaimsState {
   int printKind = 0;                     ///< PrintKind: 1 acupuncture button, 2 massage button
   PrintScreenChooser choosePrintScreen;  ///< of printing, set at start
   PrinterSetup printerSetup;             ///< the printer's dialog, set at start
-  ClaimRecord newClaim;  ///< the patient's columns (of table 臨床QV) that 新規レセプト was opened with
+  frame::Patient newClaim;               ///< whose claim 新規レセプト asks to make
 };
 
 }  // namespace claims

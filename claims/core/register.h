@@ -22,7 +22,7 @@ struct RegisterField {
   int limit = 0;  ///< characters that can be typed, 0: no limit of its own
 };
 
-/// A register behind the lists of the claim form.
+/// A register that feeds lists of the claim form: of the doctors or of the insurers.
 struct Register {
   const store::Table& table;
   int folder;                             ///< its file's entry of DataFolders
@@ -30,6 +30,9 @@ struct Register {
   std::span<const RegisterField> fields;  ///< in the order in which they are checked
   std::span<const store::Column> keys;    ///< columns to search in, in the order of their list
   const char16_t* deleteQuestion;
+
+  /// Index of the field that is this column of the register or of the claim; -1: none is.
+  int fieldOf(const store::Column& column) const;
 };
 
 inline constexpr RegisterField kDoctorFields[] = {{doctors::name, u"氏名", claim::doctorName, 50},
@@ -56,10 +59,11 @@ inline constexpr Register kInsurerRegister{
 /// The values of a register's rows, in the order of its fields.
 using RegisterRows = QVector<QStringList>;
 
-/// The register's rows in the order of the claim form's lists, at most 1,000. A fault in the engine's words.
+/// The register's rows in the order of the claim form's lists, at most 1,000. A fault in the database's
+/// words.
 text::Result<RegisterRows> readRegister(const Register& list, const frame::DataFolders& folders);
 
-/// Index of the first blank value, -1 where there is none: a row of a register never has a blank field.
+/// Index of the first blank value, -1: none is. A row of a register never has a blank field.
 int firstBlank(const QStringList& values);
 /// What a blank field says.
 QString blankFieldText(const QString& label);
