@@ -22,8 +22,8 @@ class ClaimOnDisplay {
   virtual void trimForPrint() = 0;
   /// Window handle for the report engine.
   virtual quintptr window() const = 0;
-  /// Puts a text into the form's field of a column, as the helper windows do; it is kept by 登録 only.
-  virtual void put(const QString& column, const QString& text) {
+  /// Puts a text into the form's field of a column, as the helper windows do; only 登録 stores it.
+  virtual void put(const store::Column& column, const QString& text) {
     Q_UNUSED(column)
     Q_UNUSED(text)
   }
