@@ -34,7 +34,7 @@ TEST(Register, FieldsGoToTheirColumnsOfTheClaim) {
   const auto pairs = [](const Register& list) {
     QStringList all;
     for (const RegisterField& field : list.fields)
-      all << QString::fromUtf16(field.column) + u'>' + QString::fromUtf16(field.claimColumn);
+      all << field.column.text() + u'>' + field.claimColumn.text();
     return all;
   };
   EXPECT_EQ(pairs(kDoctorRegister),

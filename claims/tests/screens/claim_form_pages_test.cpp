@@ -2,6 +2,7 @@
 #include "claims/core/print_settings.h"
 #include "claims/screens/claim_form_rows.h"
 #include "claims/tests/screens/claim_form_fixture.h"
+#include "platform/screen/control_book.h"
 #include "platform/screen/testing/screen_probe.h"
 #include "platform/store/catalogue.h"
 
@@ -33,8 +34,8 @@ constexpr Unshown kUnshown[] = {
 };
 
 bool isCalculated(int half, const QString& column) {
-  for (const char16_t* name : half == 1 ? calculatedColumns() : calculatedColumnsSecond())
-    if (column == qs(name)) return true;
+  for (const store::Column& name : half == 1 ? calculatedColumns() : calculatedColumnsSecond())
+    if (column == name.text()) return true;
   return false;
 }
 
@@ -48,9 +49,10 @@ bool isUnshown(int half, const QString& column) {
 }
 
 TEST_F(ClaimFormPages, EveryColumnOfBothHalvesIsOnAControlOrHasItsReason) {
+  openNew(acupuncture());
   QHash<int, QSet<QString>> shown;
-  for (const BoundControl& bound : boundControls(claimFormDeclaration().rows))
-    shown[bound.half].insert(bound.column);
+  for (const int half : {1, 2})
+    for (const screen::Control* bound : m_form->controls().boundTo(half)) shown[half].insert(bound->column());
   for (const store::TableRow& table : store::catalogue()) {
     const int half = qs(table.file) == u"保険申請2000_1.mdb" && qs(table.table) == u"保険申請"   ? 1
                      : qs(table.file) == u"保険申請2000_2.mdb" && qs(table.table) == u"保険申請" ? 2
@@ -66,21 +68,24 @@ TEST_F(ClaimFormPages, EveryColumnOfBothHalvesIsOnAControlOrHasItsReason) {
 
 TEST_F(ClaimFormPages, EveryBoundColumnStandsInItsTableOnce) {
   QHash<QString, QString> seen;
-  for (const BoundControl& bound : boundControls(claimFormDeclaration().rows)) {
-    const QString file = bound.half == 1 ? qs(u"保険申請2000_1.mdb") : qs(u"保険申請2000_2.mdb");
+  openNew(acupuncture());
+  for (const int half : {1, 2}) {
+    const QString file = half == 1 ? qs(u"保険申請2000_1.mdb") : qs(u"保険申請2000_2.mdb");
     const store::TableRow* table = store::tableOfFile(file);
     ASSERT_NE(table, nullptr);
-    EXPECT_NE(store::findColumn(*table, bound.column), nullptr)
-        << bound.control.toStdString() << " " << bound.column.toStdString();
-    const QString key = QString::number(bound.half) + bound.column;
-    EXPECT_FALSE(seen.contains(key)) << bound.column.toStdString();
-    seen.insert(key, bound.control);
+    for (const screen::Control* bound : m_form->controls().boundTo(half)) {
+      EXPECT_NE(store::findColumn(*table, bound->column()), nullptr)
+          << bound->name().toStdString() << " " << bound->column().toStdString();
+      const QString key = QString::number(half) + bound->column();
+      EXPECT_FALSE(seen.contains(key)) << bound->column().toStdString();
+      seen.insert(key, bound->name());
+    }
   }
 }
 
 TEST_F(ClaimFormPages, TheSevenPagesStandInTheirOrder) {
   QStringList pages;
-  for (const screen::Row& row : claimFormDeclaration().rows)
+  for (const screen::Row& row : kClaimFormScreen.rows)
     if (const auto* page = std::get_if<screen::Page>(&row)) pages << qs(page->caption.get());
   EXPECT_EQ(pages, QStringList({qs(u"保険証"), qs(u"同意書"), qs(u"治療"), qs(u"各種印刷"), qs(u"印刷設定"),
                                 qs(u"既往症"), qs(u"申請者の確認")}));
@@ -88,7 +93,7 @@ TEST_F(ClaimFormPages, TheSevenPagesStandInTheirOrder) {
 
 TEST_F(ClaimFormPages, PrintSettingsAreThoseOfTheRules) {
   QHash<QString, const screen::Options*> groups;
-  for (const screen::Row& row : claimFormDeclaration().rows)
+  for (const screen::Row& row : kClaimFormScreen.rows)
     if (const auto* options = std::get_if<screen::Options>(&row))
       groups.insert(qs(options->bind.column()), options);
   for (const PrintSetting& setting : printSettings()) {
@@ -108,7 +113,7 @@ TEST_F(ClaimFormPages, PrintSettingsAreThoseOfTheRules) {
 TEST_F(ClaimFormPages, EveryControlOfEitherKindIsNamedSpokenAndReached) {
   for (ClaimRecord claim : {acupuncture(), massage()}) {
     m_form.reset();
-    claim.set(qs(u"yn1"), qs(u"-1"));  // with the rows of the visit table
+    claim.setNamed(qs(u"yn1"), qs(u"-1"));  // with the rows of the visit table
     openNew(claim);
     screen::testing::ScreenProbe probe(*m_form, m_channel);
     probe.open();

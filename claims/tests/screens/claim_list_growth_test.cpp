@@ -37,13 +37,13 @@ TEST_F(ClaimListGrowth, GrowsAtItsLoadWithoutAQuestion) {
   EXPECT_EQ(told(), QStringList());
   EXPECT_FALSE(needed(store::GrowthRun::Claim1));
   EXPECT_FALSE(needed(store::GrowthRun::Claim2));
-  EXPECT_EQ(stored(1).get(qs(u"c1")), qs(u"架空町"));
+  EXPECT_EQ(stored(1).named(qs(u"c1")), qs(u"架空町"));
   ClaimRecord changed;
-  changed.set(qs(u"d1"), qs(u"1"));
-  changed.set(qs(u"h1"), qs(u"2"));
+  changed.setNamed(qs(u"d1"), qs(u"1"));
+  changed.setNamed(qs(u"h1"), qs(u"2"));
   ASSERT_TRUE(file().store(1, stored(1), changed).ok());
-  EXPECT_EQ(stored(1).get(qs(u"d1")), qs(u"1"));
-  EXPECT_EQ(stored(1).get(qs(u"h1")), qs(u"2"));
+  EXPECT_EQ(stored(1).named(qs(u"d1")), qs(u"1"));
+  EXPECT_EQ(stored(1).named(qs(u"h1")), qs(u"2"));
 }
 
 TEST_F(ClaimListGrowth, AGrownFileIsLeftAlone) {

@@ -159,12 +159,12 @@ TEST_F(ClaimListTest, SortsBothWaysWhatIsOnView) {
   addClaim({{u"氏名", u"あ"}, {u"申請月", u"1"}});
   addClaim({{u"氏名", u"う"}, {u"申請月", u"2"}});
   openList();
-  m_list->opened({{qs(u"sort"), qs(u"氏名 ASC")}});
+  m_list->opened(routes::ClaimList{.criteria = {}, .order = qs(u"氏名 ASC")});
   EXPECT_EQ(shown(u"氏名"), QStringList({qs(u"あ"), qs(u"い"), qs(u"う")}));
-  m_list->opened({{qs(u"sort"), qs(u"氏名 DESC")}});
+  m_list->opened(routes::ClaimList{.criteria = {}, .order = qs(u"氏名 DESC")});
   EXPECT_EQ(shown(u"氏名"), QStringList({qs(u"う"), qs(u"い"), qs(u"あ")}));
   search(u"申請月", qs(u"1"));
-  m_list->opened({{qs(u"sort"), qs(u"氏名 ASC")}});
+  m_list->opened(routes::ClaimList{.criteria = {}, .order = qs(u"氏名 ASC")});
   EXPECT_EQ(shown(u"氏名"), QStringList({qs(u"あ"), qs(u"い")}));
 }
 
@@ -201,7 +201,7 @@ TEST_F(ClaimListTest, WhatTheFormStoredStandsInTheListAtOnce) {
   openList();
   ASSERT_EQ(shown(u"合計"), QStringList(QString()));
   ClaimRecord changed;
-  changed.set(qs(u"合計"), qs(u"4990"));
+  changed.setNamed(qs(u"合計"), qs(u"4990"));
   ASSERT_TRUE(file().store(id, stored(id), changed).ok());
   EXPECT_EQ(shown(u"合計"), QStringList(qs(u"4990")));
 }

@@ -5,6 +5,9 @@
 // 年月: which month is printed, and by which screen.
 
 namespace claims {
+
+namespace unbuilt = routes::unbuilt;
+
 namespace {
 
 class Month : public ClaimFormTest {
@@ -39,15 +42,17 @@ TEST_F(Month, IsReachableAndSaysWhatToWrite) {
 
 TEST_F(Month, EachButtonHandsTheMonthToItsScreen) {
   const std::pair<const char16_t*, const char16_t*> wanted[] = {
-      {u"年月印刷2024", u"5"}, {u"年月印刷2024", u"6"}, {u"年月印刷", u"7"}, {u"年月印刷", u"8"}};
+      {u"年月印刷2024", u"鍼灸"}, {u"年月印刷2024", u"あマ"}, {u"年月印刷", u"鍼灸"}, {u"年月印刷", u"あマ"}};
   for (int button = 0; button < 4; ++button) {
     print(button);
     EXPECT_EQ(m_navigator.shows.last(), qs(wanted[button].first));
-    const screen::Request& request = m_navigator.requests.last();
-    EXPECT_EQ(request[qs(u"申請年月")], qs(u"令和6年10月"));
-    EXPECT_EQ(request[qs(u"PrintKind")], qs(wanted[button].second));
-    EXPECT_EQ(request[qs(u"局所別計算用紙")], false);
-    EXPECT_EQ(request[qs(u"元号")], false);
+    const unbuilt::MonthRun run = button < 2
+                                      ? unbuilt::MonthRun(m_navigator.lastRoute<unbuilt::MonthPrint2024>())
+                                      : unbuilt::MonthRun(m_navigator.lastRoute<unbuilt::MonthPrint>());
+    EXPECT_EQ(run.month, qs(u"令和6年10月"));
+    EXPECT_EQ(run.kind, qs(wanted[button].second));
+    EXPECT_FALSE(run.byArea);
+    EXPECT_FALSE(run.withEra);
   }
   EXPECT_EQ(told(), QStringList());
 }
@@ -58,8 +63,9 @@ TEST_F(Month, TicksAndPaperAreHandedOn) {
   m_month->choose(qs(u"Frame1"), qs(u"局所別計算用紙"));
   print(1);
   EXPECT_EQ(m_navigator.shows, QStringList(qs(u"年月印刷2018")));
-  EXPECT_EQ(m_navigator.requests.last()[qs(u"局所別計算用紙")], true);
-  EXPECT_EQ(m_navigator.requests.last()[qs(u"元号")], true);
+  const auto run = m_navigator.lastRoute<unbuilt::MonthPrint2018>();
+  EXPECT_TRUE(run.byArea);
+  EXPECT_TRUE(run.withEra);
 }
 
 TEST_F(Month, TheAssociationHasItsOwnScreens) {

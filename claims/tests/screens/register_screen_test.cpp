@@ -303,14 +303,14 @@ TEST_F(RegisterScreenTest, TheRowIsPutOnTheClaimAndKeptByStoringThere) {
       {u"同意医師住所", kDoctor[3]}, {u"同意医師の電話番号", kDoctor[4]}, {u"保険者名称", kInsurer[0]},
       {u"保険者番号", kInsurer[1]},  {u"保険者住所", kInsurer[2]}};
   for (const auto& [column, value] : expected) {
-    EXPECT_EQ(shown.get(qs(column)), value) << qs(column).toStdString();
+    EXPECT_EQ(shown.named(qs(column)), value) << qs(column).toStdString();
   }
   EXPECT_FALSE(m_form->checkChanged());
   EXPECT_FALSE(m_form->treatmentChanged());
-  EXPECT_TRUE(stored(id).blank(qs(u"同意医師氏名"))) << "not stored by itself";
+  EXPECT_TRUE(stored(id).blank(claim::doctorName)) << "not stored by itself";
   answer({true});
   press(qs(u"cmdUpdate"));
-  for (const auto& [column, value] : expected) EXPECT_EQ(stored(id).get(qs(column)), value);
+  for (const auto& [column, value] : expected) EXPECT_EQ(stored(id).named(qs(column)), value);
 }
 
 TEST_F(RegisterScreenTest, WithoutAClaimOrARowTheCopyIsToldAndChangesNothing) {
@@ -328,15 +328,15 @@ TEST_F(RegisterScreenTest, OpenedFromTheClaimANewDoctorIsReadyToBeStored) {
   add(kDoctorRegister, kNamesake);
   ClaimRecord claim = acupuncture();
   for (size_t i = 0; i < kDoctorRegister.fields.size(); ++i)
-    claim.set(qs(kDoctorRegister.fields[i].claimColumn), kDoctor[qsizetype(i)]);
+    claim.set(kDoctorRegister.fields[i].claimColumn, kDoctor[qsizetype(i)]);
   open(add(claim));
-  doctors({{qs(u"ID"), 1}});
+  doctors(routes::DoctorRegister{.fromClaim = true});
   EXPECT_EQ(fields(), kDoctor);
   EXPECT_EQ(stored(kDoctorRegister).size(), 1) << "登録 alone stores";
   push(u"cmdUpdate");
   EXPECT_EQ(stored(kDoctorRegister), QList<QStringList>({kNamesake, kDoctor}));
   searchFor(u"病院名", u"例示");
-  m_register->opened({{qs(u"ID"), 1}});
+  m_register->opened(routes::DoctorRegister{.fromClaim = true});
   EXPECT_FALSE(m_register->source().rows().adding()) << "the register holds it by now";
   EXPECT_EQ(fields(), kDoctor);
 }
@@ -345,7 +345,7 @@ TEST_F(RegisterScreenTest, WhatTheClaimLeavesBlankMakesNoNewRow) {
   add(kInsurerRegister, {qs(u"例示市"), qs(u"2"), qs(u"例示")});
   add(kInsurerRegister, kInsurer);
   open(add(acupuncture()));  // 架空市, 123456, no address
-  insurers({{qs(u"ID"), 1}});
+  insurers(routes::InsurerRegister{.fromClaim = true});
   EXPECT_FALSE(m_register->source().rows().adding());
   EXPECT_EQ(fields(), kInsurer);
 }
@@ -353,7 +353,7 @@ TEST_F(RegisterScreenTest, WhatTheClaimLeavesBlankMakesNoNewRow) {
 TEST_F(RegisterScreenTest, OpenedFromAClaimWithoutADoctorItJustOpens) {
   add(kDoctorRegister, kNamesake);
   open(add(acupuncture()));
-  doctors({{qs(u"ID"), 1}});
+  doctors(routes::DoctorRegister{.fromClaim = true});
   EXPECT_FALSE(m_register->source().rows().adding());
   EXPECT_EQ(fields(), kNamesake);
   m_navigator.open.insert(qs(u"frmレセプトフォーム"));
