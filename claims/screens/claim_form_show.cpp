@@ -174,7 +174,7 @@ void ClaimFormScreen::showPair() {
 }
 
 bool ClaimFormScreen::showSecond() {
-  m_secondAll.setFilter(QStringLiteral("Id = %1").arg(m_id));
+  m_secondAll.setFilter(u"Id = %1"_s.arg(m_id));
   auto half = m_secondAll.openRecordset();
   if (half && half->recordCount() == 0) {  // a first half whose second half is missing
     if (const text::Done repaired = m_file->repairSecond(m_id); !repaired) {

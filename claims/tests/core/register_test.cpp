@@ -44,6 +44,12 @@ TEST(Register, FieldsGoToTheirColumnsOfTheClaim) {
             (QStringList{u"名称>保険者名称"_s, u"番号>保険者番号"_s, u"所在地>保険者住所"_s}));
 }
 
+TEST(Register, FieldsAreLabelledByTheirColumn) {
+  for (const Register* list : {&kDoctorRegister, &kInsurerRegister})
+    for (const RegisterField& field : list->fields)
+      EXPECT_EQ(QString::fromUtf16(field.label), field.column.text());
+}
+
 class RegisterFile : public testing::Test {
  protected:
   void SetUp() override {

@@ -109,12 +109,12 @@ TEST_F(ClaimFormListsTest, ChoosingLeavesTheDirtyMarksAlone) {
 }
 
 TEST_F(ClaimFormListsTest, TheButtonsOpenTheRegistersWithTheirHints) {
-  const qint64 id = add(acupuncture());
-  open(id);
+  openNew(acupuncture());
   press(qs(u"Command12"));
+  EXPECT_TRUE(m_navigator.lastRoute<routes::DoctorRegister>().fromClaim);
   press(qs(u"Command14"));
+  EXPECT_TRUE(m_navigator.lastRoute<routes::InsurerRegister>().fromClaim);
   EXPECT_EQ(m_navigator.shows, QStringList({qs(u"登録2"), qs(u"登録3")}));
-  EXPECT_EQ(m_navigator.requests[0].as<routes::unbuilt::NewRemarks>()->claim, id);
   EXPECT_EQ(m_form->findChild<QPushButton*>(qs(u"Command12"))->toolTip(),
             qs(u"同意医師の各項目に入力後押してください。"));
   EXPECT_EQ(m_form->findChild<QPushButton*>(qs(u"Command14"))->toolTip(),

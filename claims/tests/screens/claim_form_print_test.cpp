@@ -211,5 +211,28 @@ TEST_F(ClaimFormPrint, TheDisplayServesThePrintingScreens) {
   EXPECT_EQ(m_state.display, nullptr);
 }
 
+TEST_F(ClaimFormPrint, HelperScreensAreOpenedOnTheClaimOnDisplay) {
+  namespace unbuilt = routes::unbuilt;
+  add(acupuncture());
+  const qint64 id = add(acupuncture());
+  open(id);
+  const auto expectClaim = [&]<class R>(const char16_t* command, const R&) {
+    press(qs(command));
+    EXPECT_EQ(m_navigator.lastRoute<R>().claim, id) << qs(command).toStdString();
+  };
+  expectClaim(u"Command23", unbuilt::TreatmentReport());
+  expectClaim(u"Command24", unbuilt::VisitBreakdown());
+  expectClaim(u"Command21", unbuilt::ReasonSheetAcupuncture());
+  expectClaim(u"Command30", unbuilt::FrequentPlan());
+  expectClaim(u"Command34", unbuilt::NewRemarks());
+  expectClaim(u"Command22", unbuilt::ReceiptChoice());
+  expectClaim(u"Command33", unbuilt::MemoConversion());
+  expectClaim(u"Command8", unbuilt::VisitAddresses());
+  expectClaim(u"Command19", unbuilt::VisitDates());
+  expectClaim(u"Command25", unbuilt::StartPointAddresses());
+  expectClaim(u"Command26", unbuilt::StartPoints());
+  expectClaim(u"Command20", unbuilt::RouteHelp());
+}
+
 }  // namespace
 }  // namespace claims

@@ -172,13 +172,13 @@ TEST_F(ClaimListTest, ThePatientsScreenOpensItNarrowed) {
   addClaim({{u"番号1", u"20240401001"}});
   addClaim({{u"番号1", u"20240401002"}});
   addClaim({{u"番号1", u"20240401001"}});
-  openList({{qs(u"criteria"), qs(u"番号1 ='20240401001' ")}});
+  openList(routes::ClaimList{.criteria = qs(u"番号1 ='20240401001' "), .order = {}});
   EXPECT_EQ(shown(), QStringList({qs(u"3"), qs(u"1")})) << "newest first";
 }
 
 TEST_F(ClaimListTest, APatientWithoutClaimsGivesAnEmptyList) {
   addClaim({{u"番号1", u"20240401001"}});
-  openList({{qs(u"criteria"), qs(u"番号1 ='20240401009' ")}});
+  openList(routes::ClaimList{.criteria = qs(u"番号1 ='20240401009' "), .order = {}});
   EXPECT_EQ(shown(), QStringList());
   activate();
   EXPECT_EQ(told(), QStringList(qs(kNoRows)));
@@ -237,6 +237,26 @@ TEST_F(ClaimListTest, AMissingSecondFileIsToldAtOpening) {
   EXPECT_TRUE(texts[0].contains(qs(u"保険申請2000_2.mdb"))) << texts[0].toStdString();
   EXPECT_FALSE(QFile::exists(path(qs(u"保険申請2000_2.mdb")))) << "nothing is made in its place";
   EXPECT_EQ(shown(), QStringList(qs(u"1")));
+}
+
+/// Columns of the grid whose heading is not the name of their column.
+const QHash<QString, QString> kOtherHeadings = {{qs(u"一部負担金"), qs(u"一部負担金2")},
+                                                {qs(u"続柄"), qs(u"被保険者との続柄")}};
+
+TEST_F(ClaimListTest, EveryCellOfTheGridIsOfTheColumnThatItsHeadingNames) {
+  ClaimRecord claim;
+  for (const store::ColumnRow& column : claim::firstHalf.columns())
+    if (column.type == store::ColumnType::Text255)
+      claim.setNamed(qs(column.name), u'<' + qs(column.name) + u'>');
+  const qint64 id = add(claim);
+  const QAbstractItemModel* grid = openList().findChild<QTableView*>(qs(u"DBGrid1"))->model();
+  ASSERT_EQ(grid->columnCount(), 29);
+  for (int column = 0; column < grid->columnCount(); ++column) {
+    const QString heading = grid->headerData(column, Qt::Horizontal).toString();
+    const QString value =
+        heading == u"ID" ? QString::number(id) : u'<' + kOtherHeadings.value(heading, heading) + u'>';
+    EXPECT_EQ(grid->index(0, column).data().toString(), value) << heading.toStdString();
+  }
 }
 
 }  // namespace
