@@ -14,7 +14,7 @@ namespace claims {
 class ClaimOnDisplay {
  public:
   virtual ~ClaimOnDisplay() = default;
-  /// All columns as they stand on the screen.
+  /// All columns as the form shows them.
   virtual ClaimRecord record() const = 0;
   /// Names of the unbound check boxes that are set: Check13, Check7, Check8 ...
   virtual QSet<QString> checks() const = 0;

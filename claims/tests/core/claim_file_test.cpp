@@ -70,7 +70,7 @@ TEST_F(ClaimFiles, EveryColumnThatTheStoreWritesIsAColumnOfTheFiles) {
   }
 }
 
-TEST_F(ClaimFiles, ABlankSubjectTellsThatTheClaimWasStored) {
+TEST_F(ClaimFiles, ABlankSubjectMeansThatTheClaimWasStored) {
   ClaimFile file = open();
   const qint64 id = file.add(ClaimRecord()).value();
   const ClaimRecord seen = file.read(id).value();
@@ -118,7 +118,7 @@ TEST_F(ClaimFiles, AMissingSecondHalfIsMade) {
   EXPECT_EQ(claim.named(QStringLiteral("氏名")), u"見本");
 }
 
-TEST_F(ClaimFiles, AMissingFileIsToldByName) {
+TEST_F(ClaimFiles, AMissingFileIsReportedByName) {
   const auto none = ClaimFile::open(path(QStringLiteral("none.mdb")), path(secondName));
   ASSERT_FALSE(none.ok());
   EXPECT_TRUE(none.fault().message.contains(u"none.mdb"));

@@ -61,7 +61,7 @@ TEST_F(ClaimFormFields, AVisitIsCheckedByTheMonth) {
   }
 }
 
-TEST_F(ClaimFormFields, ALeading39IsToldForTheAgedOnly) {
+TEST_F(ClaimFormFields, ALeading39IsReportedForLateElderlyInsuranceOnly) {
   ClaimRecord claim = acupuncture();
   claim.setNamed(qs(u"保険の種類3"), qs(u"後期高齢"));
   claim.setNamed(qs(u"保険者番号"), qs(u"39123456"));
@@ -74,7 +74,7 @@ TEST_F(ClaimFormFields, ALeading39IsToldForTheAgedOnly) {
   EXPECT_TRUE(told().isEmpty());
 }
 
-TEST_F(ClaimFormFields, BothConsentReceiversClearedIsTold) {
+TEST_F(ClaimFormFields, BothConsentReceiversClearedIsReported) {
   ClaimRecord claim = acupuncture();
   claim.setNamed(qs(u"同意_施術者"), qs(u"-1"));
   openNew(claim);
@@ -84,7 +84,7 @@ TEST_F(ClaimFormFields, BothConsentReceiversClearedIsTold) {
   EXPECT_TRUE(told().isEmpty());
 }
 
-TEST_F(ClaimFormFields, TickingTheReportTellsWhatBelongsToIt) {
+TEST_F(ClaimFormFields, TickingTheReportSaysWhatElseIsNeeded) {
   openNew(acupuncture());
   toggle(qs(u"Check11"));
   EXPECT_EQ(told(), QStringList(qs(

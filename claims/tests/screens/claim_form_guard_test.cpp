@@ -36,7 +36,7 @@ TEST_F(ClaimFormGuard, AChangedDayCellStopsEveryCommandButStoreAndDelete) {
   }
 }
 
-TEST_F(ClaimFormGuard, HelperWindowsOpenBesideAnEditedGrid) {
+TEST_F(ClaimFormGuard, HelperWindowsOpenWhileTheGridIsEdited) {
   openNew(acupuncture());
   type(qs(u"Text5(3)"), qs(u"b"));
   press(qs(u"Command8"));
@@ -132,7 +132,7 @@ TEST_F(ClaimFormGuard, AMoveSaysWhoseClaimAndMonthItIs) {
   EXPECT_EQ(m_channel.lastSaid(), qs(u"氏名:\u00fe例示 花子\u00fe※申請年月:\u00fe令和6年10月"));
 }
 
-TEST_F(ClaimFormGuard, AFormWithoutItsFilesTellsItAndCloses) {
+TEST_F(ClaimFormGuard, AFormWithoutItsFilesReportsItAndCloses) {
   QFile::remove(m_run.folders[frame::folder::kClaims2]);
   open(1);
   EXPECT_EQ(told().size(), 1);

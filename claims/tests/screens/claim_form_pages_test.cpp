@@ -66,7 +66,7 @@ TEST_F(ClaimFormPages, EveryColumnOfBothHalvesIsOnAControlOrHasItsReason) {
   }
 }
 
-TEST_F(ClaimFormPages, EveryBoundColumnStandsInItsTableOnce) {
+TEST_F(ClaimFormPages, EveryBoundColumnIsInItsTableAndBoundOnce) {
   QHash<QString, QString> seen;
   openNew(acupuncture());
   for (const int half : {1, 2}) {
@@ -206,7 +206,7 @@ TEST_F(ClaimFormPages, EveryControlShowsTheColumnThatItsCaptionNames) {
   EXPECT_GT(bound, 300);
 }
 
-TEST_F(ClaimFormPages, TheSevenPagesStandInTheirOrder) {
+TEST_F(ClaimFormPages, TheSevenPagesAreInTheirOrder) {
   QStringList pages;
   for (const screen::Row& row : kClaimFormScreen.rows)
     if (const auto* page = std::get_if<screen::Page>(&row)) pages << qs(page->caption.get());

@@ -111,7 +111,7 @@ TEST_F(ClaimFormShow, TheMonthDecidesTheSecondRowAndTheReportFields) {
   }
 }
 
-TEST_F(ClaimFormShow, TheFreeVisitTickTellsTheRuleOfTheMonth) {
+TEST_F(ClaimFormShow, TheFreeVisitTickNamesTheRuleOfTheMonth) {
   openNew(acupuncture());
   EXPECT_EQ(m_form->caption(qs(u"Check8")),
             qs(u"訪問で同一患者の場合で、訪問料金を加算しない場合は、チェックを入れてください。"

@@ -54,7 +54,7 @@ TEST_F(ClaimFormStore, AMassageClaimWritesTheOtherPairAndItsBoxes) {
   EXPECT_FALSE(m_form->treatmentChanged());
 }
 
-TEST_F(ClaimFormStore, CorrectedBoxesAreStoredAsTheyStand) {
+TEST_F(ClaimFormStore, CorrectedBoxesAreStoredAsShown) {
   ClaimRecord typed = massage();
   typed.setNamed(qs(u"躯幹"), qs(u"-1"));
   const qint64 id = add(typed);
@@ -152,7 +152,7 @@ TEST_F(ClaimFormStore, TheKindIsRewrittenByTheTreatmentRecordsKind) {
   }
 }
 
-TEST_F(ClaimFormStore, OverlongTextsAreCutMarkedAndTold) {
+TEST_F(ClaimFormStore, OverlongTextsAreCutMarkedAndReported) {
   ClaimRecord claim = acupuncture();
   claim.setNamed(qs(u"保険の種類"), qs(u"共済"));
   claim.setNamed(qs(u"被保険者との続柄"), qs(u"あいうえお"));  // 4 print
@@ -213,7 +213,7 @@ TEST_F(ClaimFormStore, ATextLongerThanItsColumnIsRefusedWhole) {
   EXPECT_EQ(m_form->text(qs(u"txtFields(27)")).size(), 256);
 }
 
-TEST_F(ClaimFormStore, ALongTextColumnHoldsMore) {
+TEST_F(ClaimFormStore, ALongTextColumnTakesMore) {
   const qint64 id = add(acupuncture());
   open(id);
   type(qs(u"txtFields(180)"), QString(3000, QChar(u'長')));
@@ -237,7 +237,7 @@ TEST_F(ClaimFormStore, AClaimThatChangedMeanwhileIsRefused) {
   EXPECT_EQ(stored(id).named(qs(u"摘要1")), qs(u"別の計算機"));
 }
 
-TEST_F(ClaimFormStore, AMissingFeeFileIsToldAndLeavesTheClaimWithoutAmounts) {
+TEST_F(ClaimFormStore, AMissingFeeFileIsReportedAndTheClaimHasNoAmounts) {
   const qint64 id = add(acupuncture());
   open(id);
   answer({true});

@@ -56,7 +56,7 @@ TEST_F(ClaimListGrowth, AGrownFileIsLeftAlone) {
   EXPECT_EQ(grown.readAll(), before);
 }
 
-TEST_F(ClaimListGrowth, ARefusalIsToldOnceAndTheListWorks) {
+TEST_F(ClaimListGrowth, ARefusalIsReportedOnceAndTheListWorks) {
   QFile::setPermissions(second(), QFile::ReadOwner);
   openList();
   EXPECT_EQ(told(), QStringList()) << "before the list has the keyboard nothing is told";
@@ -73,7 +73,7 @@ TEST_F(ClaimListGrowth, ARefusalIsToldOnceAndTheListWorks) {
   EXPECT_EQ(shown(), QStringList(qs(u"1")));
 }
 
-TEST_F(ClaimListGrowth, AFileHeldElsewhereIsToldAndGrowsAtTheNextLoad) {
+TEST_F(ClaimListGrowth, AFileLockedElsewhereIsReportedAndGrowsAtTheNextLoad) {
   const auto held = store::Database::open(second());
   ASSERT_TRUE(held.ok());
   sqlite3_busy_timeout((*held)->handle(), 10);

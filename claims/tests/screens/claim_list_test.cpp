@@ -30,7 +30,7 @@ const QStringList kKeys = {qs(u"申請年月"),
                            qs(u"申請月"),
                            qs(u"要加療期間2")};
 
-TEST_F(ClaimListTest, TheNewestClaimStandsAtTheTop) {
+TEST_F(ClaimListTest, TheNewestClaimIsAtTheTop) {
   for (int i = 0; i < 3; ++i) add(acupuncture());
   openList();
   EXPECT_EQ(shown(), QStringList({qs(u"3"), qs(u"2"), qs(u"1")}));
@@ -83,7 +83,7 @@ TEST_F(ClaimListTest, ASearchSeesNoDifferenceOfWidthAndKana) {
   EXPECT_EQ(shown(), QStringList(qs(u"1")));
 }
 
-TEST_F(ClaimListTest, NoHitIsToldAndLeavesTheListAsItWas) {
+TEST_F(ClaimListTest, NoHitIsReportedAndTheListStays) {
   addNamed(u"見本 太郎");
   addNamed(u"例示 花子");
   openList();
@@ -99,7 +99,7 @@ TEST_F(ClaimListTest, NoHitIsToldAndLeavesTheListAsItWas) {
   EXPECT_EQ(shown(), QStringList(qs(u"2"))) << "the search that failed is forgotten";
 }
 
-TEST_F(ClaimListTest, AMissingFileIsToldByNameAndNotAsAnEmptyList) {
+TEST_F(ClaimListTest, AMissingFileIsReportedByNameNotAsAnEmptyList) {
   ASSERT_TRUE(QFile::remove(path(qs(u"保険申請2000_1.mdb"))));
   openList();
   activate();
@@ -196,7 +196,7 @@ TEST_F(ClaimListTest, ANewRowComesInWithRefreshOnly) {
   EXPECT_EQ(shown(), QStringList({qs(u"2"), qs(u"1")}));
 }
 
-TEST_F(ClaimListTest, WhatTheFormStoredStandsInTheListAtOnce) {
+TEST_F(ClaimListTest, WhatTheFormStoredIsInTheListAtOnce) {
   const qint64 id = add(acupuncture());
   openList();
   ASSERT_EQ(shown(u"合計"), QStringList(QString()));
@@ -206,7 +206,7 @@ TEST_F(ClaimListTest, WhatTheFormStoredStandsInTheListAtOnce) {
   EXPECT_EQ(shown(u"合計"), QStringList(qs(u"4990")));
 }
 
-TEST_F(ClaimListTest, AnEmptyListTellsSoToEveryCommandOfRows) {
+TEST_F(ClaimListTest, AnEmptyListAnswersSoToEveryCommandOnRows) {
   openList();
   told();
   for (const char16_t* command : {u"Command7", u"Command3", u"Command1"}) {
@@ -218,7 +218,7 @@ TEST_F(ClaimListTest, AnEmptyListTellsSoToEveryCommandOfRows) {
   EXPECT_EQ(told(), QStringList(qs(u"削除するデータがありません。")));
 }
 
-TEST_F(ClaimListTest, AnEmptyListTellsSoOnceItHasTheKeyboard) {
+TEST_F(ClaimListTest, AnEmptyListSaysSoOnceItHasTheKeyboard) {
   openList();
   EXPECT_EQ(told(), QStringList());
   activate();
@@ -228,7 +228,7 @@ TEST_F(ClaimListTest, AnEmptyListTellsSoOnceItHasTheKeyboard) {
   EXPECT_EQ(told(), QStringList()) << "once for each opening";
 }
 
-TEST_F(ClaimListTest, AMissingSecondFileIsToldAtOpening) {
+TEST_F(ClaimListTest, AMissingSecondFileIsReportedAtOpening) {
   add(acupuncture());
   ASSERT_TRUE(QFile::remove(path(qs(u"保険申請2000_2.mdb"))));
   openList();

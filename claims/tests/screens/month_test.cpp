@@ -80,7 +80,7 @@ TEST_F(Month, TheAssociationHasItsOwnScreens) {
             QStringList({qs(u"年月印刷2024aimakai"), qs(u"年月印刷2018aimakai"), qs(u"年月印刷2018")}));
 }
 
-TEST_F(Month, AMonthThatNoClaimBearsIsToldAndStays) {
+TEST_F(Month, AMonthThatNoClaimHasIsReportedAndStays) {
   for (const char16_t* month : {u"", u"10月", u"令和6年9月", u"令和6年１０月", u"令和6年10月'"}) {
     print(0, month);
     EXPECT_EQ(told(), QStringList(qs(u"年月が正しくありません。"))) << qs(month).toStdString();
@@ -90,7 +90,7 @@ TEST_F(Month, AMonthThatNoClaimBearsIsToldAndStays) {
   EXPECT_TRUE(m_month->isVisible());
 }
 
-TEST_F(Month, AMissingFileIsToldByName) {
+TEST_F(Month, AMissingFileIsReportedByName) {
   ASSERT_TRUE(QFile::remove(path(qs(u"保険申請2000_1.mdb"))));
   print(0);
   const QStringList texts = told();

@@ -70,7 +70,7 @@ TEST_F(NewClaimTest, TheQuestionLeadsToTheChoices) {
   EXPECT_EQ(m_state.newClaim.name, qs(u"見本 太郎"));
 }
 
-TEST_F(NewClaimTest, ThePatientBeforeLeavesNothingBehind) {
+TEST_F(NewClaimTest, NothingOfThePreviousPatientRemains) {
   ask();
   m_question->opened(routes::NewClaim{anotherPatient()});
   EXPECT_EQ(m_state.newClaim.name, qs(u"例示 花子"));
@@ -174,7 +174,7 @@ TEST_F(NewClaimTest, EveryGroupMustBeAnswered) {
   }
 }
 
-TEST_F(NewClaimTest, AFileThatCannotBeWrittenIsTold) {
+TEST_F(NewClaimTest, AFileThatCannotBeWrittenIsReported) {
   choice();
   for (const auto& [group, value] :
        {std::pair{u"Frame1", u"国保"}, {u"Frame2", u"鍼灸"}, {u"Frame3", u"本人"}})

@@ -26,7 +26,7 @@ TEST_F(RegisterScreenTest, EveryControlIsNamedSpokenAndReached) {
   }
 }
 
-TEST_F(RegisterScreenTest, EachWindowTellsHowARowIsEntered) {
+TEST_F(RegisterScreenTest, EachWindowSaysHowARowIsEntered) {
   const QString hint = qs(u"新規ボタンを押してから下記に正確に書き込んだ上、登録ボタンを押して下さい。");
   EXPECT_EQ(doctors().windowTitle(), qs(u"同意医師の登録"));
   EXPECT_TRUE(m_register->openingTexts().contains(hint));
@@ -84,7 +84,7 @@ TEST_F(RegisterScreenTest, ANewRowIsStored) {
   EXPECT_TRUE(told().isEmpty());
 }
 
-TEST_F(RegisterScreenTest, EachBlankFieldIsToldInTurnAndGetsTheFocus) {
+TEST_F(RegisterScreenTest, EachBlankFieldIsReportedInTurnAndGetsTheFocus) {
   struct Case {
     const Register& list;
     QStringList values;
@@ -153,7 +153,7 @@ TEST_F(RegisterScreenTest, WhatWasTypedIntoAnEmptyRegisterIsNotLost) {
   EXPECT_EQ(m_register->text(qs(u"txtFields(0)")), kDoctor[0]) << "新規 after the first field was typed";
 }
 
-TEST_F(RegisterScreenTest, ARowThatAnotherProgramDeletedIsToldAndTheTextStays) {
+TEST_F(RegisterScreenTest, ARowThatAnotherProgramDeletedIsReportedAndTheTextStays) {
   add(kInsurerRegister, kInsurer);
   insurers();
   const QStringList typed{qs(u"架空町"), qs(u"654321"), qs(u"架空町2")};
@@ -271,7 +271,7 @@ TEST_F(RegisterScreenTest, EachKeySearchesTheWholeRegister) {
   EXPECT_TRUE(m_channel.lastSaid().startsWith(qs(u"2件"))) << m_channel.lastSaid().toStdString();
 }
 
-TEST_F(RegisterScreenTest, NoHitIsToldAndTheListStays) {
+TEST_F(RegisterScreenTest, NoHitIsReportedAndTheListStays) {
   add(kInsurerRegister, kInsurer);
   insurers();
   searchFor(u"番号", u"9999");
@@ -287,7 +287,7 @@ TEST_F(RegisterScreenTest, NoHitIsToldAndTheListStays) {
 
 // ---- The claim ----
 
-TEST_F(RegisterScreenTest, TheRowIsPutOnTheClaimAndKeptByStoringThere) {
+TEST_F(RegisterScreenTest, TheRowIsPutOnTheClaimAndStoredThere) {
   add(kDoctorRegister, kDoctor);
   add(kInsurerRegister, kInsurer);
   const qint64 id = add(acupuncture());
@@ -313,7 +313,7 @@ TEST_F(RegisterScreenTest, TheRowIsPutOnTheClaimAndKeptByStoringThere) {
   for (const auto& [column, value] : expected) EXPECT_EQ(stored(id).named(qs(column)), value);
 }
 
-TEST_F(RegisterScreenTest, WithoutAClaimOrARowTheCopyIsToldAndChangesNothing) {
+TEST_F(RegisterScreenTest, WithoutAClaimOrARowTheCopyIsRefused) {
   insurers();
   push(u"Command2");
   EXPECT_EQ(told(), QStringList(qs(u"代入するデータがありません。")));
@@ -362,7 +362,7 @@ TEST_F(RegisterScreenTest, OpenedFromAClaimWithoutADoctorItJustOpens) {
   EXPECT_EQ(m_navigator.unloads, QStringList(qs(u"登録2")));
 }
 
-TEST_F(RegisterScreenTest, AMissingFileIsToldByNameAndNothingBreaks) {
+TEST_F(RegisterScreenTest, AMissingFileIsReportedByNameAndNothingBreaks) {
   QFile::remove(m_run.folders[frame::folder::kDoctors]);
   doctors();
   const QStringList texts = told();
