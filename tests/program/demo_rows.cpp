@@ -2,6 +2,7 @@
 
 #include <QDir>
 
+#include "frame/core/settings_slots.h"
 #include "platform/store/bulk.h"
 #include "platform/store/catalogue.h"
 
@@ -124,6 +125,17 @@ text::Done addDemoRows(const QString& programFolder) {
     if (!added) return added;
   }
   return {};
+}
+
+text::Done addDemoSettings(const QString& programFolder) {
+  constexpr std::pair<int, int> kTextFields[] = {{18, 20}, {22, 26}, {29, 52}, {56, 62},
+                                                 {64, 67}, {74, 75}, {78, 84}, {86, 87}};
+  const QString path = QDir(programFolder).filePath(u"qv.dat"_s);
+  auto settings = frame::readSettingsFile(path);
+  if (!settings) return settings.fault();
+  for (const auto& [first, last] : kTextFields)
+    for (int field = first; field <= last; ++field) (*settings)[field] = u"設定%1"_s.arg(field);
+  return frame::writeSettingsFile(path, *settings);
 }
 
 }  // namespace program

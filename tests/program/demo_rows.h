@@ -11,4 +11,8 @@ namespace program {
 /// columns that rules or lists read hold plain values. Yes/no columns are ticked in turns.
 text::Done addDemoRows(const QString& programFolder);
 
+/// Fills the settings of the practice, its licences and its own captions: each text is "設定" and the number
+/// of its field in qv.dat.
+text::Done addDemoSettings(const QString& programFolder);
+
 }  // namespace program

@@ -39,6 +39,9 @@ const Road kRoads[] = {
     {u"登録3", {kToClaim, {kClaimForm, u"Command14"}}},
     {u"同意期限一ヶ月"},
     {u"料金変更"},
+    {u"登録"},
+    {u"登録4"},
+    {u"txtbox"},
 };
 
 }  // namespace

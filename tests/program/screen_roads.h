@@ -22,7 +22,7 @@ struct Road {
   const char16_t* way = u"";  ///< added to the stem of the file where a screen is heard in several states
 };
 
-/// The screens that are heard with rows: all that have a source, and those that show values of others.
+/// The screens that are heard with values: all that have a source, and those that show rows or settings.
 std::span<const Road> screenRoads();
 
 }  // namespace program

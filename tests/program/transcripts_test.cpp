@@ -68,8 +68,8 @@ TEST_F(TranscriptsTest, EveryScreenOfAFreshProgramIsHeardAsWritten) {
 }
 
 TEST_F(TranscriptsTest, ScreensWithRowsAreHeardAsWritten) {
-  const text::Done filled = addDemoRows(m_folder.path());
-  ASSERT_TRUE(filled.ok()) << filled.fault().message.toStdString();
+  ASSERT_TRUE(addDemoRows(m_folder.path()).ok());
+  ASSERT_TRUE(addDemoSettings(m_folder.path()).ok());
   start();
   SpeechFiles files(u"filled"_s);
   ASSERT_FALSE(screenRoads().empty());

@@ -48,12 +48,15 @@ void ScreenProbe::type(const QString& text) {
 
 void ScreenProbe::walk(const Visit& visit) {
   QSet<QString> visited;
-  const TabsControl* tabs = m_screen.controls().tabs();
+  TabsControl* tabs = m_screen.controls().tabs();
   if (!tabs) return walkPage(visited, visit);
   auto* pages = qobject_cast<QTabWidget*>(tabs->widget());
-  for (int i = 0; i < pages->count(); ++i) {
-    pages->setCurrentIndex(i);
-    visited.remove(tabs->name());
+  pages->setCurrentIndex(0);
+  walkPage(visited, visit);
+  for (int i = 1; i < pages->count(); ++i) {
+    m_voice.clear();
+    tabs->step(+1);
+    visit(*tabs, *tabs->focusWidgets().first(), m_voice.said());
     walkPage(visited, visit);
   }
 }
