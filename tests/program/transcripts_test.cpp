@@ -1,14 +1,11 @@
 // What is heard of every registered screen, compared with the files in tests/speech: in a fresh program, and
 // with rows in the files that the user fills.
 
-#include <QCoreApplication>
-#include <QEvent>
 #include <QSet>
 
 #include "tests/program/demo_rows.h"
 #include "tests/program/program_fixture.h"
 #include "tests/program/screen_files.h"
-#include "tests/program/screen_roads.h"
 #include "tests/program/speech_files.h"
 #include "tests/program/speech_transcript.h"
 
@@ -19,21 +16,9 @@ using namespace Qt::StringLiterals;
 
 class TranscriptsTest : public ProgramTest {
  protected:
-  void walk(const Road& road);
   /// Compares what is heard of a screen that was shown since the recording was cleared, and closes it.
   void compare(SpeechFiles& files, const QString& screenName, const QString& way = {});
-  void closeAllButTheMenu();
 };
-
-void TranscriptsTest::walk(const Road& road) {
-  m_voice.clear();
-  m_desk->navigator().show(QString::fromUtf16(road.steps.empty() ? road.screen : road.steps.front().screen));
-  for (const Step& step : road.steps) {
-    goTo(QString::fromUtf16(step.screen), QString::fromUtf16(step.control));
-    m_voice.clear();
-    key(step.key);
-  }
-}
 
 void TranscriptsTest::compare(SpeechFiles& files, const QString& screenName, const QString& way) {
   ASSERT_TRUE(isOpen(screenName)) << told().join(u'\n').toStdString();
@@ -43,13 +28,6 @@ void TranscriptsTest::compare(SpeechFiles& files, const QString& screenName, con
   for (QString& line : lines) line.replace(m_folder.path(), u"<program folder>"_s);
   const QString difference = files.compare(file, lines);
   EXPECT_TRUE(difference.isEmpty()) << difference.toStdString();
-}
-
-void TranscriptsTest::closeAllButTheMenu() {
-  for (const QString& name : m_desk->registry().names())
-    if (name != u"選択3") m_desk->navigator().unload(name);
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  told();
 }
 
 TEST_F(TranscriptsTest, EveryScreenOfAFreshProgramIsHeardAsWritten) {
@@ -76,7 +54,7 @@ TEST_F(TranscriptsTest, ScreensWithRowsAreHeardAsWritten) {
   for (const Road& road : screenRoads()) {
     const QString name = QString::fromUtf16(road.screen);
     SCOPED_TRACE(name.toStdString());
-    walk(road);
+    follow(road);
     compare(files, name, QString::fromUtf16(road.way));
     closeAllButTheMenu();
   }
