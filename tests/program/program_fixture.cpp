@@ -74,6 +74,23 @@ void ProgramTest::press(const QString& screenName, const QString& control) {
   key(Qt::Key_Space);
 }
 
+void ProgramTest::follow(const Road& road) {
+  m_voice.clear();
+  m_desk->navigator().show(QString::fromUtf16(road.steps.empty() ? road.screen : road.steps.front().screen));
+  for (const Step& step : road.steps) {
+    goTo(QString::fromUtf16(step.screen), QString::fromUtf16(step.control));
+    m_voice.clear();
+    key(step.key);
+  }
+}
+
+void ProgramTest::closeAllButTheMenu() {
+  for (const QString& name : m_desk->registry().names())
+    if (name != QStringLiteral("選択3")) m_desk->navigator().unload(name);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  told();
+}
+
 QStringList ProgramTest::told() {
   const QStringList texts = m_desk->messages().texts();
   m_desk->messages().forget();
