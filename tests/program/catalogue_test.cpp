@@ -38,9 +38,9 @@ class CatalogueTest : public ProgramTest {
 };
 
 TEST_F(CatalogueTest, EveryScreenOpensAndIsNamedSpokenAndReachable) {
-  for (const QString& name : m_desk->registry().names()) {
+  for (const QString& name : m_application->registry().names()) {
     SCOPED_TRACE(name.toStdString());
-    screen::Screen* window = m_desk->navigator().show(name);
+    screen::Screen* window = m_application->navigator().show(name);
     ASSERT_NE(window, nullptr);
     EXPECT_EQ(window->objectName(), name);
     EXPECT_FALSE(window->windowTitle().isEmpty());
@@ -48,7 +48,7 @@ TEST_F(CatalogueTest, EveryScreenOpensAndIsNamedSpokenAndReachable) {
     probe.open();
     const QStringList faults = probe.faults();
     EXPECT_TRUE(faults.isEmpty()) << faults.join('\n').toStdString();
-    m_desk->navigator().unload(name);
+    m_application->navigator().unload(name);
     told();
   }
 }
@@ -57,17 +57,17 @@ TEST_F(CatalogueTest, BoundColumnsExist) {
   for (const SourceRow& row : kSources) {
     const QString name = QString::fromUtf16(row.screen);
     SCOPED_TRACE(name.toStdString());
-    screen::Screen* window = m_desk->navigator().show(name);
+    screen::Screen* window = m_application->navigator().show(name);
     ASSERT_NE(window, nullptr);
     screen::testing::ScreenProbe probe(*window, m_voice);
     EXPECT_EQ(probe.unknownColumns(row.files), QStringList());
-    m_desk->navigator().unload(name);
+    m_application->navigator().unload(name);
   }
 }
 
 // A command of a room that is not built says so by name, spoken, and opens nothing.
 TEST_F(CatalogueTest, AMissingRoomIsToldByName) {
-  EXPECT_EQ(m_desk->navigator().show(QStringLiteral("領収証選択")), nullptr);
+  EXPECT_EQ(m_application->navigator().show(QStringLiteral("領収証選択")), nullptr);
   const QStringList texts = told();
   ASSERT_EQ(texts.size(), 1);
   EXPECT_TRUE(texts[0].contains(QStringLiteral("領収証選択")));
