@@ -39,8 +39,11 @@ function(room NAME)
 endfunction()
 
 # room_tests(NAME [WIDGETS] [FOLDER dir] [LABEL quick|full] LINKS lib...): every *_test.cpp of the
-# folder in one GoogleTest program. WIDGETS: runs with an offscreen QApplication.
+# folder in one GoogleTest program; nothing in a build without tests. WIDGETS: runs with an offscreen QApplication.
 function(room_tests NAME)
+  if(NOT BUILD_TESTING)
+    return()
+  endif()
   cmake_parse_arguments(ROOM "WIDGETS" "FOLDER;LABEL" "LINKS" ${ARGN})
   if(NOT ROOM_FOLDER)
     set(ROOM_FOLDER tests)
