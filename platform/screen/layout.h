@@ -11,16 +11,16 @@ class QWidget;
 
 namespace screen {
 
-/// The caption of a tick that is longer than the desk is wide, in lines (the toolkit does not wrap it).
+/// The caption of a tick that is wider than the display, in lines (the toolkit does not wrap it).
 QString wrapped(const QString& text, int charactersInALine);
 QString wrapped(const QString& text);
 /// Width of a field for so many characters of the present font.
 void fitWidth(QWidget* field, int characters);
 void fitMemo(QWidget* field, int characters, int lines);
-/// How many of the declared columns stand beside each other: all of them at the default font on a desk 1280
-/// pixels wide; fewer where a larger font or a smaller desk leaves less room, so that nothing has to be
-/// scrolled sideways. `character` is the width of a full-width character, `room` that of the desk.
-int fittingColumns(int declared, int character, int room);
+/// How many of the declared columns fit next to each other: all of them at the default font on a display 1280
+/// pixels wide; fewer where a larger font or a smaller display leaves less space, so that nothing has to be
+/// scrolled sideways. `character` is the width of a full-width character, `display` that of the display.
+int fittingColumns(int declared, int character, int display);
 int fittingColumns(int declared);
 
 /// Fields beside each other in columns of label and field; a wide one has a line of its own. Nothing is
@@ -59,7 +59,7 @@ class Flow {
  private:
   QWidget* m_host;
   QVBoxLayout* m_lines;
-  int m_room;  ///< width that one line may take
+  int m_width;  ///< width that one line may take
   QHBoxLayout* m_line = nullptr;
   int m_at = 0;
   int m_used = 0;

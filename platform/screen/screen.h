@@ -120,8 +120,8 @@ class Screen : public QMainWindow {
   void speakOpening();
   /// Before loading: the speech of the screen before is cut, what is said from now on waits its turn.
   void prepareOpening();
-  /// Shown, and no key was pressed since: the desk may still hand the keyboard to and fro before it stays
-  /// here.
+  /// Shown, and no key was pressed since: the window manager may still move the keyboard focus to and fro
+  /// before it stays here.
   bool awaitsKeyboard() const;
   /// What speakOpening() says: the heading (where none is declared the caption) and the spoken notes.
   /// Screens with their own sentence override it; an empty list says nothing.
@@ -142,7 +142,7 @@ class Screen : public QMainWindow {
  private:
   friend class Builder;
   friend class DataSource;
-  void fitToDesk();
+  void fitToDisplay();
   void focusFirst();
   void finishClosing();
   struct Parts;

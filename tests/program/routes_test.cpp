@@ -27,7 +27,7 @@ using RoutesTest = ProgramTest;
 
 TEST_F(RoutesTest, LeadToRegisteredScreensAndNoScreenIsWithoutARoute) {
   QStringList routes = routesOf("/frame/core/routes.h");
-  QStringList screens = m_desk->registry().names();
+  QStringList screens = m_application->registry().names();
   routes.sort();
   screens.sort();
   EXPECT_EQ(routes, screens);
@@ -38,7 +38,7 @@ TEST_F(RoutesTest, NotBuiltYetAreListedAndNotRegistered) {
   for (const screen::ScreenName& name : routes::unbuilt::kAll) listed += name;
   EXPECT_EQ(listed, routesOf("/frame/core/routes_unbuilt.h"));
   for (const QString& name : listed)
-    EXPECT_FALSE(m_desk->registry().names().contains(name)) << name.toStdString();
+    EXPECT_FALSE(m_application->registry().names().contains(name)) << name.toStdString();
 }
 
 }  // namespace
