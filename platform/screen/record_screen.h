@@ -4,7 +4,7 @@
 
 namespace screen {
 
-/// What a record screen says of its acts. Screens give their own texts where they have some.
+/// What a record screen says of its acts. A screen gives its own texts if it has some.
 struct RecordWords {
   const char16_t* stored = u"登録しました";
   const char16_t* deleted = u"削除しました";
