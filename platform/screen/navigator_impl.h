@@ -39,6 +39,7 @@ class ScreenNavigator : public Navigator {
   /// The services name the navigator, so they come second.
   void setServices(Services& services) { m_services = &services; }
 
+  using Navigator::show;
   Screen* show(const QString& screenName, const Request& request = {}) override;
   Screen* load(const QString& screenName) override;
   Screen* loaded(const QString& screenName) const override;
