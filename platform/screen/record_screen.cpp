@@ -1,5 +1,7 @@
 #include "platform/screen/record_screen.h"
 
+#include "platform/text/utf16.h"
+
 namespace screen {
 
 RecordScreen::RecordScreen(const ScreenRow& declaration, Services& services, const RecordWords& words)
@@ -8,6 +10,7 @@ RecordScreen::RecordScreen(const ScreenRow& declaration, Services& services, con
 }
 
 void RecordScreen::step(void (DataSource::*move)()) {
+  if (!readyToMove()) return;
   const store::Bookmark before = source().rows().bookmark();
   (source().*move)();
   if (source().rows().bookmark() != before) rowReached();
@@ -15,7 +18,7 @@ void RecordScreen::step(void (DataSource::*move)()) {
 }
 
 bool RecordScreen::mayDiscard() {
-  return !source().pending() || messages().askToDrop(QString::fromUtf16(m_words.discardQuestion));
+  return !source().pending() || messages().askToDrop(text::utf16(m_words.discardQuestion));
 }
 
 bool RecordScreen::mayLeaveRow() {
@@ -28,18 +31,16 @@ bool RecordScreen::writeOnView() {
   return (source().hasCurrentRow() || source().addNewAsShown()) && source().write();
 }
 
-void RecordScreen::sayDone(const char16_t* done) {
-  say(QStringList{QString::fromUtf16(done)} + rowInWords());
-}
+void RecordScreen::sayDone(const QString& done) { say(QStringList{done} + rowInWords()); }
 
 void RecordScreen::storeRow() {
-  if (source().ensureOpen() && readyToStore() && writeOnView()) sayDone(m_words.stored);
+  if (source().ensureOpen() && readyToStore() && writeOnView()) sayDone(text::utf16(m_words.stored));
 }
 
 bool RecordScreen::confirmRemoval() {
-  const QString question = QString::fromUtf16(m_words.deleteQuestion);
+  const QString question = text::utf16(m_words.deleteQuestion);
   if (!m_words.deleteTitle) return messages().ask(question);
-  return messages().ask(question, Buttons::OkCancel, QString::fromUtf16(m_words.deleteTitle));
+  return messages().ask(question, Buttons::OkCancel, text::utf16(m_words.deleteTitle));
 }
 
 bool RecordScreen::removeOnView() {
@@ -50,8 +51,10 @@ bool RecordScreen::removeOnView() {
 
 void RecordScreen::removeRow() {
   if (!source().ensureOpen()) return;
-  if (!source().hasCurrentRow()) return messages().tell(QString::fromUtf16(m_words.nothingToDelete));
-  if (confirmRemoval() && removeOnView()) sayDone(m_words.deleted);
+  if (!source().hasCurrentRow()) return messages().tell(text::utf16(m_words.nothingToDelete));
+  if (!confirmRemoval()) return;
+  const bool stored = !source().rows().adding();
+  if (removeOnView()) sayDone(text::utf16(stored ? m_words.deleted : m_words.dropped));
 }
 
 }  // namespace screen

@@ -35,14 +35,14 @@ store::Result<VisitTotals> totalsOf(const store::RecordSet& visits) {
   return sums;
 }
 
-QVariantMap totalsRequest(const VisitTotals& totals, const QString& opener) {
-  return {{QStringLiteral("opener"), opener},
-          {QStringLiteral("rows"), totals.rows},
-          {QStringLiteral("insurer"), totals.insurer},
-          {QStringLiteral("share"), totals.share},
-          {QStringLiteral("treatment"), totals.treatment},
-          {QStringLiteral("receipts"), totals.receipts},
-          {QStringLiteral("newPatients"), totals.newPatients}};
+routes::Totals totalsRoute(const VisitTotals& totals, bool ofOnePatient) {
+  return {.ofOnePatient = ofOnePatient,
+          .rows = totals.rows,
+          .insurer = totals.insurer,
+          .share = totals.share,
+          .treatment = totals.treatment,
+          .receipts = totals.receipts,
+          .newPatients = totals.newPatients};
 }
 
 }  // namespace records

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QVariantMap>
-
+#include "frame/core/routes.h"
 #include "platform/store/record_set.h"
 
 namespace records {
@@ -25,7 +24,7 @@ qint64 yenOf(QStringView amount);
 /// Adds up every row of a set of カルテ as the file holds it now. The current row stays.
 store::Result<VisitTotals> totalsOf(const store::RecordSet& visits);
 
-/// The sums as 集計総合金額 is handed them, with the name of the screen that opens it.
-QVariantMap totalsRequest(const VisitTotals& totals, const QString& opener);
+/// The way to 集計総合金額 with the sums, of the visits of one patient or of all.
+routes::Totals totalsRoute(const VisitTotals& totals, bool ofOnePatient);
 
 }  // namespace records

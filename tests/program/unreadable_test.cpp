@@ -45,7 +45,7 @@ class UnreadableScreens : public ProgramTest, public testing::WithParamInterface
     file = QString::fromUtf16(GetParam().file);
     fill(file, QString::fromUtf16(GetParam().marker));
     if (file == u"保険申請2000_1.mdb") fill(u"保険申請2000_2.mdb"_s, u"a1"_s);
-    screen::Screen* shown = m_desk->navigator().show(QString::fromUtf16(GetParam().screen), request());
+    screen::Screen* shown = m_application->navigator().show(QString::fromUtf16(GetParam().screen), request());
     ASSERT_NE(shown, nullptr);
     QCoreApplication::processEvents();
     told();
