@@ -24,6 +24,13 @@ bool RecordScreen::mayLeaveRow() {
   return true;
 }
 
+bool RecordScreen::mayClose() {
+  if (!source().isOpen() || mayLeaveRow()) return true;
+  if (!messages().askToDrop(QString::fromUtf16(m_words.discardQuestion))) return false;
+  source().drop();
+  return true;
+}
+
 bool RecordScreen::writeOnView() {
   return (source().holdsRow() || source().addNewAsShown()) && source().write();
 }
@@ -33,7 +40,7 @@ void RecordScreen::sayDone(const char16_t* done) {
 }
 
 void RecordScreen::storeRow() {
-  if (source().ready() && readyToStore() && writeOnView()) sayDone(m_words.stored);
+  if (source().ready() && readyToStore() && writeOnView()) sayStored();
 }
 
 bool RecordScreen::confirmRemoval() {
@@ -50,7 +57,10 @@ bool RecordScreen::removeOnView() {
 
 void RecordScreen::removeRow() {
   if (!source().ready()) return;
-  if (!source().holdsRow()) return messages().tell(QString::fromUtf16(m_words.nothingToDelete));
+  if (!source().holdsRow()) {
+    if (!m_words.nothingToDelete) return say(rowInWords());
+    return messages().tell(QString::fromUtf16(m_words.nothingToDelete));
+  }
   if (confirmRemoval() && removeOnView()) sayDone(m_words.deleted);
 }
 
