@@ -27,6 +27,13 @@ bool RecordScreen::mayLeaveRow() {
   return true;
 }
 
+bool RecordScreen::mayClose() {
+  if (!source().isOpen() || mayLeaveRow()) return true;
+  if (!messages().askToDrop(QString::fromUtf16(m_words.discardQuestion))) return false;
+  source().drop();
+  return true;
+}
+
 bool RecordScreen::writeOnView() {
   return (source().hasCurrentRow() || source().addNewAsShown()) && source().write();
 }
@@ -34,7 +41,7 @@ bool RecordScreen::writeOnView() {
 void RecordScreen::sayDone(const QString& done) { say(QStringList{done} + rowInWords()); }
 
 void RecordScreen::storeRow() {
-  if (source().ensureOpen() && readyToStore() && writeOnView()) sayDone(text::utf16(m_words.stored));
+  if (source().ensureOpen() && readyToStore() && writeOnView()) sayStored();
 }
 
 bool RecordScreen::confirmRemoval() {
@@ -51,7 +58,10 @@ bool RecordScreen::removeOnView() {
 
 void RecordScreen::removeRow() {
   if (!source().ensureOpen()) return;
-  if (!source().hasCurrentRow()) return messages().tell(text::utf16(m_words.nothingToDelete));
+  if (!source().hasCurrentRow()) {
+    if (!m_words.nothingToDelete) return say(rowInWords());
+    return messages().tell(text::utf16(m_words.nothingToDelete));
+  }
   if (!confirmRemoval()) return;
   const bool stored = !source().rows().adding();
   if (removeOnView()) sayDone(text::utf16(stored ? m_words.deleted : m_words.dropped));

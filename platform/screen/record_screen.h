@@ -9,6 +9,7 @@ struct RecordWords {
   const char16_t* stored = u"登録しました";
   const char16_t* deleted = u"削除しました";
   const char16_t* dropped = u"削除しました";  ///< of a new row that was never stored
+  /// Message where there is no row to delete; nullptr: what is on view is said instead.
   const char16_t* nothingToDelete = u"削除するデータがありません。";
   const char16_t* deleteQuestion = nullptr;   ///< asked before a row is deleted
   const char16_t* deleteTitle = nullptr;      ///< title of that question; with one it has OK and Cancel
@@ -41,6 +42,8 @@ class RecordScreen : public Screen {
   virtual bool readyToStore() { return true; }
   /// Before another row comes on view, by any way: settles what was typed. False: reported, the row stays.
   virtual bool mayLeaveRow();
+  /// After the row was stored.
+  virtual void sayStored() { sayDone(m_words.stored); }
   /// Another row came on view by a record key.
   virtual void rowReached() {}
   /// What is done with the row that is deleted, and where the screen goes then. False: reported.
@@ -48,6 +51,9 @@ class RecordScreen : public Screen {
 
   /// True when nothing typed would be lost, or the user agrees to lose it.
   bool mayDiscard();
+  /// Before the screen closes: settles what was typed. What the file refuses is given up if the user agrees,
+  /// so that it never locks the user in. False: the screen stays.
+  bool mayClose();
   /// Writes the row on view, or what was typed into a table without rows as its first. False: reported.
   bool writeOnView();
   /// Says what was done and the row on view.
