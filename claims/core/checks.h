@@ -25,9 +25,9 @@ CheckResult checkClaimFull(const ClaimRecord& claim, const frame::EraDates& era)
 CheckResult checkClaimFast(const ClaimRecord& claim, const frame::EraDates& era,
                            const QStringList& openWindows);
 
-/// A window that stands alone beside the claim form, and what is said while it is open.
+/// A window of the claim form of which only one may be open, and what is said while it is.
 struct SingleWindow {
-  const char16_t* screen;
+  const char16_t* screen;  ///< the name of its route
   const char16_t* message;
   bool stopsFastCheck;
 };

@@ -6,6 +6,7 @@
 
 #include "claims/core/claim_record.h"
 #include "claims/core/print_chooser.h"
+#include "frame/core/patient.h"
 
 namespace claims {
 
@@ -21,8 +22,8 @@ class ClaimOnDisplay {
   virtual void trimForPrint() = 0;
   /// Window handle for the report engine.
   virtual quintptr window() const = 0;
-  /// Puts a text into the form's field of a column, as the helper windows do; it is kept by 登録 only.
-  virtual void put(const QString& column, const QString& text) {
+  /// Puts a text into the form's field of a column, as the helper windows do; only 登録 stores it.
+  virtual void put(const store::Column& column, const QString& text) {
     Q_UNUSED(column)
     Q_UNUSED(text)
   }
@@ -36,7 +37,7 @@ struct ClaimsState {
   int printKind = 0;                     ///< PrintKind: 1 acupuncture button, 2 massage button
   PrintScreenChooser choosePrintScreen;  ///< of printing, set at start
   PrinterSetup printerSetup;             ///< the printer's dialog, set at start
-  ClaimRecord newClaim;  ///< the patient's columns (of table 臨床QV) that 新規レセプト was opened with
+  frame::Patient newClaim;               ///< whose claim 新規レセプト asks to make
 };
 
 }  // namespace claims

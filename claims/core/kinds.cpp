@@ -2,10 +2,12 @@
 
 #include <array>
 
+#include "platform/text/utf16.h"
+
 namespace claims {
 namespace {
 
-// 退職国保 and 国保 go to the same authority; 老人 was replaced by 後期高齢 and kept for old claims.
+// 退職国保 and 国保 go to the same authority; 老人 was replaced by 後期高齢; old claims still have it.
 constexpr std::array<InsuranceRow, 9> kInsurance = {{
     {u"共済", 1, u"11", u"22", u"共済組合長"},
     {u"組合", 2, u"11", u"22", u"健康保険組合長"},
@@ -17,11 +19,6 @@ constexpr std::array<InsuranceRow, 9> kInsurance = {{
     {u"老人", 7, nullptr, nullptr, nullptr},
     {u"後期高齢", 7, u"1", u"1", u"後期高齢者医療広域連合長"},
 }};
-
-constexpr std::array kNewClaim = {u"全国健康保険協会", u"共済",     u"組合",    u"国保",
-                                  u"退職国保",         u"特別国保", u"後期高齢"};
-
-QString textOrNull(const char16_t* text) { return text ? QString::fromUtf16(text) : QString(); }
 
 }  // namespace
 
@@ -47,15 +44,13 @@ QString insuranceOrder(const QString& kind) {
 QString summaryCode(const QString& kind, const QString& relation) {
   const InsuranceRow* row = insuranceRow(kind);
   if (!row) return {};
-  return textOrNull(relation == u"本人" ? row->codeOfInsured : row->codeOfFamily);
+  return text::utf16(relation == u"本人" ? row->codeOfInsured : row->codeOfFamily);
 }
 
 QString defaultAddressee(const QString& kind) {
   const InsuranceRow* row = insuranceRow(kind);
-  return row ? textOrNull(row->addressee) : QString();
+  return row ? text::utf16(row->addressee) : QString();
 }
-
-std::span<const char16_t* const> newClaimInsurance() { return kNewClaim; }
 
 double shareRate(const QString& share) {
   if (share == u"1割") return 0.1;

@@ -8,6 +8,6 @@ ClaimRecord ClaimFormDisplay::record() const { return m_form.record(); }
 QSet<QString> ClaimFormDisplay::checks() const { return m_form.checks(); }
 void ClaimFormDisplay::trimForPrint() { m_form.trimTexts(); }
 quintptr ClaimFormDisplay::window() const { return m_form.winId(); }
-void ClaimFormDisplay::put(const QString& column, const QString& text) { m_form.put(column, text); }
+void ClaimFormDisplay::put(const store::Column& column, const QString& text) { m_form.put(column, text); }
 
 }  // namespace claims

@@ -15,7 +15,7 @@ class ClaimFormDisplay final : public ClaimOnDisplay {
   QSet<QString> checks() const override;
   void trimForPrint() override;
   quintptr window() const override;
-  void put(const QString& column, const QString& text) override;
+  void put(const store::Column& column, const QString& text) override;
 
  private:
   ClaimFormScreen& m_form;

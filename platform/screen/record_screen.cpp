@@ -9,10 +9,10 @@ RecordScreen::RecordScreen(const ScreenRow& declaration, Services& services, con
   source().onLeaveRow = [this] { return mayLeaveRow(); };
 }
 
-void RecordScreen::step(void (DataSource::*move)()) {
+void RecordScreen::step(const RowMove& move) {
   if (!readyToMove()) return;
   const store::Bookmark before = source().rows().bookmark();
-  (source().*move)();
+  moveRow(move);
   if (source().rows().bookmark() != before) rowReached();
   voice().speakHeading(rowInWords());
 }

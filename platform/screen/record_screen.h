@@ -16,6 +16,12 @@ struct RecordWords {
   const char16_t* discardQuestion = nullptr;  ///< asked before typed text is lost; starts on the refusal
 };
 
+/// A move by a record key: of the source, with what belongs to leaving a row, and of its rows alone.
+struct RowMove {
+  void (DataSource::*bySource)();
+  void (store::RecordSet::*byRows)();
+};
+
 /// Base of the screens that show one row of source 1 at a time and let it be changed: moves by the record
 /// keys, storing, deleting, and the question before typed text is lost. Each act is answered in the same way:
 /// what was done, then the row on view in words.
@@ -23,10 +29,10 @@ class RecordScreen : public Screen {
  public:
   RecordScreen(const ScreenRow& declaration, Services& services, const RecordWords& words);
 
-  void goFirst() override { step(&DataSource::moveFirst); }
-  void goPrevious() override { step(&DataSource::movePrevious); }
-  void goNext() override { step(&DataSource::moveNext); }
-  void goLast() override { step(&DataSource::moveLast); }
+  void goFirst() override { step({&DataSource::moveFirst, &store::RecordSet::moveFirst}); }
+  void goPrevious() override { step({&DataSource::movePrevious, &store::RecordSet::movePrevious}); }
+  void goNext() override { step({&DataSource::moveNext, &store::RecordSet::moveNext}); }
+  void goLast() override { step({&DataSource::moveLast, &store::RecordSet::moveLast}); }
 
   /// Stores what was typed, of a table without rows as its first row; says so.
   virtual void storeRow();
@@ -36,14 +42,16 @@ class RecordScreen : public Screen {
  protected:
   /// The row on view as it is said after a move or another act.
   virtual QStringList rowInWords() const = 0;
-  /// Before a move by a record key. False: reported, nothing moves.
-  virtual bool readyToMove() { return true; }
   /// Before storing: blanks to be filled, values to be computed. False: reported, nothing is stored.
   virtual bool readyToStore() { return true; }
   /// Before another row comes on view, by any way: settles what was typed. False: reported, the row stays.
   virtual bool mayLeaveRow();
   /// After the row was stored.
-  virtual void sayStored() { sayDone(m_words.stored); }
+  virtual void sayStored() { sayDone(text::utf16(m_words.stored)); }
+  /// Before a move by a record key. False: reported, nothing moves.
+  virtual bool readyToMove() { return true; }
+  /// Makes another row current.
+  virtual void moveRow(const RowMove& move) { (source().*move.bySource)(); }
   /// Another row came on view by a record key.
   virtual void rowReached() {}
   /// What is done with the row that is deleted, and where the screen goes then. False: reported.
@@ -56,13 +64,14 @@ class RecordScreen : public Screen {
   bool mayClose();
   /// Writes the row on view, or what was typed into a table without rows as its first. False: reported.
   bool writeOnView();
+  /// Asks whether the row on view is to be deleted.
+  bool confirmRemoval();
   /// Says what was done and the row on view.
   virtual void sayDone(const QString& done);
   const RecordWords& words() const { return m_words; }
 
  private:
-  void step(void (DataSource::*move)());
-  bool confirmRemoval();
+  void step(const RowMove& move);
   const RecordWords& m_words;
 };
 

@@ -57,7 +57,7 @@ void PatientScreen::rowShown(int) {
   setCaption(kCount, QString::number(open ? source().rows().recordCount() : 0));
 }
 
-bool PatientScreen::mayLeaveRow() { return screen::settleRow(source()); }
+bool PatientScreen::mayLeaveRow() { return screen::commitOrDiscardRow(source()); }
 
 QStringList PatientScreen::rowInWords() const {
   if (source().isOpen() && source().rows().adding()) return {u"新規追加"_s, text(kName)};

@@ -1,15 +1,16 @@
+#pragma once
+
 #include "claims/screens/claim_form_rows.h"
 #include "claims/screens/claim_form_screen.h"
 #include "platform/store/tables/claims.h"
 
-namespace claims {
+namespace claims::form {
 
 using namespace screen;
 using Form = ClaimFormScreen;
 
-namespace {
-
-constexpr Row kRows[] = {
+/// Name, month, kind and the commands, above the pages.
+inline constexpr Row kHead[] = {
     Group{{u"FrameHead"}, u"表示中のレセプト", 4},
     TextField{.name = {u"txtFields", 0}, .caption = u"氏名:", .bind = claim::name},
     TextField{.name = {u"txtFields", 1},
@@ -46,7 +47,7 @@ constexpr Row kRows[] = {
     Bar{},
     Command{.name = {u"cmdUpdate"},
             .caption = u"登録",
-            .run = run<&Form::store>,
+            .run = run<&Form::storeRow>,
             .menu = u"Men_Bup",
             .under = u"ファイル(&F)"},
     Command{.name = {u"cmdClose"},
@@ -56,7 +57,7 @@ constexpr Row kRows[] = {
             .under = u"ファイル(&F)"},
     Command{.name = {u"cmdDelete"},
             .caption = u"削除",
-            .run = run<&Form::removeClaim>,
+            .run = run<&Form::removeRow>,
             .menu = u"Men_Bdel",
             .under = u"ファイル(&F)"},
     Command{.name = {u"Command15"},
@@ -118,8 +119,4 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-}  // namespace
-
-screen::Rows claimHeadRows() { return kRows; }
-
-}  // namespace claims
+}  // namespace claims::form
