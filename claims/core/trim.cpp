@@ -83,12 +83,6 @@ TrimResult trimForPrint(const ClaimRecord& claim, TrimForm form) {
   return result;
 }
 
-int printLimit(const QString& column, TrimForm form, bool massage) {
-  for (const LimitRow& row : kLimits)
-    if (column == row.column) return limitOf(row, form, massage);
-  return 0;
-}
-
 ClaimRecord trimInsurer(const ClaimRecord& claim) {
   ClaimRecord result = claim;
   for (const char16_t* name : kInsurerColumns) {

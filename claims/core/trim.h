@@ -19,9 +19,6 @@ struct TrimResult {
 /// are counted in characters.
 TrimResult trimForPrint(const ClaimRecord& claim, TrimForm form);
 
-/// The limit of a column in characters; 0: none.
-int printLimit(const QString& column, TrimForm form, bool massage);
-
 /// Blanks around the insurer's fields taken off, as the store does for 全国健康保険協会, 共済, 組合, 社保.
 ClaimRecord trimInsurer(const ClaimRecord& claim);
 /// Whether the store trims and cuts a claim of this 保険の種類.

@@ -75,14 +75,6 @@ QVector<BoundControl> boundControls(Rows rows) {
   return controls;
 }
 
-QStringList unboundTicks(Rows rows) {
-  QStringList names;
-  for (const Row& row : rows)
-    if (const auto* check = std::get_if<Check>(&row); check && !check->bind.bound())
-      names << nameOf(check->name);
-  return names;
-}
-
 ClaimRecord recordOf(const Screen& form, const QVector<BoundControl>& controls, const ClaimRecord& read) {
   ClaimRecord claim = read;
   for (const BoundControl& bound : controls) {

@@ -25,8 +25,6 @@ struct BoundControl {
 
 /// The bound controls of a screen's rows, families expanded, in the order of the rows.
 QVector<BoundControl> boundControls(screen::Rows rows);
-/// Names of the ticks that are bound to no column.
-QStringList unboundTicks(screen::Rows rows);
 
 /// The claim as it stands on the form: `read` with what the controls show in place of what they were given.
 /// A control that shows what was read leaves the stored value as it is, so that NULL stays NULL.

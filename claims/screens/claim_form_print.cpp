@@ -9,7 +9,7 @@ namespace claims {
 
 namespace {
 
-/// The preview screens by previewKind less one.
+/// The preview screens.
 constexpr const char16_t* kPreviews[] = {u"施術料金1",     u"施術料金2",     u"施術料金2018H",
                                          u"施術料金2108A", u"施術料金2024H", u"施術料金2024A"};
 
@@ -19,7 +19,6 @@ void ClaimFormScreen::closePreview() {
   for (const char16_t* preview : kPreviews)
     if (const QString name = QString::fromUtf16(preview); navigator().loaded(name) != nullptr)
       navigator().unload(name);
-  m_state.previewKind = 0;
 }
 
 void ClaimFormScreen::previewFees() {
@@ -28,11 +27,8 @@ void ClaimFormScreen::previewFees() {
   if (!mayLeave()) return;
   closePreview();
   const QString name = previewScreen(kindOf(m_read.get(QStringLiteral("施術内容"))), m_flags);
-  for (int kind = 0; kind < int(std::size(kPreviews)); ++kind) {
-    if (name != QString::fromUtf16(kPreviews[kind])) continue;
-    m_state.previewKind = kind + 1;
-    navigator().show(name);
-  }
+  for (const char16_t* preview : kPreviews)
+    if (name == QStringView(preview)) navigator().show(name);
 }
 
 void ClaimFormScreen::carryForward() {
@@ -51,10 +47,10 @@ void ClaimFormScreen::carryForward() {
   if (showClaim(added.value())) announce();
 }
 
-void ClaimFormScreen::printAcupuncture() { print(1); }
-void ClaimFormScreen::printMassage() { print(2); }
+void ClaimFormScreen::printAcupuncture() { print(PrintKind::Acupuncture); }
+void ClaimFormScreen::printMassage() { print(PrintKind::Massage); }
 
-void ClaimFormScreen::print(int kind) {
+void ClaimFormScreen::print(PrintKind kind) {
   if (m_id == 0) return;
   applyMonth();
   if (!mayLeave()) return;
@@ -64,7 +60,8 @@ void ClaimFormScreen::print(int kind) {
     trimTexts();
   }
   m_state.printKind = kind;
-  const QString name = m_state.choosePrintScreen ? m_state.choosePrintScreen(record(), checks()) : QString();
+  const QString name =
+      m_state.printing != nullptr ? m_state.printing->screenOf(record(), checks()) : QString();
   if (name.isEmpty()) return messages().tell(QString::fromUtf16(says::kNoPrintScreen));
   navigator().show(name);
 }
@@ -78,7 +75,7 @@ void ClaimFormScreen::printRecord() {
 }
 
 void ClaimFormScreen::printerOptions() {
-  if (m_state.printerSetup) m_state.printerSetup(winId());
+  if (m_state.printing != nullptr) m_state.printing->setUpPrinter(winId());
 }
 
 }  // namespace claims

@@ -44,11 +44,7 @@ bool ClaimFormScreen::onCloseBox() {
 void ClaimFormScreen::closeForm() {
   if (m_id == 0) return leaveTo(m_opener);
   if (dirty()) return;
-  if (const QString open = openWindowMessage(openWindows()); !open.isNull()) {
-    m_state.claimCheck = QStringLiteral("break");
-    messages().tell(open);
-    return;
-  }
+  if (const QString open = openWindowMessage(openWindows()); !open.isNull()) return messages().tell(open);
   // NULL, not blank: a claim whose days fit no kind is blank there once it is stored.
   if (m_read.get(QStringLiteral("施術科目")).isNull()) {
     messages().tell(QString::fromUtf16(says::kNeverStored));
@@ -126,7 +122,6 @@ bool ClaimFormScreen::checkedFast() {
 bool ClaimFormScreen::checkedFull() { return passed(checkClaimFull(record(), m_run.eraDates())); }
 
 bool ClaimFormScreen::passed(const CheckResult& result) {
-  m_state.claimCheck = result.claimCheck();
   for (const QString& message : result.messages) messages().tell(message);
   return !result.stop;
 }

@@ -47,8 +47,8 @@ class ClaimFormScreen : public screen::Screen {
   // What the form shows: claim_form_show.cpp.
   /// The claim as it stands on the form, columns of both halves.
   ClaimRecord record() const;
-  /// Names of the unbound ticks that are set.
-  QSet<QString> checks() const;
+  /// The ticks for printing.
+  FormTicks checks() const;
   /// Puts a text into the field of a column, as the helper windows do; unknown columns are left.
   void put(const QString& column, const QString& text);
   const MonthFlags& flags() const { return m_flags; }
@@ -125,7 +125,7 @@ class ClaimFormScreen : public screen::Screen {
 
   void step(void (store::RecordSet::*move)());
   void announce();
-  void print(int kind);
+  void print(PrintKind kind);
   void closePreview();
   /// Shows the warning on differing numbers of areas where it holds; spoken when it comes up by an edit.
   void applyAreaWarning(bool spoken);

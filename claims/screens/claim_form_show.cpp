@@ -236,12 +236,11 @@ void ClaimFormScreen::visitTableToggled() { applyVisitTable(); }
 
 ClaimRecord ClaimFormScreen::record() const { return recordOf(*this, m_controls, m_read); }
 
-QSet<QString> ClaimFormScreen::checks() const {
-  static const QStringList names = unboundTicks(claimFormDeclaration().rows) << QStringLiteral("Check50");
-  QSet<QString> set;
-  for (const QString& name : names)
-    if (checked(name)) set.insert(name);
-  return set;
+FormTicks ClaimFormScreen::checks() const {
+  FormTicks ticks;
+  for (const TickName<FormTicks>& row : kFormTicks)
+    if (onClaimForm(row)) ticks.*row.tick = checked(columnName(row.control));
+  return ticks;
 }
 
 void ClaimFormScreen::put(const QString& column, const QString& value) {

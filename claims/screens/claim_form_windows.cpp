@@ -49,10 +49,7 @@ void ClaimFormScreen::openSingle(const QString& name, bool since201810) {
   const QStringList open = openWindows();
   if (open.contains(name))
     return messages().tell(openWindowMessage({name}) + QString::fromUtf16(says::kTwice));
-  if (const QString message = openWindowMessage(open); !message.isNull()) {
-    m_state.claimCheck = QStringLiteral("break");
-    return messages().tell(message);
-  }
+  if (const QString message = openWindowMessage(open); !message.isNull()) return messages().tell(message);
   navigator().show(name, {{QStringLiteral("ID"), m_id}});
 }
 

@@ -15,7 +15,7 @@ constexpr Variant kReasonDetail[] = {{27, u"sonota2"}, {kAnyLength, u"sonota1"}}
 
 void dayGrid(Sheet& sheet) {
   if (!sheet.month.month) return;
-  const bool freeVisits = sheet.claimCheck(u"Check8");
+  const bool freeVisits = sheet.source.form.freeVisits;
   const int last = claims::lastDayOfMonth(sheet.month.month->year(), sheet.month.month->month());
   int days = 0;
   for (int day = 1; day <= last; ++day) {

@@ -63,7 +63,7 @@ void printDate(Sheet& sheet) {
 void claimMonth(Sheet& sheet) {
   const DateWords words = dateWords(sheet.value(u"申請年月"), sheet.dates);
   // On paper that is printed already the era word stands there.
-  if (!sheet.source.itemsOnly) sheet.fields.show(u"GG4", words.era);
+  if (!sheet.source.form.itemsOnly) sheet.fields.show(u"GG4", words.era);
   sheet.fields.show(u"YY4", words.year);
   sheet.fields.show(u"MM4", words.month);
   sheet.fields.show(u"MM5", words.month);
@@ -82,7 +82,7 @@ void institutionCode(Sheet& sheet) {
     sheet.fields.show(u"KikanCode", text::toFullWidth(registered));
   else
     sheet.fields.show(u"KikanCode1", associationNumber(sheet));
-  if (sheet.source.prefecture == u"24") institutionCodeOfMie(sheet, !registered.isEmpty());
+  if (sheet.source.prefecture == frame::Prefecture::Mie) institutionCodeOfMie(sheet, !registered.isEmpty());
 }
 
 void publicExpenseNumbers(Sheet& sheet) {

@@ -33,14 +33,14 @@ void optionHides(Sheet& sheet) {
 }
 
 void chibaPeriod(Sheet& sheet) {
-  if (sheet.source.prefecture != u"12") return;
+  if (sheet.source.prefecture != frame::Prefecture::Chiba) return;
   const QString from = sheet.value(u"要加療期間1"), to = sheet.value(u"要加療期間2");
   if (!from.isEmpty()) sheet.fields.show(u"youkaryuki1", u'自' + from);
   if (!to.isEmpty()) sheet.fields.show(u"youkaryuki2", u'至' + to);
 }
 
 void saitamaPeriod(Sheet& sheet) {
-  if (sheet.source.prefecture != u"11") return;
+  if (sheet.source.prefecture != frame::Prefecture::Saitama) return;
   const claims::TreatmentPeriod period = claims::treatmentPeriod(sheet.claim, sheet.month);
   showDay(sheet, u"DD9", period.firstTreated);
   showDay(sheet, u"DD10", period.lastTreated);
@@ -48,7 +48,7 @@ void saitamaPeriod(Sheet& sheet) {
 }
 
 void aichiVisitingPractice(Sheet& sheet) {
-  if (sheet.source.prefecture != u"23" ||
+  if (sheet.source.prefecture != frame::Prefecture::Aichi ||
       sheet.source.profile[frame::profile::kHealthOffice] != u"出張専門施術者住所地")
     return;
   sheet.fields.mark(u"Text66");
@@ -60,14 +60,14 @@ void aichiVisitingPractice(Sheet& sheet) {
 void attachmentNote(Sheet& sheet) { sheet.fields.markIf(sheet.settings.on(Setting::Attachment), u"betten1"); }
 
 void labelsOnPreprinted(Sheet& sheet) {
-  if (!sheet.source.itemsOnly || !sheet.screenCheck(u"Check2")) return;
+  if (!sheet.source.form.itemsOnly || !sheet.source.ticks.newElderlyLabels) return;
   for (const LabelRow& row : kElderlyLabels) sheet.fields.show(row.item, QString::fromUtf16(row.text));
-  if (sheet.source.option == u"Option6")
+  if (sheet.source.edition == Edition::From201901Reiwa)
     sheet.fields.show(u"Text382", QStringLiteral("登録記号番号（申し出た施術者登録番号）"));
 }
 
 void sealsRemoved(Sheet& sheet) {
-  if (sheet.source.option != u"Option6" || !sheet.screenCheck(u"Check5")) return;
+  if (sheet.source.edition != Edition::From201901Reiwa || !sheet.source.ticks.sealsHidden) return;
   for (const char16_t* item : kSeals) sheet.fields.hide(item);
 }
 

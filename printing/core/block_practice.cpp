@@ -30,7 +30,7 @@ QString licenceNumbers(const Sheet& sheet) {
 }
 
 bool delegated(const Sheet& sheet) {
-  return sheet.claimCheck(u"Check50") || sheet.ticked(claims::column::kDelegated);
+  return sheet.source.form.delegated || sheet.ticked(claims::column::kDelegated);
 }
 
 QString numberOfPractitioner(const Sheet& sheet) {

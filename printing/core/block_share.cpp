@@ -13,7 +13,7 @@ void rightBox(Sheet& sheet) {
   const claims::ShareTicks ticks = claims::shareTicksOf(sheet.claim);
   for (size_t i = 0; i < ticks.size(); ++i)
     if (ticks[i]) wanted[kMarkOfTick[i]] = true;
-  if (sheet.claimCheck(u"Check_Print_Option1")) wanted[1] = true;
+  if (sheet.source.form.insuredMark) wanted[1] = true;
   for (int mark = 1; mark <= 5; ++mark)
     sheet.fields.markIf(wanted[mark], QStringLiteral("hutan") + QString::number(mark));
 }

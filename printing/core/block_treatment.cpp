@@ -106,7 +106,7 @@ void bodyPartCounts(Sheet& sheet) {
 void previousReport(Sheet& sheet) {
   const DateWords words = dateWords(sheet.value(u"txtdummy28"), sheet.dates);
   if (words.year.isEmpty()) return;
-  const bool withLetter = sheet.claimCheck(u"Check17");
+  const bool withLetter = sheet.source.form.eraLetter;
   sheet.fields.show(u"YY3", withLetter ? u'R' + words.year : words.year);
   sheet.fields.show(u"MM3", words.month);
 }

@@ -60,7 +60,7 @@ constexpr Step kSteps[] = {
 }  // namespace
 
 void hideClaim900(ReportFields& fields, const PrintSource& source) {
-  if (!source.itemsOnly) return;
+  if (!source.form.itemsOnly) return;
   fields.hide(u"T_seibetu2");
   fields.hide(u"GG4");
 }

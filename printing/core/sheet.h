@@ -31,9 +31,6 @@ struct Sheet {
   /// The item with the column's text.
   void show(QStringView item, QStringView column) { fields.show(item, value(column)); }
   bool ticked(QStringView column) const { return claim.ticked(column.toString()); }
-  /// Unbound tick of the claim form, tick of the printing screen.
-  bool claimCheck(QStringView name) const { return source.claimChecks.contains(name.toString()); }
-  bool screenCheck(QStringView name) const { return source.screenChecks.contains(name.toString()); }
   bool lateElderly() const;
   bool insuranceIs(std::initializer_list<const char16_t*> kinds) const;
 };

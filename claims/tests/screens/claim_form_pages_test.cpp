@@ -105,6 +105,34 @@ TEST_F(ClaimFormPages, PrintSettingsAreThoseOfTheRules) {
   }
 }
 
+TEST_F(ClaimFormPages, TicksForPrintingAreTheCheckBoxesOfTheForm) {
+  QStringList boxes, unbound, known;
+  for (const screen::Row& row : claimFormDeclaration().rows)
+    if (const auto* check = std::get_if<screen::Check>(&row)) {
+      boxes << qs(check->name.family());
+      if (!check->bind.bound()) unbound << boxes.last();
+    }
+  for (const TickName<FormTicks>& row : kFormTicks)
+    if (onClaimForm(row)) known << qs(row.control);
+  for (const QString& name : known) EXPECT_TRUE(boxes.contains(name)) << name.toStdString();
+  for (const QString& name : unbound) EXPECT_TRUE(known.contains(name)) << name.toStdString();
+}
+
+TEST_F(ClaimFormPages, EachTickReachesPrintingUnderItsOwnName) {
+  openNew(acupuncture());
+  const std::pair<const char16_t*, FormTicks> rows[] = {
+      {u"Check5", {.olderPaper = true}}, {u"Check6", {.olderPaperItemsOnly = true}},
+      {u"Check7", {.publicAid = true}},  {u"Check8", {.freeVisits = true}},
+      {u"Check13", {.itemsOnly = true}}, {u"Check17", {.eraLetter = true}},
+      {u"Check50", {.delegated = true}}};
+  EXPECT_EQ(m_form->checks(), FormTicks());
+  for (const auto& [box, expected] : rows) {
+    m_form->setChecked(qs(box), true);
+    EXPECT_EQ(m_form->checks(), expected) << qs(box).toStdString();
+    m_form->setChecked(qs(box), false);
+  }
+}
+
 TEST_F(ClaimFormPages, EveryControlOfEitherKindIsNamedSpokenAndReached) {
   for (ClaimRecord claim : {acupuncture(), massage()}) {
     m_form.reset();
