@@ -1,5 +1,5 @@
 #include "claims/core/carry_forward.h"
-#include "claims/core/kinds.h"
+#include "claims/core/insurance.h"
 
 namespace claims {
 namespace {

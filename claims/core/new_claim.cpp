@@ -1,5 +1,6 @@
 #include "claims/core/new_claim.h"
 
+#include "claims/core/insurance.h"
 #include "claims/core/print_settings.h"
 
 namespace claims {

@@ -2,6 +2,7 @@
 
 #include "claims/core/carry_forward.h"
 #include "claims/core/form_lists.h"
+#include "claims/core/insurance.h"
 #include "claims/core/kinds.h"
 #include "claims/core/print_settings.h"
 #include "claims/core/share_ticks.h"

@@ -1,4 +1,4 @@
-#include "claims/core/kinds.h"
+#include "claims/core/insurance.h"
 #include "claims/core/print_fields.h"
 #include "printing/core/claim_blocks.h"
 

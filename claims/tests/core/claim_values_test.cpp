@@ -1,10 +1,12 @@
 // Small tables and derived values of a claim.
 #include <gtest/gtest.h>
 
+#include "claims/core/insurance.h"
 #include "claims/core/kinds.h"
 #include "claims/core/print_fields.h"
 #include "claims/core/print_settings.h"
 #include "claims/core/rule_dates.h"
+#include "claims/core/share_rate.h"
 #include "claims/core/share_ticks.h"
 #include "claims/core/treatment_period.h"
 #include "claims/tests/core/claim_builder.h"
