@@ -24,8 +24,7 @@ QString carryForwardRefusal(const ClaimRecord& claim) {
 ClaimRecord carryForward(const ClaimRecord& claim) {
   ClaimRecord next;
   for (const char16_t* name : carriedColumns()) copy(claim, next, name);
-  for (const PrintSetting& setting : printSettings()) copy(claim, next, setting.column);
-  for (const NewClaimDefault& hidden : hiddenPrintDefaults()) copy(claim, next, hidden.column);
+  for (const PrintSetting& setting : kPrintSettings) copy(claim, next, setting.column);
   // 社保 and 政管健保 were taken over by 全国健康保険協会 in 2008; old claims pass on the new name.
   if (claim.get(QStringLiteral("保険の種類")) == u"社保")
     next.set(QStringLiteral("保険の種類"), QStringLiteral("全国健康保険協会"));

@@ -36,10 +36,8 @@ void setDefaults(ClaimRecord& claim) {
   claim.set(QStringLiteral("業務上外のもの"), QStringLiteral("その他"));
   claim.set(QStringLiteral("第三者行為によるもの"), QStringLiteral("いいえ"));
   claim.set(QStringLiteral("入院入院外の別"), QStringLiteral("入院外"));
-  for (const PrintSetting& setting : printSettings())
+  for (const PrintSetting& setting : kPrintSettings)
     if (setting.newClaim) claim.set(columnName(setting.column), QString::fromUtf16(setting.newClaim));
-  for (const NewClaimDefault& hidden : hiddenPrintDefaults())
-    claim.set(QString::fromUtf16(hidden.column), QString::fromUtf16(hidden.value));
 }
 
 }  // namespace

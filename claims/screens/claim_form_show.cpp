@@ -192,11 +192,9 @@ void ClaimFormScreen::applyKind() {
 
 void ClaimFormScreen::applyPrintDefaults() {
   QHash<QString, QString> defaults;
-  for (const NewClaimDefault& row : hiddenPrintDefaults())
-    defaults.insert(QString::fromUtf16(row.column), QString::fromUtf16(row.value));
-  for (const PrintSetting& setting : printSettings())
-    defaults.insert(QString::fromUtf16(setting.column),
-                    QString::number(claims::chosen(m_read, setting, m_run.profile)));
+  for (const PrintSetting& row : kPrintSettings)
+    defaults.insert(QString::fromUtf16(row.column),
+                    QString::fromUtf16(row.stored[claims::chosen(m_read, row.setting, m_run.profile)]));
   for (const BoundControl& bound : m_controls)
     if (bound.kind == BoundControl::Kind::Choice && chosen(bound.control).isEmpty())
       choose(bound.control, defaults.value(bound.column));
