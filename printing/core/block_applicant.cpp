@@ -6,9 +6,9 @@ namespace printing {
 
 namespace {
 
-constexpr Variant kApplicant[] = {{13, u"Name5_3"}, {kAnyLength, u"Name5_5"}};
-constexpr Variant kMandator[] = {{13, u"Name5_6"}, {kAnyLength, u"Name5_7"}};
-constexpr Variant kInsurer[] = {{12, u"Name48"}, {16, u"Name48_1"}, {kAnyLength, u"Name48_2"}};
+constexpr ItemSize kApplicant[] = {{13, u"Name5_3"}, {kAnyLength, u"Name5_5"}};
+constexpr ItemSize kMandator[] = {{13, u"Name5_6"}, {kAnyLength, u"Name5_7"}};
+constexpr ItemSize kInsurer[] = {{12, u"Name48"}, {16, u"Name48_1"}, {kAnyLength, u"Name48_2"}};
 
 /// The insured, or for a late-elderly claim, where the practice has chosen so, the person treated.
 QString applicantName(const Sheet& sheet) {
@@ -25,29 +25,29 @@ QString addressee(const Sheet& sheet) {
 
 }  // namespace
 
-void insuredBlock(Sheet& sheet) {
+void fillInsured(Sheet& sheet) {
   const QString name = applicantName(sheet), address = sheet.value(u"被保険者の住所");
   const QString zip = claims::printFields(sheet.claim).value(QStringLiteral("被保険者の郵便番号"));
-  sheet.fields.variant(kApplicant, name);
-  sheet.fields.show(u"Name12", address);
-  if (!zip.isEmpty()) sheet.fields.show(u"yuubin1", u'〒' + zip);
-  sheet.show(u"HHokenTel", u"被保険者の電話番号");
-  sheet.fields.show(u"HHokenAdd", address);
+  sheet.fit(kApplicant, name);
+  sheet.print(u"Name12", address);
+  if (!zip.isEmpty()) sheet.print(u"yuubin1", u'〒' + zip);
+  sheet.copy(u"HHokenTel", u"被保険者の電話番号");
+  sheet.print(u"HHokenAdd", address);
   if (!sheet.settings.on(Setting::Mandate)) return;
-  sheet.fields.show(u"Name13", address);
-  if (sheet.settings.on(Setting::MandateName)) sheet.fields.variant(kMandator, name);
+  sheet.print(u"Name13", address);
+  if (sheet.settings.on(Setting::MandateName)) sheet.fit(kMandator, name);
 }
 
-void insurerName(Sheet& sheet) {
+void fillInsurerName(Sheet& sheet) {
   const QString name = sheet.value(u"区市町村名称"), word = addressee(sheet);
   if (sheet.insuranceIs({u"全国健康保険協会"}) && word == u"全国健康保険協会支部長")
-    return sheet.fields.show(u"Name48_1", QStringLiteral("全国健康保険協会%1支部長").arg(name));
-  if (!name.isEmpty()) sheet.fields.variant(kInsurer, name + word);
+    return sheet.print(u"Name48_1", QStringLiteral("全国健康保険協会%1支部長").arg(name));
+  if (!name.isEmpty()) sheet.fit(kInsurer, name + word);
 }
 
-void workplace(Sheet& sheet) {
-  sheet.show(u"JigyouName", u"事業所の名称");
-  sheet.show(u"JigyouAdd", u"事業所の所在地");
+void fillWorkplace(Sheet& sheet) {
+  sheet.copy(u"JigyouName", u"事業所の名称");
+  sheet.copy(u"JigyouAdd", u"事業所の所在地");
 }
 
 }  // namespace printing

@@ -5,7 +5,8 @@ namespace printing {
 
 namespace {
 
-constexpr int kFirstItem = 21, kLines = 6;
+constexpr ItemRow kLines[] = {{u"Name21", u"摘要1"}, {u"Name22", u"摘要2"}, {u"Name23", u"摘要3"},
+                              {u"Name24", u"摘要4"}, {u"Name25", u"摘要5"}, {u"Name26", u"摘要6"}};
 /// The tick 印刷する of 新摘要欄 (Text25). Where it was never set, remarks that were typed are meant to
 /// print.
 constexpr char16_t kNewRemarksPrinted[] = u"txtdummy25";
@@ -16,16 +17,11 @@ bool printsNewRemarks(const Sheet& sheet) {
 
 }  // namespace
 
-void noteLines(Sheet& sheet) {
+void fillNoteLines(Sheet& sheet) {
   const bool newRemarks = printsNewRemarks(sheet);
-  if (newRemarks) sheet.show(u"Name700", claims::column::kNewRemarks);
-  for (int line = 1; line <= kLines; ++line) {
-    const QString item = QStringLiteral("Name") + QString::number(kFirstItem + line - 1);
-    if (newRemarks)
-      sheet.fields.hide(item);
-    else
-      sheet.fields.show(item, sheet.claim.get(QStringLiteral("摘要") + QString::number(line)));
-  }
+  if (!newRemarks) return sheet.copy(kLines);
+  sheet.copy(u"Name700", claims::column::kNewRemarks);
+  for (const ItemRow& line : kLines) sheet.hide(line.item);
 }
 
 }  // namespace printing
