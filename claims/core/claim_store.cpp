@@ -5,6 +5,7 @@
 #include "claims/core/amount_record.h"
 #include "claims/core/insurance.h"
 #include "claims/core/share_ticks.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 namespace {
@@ -160,10 +161,9 @@ StoredClaim storeClaim(const ClaimRecord& claim, const StoreContext& context,
   stored.claim = claim;
   Writer writer(stored);
   // Never NULL, so that the list's order has no gap.
-  if (claim.blank(QStringLiteral("被保険者のフリガナ")))
-    writer.set(u"被保険者のフリガナ", QStringLiteral(" "));
+  if (claim.blank(claim::insuredKana)) writer.set(u"被保険者のフリガナ", QStringLiteral(" "));
   const AreaBoxes boxes = boxesFor(claim, given);
-  const MonthFlags flags = monthFlags(claim.get(QStringLiteral("申請年月")), context.era);
+  const MonthFlags flags = monthFlags(claim.get(claim::month), context.era);
   if (flags.month) {
     writer.clear(kCalculated);
     writer.clear(kCalculatedSecond);

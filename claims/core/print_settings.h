@@ -3,11 +3,11 @@
 #include <QString>
 #include <cstddef>
 #include <iterator>
-#include <string_view>
 
 #include "claims/core/claim_record.h"
 #include "frame/core/clinic_profile.h"
 #include "frame/core/settings_slots.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 
@@ -45,7 +45,7 @@ enum class Unset {
 /// A switch: a column and a group of two option buttons.
 struct PrintSetting {
   Setting setting;
-  const char16_t* column;
+  store::Column column;
   const char16_t* caption;     ///< of the group
   const char16_t* buttons[2];  ///< captions; all that is heard on a button, so it names what it switches
   const char16_t* stored[2];   ///< what the column holds for each button
@@ -60,7 +60,7 @@ struct PrintSetting {
 // as the claims that carry them always did.
 inline constexpr PrintSetting kPrintSettings[] = {
     {Setting::PeriodFrom,
-     u"txt dummy1",
+     claim::periodFrom,
      u"施術期間（自）",
      {u"最初の治療日", u"１日"},
      {u"0", u"1"},
@@ -68,7 +68,7 @@ inline constexpr PrintSetting kPrintSettings[] = {
      u"1",
      Unset::Neither},
     {Setting::PeriodTo,
-     u"txt dummy2",
+     claim::periodTo,
      u"施術期間（至）",
      {u"月末日", u"最終の治療日"},
      {u"0", u"1"},
@@ -76,49 +76,49 @@ inline constexpr PrintSetting kPrintSettings[] = {
      u"1",
      Unset::Neither},
     {Setting::LeftMargin,
-     u"txt dummy3",
+     claim::printMargin,
      u"左欄外保険者名の印字",
      {u"左欄外保険者名を印刷する", u"左欄外保険者名を印刷しない"},
      {u"0", u"1"},
      1,
      u"1"},
     {Setting::PublicExpense,
-     u"txt dummy4",
+     claim::printPublicAidNumber,
      u"公費負担番号の印字",
      {u"公費負担番号を印刷する", u"公費負担番号を印刷しない"},
      {u"0", u"1"},
      0,
      u"0"},
     {Setting::Sex,
-     u"txt dummy9",
+     claim::printSex,
      u"男女の印字",
      {u"男女を印刷する", u"男女を印刷しない"},
      {u"0", u"1"},
      0,
      u"0"},
     {Setting::Mandate,
-     u"txt dummy10",
+     claim::printMandate,
      u"委任欄（償還払い時）",
      {u"印刷する", u"すべて印刷しない"},
      {u"0", u"1"},
      0,
      nullptr},
     {Setting::ApplicantCircle,
-     u"txt dummy11",
+     claim::printRequestMark,
      u"申請欄（保険者の頭に○）",
      {u"申請欄の○を印刷する", u"申請欄の○を印刷しない"},
      {u"0", u"1"},
      0,
      nullptr},
     {Setting::MandateName,
-     u"txt dummy13",
+     claim::printMandateName,
      u"委任欄の被保険者の氏名の印字",
      {u"委任欄の被保険者の氏名を印刷する", u"委任欄の被保険者の氏名を印刷しない"},
      {u"0", u"1"},
      0,
      nullptr},
     {Setting::Relation,
-     u"txtdummy26",
+     claim::printRelation,
      u"続柄の印字",
      {u"続柄を印刷する", u"続柄を印刷しない"},
      {u"0", u"1"},
@@ -127,7 +127,7 @@ inline constexpr PrintSetting kPrintSettings[] = {
      Unset::AsOnForm,
      frame::profile::kRelationPrinted},
     {Setting::ApplicantName,
-     u"c8",
+     claim::printApplicantName,
      u"申請欄の氏名の印字",
      {u"申請欄の氏名を印刷する", u"申請欄の氏名を印刷しない"},
      {u"0", u"1"},
@@ -136,42 +136,42 @@ inline constexpr PrintSetting kPrintSettings[] = {
      Unset::AsOnForm,
      frame::slot::kPrintApplicantName},
     {Setting::ShareCircles,
-     u"c9",
+     claim::printShareCircles,
      u"右上の給付割合の○",
      {u"給付割合の○を印刷する", u"給付割合の○を印刷しない"},
      {u"0", u"1"},
      0,
      nullptr},
     {Setting::ProxyWords,
-     u"c10",
+     claim::printProxyWords,
      u"施術証明欄に代表者委任の印字",
      {u"代表者委任を印刷する", u"代表者委任を印刷しない"},
      {u"0", u"1"},
      1,
      nullptr},
     {Setting::ShareAsComputed,
-     u"c11",
+     claim::shareAsComputed,
      u"一部負担金を",
      {u"標準計算", u"公費があるため０円にする"},
      {u"0", u"1"},
      0,
      nullptr},
     {Setting::Dates,
-     u"c13",
+     claim::printDates,
      u"施術証明欄・申請欄・委任欄の年月日",
      {u"年月日を印刷する", u"年月日を印刷しない"},
      {u"0", u"1"},
      0,
      nullptr},
     {Setting::Attachment,
-     u"c16",
+     claim::printAttachment,
      u"別添1（様式第6号）の印字",
      {u"別添1を印刷する", u"別添1を印刷しない"},
      {u"0", u"1"},
      1,
      nullptr},
     {Setting::Bank,
-     u"txt dummy5",
+     claim::printBank,
      u"支払機関欄の口座",
      {u"施術者の口座", u"代表者の口座"},
      {u"1", u"0"},
@@ -179,7 +179,7 @@ inline constexpr PrintSetting kPrintSettings[] = {
      u"1",
      Unset::BlankAsOnForm},
     {Setting::Proof,
-     u"txt dummy6",
+     claim::printProof,
      u"施術証明欄の住所・氏名",
      {u"施術者の住所・氏名", u"代表者の住所・氏名"},
      {u"1", u"0"},
@@ -187,7 +187,7 @@ inline constexpr PrintSetting kPrintSettings[] = {
      u"1",
      Unset::BlankAsOnForm},
     {Setting::Doctor,
-     u"txt dummy7",
+     claim::printDoctor,
      u"同意医師欄の印字",
      {u"同意医師欄を印刷する", u"同意医師欄を印刷しない"},
      {u"1", u"0"},
@@ -195,7 +195,7 @@ inline constexpr PrintSetting kPrintSettings[] = {
      u"1",
      Unset::BlankAsOnForm},
     {Setting::Amounts,
-     u"txt dummy8",
+     claim::printAmounts,
      u"金額欄の印字",
      {u"金額欄を印刷する", u"金額欄を印刷しない"},
      {u"1", u"0"},
@@ -209,8 +209,7 @@ consteval bool settingsAreSound() {
   for (std::size_t i = 0; i < std::size(kPrintSettings); ++i) {
     if (kPrintSettings[i].setting != static_cast<Setting>(i)) return false;
     for (std::size_t j = 0; j < i; ++j)
-      if (std::u16string_view(kPrintSettings[i].column) == std::u16string_view(kPrintSettings[j].column))
-        return false;
+      if (kPrintSettings[i].column == kPrintSettings[j].column) return false;
   }
   return std::size(kPrintSettings) == kSettings;
 }

@@ -4,6 +4,7 @@
 
 #include "claims/screens/claim_form_rows.h"
 #include "claims/screens/claim_form_texts.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 
@@ -46,7 +47,7 @@ void ClaimFormScreen::closeForm() {
   if (dirty()) return;
   if (const QString open = openWindowMessage(openWindows()); !open.isNull()) return messages().tell(open);
   // NULL, not blank: a claim whose days fit no kind is blank there once it is stored.
-  if (m_read.get(QStringLiteral("施術科目")).isNull()) {
+  if (m_read.get(claim::subject).isNull()) {
     messages().tell(QString::fromUtf16(says::kNeverStored));
     return;
   }

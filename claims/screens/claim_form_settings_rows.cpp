@@ -1,7 +1,6 @@
 #include <array>
 #include <utility>
 
-#include "claims/core/generic_columns.h"
 #include "claims/core/print_settings.h"
 #include "claims/screens/claim_form_rows.h"
 #include "claims/screens/claim_form_screen.h"
@@ -70,7 +69,7 @@ consteval Options setting(Setting setting) {
   const int place = static_cast<int>(setting);
   return {.name = {u"FrameSet", place + 1},
           .caption = row.caption,
-          .bind = Column{row.column, 2},
+          .bind = row.column,
           .choices = kChoices[static_cast<std::size_t>(place)],
           .marksDirty = true,
           .onChoose = call<&Form::printSettingChosen>};
@@ -105,11 +104,8 @@ constexpr Row kRows[] = {
     setting(Setting::Amounts),
     EndGroup{},
     Group{{u"FrameSummary"}, u"総括表と受領委任", 2},
-    TextField{.name = {u"Text50"},
-              .caption = u"総括表の種別:",
-              .bind = Column{column::kSummaryKind, 2},
-              .width = 6},
-    flag({u"Check50"}, u"受領委任", Column{column::kDelegated, 2}),
+    TextField{.name = {u"Text50"}, .caption = u"総括表の種別:", .bind = claim::summaryKind, .width = 6},
+    flag({u"Check50"}, u"受領委任", claim::delegated),
     EndGroup{},
 };
 

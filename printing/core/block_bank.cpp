@@ -9,17 +9,18 @@ constexpr ItemSize kHolder[] = {{36, u"kouza3"}, {kAnyLength, u"kouza4"}};
 
 /// Columns of whoever the account belongs to: the practitioner or the representative.
 struct Account {
-  const char16_t *bank, *postOffice, *branch, *deposit, *bankKind, *branchKind, *number, *holder, *holderKana;
+  store::Column bank, postOffice, branch, deposit, bankKind, branchKind, number, holder, holderKana;
 };
-constexpr Account kPractitioner = {u"金融機関名", u"郵便局名",       u"本店支店名",
-                                   u"預金の種類", u"金融機関名種類", u"本店支店名種類",
-                                   u"口座番号",   u"口座名義",       u"口座名義カタカナ"};
-constexpr Account kRepresentative = {u"代表者金融機関名", u"代表者郵便局名",       u"代表者本店支店名",
-                                     u"代表者預金の種類", u"代表者金融機関名種類", u"代表者本店支店名種類",
-                                     u"代表者口座番号",   u"代表者口座名義",       u"代表者口座名義カタカナ"};
+constexpr Account kPractitioner = {claim::bank,    claim::postOffice,    claim::branch,
+                                   claim::deposit, claim::bankKind,      claim::branchKind,
+                                   claim::account, claim::accountHolder, claim::accountHolderKana};
+constexpr Account kRepresentative = {
+    claim::agentBank,    claim::agentPostOffice,    claim::agentBranch,
+    claim::agentDeposit, claim::agentBankKind,      claim::agentBranchKind,
+    claim::agentAccount, claim::agentAccountHolder, claim::agentAccountHolderKana};
 
 /// The column's text, or that of the second where it is blank.
-QString either(const Sheet& sheet, const char16_t* column, const char16_t* other) {
+QString either(const Sheet& sheet, const store::Column& column, const store::Column& other) {
   const QString text = sheet.value(column);
   return text.isEmpty() ? sheet.value(other) : text;
 }
@@ -27,7 +28,7 @@ QString either(const Sheet& sheet, const char16_t* column, const char16_t* other
 }  // namespace
 
 void fillBank(Sheet& sheet) {
-  sheet.copy(u"siharai_kbn", u"支払い機関区分");
+  sheet.copy(u"siharai_kbn", claim::payment);
   const Switch whose = sheet.settings.of(Setting::Bank);
   if (whose == Switch::Empty) return;
   const Account& account = whose == Switch::On ? kPractitioner : kRepresentative;

@@ -15,12 +15,12 @@ constexpr DateItems kCareFrom = {u"GG15", u"YY15", u"MM15", u"DD15"};
 
 void fillDoctor(Sheet& sheet) {
   if (!sheet.settings.on(Setting::Doctor)) return;
-  sheet.fit(kDoctor, sheet.value(u"同意医師氏名"));
-  sheet.fit(kDoctorAddress, sheet.value(u"同意医師住所"));
-  sheet.fit(kConsented, sheet.value(u"同意の傷病名"));
-  printDate(sheet, kConsentDate, sheet.value(u"実際の同意の年月日"));
-  printDate(sheet, kCareFrom, sheet.value(u"要加療期間1"));
-  sheet.copy(u"Name19", u"要加療期間2");
+  sheet.fit(kDoctor, sheet.value(claim::doctorName));
+  sheet.fit(kDoctorAddress, sheet.value(claim::doctorAddress));
+  sheet.fit(kConsented, sheet.value(claim::consentDisease));
+  printDate(sheet, kConsentDate, sheet.value(claim::consentDate));
+  printDate(sheet, kCareFrom, sheet.value(claim::consentFrom));
+  sheet.copy(u"Name19", claim::consentUntil);
 }
 
 }  // namespace printing

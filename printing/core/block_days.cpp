@@ -28,7 +28,7 @@ void fillDayGrid(Sheet& sheet) {
 }
 
 void fillVisitReason(Sheet& sheet) {
-  const QString reason = sheet.value(u"d15"), detail = sheet.value(u"d14");
+  const QString reason = sheet.value(claim::visitReason), detail = sheet.value(claim::visitReasonOther);
   const bool both = reason == kBoth;
   sheet.markIf(both || reason == kWalkingHard, u"ouri1");
   sheet.markIf(both || reason == kOtherIllness, u"ouri2");

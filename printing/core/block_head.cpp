@@ -28,13 +28,13 @@ void lateElderlyNumber(Sheet& sheet, const QString& number) {
 
 /// The claim's registration number: c14 of acupuncture, c15 of massage, which falls back to c14.
 QString registrationNumber(const Sheet& sheet) {
-  const QString massage = sheet.source.acupuncture() ? QString() : sheet.value(u"c15");
-  return massage.isEmpty() ? sheet.value(u"c14") : massage;
+  const QString massage = sheet.source.acupuncture() ? QString() : sheet.value(claim::registrationMassage);
+  return massage.isEmpty() ? sheet.value(claim::registrationHari) : massage;
 }
 
 /// The claim's own institution number, or the practice's number of this kind of treatment.
 QString associationNumber(const Sheet& sheet) {
-  const QString own = sheet.value(u"師会等の機関番号");
+  const QString own = sheet.value(claim::institutionNumber);
   if (!own.isEmpty()) return own;
   return sheet.source.profile[sheet.source.acupuncture() ? frame::profile::kInstitutionHari
                                                          : frame::profile::kInstitutionMassage];
@@ -61,7 +61,7 @@ void fillPrintDate(Sheet& sheet) {
 }
 
 void fillClaimMonth(Sheet& sheet) {
-  const DateWords words = dateWords(sheet.value(u"申請年月"), sheet.dates);
+  const DateWords words = dateWords(sheet.value(claim::month), sheet.dates);
   // On paper that is printed already the era word stands there.
   if (!sheet.source.form.itemsOnly) sheet.print(u"GG4", words.era);
   sheet.print(u"YY4", words.year);
@@ -70,7 +70,7 @@ void fillClaimMonth(Sheet& sheet) {
 }
 
 void fillInsurerNumber(Sheet& sheet) {
-  const QString typed = sheet.value(u"保険者番号");
+  const QString typed = sheet.value(claim::insurerNumber);
   if (sheet.lateElderly()) return lateElderlyNumber(sheet, behind39(typed));
   const QString number = typed.trimmed();
   sheet.digits(u"Name0_", number, number.size() == kShortNumber ? 3 : 1);
@@ -87,19 +87,19 @@ void fillInstitutionCode(Sheet& sheet) {
 
 void fillPublicExpenseNumbers(Sheet& sheet) {
   if (sheet.settings.on(Setting::PublicExpense)) {
-    sheet.digits(u"KouhiFutan_", sheet.value(u"公費負担番号"));
-    sheet.digits(u"KouhiJyu_", sheet.value(u"公費受給者番号"));
+    sheet.digits(u"KouhiFutan_", sheet.value(claim::publicAidNumber));
+    sheet.digits(u"KouhiJyu_", sheet.value(claim::publicAidRecipient));
   }
-  sheet.digits(u"Kushi_", sheet.value(u"区市町村番号"));
-  sheet.digits(u"Jyukyu_", sheet.value(u"受給者番号"));
+  sheet.digits(u"Kushi_", sheet.value(claim::municipalityNumber));
+  sheet.digits(u"Jyukyu_", sheet.value(claim::recipientNumber));
 }
 
 void markKindOfInsurance(Sheet& sheet) {
-  if (sheet.value(u"保険の種類3") == u"公費負担")
+  if (sheet.value(claim::printedInsurance) == u"公費負担")
     sheet.mark(u"H_M_Circle2");
   else if (sheet.insuranceIs({u"後期高齢", u"老人"}))
     sheet.mark(u"H_M_Circle3");
-  else if (!sheet.value(u"保険の種類").isEmpty())
+  else if (!sheet.value(claim::insuranceKind).isEmpty())
     sheet.mark(u"H_M_Circle1");
 }
 
@@ -112,7 +112,7 @@ void fillLeftMargin(Sheet& sheet) {
   else if (sheet.insuranceIs({u"組合"}))
     sheet.print(u"HokenTypeT", QStringLiteral("健康保険組合"));
   sheet.markIf(sheet.insuranceIs({u"共済", u"特別国保", u"後期高齢", u"退職国保"}), u"HokenType_4");
-  const QString association = sheet.value(u"師会名");
+  const QString association = sheet.value(claim::associationName);
   // Written downwards: the long-vowel mark becomes an upright stroke.
   if (!association.isEmpty()) sheet.print(u"Shikai", u'　' + QString(association).replace(u'ー', u'｜'));
 }

@@ -1,4 +1,3 @@
-#include "claims/core/generic_columns.h"
 #include "claims/core/print_fields.h"
 #include "printing/core/claim_blocks.h"
 
@@ -23,13 +22,13 @@ QString joined(const QStringList& parts, const QString& between) {
 
 void sexMark(Sheet& sheet) {
   if (!sheet.settings.on(Setting::Sex)) return;
-  const QString sex = sheet.value(u"療養を受ける者の性別");
+  const QString sex = sheet.value(claim::treatedSex);
   sheet.markIf(sex == u"男", u"HHokenOtoko2");
   sheet.markIf(sex == u"女", u"HHokenOnna2");
 }
 
 void birthDate(Sheet& sheet) {
-  const DateWords birth = dateWords(sheet.value(u"療養を受ける者の生年月日"), sheet.dates);
+  const DateWords birth = dateWords(sheet.value(claim::treatedBirth), sheet.dates);
   const int era = eraNumber(birth.era);
   if (era != 0) sheet.markAt(kBirthEra, era);
   sheet.print(u"YY1", birth.year);
@@ -42,44 +41,43 @@ void birthDate(Sheet& sheet) {
 void fillCardLine(Sheet& sheet) {
   // In the full width that the checks prepare; what the kind of insurance does not take is not there.
   const auto prepared = claims::printFields(sheet.claim);
-  const QStringList parts{prepared.value(QStringLiteral("保険証記号1")),
-                          prepared.value(QStringLiteral("保険証記号2")),
-                          prepared.value(QStringLiteral("保険証番号"))};
+  const QStringList parts{prepared.value(claim::cardSymbol1), prepared.value(claim::cardSymbol2),
+                          prepared.value(claim::cardNumber)};
   sheet.fit(kCard, joined(parts, QStringLiteral("　")));
 }
 
 void fillRelation(Sheet& sheet) {
   if (!sheet.settings.on(Setting::Relation)) return;
-  const bool notHead = sheet.ticked(u"保険の種類2");
-  sheet.print(u"Zokugara", notHead ? QStringLiteral("本人") : sheet.value(u"被保険者との続柄"));
+  const bool notHead = sheet.ticked(claim::notHead);
+  sheet.print(u"Zokugara", notHead ? QStringLiteral("本人") : sheet.value(claim::relation));
 }
 
 void fillTreatedPerson(Sheet& sheet) {
-  sheet.copy(u"Name7", u"療養を受ける者のフリガナ");
-  sheet.fit(kTreatedName, sheet.value(u"療養を受ける者の氏名"));
+  sheet.copy(u"Name7", claim::treatedKana);
+  sheet.fit(kTreatedName, sheet.value(claim::treatedName));
   sexMark(sheet);
   birthDate(sheet);
 }
 
 void fillOnset(Sheet& sheet) {
-  printDate(sheet, kOnsetDate, sheet.value(u"発病又は負傷年月日"));
+  printDate(sheet, kOnsetDate, sheet.value(claim::onset));
   // The massage form has a box for the cause; on the acupuncture form the consented illness stands there.
-  if (!sheet.source.acupuncture()) sheet.copy(u"Name6", u"発病又は負傷の原因");
+  if (!sheet.source.acupuncture()) sheet.copy(u"Name6", claim::cause);
 }
 
 void fillConsentedIllness(Sheet& sheet) {
-  const QStringList parts{sheet.value(u"同意の傷病名"), sheet.value(claims::column::kConsentNote)};
+  const QStringList parts{sheet.value(claim::consentDisease), sheet.value(claim::consentNote)};
   sheet.fit(kIllness, joined(parts, QStringLiteral("、")));
 }
 
 void fillCause(Sheet& sheet) {
-  const QString word = sheet.value(u"業務上外のもの");
+  const QString word = sheet.value(claim::workRelated);
   if (word == u"業務上" || word == u"第三者行為である") sheet.print(u"gyoumu1", word);
   if (word != u"その他") return;
   sheet.mark(u"gyoumu3");
-  sheet.fit(kCauseDetail, sheet.value(u"d13"));
+  sheet.fit(kCauseDetail, sheet.value(claim::workRelatedOther));
 }
 
-void fillPlaceOfTreatment(Sheet& sheet) { sheet.fit(kPlace, sheet.value(u"d12")); }
+void fillPlaceOfTreatment(Sheet& sheet) { sheet.fit(kPlace, sheet.value(claim::treatmentPlace)); }
 
 }  // namespace printing

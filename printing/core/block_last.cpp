@@ -34,7 +34,7 @@ void applySettings(Sheet& sheet) {
 
 void fillPeriodOfChiba(Sheet& sheet) {
   if (sheet.source.prefecture != frame::Prefecture::Chiba) return;
-  const QString from = sheet.value(u"要加療期間1"), to = sheet.value(u"要加療期間2");
+  const QString from = sheet.value(claim::consentFrom), to = sheet.value(claim::consentUntil);
   if (!from.isEmpty()) sheet.print(u"youkaryuki1", u'自' + from);
   if (!to.isEmpty()) sheet.print(u"youkaryuki2", u'至' + to);
 }

@@ -1,4 +1,3 @@
-#include "claims/core/generic_columns.h"
 #include "frame/core/settings_slots.h"
 #include "printing/core/claim_blocks.h"
 
@@ -15,10 +14,12 @@ constexpr char16_t kLicencePrinted[] = u"2";  ///< 免許番号 in the place of 
 
 /// Columns of whoever stands on the paper: the practitioner or the representative.
 struct Signer {
-  const char16_t *name, *zip, *address, *telephone;
+  store::Column name, zip, address, telephone;
 };
-constexpr Signer kPractitioner = {u"施術者氏名", u"施術所の郵便番号", u"施術所の所在地", u"施術所電話番号"};
-constexpr Signer kRepresentative = {u"代表者氏名", u"代表者郵便番号", u"代表者住所", u"代表者電話番号"};
+constexpr Signer kPractitioner = {claim::practitionerName, claim::clinicZip, claim::clinicAddress,
+                                  claim::clinicTelephone};
+constexpr Signer kRepresentative = {claim::agentName, claim::agentZip, claim::agentAddress,
+                                    claim::agentTelephone};
 
 const Signer* signer(Switch choice) {
   if (choice == Switch::Empty) return nullptr;
@@ -32,9 +33,7 @@ QString licenceNumbers(const Sheet& sheet) {
   return hari.isEmpty() || kyu.isEmpty() ? hari + kyu : hari + u'　' + kyu;
 }
 
-bool delegated(const Sheet& sheet) {
-  return sheet.source.form.delegated || sheet.ticked(claims::column::kDelegated);
-}
+bool delegated(const Sheet& sheet) { return sheet.source.form.delegated || sheet.ticked(claim::delegated); }
 
 QString numberOfPractitioner(const Sheet& sheet) {
   const frame::ClinicProfile& profile = sheet.source.profile;
@@ -56,7 +55,7 @@ void markHealthOffice(Sheet& sheet) {
 }
 
 void fillPractitioner(Sheet& sheet) {
-  sheet.copy(u"semeisyou1", u"施術所の名称");
+  sheet.copy(u"semeisyou1", claim::clinicName);
   const Signer* who = signer(sheet.settings.of(Setting::Proof));
   if (who == nullptr) return;
   const QString zip = sheet.value(who->zip);
@@ -77,9 +76,9 @@ void fillProxy(Sheet& sheet) {
 
 void fillDatesOfSigning(Sheet& sheet) {
   if (!sheet.settings.on(Setting::Dates)) return;
-  printDate(sheet, kReceived, sheet.value(u"領収年月日"));
-  printDate(sheet, kClaimed, sheet.value(u"請求年月日"));
-  if (sheet.settings.on(Setting::Mandate)) printDate(sheet, kMandated, sheet.value(u"請求年月日"));
+  printDate(sheet, kReceived, sheet.value(claim::receiptDate));
+  printDate(sheet, kClaimed, sheet.value(claim::requestDate));
+  if (sheet.settings.on(Setting::Mandate)) printDate(sheet, kMandated, sheet.value(claim::requestDate));
 }
 
 }  // namespace printing

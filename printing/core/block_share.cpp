@@ -34,7 +34,7 @@ void markRightBox(Sheet& sheet) {
 
 void fillShare(Sheet& sheet) {
   for (const ShareRow& row : kShares) {
-    if (sheet.value(u"一部負担金") != QStringView(row.share)) continue;
+    if (sheet.value(claim::shareRate) != QStringView(row.share)) continue;
     sheet.mark(row.line);
     sheet.mark(row.circle);
   }

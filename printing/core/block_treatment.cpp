@@ -1,4 +1,3 @@
-#include "claims/core/generic_columns.h"
 #include "claims/core/treatment_period.h"
 #include "printing/core/claim_blocks.h"
 
@@ -13,16 +12,19 @@ constexpr DateItems kFirstDate = {u"GG7", u"YY7", u"MM7", u"DD7"};
 constexpr DateItems kPeriodFrom = {u"GG9", u"YY9", u"MM9", u"DD9"};
 constexpr DateItems kPeriodTo = {u"GG10", u"YY10", u"MM10", u"DD10"};
 /// Marks and the ticks that set them.
-constexpr ItemRow kDiseases[] = {{u"syoubyou1", u"傷病名1"}, {u"syoubyou2", u"傷病名2"},
-                                 {u"syoubyou3", u"傷病名3"}, {u"syoubyou4", u"傷病名4"},
-                                 {u"syoubyou5", u"傷病名5"}, {u"syoubyou6", u"傷病名6"}};
-constexpr ItemRow kDevices[] = {{u"denryou1", claims::column::kElectricNeedle},
-                                {u"denryou2", claims::column::kElectricMoxa},
-                                {u"denryou3", claims::column::kElectricLight}};
+constexpr ItemRow kDiseases[] = {
+    {u"syoubyou1", claim::diseaseTick[1]}, {u"syoubyou2", claim::diseaseTick[2]},
+    {u"syoubyou3", claim::diseaseTick[3]}, {u"syoubyou4", claim::diseaseTick[4]},
+    {u"syoubyou5", claim::diseaseTick[5]}, {u"syoubyou6", claim::diseaseTick[6]}};
+constexpr ItemRow kDevices[] = {{u"denryou1", claim::electricNeedle},
+                                {u"denryou2", claim::electricMoxa},
+                                {u"denryou3", claim::electricLight}};
 /// 局所 of マッサージ: trunk and four limbs; 変形徒手矯正術: four limbs.
-constexpr ItemRow kBodyParts[] = {{u"kaisu1_1", u"d3"}, {u"kaisu1_2", u"d4"},  {u"kaisu1_3", u"d5"},
-                                  {u"kaisu1_4", u"d6"}, {u"kaisu1_5", u"d7"},  {u"kaisu2_1", u"d8"},
-                                  {u"kaisu2_2", u"d9"}, {u"kaisu2_3", u"d10"}, {u"kaisu2_4", u"d11"}};
+constexpr ItemRow kBodyParts[] = {{u"kaisu1_1", claim::areaDays[3]}, {u"kaisu1_2", claim::areaDays[4]},
+                                  {u"kaisu1_3", claim::areaDays[5]}, {u"kaisu1_4", claim::areaDays[6]},
+                                  {u"kaisu1_5", claim::areaDays[7]}, {u"kaisu2_1", claim::limbDays[8]},
+                                  {u"kaisu2_2", claim::limbDays[9]}, {u"kaisu2_3", claim::limbDays[10]},
+                                  {u"kaisu2_4", claim::limbDays[11]}};
 
 QDate dayOfMonth(const Sheet& sheet, int day) {
   if (!sheet.month.month || day <= 0) return QDate();
@@ -51,7 +53,7 @@ bool oneOf(const QString& word, std::initializer_list<const char16_t*> words) {
 
 }  // namespace
 
-void fillFirstTreatment(Sheet& sheet) { printDate(sheet, kFirstDate, sheet.value(u"初療年月日")); }
+void fillFirstTreatment(Sheet& sheet) { printDate(sheet, kFirstDate, sheet.value(claim::firstTreatment)); }
 
 void fillTreatmentPeriod(Sheet& sheet) {
   const claims::TreatmentPeriod period = claims::treatmentPeriod(sheet.claim, sheet.month);
@@ -66,24 +68,24 @@ void fillTreatmentPeriod(Sheet& sheet) {
 }
 
 void markRequestAndOutcome(Sheet& sheet) {
-  const QString request = sheet.value(u"請求区分");
+  const QString request = sheet.value(claim::requestKind);
   if (oneOf(request, {u"新規", u"継続"})) sheet.print(u"seikyu2", request);
-  const QString outcome = sheet.value(u"転帰");
+  const QString outcome = sheet.value(claim::outcome);
   if (oneOf(outcome, {u"継続", u"治癒", u"中止", u"転医"})) sheet.print(u"tenki4", outcome);
-  const QString hospital = sheet.value(u"入院入院外の別");
+  const QString hospital = sheet.value(claim::hospitalised);
   if (oneOf(hospital, {u"入院外", u"入院"})) sheet.print(u"nyuuin2", hospital);
 }
 
 void fillDiseases(Sheet& sheet) {
   if (!sheet.source.acupuncture()) return;
   sheet.markTicked(kDiseases);
-  if (sheet.fit(kOtherDisease, sheet.value(u"傷病名7"))) sheet.mark(u"syoubyou7");
-  const QString note = sheet.value(u"傷病名8");
+  if (sheet.fit(kOtherDisease, sheet.value(claim::diseaseOther))) sheet.mark(u"syoubyou7");
+  const QString note = sheet.value(claim::diseaseNote);
   if (!note.isEmpty()) sheet.print(u"Name50", u'(' + note + u')');
 }
 
 void fillSymptoms(Sheet& sheet) {
-  if (!sheet.source.acupuncture()) sheet.fit(kSymptoms, sheet.value(u"同意症状"));
+  if (!sheet.source.acupuncture()) sheet.fit(kSymptoms, sheet.value(claim::consentSymptom));
 }
 
 void markElectricDevices(Sheet& sheet) {
@@ -91,7 +93,7 @@ void markElectricDevices(Sheet& sheet) {
 }
 
 void markFirstTreatmentKind(Sheet& sheet) {
-  if (!sheet.ticked(u"初回有無")) return;
+  if (!sheet.ticked(claim::hasFirst)) return;
   for (int day = 1; day <= 31; ++day) {
     const QString code = sheet.claim.code(day);
     const QString word = code.size() == 1 ? firstDayWord(code.at(0).unicode()) : QString();
@@ -104,7 +106,7 @@ void fillBodyPartCounts(Sheet& sheet) {
 }
 
 void fillPreviousReport(Sheet& sheet) {
-  const DateWords words = dateWords(sheet.value(u"txtdummy28"), sheet.dates);
+  const DateWords words = dateWords(sheet.value(claim::lastReportMonth), sheet.dates);
   if (words.year.isEmpty()) return;
   const bool withLetter = sheet.source.form.eraLetter;
   sheet.print(u"YY3", withLetter ? u'R' + words.year : words.year);

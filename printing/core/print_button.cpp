@@ -1,12 +1,13 @@
 #include "printing/core/print_button.h"
 
+#include "platform/store/tables/claims.h"
 #include "printing/core/screen_choice.h"
 
 namespace printing {
 
 std::optional<PrintScreen> printScreenOf(const claims::ClaimRecord& claim, const claims::FormTicks& ticks,
                                          const frame::RunState& run) {
-  const auto month = run.eraDates().claimMonthToDate(claim.get(QStringLiteral("申請年月")));
+  const auto month = run.eraDates().claimMonthToDate(claim.get(claim::month));
   if (!month) return std::nullopt;
   return choosePrintScreen({*month, frame::prefectureOf(run.prefectureCode),
                             frame::aichiSubmissionOf(run.aichiSubmission), ticks.publicAid});

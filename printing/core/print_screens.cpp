@@ -4,7 +4,7 @@ namespace printing {
 
 std::optional<PrintScreen> printScreenNamed(const QString& name) {
   for (const PrintScreenRow& row : kPrintScreens)
-    if (name == QStringView(row.name)) return row.screen;
+    if (name == row.name.text()) return row.screen;
   return std::nullopt;
 }
 

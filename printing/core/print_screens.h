@@ -4,6 +4,7 @@
 #include <optional>
 #include <span>
 
+#include "frame/core/routes.h"
 #include "printing/core/edition.h"
 
 namespace printing {
@@ -30,7 +31,7 @@ struct EditionOption {
 /// A printing screen and the editions that it offers.
 struct PrintScreenRow {
   PrintScreen screen;
-  const char16_t* name;
+  screen::ScreenName name;
   std::span<const EditionOption> editions;
   Edition preset;  ///< chosen when the screen opens; None: the claim decides, or nothing is chosen
 
@@ -67,18 +68,19 @@ inline constexpr EditionOption kOldest[] = {{Edition::UpToVersion511, u"Option2"
 
 /// In the order of PrintScreen.
 inline constexpr PrintScreenRow kPrintScreens[] = {
-    {PrintScreen::General2024, u"レセプト印刷2024", options::kGeneral2024, Edition::From202410},
-    {PrintScreen::AichiAssociation2024, u"レセプト印刷2024aimakai", options::kNewestOf2024,
+    {PrintScreen::General2024, routes::ClaimPrint2024::screen, options::kGeneral2024, Edition::From202410},
+    {PrintScreen::AichiAssociation2024, routes::ClaimPrint2024Aichi::screen, options::kNewestOf2024,
      Edition::From202410},
-    {PrintScreen::TokyoAid2024, u"東京助成レセプト印刷2024", options::kTokyoAid2024, Edition::None},
-    {PrintScreen::IshikawaAid2024, u"石川県の公費レセプト印刷2024", options::kNewestOf2024,
+    {PrintScreen::TokyoAid2024, routes::TokyoAidPrint2024::screen, options::kTokyoAid2024, Edition::None},
+    {PrintScreen::IshikawaAid2024, routes::IshikawaAidPrint2024::screen, options::kNewestOf2024,
      Edition::From202410},
-    {PrintScreen::General2018, u"レセプト印刷2018", options::kGeneral2018, Edition::None},
-    {PrintScreen::AichiAssociation2018, u"レセプト印刷2018aimakai", options::kAichiAssociation2018,
+    {PrintScreen::General2018, routes::ClaimPrint2018::screen, options::kGeneral2018, Edition::None},
+    {PrintScreen::AichiAssociation2018, routes::ClaimPrint2018Aichi::screen, options::kAichiAssociation2018,
      Edition::AichiAssociation},
-    {PrintScreen::TokyoAid2018, u"東京助成レセプト印刷", {}, Edition::None},
-    {PrintScreen::IshikawaAid2018, u"石川県の公費レセプト印刷", options::kIshikawaAid2018, Edition::None},
-    {PrintScreen::Oldest, u"レセプト印刷", options::kOldest, Edition::None},
+    {PrintScreen::TokyoAid2018, routes::TokyoAidPrint::screen, {}, Edition::None},
+    {PrintScreen::IshikawaAid2018, routes::IshikawaAidPrint::screen, options::kIshikawaAid2018,
+     Edition::None},
+    {PrintScreen::Oldest, routes::ClaimPrint::screen, options::kOldest, Edition::None},
 };
 
 constexpr const PrintScreenRow& rowOf(PrintScreen screen) {
@@ -96,7 +98,7 @@ consteval bool printScreensAreSound() {
 }
 static_assert(printScreensAreSound());
 
-inline QString nameOf(PrintScreen screen) { return QString::fromUtf16(rowOf(screen).name); }
+inline QString nameOf(PrintScreen screen) { return rowOf(screen).name; }
 
 /// The printing screen of this name; nothing where the name is none of theirs.
 std::optional<PrintScreen> printScreenNamed(const QString& name);

@@ -10,7 +10,7 @@ bool neither(const claims::PrintSetting& row, const claims::ClaimRecord& claim) 
     case claims::Unset::AsOnForm:
       return false;
     case claims::Unset::BlankAsOnForm:
-      return !claim.blank(claims::columnName(row.column));
+      return !claim.blank(row.column);
     case claims::Unset::Neither:
       return true;
   }

@@ -40,7 +40,7 @@ bool Sheet::fit(std::span<const ItemSize> sizes, const QString& text) {
 bool Sheet::lateElderly() const { return insuranceIs({u"後期高齢"}); }
 
 bool Sheet::insuranceIs(std::initializer_list<const char16_t*> kinds) const {
-  const QString kind = value(u"保険の種類");
+  const QString kind = value(claim::insuranceKind);
   for (const char16_t* name : kinds)
     if (kind == QString::fromUtf16(name)) return true;
   return false;

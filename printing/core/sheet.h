@@ -5,6 +5,7 @@
 
 #include "claims/core/rule_dates.h"
 #include "frame/core/era_date.h"
+#include "platform/store/tables/claims.h"
 #include "printing/contract/report_fields.h"
 #include "printing/core/form_items.h"
 #include "printing/core/print_settings.h"
@@ -15,7 +16,7 @@ namespace printing {
 /// An item and the column that it shows.
 struct ItemRow {
   Item item;
-  const char16_t* column;
+  store::Column column;
 };
 
 /// One size of a place: takes texts of up to this many characters.
@@ -37,7 +38,7 @@ struct Sheet {
         claim(printSource.claim),
         settings(printSource.claim, printSource.profile),
         dates(eraDates),
-        month(claims::monthFlags(printSource.claim.get(QStringLiteral("申請年月")), eraDates)) {}
+        month(claims::monthFlags(printSource.claim.get(claim::month), eraDates)) {}
 
   ReportFields& fields;
   const PrintSource& source;
@@ -46,9 +47,9 @@ struct Sheet {
   const frame::EraDates& dates;
   const claims::MonthFlags month;
 
-  QString value(QStringView column) const { return claim.get(column.toString()); }
+  QString value(const store::Column& column) const { return claim.get(column); }
   /// Prints the column's text.
-  void copy(Item item, QStringView column) { fields.show(item, value(column)); }
+  void copy(Item item, const store::Column& column) { fields.show(item, value(column)); }
   void copy(std::span<const ItemRow> rows);
   /// Shows the mark of each column that is ticked.
   void markTicked(std::span<const ItemRow> rows);
@@ -66,7 +67,7 @@ struct Sheet {
   void markIf(bool wanted, Item item) { fields.markIf(wanted, item); }
   void hide(Item item) { fields.hide(item); }
 
-  bool ticked(QStringView column) const { return claim.ticked(column.toString()); }
+  bool ticked(const store::Column& column) const { return claim.ticked(column); }
   bool lateElderly() const;
   bool insuranceIs(std::initializer_list<const char16_t*> kinds) const;
 };

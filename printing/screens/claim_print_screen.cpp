@@ -1,7 +1,7 @@
 #include "printing/screens/claim_print_screen.h"
 
 #include "claims/core/checks.h"
-#include "claims/core/generic_columns.h"
+#include "platform/store/tables/claims.h"
 #include "printing/contract/prompts.h"
 #include "printing/core/claim_job.h"
 #include "printing/core/screen_choice.h"
@@ -50,7 +50,7 @@ void ClaimPrintScreen::onLoad() {
   const claims::ClaimRecord claim =
       m_state.display == nullptr ? claims::ClaimRecord() : m_state.display->record();
   const Edition preset = presetEdition(m_screen, m_run.eraDates(), claim.get(u"申請年月"_s),
-                                       claim.get(QString::fromUtf16(claims::column::kSummaryKind)));
+                                       claim.get(QString::fromUtf16(claim::summaryKind)));
   if (const char16_t* option = rowOf(m_screen).controlOf(preset))
     choose(editionGroup(), QString::fromUtf16(option));
   const PrintTicks set = presetTicks(frame::prefectureOf(m_run.prefectureCode));

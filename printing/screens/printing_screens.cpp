@@ -1,5 +1,6 @@
 #include "printing/screens/printing_screens.h"
 
+#include "frame/core/routes.h"
 #include "printing/screens/claim_print_screen.h"
 #include "printing/screens/consent_watch_screen.h"
 #include "printing/screens/items_only_note_screen.h"
@@ -16,8 +17,8 @@ void registerScreens(screen::ScreenRegistry& registry, PrintingRoom& room) {
     registry.add<ClaimPrintScreen>(nameOf(form.screen), form, room.run, room.claims, room.engine);
   for (const PrintForm& form : unbuiltPrintForms())
     registry.add<UnbuiltPrintScreen>(nameOf(form.screen), form);
-  registry.add<ConsentWatchScreen>(u"同意期限一ヶ月"_s, room.run, room.engine);
-  registry.add<ItemsOnlyNoteScreen>(u"項目のみ印刷の注意事項"_s, room.run);
+  registry.add<routes::ConsentWatch, ConsentWatchScreen>(room.run, room.engine);
+  registry.add<routes::ItemsOnlyNote, ItemsOnlyNoteScreen>(room.run);
   registry.add<PrinterOptionsScreen>(QString::fromUtf16(kPrinterOptions), room.choice);
   room.claims.printing = &room.buttons;
 }

@@ -3,11 +3,11 @@
 #include <QJsonArray>
 
 #include "claims/core/claim_store.h"
-#include "claims/core/generic_columns.h"
 #include "claims/core/kinds.h"
 #include "platform/report/prp_loader.h"
 #include "platform/report/recording_operations.h"
 #include "platform/report/report_engine.h"
+#include "platform/store/tables/claims.h"
 #include "printing/contract/prompts.h"
 #include "printing/core/claim_job.h"
 #include "printing/core/print_button.h"
@@ -66,7 +66,7 @@ void chooseOnScreen(const QJsonObject& request, printing::PrintScreen screen, pr
       request.contains("option")
           ? printing::editionNamed(screen, request["option"].toString())
           : printing::presetEdition(screen, eraDates(), source.claim.get(QStringLiteral("申請年月")),
-                                    source.claim.get(QString::fromUtf16(claims::column::kSummaryKind)));
+                                    source.claim.get(claim::summaryKind));
   if (!request.contains("checks")) source.ticks = printing::presetTicks(source.prefecture);
 }
 

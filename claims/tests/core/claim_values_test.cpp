@@ -117,7 +117,7 @@ TEST(PrintSettings, OneRowASwitch) {
                                u"txt dummy5",  u"txt dummy6",  u"txt dummy7",  u"txt dummy8"};
   ASSERT_EQ(std::size(kPrintSettings), std::size(columns));
   for (size_t i = 0; i < std::size(columns); ++i)
-    EXPECT_EQ(QStringView(kPrintSettings[i].column), QStringView(columns[i]));
+    EXPECT_EQ(QStringView(kPrintSettings[i].column.name()), QStringView(columns[i]));
 }
 
 TEST(PrintSettings, ChosenByTheColumnElseTheDefault) {

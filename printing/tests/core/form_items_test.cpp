@@ -55,9 +55,10 @@ TEST(FormItems, TheTableHoldsWhatTheFormsLeaveToBeFilled) {
   for (const Paper& paper : kPapers) {
     const report::FormPtr form = formOf(paper.file);
     ASSERT_TRUE(form);
-    for (const report::Item& item : form->items)
-      if (item.hidden && !item.name.startsWith(u"dain"))
-        EXPECT_TRUE(known.contains(item.name)) << paper.file << ' ' << item.name.toStdString();
+    for (const report::Item& item : form->items) {
+      const bool filled = item.hidden && !item.name.startsWith(u"dain");
+      EXPECT_TRUE(!filled || known.contains(item.name)) << paper.file << ' ' << item.name.toStdString();
+    }
   }
 }
 
