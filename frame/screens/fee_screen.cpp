@@ -147,7 +147,7 @@ FeeScreen::FeeScreen(Services& services, RunState& run) : Screen(kDeclaration, s
 void FeeScreen::onLoad() {
   setShown(u"Command1"_s, false);
   if (!source().open(m_run.folders[folder::kFees])) return;
-  source().rows().moveLast();
+  if (!source().moveAndShow(&store::RecordSet::moveLast)) return;
   for (int i = 0; i < kBoxCount; ++i) {
     const QString value = source().rows().value(QString::fromUtf16(kBoxes[i].shown));
     setText(box(i + 1), value.isEmpty() ? QString() : QString::number(text::intOf(value)));

@@ -155,7 +155,7 @@ void MainMenuScreen::openUpdatePage() { openPage(WebPage::Update); }
 void MainMenuScreen::openTroublePage() { openPage(WebPage::Trouble); }
 
 void MainMenuScreen::endProgram() {
-  // A fault is told by then; ending goes on, and the file keeps the settings of the last run.
+  // writeSettings has already reported any fault; quit regardless, with the settings of the last run.
   (void)writeSettings(*this, m_run, SettingsWriter::ProgramEnd);
   if (endsWithBackup(m_run)) backUpGenerations(m_run);
   navigator().quit();

@@ -15,7 +15,7 @@ store::Result<QString> lastValue(const QString& path, const QString& table, cons
   if (!database) return database.fault();
   auto rows = store::RecordSet::open(*database, table);
   if (!rows) return rows.fault();
-  rows->moveLast();
+  if (const store::Done read = rows->moveAndRead(&store::RecordSet::moveLast); !read) return read.fault();
   return rows->value(column);
 }
 

@@ -67,6 +67,7 @@ void BookingList::sayRows(const QStringList& parts) {
 
 void BookingList::handOver() {
   if (!holdsRows()) return messages().tell(u"代入するデータがありません。"_s);
+  if (!source().ensureRead()) return;
   const store::RecordSet& rows = source().rows();
   navigator().show(u"治療台帳4"_s,
                    {{u"代入"_s, rows.value(u"予約患者"_s)}, {u"患者NO"_s, rows.value(u"患者NO"_s)}});

@@ -95,7 +95,7 @@ void BookingScreen::showBooking(qint64 id) {
   source().assign(std::move(*hit));
 }
 
-bool BookingScreen::hasBooking() const { return source().holdsRow(); }
+bool BookingScreen::hasBooking() const { return source().hasCurrentRow(); }
 
 QStringList BookingScreen::fields() const {
   QStringList texts;
@@ -120,7 +120,7 @@ void BookingScreen::addBooking() {
 }
 
 void BookingScreen::step(void (screen::DataSource::*move)()) {
-  if (!source().ready() || !mayDrop()) return;
+  if (!source().ensureOpen() || !mayDrop()) return;
   source().drop();
   (source().*move)();
   if (!hasBooking()) return voice().speakHeading({u"予約 0 件"_s});

@@ -104,7 +104,7 @@ void TakingsScreen::showTotals() {
 
 // A visit without its link would show whoever stands first in the register.
 void TakingsScreen::openPatient() {
-  if (emptySet()) return;
+  if (emptySet() || !source().ensureRead()) return;
   const QString serial = source().rows().value(u"ETC1"_s);
   if (serial.isEmpty()) return screen::tellNotFound(*this);
   navigator().show(u"治療台帳4"_s, {{u"テキスト5"_s, serial}});

@@ -139,8 +139,7 @@ void TodaysBookingsScreen::newBooking() { navigator().show(u"予約2"_s, {{u"ope
 
 void TodaysBookingsScreen::editBooking() {
   if (emptySet(u"編集データがありません。「全患者表示及び再表示」をクリックして下さい。"_s)) return;
-  navigator().show(u"予約2"_s,
-                   {{u"ID"_s, source().rows().value(u"ID"_s).toLongLong()}, {u"opener"_s, objectName()}});
+  navigator().show(u"予約2"_s, {{u"ID"_s, source().rows().bookmark()}, {u"opener"_s, objectName()}});
 }
 
 }  // namespace office

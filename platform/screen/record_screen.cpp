@@ -25,7 +25,7 @@ bool RecordScreen::mayLeaveRow() {
 }
 
 bool RecordScreen::writeOnView() {
-  return (source().holdsRow() || source().addNewAsShown()) && source().write();
+  return (source().hasCurrentRow() || source().addNewAsShown()) && source().write();
 }
 
 void RecordScreen::sayDone(const char16_t* done) {
@@ -33,7 +33,7 @@ void RecordScreen::sayDone(const char16_t* done) {
 }
 
 void RecordScreen::storeRow() {
-  if (source().ready() && readyToStore() && writeOnView()) sayDone(m_words.stored);
+  if (source().ensureOpen() && readyToStore() && writeOnView()) sayDone(m_words.stored);
 }
 
 bool RecordScreen::confirmRemoval() {
@@ -49,8 +49,8 @@ bool RecordScreen::removeOnView() {
 }
 
 void RecordScreen::removeRow() {
-  if (!source().ready()) return;
-  if (!source().holdsRow()) return messages().tell(QString::fromUtf16(m_words.nothingToDelete));
+  if (!source().ensureOpen()) return;
+  if (!source().hasCurrentRow()) return messages().tell(QString::fromUtf16(m_words.nothingToDelete));
   if (confirmRemoval() && removeOnView()) sayDone(m_words.deleted);
 }
 

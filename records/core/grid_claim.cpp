@@ -54,8 +54,10 @@ text::Result<store::RecordSet> GridClaim::take(qint64 id) {
 text::Result<store::RecordSet> GridClaim::secondHalf(qint64 id) {
   m_seconds.setFilter(u"Id = %1"_s.arg(id));
   auto half = m_seconds.openRecordset();
-  if (!half || half->recordCount() > 0 || !m_seconds.refresh()) return half;
-  return m_seconds.openRecordset();  // it may have been made meanwhile
+  if (!half || half->recordCount() > 0) return half;
+  // It may have been made meanwhile.
+  if (const text::Done read = m_seconds.refresh(); !read) return read.fault();
+  return m_seconds.openRecordset();
 }
 
 claims::ClaimRecord GridClaim::with(const claims::ClaimRecord& typed) const {
@@ -71,6 +73,7 @@ text::Done GridClaim::write(const claims::ClaimRecord& typed) {
       if (const text::Done made = m_file.repairSecond(m_id); !made) return made;
     return m_file.store(m_id, m_seen, typed);
   });
+  // Where this fails too, the next store compares with what was read before and is refused at worst.
   if (!done)
     if (auto now = m_file.read(m_id)) m_seen = *now;
   return done;

@@ -26,13 +26,13 @@ void AcupointScreen::onLoad() {
 QStringList AcupointScreen::onView() const { return {entry(), text(u"txtFields(1)"_s)}; }
 
 void AcupointScreen::add() {
-  if (source().ready() && source().addNew()) askForEntry();
+  if (source().ensureOpen() && source().addNew()) askForEntry();
 }
 
 void AcupointScreen::search() {
   const QString word = text(u"Text1"_s), column = text(u"Combo1"_s);
   if (word.isEmpty()) return askFor(u"Text1"_s);
-  if (!source().ready() || !leaveRow()) return;
+  if (!source().ensureOpen() || !leaveRow()) return;
   if (!screen::findRow(*this, store::likeCriterion(column, word))) return;
   QStringList found = onView();
   // Named points are heard by their names; of another column the place that matched is heard too.

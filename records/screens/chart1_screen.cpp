@@ -50,7 +50,7 @@ QStringList Chart1Screen::openingTexts() const {
 
 // From the row on view to the end, then from the first row. What another window stored since is read first.
 void Chart1Screen::find(const QString& serial) {
-  if (serial.isEmpty() || !source().isOpen() || !screen::settleRow(source())) return;
+  if (serial.isEmpty() || !source().isOpen() || !screen::commitOrDiscardRow(source())) return;
   text::Result<bool> found = false;
   if (const text::Done read = source().rows().refresh(); !read)
     found = read.fault();
@@ -85,7 +85,7 @@ void Chart1Screen::updateAfterWarning() {
 }
 
 void Chart1Screen::store() {
-  if (!source().ready() || !source().write()) return;
+  if (!source().ensureOpen() || !source().write()) return;
   // The master stands on the same table: it shows what is stored now, unless something is being typed there.
   Screen* master = navigator().loaded(kMaster);
   if (master && master->source().isOpen() && !master->source().pending()) master->source().show();

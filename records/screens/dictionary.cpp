@@ -43,7 +43,7 @@ void DictionaryScreen::askForEntry() {
 // ---- Moves ----
 
 bool DictionaryScreen::leaveRow() {
-  if (!source().holdsRow()) return true;
+  if (!source().hasCurrentRow()) return true;
   if (!blankNewRow()) return source().write();
   source().drop();
   return true;
@@ -72,15 +72,15 @@ void DictionaryScreen::goLast() { step(&screen::DataSource::moveLast); }
 
 // The row just stored stays on view. What was typed into a table without rows becomes its first.
 void DictionaryScreen::store() {
-  if (!source().ready()) return;
+  if (!source().ensureOpen()) return;
   if (blankNewRow()) return askForEntry();
-  if ((!source().holdsRow() && !source().addNewAsShown()) || !source().write()) return;
+  if ((!source().hasCurrentRow() && !source().addNewAsShown()) || !source().write()) return;
   say(QStringList{QString::fromUtf16(kStored)} + onView());
 }
 
 void DictionaryScreen::remove() {
-  if (!source().ready()) return;
-  if (!source().holdsRow()) return messages().tell(QString::fromUtf16(kNothingToDelete));
+  if (!source().ensureOpen()) return;
+  if (!source().hasCurrentRow()) return messages().tell(QString::fromUtf16(kNothingToDelete));
   if (!messages().ask(QString::fromUtf16(kDeleteQuestion), screen::Buttons::OkCancel,
                       QString::fromUtf16(kDeleteTitle)))
     return;

@@ -55,7 +55,7 @@ void PatientListScreen::showAll() {
 }
 
 void PatientListScreen::handOver() {
-  if (emptySet()) return;
+  if (emptySet() || !source().ensureRead()) return;
   const store::RecordSet& rows = source().rows();
   const QString name = rows.value(u"氏名"_s);
   if (Screen* dialog = navigator().loaded(routes::PatientSearch::screen)) dialog->opened({{u"氏名"_s, name}});
@@ -64,20 +64,32 @@ void PatientListScreen::handOver() {
 
 // ---- Labels ----
 
-LabelAddress PatientListScreen::addressAt(int position) const {
+text::Result<QList<LabelAddress>> PatientListScreen::addresses() const {
   const store::RecordSet& rows = source().rows();
-  const auto value = [&](const QString& column) { return rows.valueAt(position, column); };
-  return {value(u"郵便番号"_s), {value(u"住所1"_s), value(u"住所2"_s), value(u"住所3"_s)}, value(u"氏名"_s)};
+  std::optional<text::Fault> fault;
+  QList<LabelAddress> all;
+  for (int position = 0; position < rows.recordCount() && !fault; ++position) {
+    const auto value = [&](const QString& column) {
+      const text::Result<QString> read = rows.readAt(position, column);
+      if (!read) fault = read.fault();
+      return read ? *read : QString();
+    };
+    all +=
+        {value(u"郵便番号"_s), {value(u"住所1"_s), value(u"住所2"_s), value(u"住所3"_s)}, value(u"氏名"_s)};
+  }
+  if (fault) return *fault;
+  return all;
 }
 
-void PatientListScreen::drawSheet(report::ReportOperations& paper, int sheet) const {
+void PatientListScreen::drawSheet(report::ReportOperations& paper, const QList<LabelAddress>& all,
+                                  int sheet) {
   paper.PR_SetMargin(0, 0);
   paper.PR_SetScale();
   paper.PR_SetFont(QString::fromUtf16(label::kFont));
   const int first = sheet * label::kPerSheet;
-  const int last = std::min(first + label::kPerSheet, source().rows().recordCount());
+  const int last = std::min(first + label::kPerSheet, static_cast<int>(all.size()));
   for (int position = first; position < last; ++position) {
-    for (const LabelLine& line : labelLines(addressAt(position), position - first)) {
+    for (const LabelLine& line : labelLines(all[position], position - first)) {
       paper.PR_SetFontSize(static_cast<int>(std::floor(line.size * kTenths)));
       paper.PR_Output(static_cast<float>(line.x), static_cast<float>(line.y), line.text);
     }
@@ -87,13 +99,23 @@ void PatientListScreen::drawSheet(report::ReportOperations& paper, int sheet) co
 void PatientListScreen::printLabels() {
   if (emptySet()) return;
   const int labels = source().rows().recordCount();
+  QList<LabelAddress> all;
+  // All are read before the first sheet: a sheet must not go out with a blank label.
+  const auto askAndRead = [&] {
+    if (!messages().ask(kLabelQuestion)) return false;
+    auto read = addresses();
+    if (!read) messages().tellDataFault(read.fault().message);
+    if (read) all = std::move(*read);
+    return read.ok();
+  };
   const printing::RunEnd end = printing::runHandPrint(
-      m_engine, {.prompt = [this] { return messages().ask(kLabelQuestion); },
+      m_engine, {.prompt = askAndRead,
                  .window = static_cast<quintptr>(winId()),
                  .title = kLabelTitle,
                  .pages = labelSheets(labels),
-                 .draw = [this](report::ReportOperations& paper, int sheet) { drawSheet(paper, sheet); }});
+                 .draw = [&](report::ReportOperations& paper, int sheet) { drawSheet(paper, all, sheet); }});
   if (end == printing::RunEnd::NotStarted) messages().tell(kNotPrinted);
+  if (end == printing::RunEnd::NotTaken) messages().tell(m_engine.lastDocument().fault().message);
   if (end == printing::RunEnd::Printed)
     voice().speakText(u"タック印刷をしました"_s + voice::kSpeechSeparator + QString::number(labels) +
                       u"枚"_s);

@@ -32,8 +32,9 @@ class PatientListScreen : public screen::ListScreen {
   QStringList countOnView() const override;
 
  private:
-  LabelAddress addressAt(int position) const;
-  void drawSheet(report::ReportOperations& paper, int sheet) const;
+  /// The addresses of all rows on view, in their order.
+  text::Result<QList<LabelAddress>> addresses() const;
+  static void drawSheet(report::ReportOperations& paper, const QList<LabelAddress>& all, int sheet);
   frame::RunState& m_run;
   report::ReportOperations& m_engine;
 };

@@ -64,14 +64,18 @@ void PatientScreen::offerGrowth() {
   if (const text::Done grown = store::grow(file(), store::GrowthRun::Patient); !grown)
     return messages().tellDataFault(grown.fault().message);
   // A new row stays open: what is typed into it must not be lost for columns that this screen does not show.
-  if (!source().rows().adding()) (void)source().rows().refresh();
+  if (!source().rows().adding())
+    if (const text::Done read = source().rows().refresh(); !read)
+      return messages().tellDataFault(read.fault().message);
   messages().tell(name(kGrown), name(kGrowthTitle), screen::Icon::Information);
 }
 
 // Charts opened from here may have changed the row on view.
 void PatientScreen::showAgain() {
   if (!isVisible() || source().pending()) return;
-  if (source().rows().refresh()) source().show();
+  if (const text::Done read = source().rows().refresh(); !read)
+    return messages().tellDataFault(read.fault().message);
+  source().show();
 }
 
 void PatientScreen::fillSearchRow(const QString& patientName) {
@@ -89,18 +93,20 @@ void PatientScreen::noteFound(const text::Result<bool>& found) {
 }
 
 void PatientScreen::takeSerial(const QString& serial) {
-  if (screen::settleRow(source()))
+  if (screen::commitOrDiscardRow(source()))
     noteFound(screen::seekRow(source(), store::equalCriterion(u"テキスト5"_s, serial)));
 }
 
 void PatientScreen::takeBooked(const QString& patientName) {
   fillSearchRow(patientName);
-  if (patientName.isEmpty() || !screen::settleRow(source())) return;
+  if (patientName.isEmpty() || !screen::commitOrDiscardRow(source())) return;
   store::RecordSet& rows = source().rows();
   text::Done found = rows.refresh();
-  if (found) found = rows.findFirst(store::equalCriterion(u"氏名"_s, patientName));
+  const text::Done read = rows.moveAndRead([&](store::RecordSet&) {
+    if (found) found = rows.findFirst(store::equalCriterion(u"氏名"_s, patientName));
+  });
   source().show();
-  if (!found) return noteFound(found.fault());
+  if (!found || !read) return noteFound((!found ? found : read).fault());
   if (!rows.noMatch()) return noteFound(true);
   if (startRow(patientName)) m_notice = {name(kBookedIsNew), QString()};
 }
@@ -108,10 +114,11 @@ void PatientScreen::takeBooked(const QString& patientName) {
 void PatientScreen::takeListed(qint64 id, const QString& patientName) {
   fillSearchRow(patientName);
   focusOn(u"Combo3"_s);
-  if (!screen::settleRow(source())) return;
+  if (!screen::commitOrDiscardRow(source())) return;
   store::RecordSet& rows = source().rows();
-  if (const text::Done read = rows.refresh(); !read) return noteFound(read.fault());
-  rows.setBookmark(id);
+  text::Done read = rows.refresh();
+  if (read) read = rows.moveAndRead([id](store::RecordSet& set) { set.setBookmark(id); });
+  if (!read) return noteFound(read.fault());
   source().show();
   noteFound(rows.bookmark() == id);
 }

@@ -39,10 +39,10 @@ void PatientScreen::onLoad() {
   setItems(u"Combo3"_s, SearchHistory(m_run.programFolder).words());
   if (!source().open(file())) return;
   const text::Result<bool> older = store::needsGrowth(file(), store::GrowthRun::Patient);
-  m_asksGrowth = older && *older;
+  m_asksGrowth = older && *older;  // a fault was reported by open(): the file is the same
   // The patient who was on view when the screen was left comes back.
-  if (m_run.patientOnView >= 0) source().rows().setBookmark(m_run.patientOnView);
-  source().show();
+  if (m_run.patientOnView >= 0)
+    source().moveAndShow([this](store::RecordSet& rows) { rows.setBookmark(m_run.patientOnView); });
 }
 
 QString PatientScreen::file() const { return m_run.folders[frame::folder::kPatients]; }
@@ -97,25 +97,24 @@ void PatientScreen::askNewPatient() {
 }
 
 void PatientScreen::startNewPatient() {
-  if (source().isOpen() && (isEmpty() || screen::settleRow(source()))) startRow();
+  if (source().isOpen() && (isEmpty() || screen::commitOrDiscardRow(source()))) startRow();
 }
 
 // What was typed on the screen of an empty register becomes the first patient's.
 bool PatientScreen::startRow(const QString& patientName) {
   const bool first = isEmpty();
   // Read again first: a patient whom another computer entered meanwhile must not get the same serial.
-  if (const text::Done read = source().rows().refresh(); !read) {
+  // On the screen of an empty register what was typed stays: a last row that is there now is of another
+  // computer, entered meanwhile.
+  store::RecordSet& rows = source().rows();
+  text::Done read = rows.refresh();
+  if (read) read = rows.moveAndRead(&store::RecordSet::moveLast);
+  if (!read) {
     messages().tellDataFault(read.fault().message);
     return false;
   }
-  QString last;
-  if (source().rows().recordCount() > 0) {
-    if (first)
-      source().rows().moveLast();  // of another computer, entered meanwhile: the typed text is not its own
-    else
-      move(&screen::DataSource::moveLast);
-    last = source().rows().value(u"テキスト5"_s);
-  }
+  if (rows.recordCount() > 0 && !first) source().show();
+  const QString last = rows.value(u"テキスト5"_s);
   if (!(first ? source().addNewAsShown() : source().addNew())) return false;
   setText(name(kSerial), nextSerial(last, m_run.clock->today()));
   if (!patientName.isEmpty()) setText(name(kName), patientName);
@@ -145,7 +144,7 @@ void PatientScreen::deletePatient() {
 void PatientScreen::search() {
   const QString word = text(u"Combo3"_s);
   if (word.isEmpty()) return askFor(u"Combo3"_s);
-  if (!source().isOpen() || !screen::settleRow(source())) return;
+  if (!source().isOpen() || !screen::commitOrDiscardRow(source())) return;
   const SearchHistory history(m_run.programFolder);
   // A history that cannot be written costs nothing: the search itself goes on.
   (void)history.remember(word, SearchHistory::kWholeListKept);
@@ -202,7 +201,7 @@ void PatientScreen::focusTreatment() { focusOn(u"txtFields(27)"_s); }
 
 // A row that the file keeps refusing (read only, or deleted by another computer) must not lock the user in.
 bool PatientScreen::mayLeave() {
-  if (screen::settleRow(source())) return true;
+  if (screen::commitOrDiscardRow(source())) return true;
   const bool yes =
       messages().askToDrop(u"登録出来ませんでした。入力した内容を捨てて、メインメニューへ戻りますか？"_s);
   m_run.lastAnswer = yes ? 1 : 0;

@@ -71,7 +71,7 @@ std::span<const DictionaryRow> phraseDictionaries() { return kDictionaries; }
 void PhraseScreen::rowReached() { copyEntry(); }
 
 void PhraseScreen::add() {
-  if (!source().ready()) return;
+  if (!source().ensureOpen()) return;
   if (entry().trimmed().isEmpty()) {
     source().drop();  // the row whose text was cleared to make room stays as it was stored
     if (source().addNew()) askForEntry();

@@ -91,7 +91,7 @@ void SearchScreen::search() {
   if (!word.isEmpty()) {
     // A history that cannot be written costs nothing: the search itself goes on.
     (void)SearchHistory(m_run.programFolder).remember(word);
-    if (!settleRow(screen->source()) || !findRow(*screen, criteria(word))) return;
+    if (!commitOrDiscardRow(screen->source()) || !findRow(*screen, criteria(word))) return;
   }
   navigator().show(u"治療台帳4"_s, {{u"表示患者"_s, true}});
   navigator().unload(routes::PatientSearch::screen);

@@ -88,7 +88,7 @@ bool VisitLedgerScreen::putClaims() {
 
 void VisitLedgerScreen::showClaim() {
   const store::RecordSet& rows = source(3).rows();
-  auto half = m_claim->take(rows.recordCount() > 0 ? rows.value(u"ID"_s).toLongLong() : 0);
+  auto half = m_claim->take(rows.recordCount() > 0 ? rows.bookmark() : 0);
   if (half)
     source(2).assign(std::move(*half));
   else

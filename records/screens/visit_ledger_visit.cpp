@@ -34,6 +34,7 @@ void VisitLedgerScreen::addVisit() {
     // the birth date. Only カルテ2の新規 writes the right fields.
     startVisit(m_key, m_name, m_key);
   } else {
+    if (!source().ensureRead()) return;
     m_previous.take([this](const QString& column) { return source().rows().value(column); });
     startVisit(m_previous.value(PreviousVisit::Name), m_previous.value(PreviousVisit::Birth),
                m_previous.value(PreviousVisit::Patient));
