@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "claims/core/amount_record.h"
+#include "claims/core/insurance.h"
 #include "claims/core/share_ticks.h"
 #include "platform/store/tables/claims.h"
 

@@ -39,8 +39,8 @@ class ClaimFormScreen : public screen::RecordScreen {
   // What the form shows: claim_form_show.cpp.
   /// The claim as the form shows it, columns of both halves.
   ClaimRecord record() const;
-  /// Names of the unbound ticks that are set.
-  QSet<QString> checks() const;
+  /// The ticks for printing.
+  FormTicks checks() const;
   /// Puts a text into the field of a column, as the helper windows do; a column without a field is left out.
   void put(const store::Column& column, const QString& text);
   const MonthFlags& flags() const { return m_flags; }
@@ -142,7 +142,7 @@ class ClaimFormScreen : public screen::RecordScreen {
   void markCut(const QStringList& cut);
 
   void announce() { voice().speakHeading(rowInWords()); }
-  void print(int kind);
+  void print(PrintKind kind);
   void closePreview();
   /// Shows the warning on differing numbers of areas where it holds; spoken when it comes up by an edit.
   void applyAreaWarning(bool spoken);

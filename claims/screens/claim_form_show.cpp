@@ -2,6 +2,7 @@
 
 #include "claims/core/carry_forward.h"
 #include "claims/core/form_lists.h"
+#include "claims/core/insurance.h"
 #include "claims/core/kinds.h"
 #include "claims/core/print_settings.h"
 #include "claims/core/share_ticks.h"
@@ -39,7 +40,7 @@ constexpr screen::ControlRef kShowTable = on(form::kVisitTable, claim::showVisit
 constexpr screen::ControlRef kAddressee = on(form::kInsurance, claim::addressee);
 constexpr screen::ControlRef kFreeVisits = ref(form::kTreatment, u"Check8");
 constexpr screen::ControlRef kClosedNote = ref(form::kTreatment, u"LabelClosed");
-constexpr screen::ControlRef kDelegated = on(form::kPrintSettings, claim::delegated);
+constexpr screen::ControlRef kDelegated = on(form::kPrintPage, claim::delegated);
 
 /// Shown and hidden by the kind of treatment.
 constexpr screen::ControlRef kOfAcupuncture[] = {ref(form::kHead, u"Command5"),
@@ -226,14 +227,9 @@ void ClaimFormScreen::applyKind() {
 }
 
 void ClaimFormScreen::applyPrintDefaults() {
-  ClaimRecord defaults;
-  for (const NewClaimDefault& row : hiddenPrintDefaults()) defaults.set(row.column, utf16(row.value));
-  for (const PrintSetting& setting : printSettings())
-    defaults.set(setting.column, QString::number(claims::chosen(m_read, setting, m_run.profile)));
-  for (auto it = defaults.columns().cbegin(); it != defaults.columns().cend(); ++it)
-    if (screen::Control* group = screen::controlOf(*this, it.key(), kHalves);
-        group && group->text().isEmpty())
-      group->putText(it.value());
+  for (const PrintSetting& row : kPrintSettings)
+    if (screen::Control* group = screen::controlOf(*this, row.column, kHalves); group && group->text().isEmpty())
+      group->putText(utf16(row.stored[claims::chosen(m_read, row.setting, m_run.profile)]));
 }
 
 void ClaimFormScreen::applyMonth() {
@@ -270,15 +266,11 @@ ClaimRecord ClaimFormScreen::record() const {
   return claim;
 }
 
-// 受領委任 is a column of the claim, but printing asks for it as for the ticks without one.
-QSet<QString> ClaimFormScreen::checks() const {
-  QSet<QString> set;
-  for (const auto& control : controls().all()) {
-    const auto* tick = dynamic_cast<const screen::CheckControl*>(control.get());
-    if (tick && tick->checked() && (!tick->isBound() || tick->name() == kDelegated.name()))
-      set.insert(tick->name());
-  }
-  return set;
+FormTicks ClaimFormScreen::checks() const {
+  FormTicks ticks;
+  for (const TickName<FormTicks>& row : kFormTicks)
+    if (onClaimForm(row)) ticks.*row.tick = checked(utf16(row.control));
+  return ticks;
 }
 
 void ClaimFormScreen::put(const store::Column& column, const QString& value) {

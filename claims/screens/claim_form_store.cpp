@@ -18,7 +18,7 @@ using ::text::utf16;
 
 namespace {
 
-constexpr screen::FamilyRef kSettings = screen::family(form::kPrintSettings, u"FrameSet");
+constexpr screen::FamilyRef kSettings = screen::family(form::kPrintPage, u"FrameSet");
 
 }  // namespace
 

@@ -39,7 +39,7 @@ TEST_F(ClaimPrint, OkAsksPrintsAndLeaves) {
 }
 
 TEST_F(ClaimPrint, MassageButtonPrintsTheMassageForm) {
-  state.printKind = 2;
+  state.printKind = claims::PrintKind::Massage;
   messages.answerFromQueue({true});
   open(kScreen).trigger(u"Command1"_s);
   EXPECT_EQ(engine.loaded, u"Massage_900.PRP"_s);
@@ -82,7 +82,6 @@ TEST_F(ClaimPrint, ClaimThatFailsItsCheckNeverReachesTheEngine) {
   messages.answerFromQueue({true});
   open(kScreen).trigger(u"Command1"_s);
   EXPECT_EQ(messages.texts().last(), u"初療年月日が入力されていません。"_s);
-  EXPECT_EQ(state.claimCheck, u"break"_s);
   EXPECT_TRUE(engine.calls.isEmpty());
 }
 
@@ -104,7 +103,7 @@ TEST_F(ClaimPrint, EngineFailuresAreSilent) {
 }
 
 TEST_F(ClaimPrint, ItemsOnlyComesFromTheClaimForm) {
-  table.ticks.insert(u"Check13"_s);
+  table.ticks.itemsOnly = true;
   messages.answerFromQueue({true});
   open(kScreen).trigger(u"Command1"_s);
   EXPECT_EQ(engine.itemCalls.first(), u"0 waku_1"_s);
@@ -155,10 +154,10 @@ TEST_F(ClaimPrint, TicksOfTheTwoPapersAreToldApartByEar) {
 }
 
 TEST_F(ClaimPrint, ClaimFormGetsTheChoiceOfTheScreen) {
-  EXPECT_EQ(state.choosePrintScreen(table.claim, {}), u"レセプト印刷2024"_s);
+  EXPECT_EQ(state.printing->screenOf(table.claim, {}), u"レセプト印刷2024"_s);
   table.set(u"申請年月", u"令和6年9月");
-  EXPECT_EQ(state.choosePrintScreen(table.claim, {}), u"レセプト印刷2018"_s);
-  state.printerSetup(9);
+  EXPECT_EQ(state.printing->screenOf(table.claim, {}), u"レセプト印刷2018"_s);
+  state.printing->setUpPrinter(9);
   EXPECT_EQ(engine.calls.last(), u"PR_PrinterSetupDlg 9"_s);
 }
 
