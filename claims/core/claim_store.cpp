@@ -4,6 +4,7 @@
 
 #include "claims/core/amount_record.h"
 #include "claims/core/share_ticks.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 namespace {
@@ -69,7 +70,7 @@ class Writer {
 
 /// 老人 and 退職国保 were replaced by other kinds; a claim whose printed kind says so follows.
 void rewriteInsurance(Writer& writer) {
-  const QString kind = writer.get(u"保険の種類"), printed = writer.get(u"保険の種類3");
+  const QString kind = writer.get(claim::insuranceKind, printed = writer.get(u"保険の種類3");
   if (printed == u"後期高齢" && kind == u"老人") writer.set(u"保険の種類", QStringLiteral("後期高齢"));
   if (printed == u"国民健保" && kind == u"退職国保") writer.set(u"保険の種類", QStringLiteral("国保"));
 }
@@ -81,8 +82,8 @@ void writeDerived(const ClaimRecord& claim, Writer& writer) {
   if (hasTicks) writer.set(u"負担割合", shareTicksText(tickValuesOf(claim)));
   const QString kind = writer.get(u"保険の種類");
   writer.set(u"保険順位", insuranceOrder(kind));
-  writer.set(kSummaryCodeColumn, summaryCode(kind, writer.get(u"被保険者との続柄")));
-  writer.set(u"保険証番号1", writer.get(u"保険証番号"));
+  writer.set(kSummaryCodeColumn, summaryCode(kind, writer.get(claim::relation));
+  writer.set(u"保険証番号1", writer.get(claim::cardNumber);
 }
 
 /// The distance that the claim shows: the one typed for printing, else the one of all its visits.
@@ -159,10 +160,9 @@ StoredClaim storeClaim(const ClaimRecord& claim, const StoreContext& context,
   stored.claim = claim;
   Writer writer(stored);
   // Never NULL, so that the list's order has no gap.
-  if (claim.blank(QStringLiteral("被保険者のフリガナ")))
-    writer.set(u"被保険者のフリガナ", QStringLiteral(" "));
+  if (claim.blank(claim::insuredKana)) writer.set(u"被保険者のフリガナ", QStringLiteral(" "));
   const AreaBoxes boxes = boxesFor(claim, given);
-  const MonthFlags flags = monthFlags(claim.get(QStringLiteral("申請年月")), context.era);
+  const MonthFlags flags = monthFlags(claim.get(claim::month), context.era);
   if (flags.month) {
     writer.clear(kCalculated);
     writer.clear(kCalculatedSecond);
@@ -172,7 +172,7 @@ StoredClaim storeClaim(const ClaimRecord& claim, const StoreContext& context,
       writeAmounts(stored.amounts, boxes, writer);
     } else {
       stored.calculation = computed.fault();
-      writeSubject(writer.get(u"施術科目"), writer);
+      writeSubject(writer.get(claim::subject, writer);
     }
   }
   writeDerived(claim, writer);

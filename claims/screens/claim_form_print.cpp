@@ -2,6 +2,7 @@
 #include "claims/core/carry_forward.h"
 #include "claims/screens/claim_form_screen.h"
 #include "claims/screens/claim_form_texts.h"
+#include "platform/store/tables/claims.h"
 
 // Calculation, carry-forward and the print buttons.
 
@@ -27,7 +28,7 @@ void ClaimFormScreen::previewFees() {
   applyMonth();
   if (!mayLeave()) return;
   closePreview();
-  const QString name = previewScreen(kindOf(m_read.get(QStringLiteral("施術内容"))), m_flags);
+  const QString name = previewScreen(kindOf(m_read.get(claim::treatmentKind)), m_flags);
   for (int kind = 0; kind < int(std::size(kPreviews)); ++kind) {
     if (name != QString::fromUtf16(kPreviews[kind])) continue;
     m_state.previewKind = kind + 1;
@@ -58,7 +59,7 @@ void ClaimFormScreen::print(int kind) {
   if (m_id == 0) return;
   applyMonth();
   if (!mayLeave()) return;
-  const QString insurance = record().get(QStringLiteral("保険の種類"));
+  const QString insurance = record().get(claim::insuranceKind);
   if (insurance == u"国保" || insurance == u"社保") {
     if (!checkedFull()) return;
     trimTexts();

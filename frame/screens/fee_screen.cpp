@@ -1,5 +1,7 @@
 #include "frame/screens/fee_screen.h"
 
+#include "frame/core/routes.h"
+#include "platform/store/tables/fees.h"
 #include "platform/text/number.h"
 
 namespace frame {
@@ -129,8 +131,11 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{
-    .name = u"料金変更", .caption = u"料金確認", .rows = kRows, .sources = 1, .heading = u"料金確認"};
+constexpr ScreenRow kDeclaration{.name = u"料金変更",
+                                 .caption = u"料金確認",
+                                 .rows = kRows,
+                                 .sources = fees::table,
+                                 .heading = u"料金確認"};
 
 QString box(int number) { return u"Text1(%1)"_s.arg(number); }
 
@@ -141,7 +146,7 @@ FeeScreen::FeeScreen(Services& services, RunState& run) : Screen(kDeclaration, s
 // The row with the highest ID rules.
 void FeeScreen::onLoad() {
   setShown(u"Command1"_s, false);
-  if (!source().open(m_run.folders[folder::kFees], u"料金設定"_s)) return;
+  if (!source().open(m_run.folders[folder::kFees])) return;
   source().rows().moveLast();
   for (int i = 0; i < kBoxCount; ++i) {
     const QString value = source().rows().value(QString::fromUtf16(kBoxes[i].shown));
@@ -183,6 +188,6 @@ void FeeScreen::save() {
   messages().tell(u"料金設定の変更が終了しました"_s);
 }
 
-void FeeScreen::finish() { navigator().unload(u"料金変更"_s); }
+void FeeScreen::finish() { navigator().unload(routes::Fees::screen); }
 
 }  // namespace frame

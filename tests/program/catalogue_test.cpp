@@ -19,10 +19,10 @@ class CatalogueTest : public ProgramTest {
 };
 
 TEST_F(CatalogueTest, EveryScreenOpensAndIsNamedSpokenAndReachable) {
-  ASSERT_FALSE(m_desk->registry().names().isEmpty());
-  for (const QString& name : m_desk->registry().names()) {
+  ASSERT_FALSE(m_application->registry().names().isEmpty());
+  for (const QString& name : m_application->registry().names()) {
     SCOPED_TRACE(name.toStdString());
-    screen::Screen* window = m_desk->navigator().show(name);
+    screen::Screen* window = m_application->navigator().show(name);
     ASSERT_NE(window, nullptr);
     EXPECT_EQ(window->objectName(), name);
     EXPECT_FALSE(window->windowTitle().isEmpty());
@@ -30,7 +30,7 @@ TEST_F(CatalogueTest, EveryScreenOpensAndIsNamedSpokenAndReachable) {
     probe.open();
     const QStringList faults = probe.faults();
     EXPECT_TRUE(faults.isEmpty()) << faults.join('\n').toStdString();
-    m_desk->navigator().unload(name);
+    m_application->navigator().unload(name);
     told();
   }
 }
@@ -38,7 +38,7 @@ TEST_F(CatalogueTest, EveryScreenOpensAndIsNamedSpokenAndReachable) {
 /// The catalogue's file names of a screen's sources in their order; blank for one that is not open.
 QStringList filesOf(const screen::Screen& screen) {
   QStringList files;
-  for (int number = 1; number <= screen.declaration().sources; ++number) {
+  for (int number = 1; number <= screen.declaration().sources.count(); ++number) {
     const screen::DataSource& source = screen.source(number);
     files += source.isOpen() ? QFileInfo(source.rows().database()->path()).fileName() : QString();
   }
@@ -74,8 +74,9 @@ TEST_F(FilledCatalogueTest, BoundColumnsExist) {
     closeAllButTheMenu();
   }
   QSet<QString> declared;
-  for (const QString& name : m_desk->registry().names())
-    for (int number = 1; number <= m_desk->navigator().load(name)->declaration().sources; ++number)
+  for (const QString& name : m_application->registry().names())
+    for (int number = 1; number <= m_application->navigator().load(name)->declaration().sources.count();
+         ++number)
       declared.insert(sourceKey(name, number));
   EXPECT_FALSE(declared.isEmpty());
   EXPECT_EQ((declared - checked).values(), QStringList()) << "sources that no road of screen_roads.cpp opens";
@@ -83,7 +84,7 @@ TEST_F(FilledCatalogueTest, BoundColumnsExist) {
 
 // A command of a room that is not built says so by name, spoken, and opens nothing.
 TEST_F(CatalogueTest, AMissingRoomIsToldByName) {
-  EXPECT_EQ(m_desk->navigator().show(QStringLiteral("領収証選択")), nullptr);
+  EXPECT_EQ(m_application->navigator().show(QStringLiteral("領収証選択")), nullptr);
   const QStringList texts = told();
   ASSERT_EQ(texts.size(), 1);
   EXPECT_TRUE(texts[0].contains(QStringLiteral("領収証選択")));

@@ -1,6 +1,5 @@
 #include "tests/program/glossary_tables.h"
 
-#include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -48,17 +47,6 @@ QStringList listedColumns(const QString& cell) {
       columns += series.captured(1) + QString::number(number);
   }
   return columns;
-}
-
-QString programSources() {
-  QString sources;
-  for (const char* folder : {"app", "claims", "frame", "office", "platform", "printing", "records"}) {
-    QDirIterator files(QStringLiteral(SOURCE_FOLDER "/") + QLatin1String(folder), {u"*.h"_s, u"*.cpp"_s},
-                       QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext())
-      if (const QString path = files.next(); !path.contains(u"/tests/")) sources += textOf(path);
-  }
-  return sources;
 }
 
 }  // namespace program

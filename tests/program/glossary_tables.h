@@ -13,7 +13,4 @@ QList<QStringList> glossaryRows(const QString& heading);
 /// The columns that a cell lists: "d1..d3, e1" gives d1, d2, d3, e1.
 QStringList listedColumns(const QString& cell);
 
-/// All sources of the program in one text, without tests.
-QString programSources();
-
 }  // namespace program

@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include <memory>
 
-#include "app/desk.h"
+#include "app/application.h"
 #include "platform/screen/testing/screen_probe.h"
 #include "platform/voice/recording_channel.h"
 #include "tests/program/screen_roads.h"
@@ -24,7 +24,7 @@ class ProgramTest : public testing::Test {
   /// Starts the program (the news of the version switched off).
   void start();
   screen::Screen& screen(const QString& name);
-  bool isOpen(const QString& name) const { return m_desk->navigator().isShown(name); }
+  bool isOpen(const QString& name) const { return m_application->navigator().isShown(name); }
 
   // What a user does with the keyboard.
   void goTo(const QString& screenName, const QString& control);
@@ -39,14 +39,14 @@ class ProgramTest : public testing::Test {
   void closeAllButTheMenu();
   /// Messages since the last call.
   QStringList told();
-  void answer(const QList<bool>& answers) { m_desk->messages().answerFromQueue(answers); }
+  void answer(const QList<bool>& answers) { m_application->messages().answerFromQueue(answers); }
   QString path(const QString& file) const { return m_folder.filePath(file); }
 
   static std::unique_ptr<QTemporaryDir> s_shipped;  ///< a laid out folder, copied for each test
   QTemporaryDir m_folder;
   voice::RecordingChannel m_voice;
   text::FixedClock m_clock{QDate(2024, 11, 5), QTime(10, 0)};
-  std::unique_ptr<app::Desk> m_desk;
+  std::unique_ptr<app::Application> m_application;
 };
 
 }  // namespace program

@@ -33,12 +33,12 @@ void TranscriptsTest::compare(SpeechFiles& files, const QString& screenName, con
 TEST_F(TranscriptsTest, EveryScreenOfAFreshProgramIsHeardAsWritten) {
   start();
   SpeechFiles files(u"empty"_s);
-  const QStringList names = m_desk->registry().names();
+  const QStringList names = m_application->registry().names();
   ASSERT_FALSE(names.isEmpty());
   for (const QString& name : names) {
     SCOPED_TRACE(name.toStdString());
     m_voice.clear();
-    m_desk->navigator().show(name);
+    m_application->navigator().show(name);
     compare(files, name);
     closeAllButTheMenu();
   }
@@ -66,8 +66,8 @@ TEST_F(TranscriptsTest, EveryScreenWithASourceIsHeardWithRows) {
   QSet<QString> heard;
   for (const Road& road : screenRoads()) heard.insert(QString::fromUtf16(road.screen));
   int bound = 0;
-  for (const QString& name : m_desk->registry().names()) {
-    const screen::Screen* loaded = m_desk->navigator().load(name);
+  for (const QString& name : m_application->registry().names()) {
+    const screen::Screen* loaded = m_application->navigator().load(name);
     ASSERT_NE(loaded, nullptr) << name.toStdString();
     if (loaded->declaration().sources == 0) continue;
     ++bound;
@@ -77,7 +77,7 @@ TEST_F(TranscriptsTest, EveryScreenWithASourceIsHeardWithRows) {
 }
 
 TEST_F(TranscriptsTest, EveryRowNamesARegisteredScreenAndAFileOfItsOwn) {
-  const QStringList names = m_desk->registry().names();
+  const QStringList names = m_application->registry().names();
   QSet<QString> screens, files;
   for (const ScreenFile& row : screenFiles()) {
     const QString name = QString::fromUtf16(row.screen);

@@ -24,7 +24,7 @@ struct Stop {
   QString spoken;          ///< what the voice control was given when the focus came
 };
 
-/// Works a screen as a user with a keyboard does, and tells what a user without sight would stumble over.
+/// Works a screen as a user with a keyboard does, and lists what a user without sight would stumble over.
 class ScreenProbe {
  public:
   ScreenProbe(Screen& screen, voice::RecordingChannel& voice) : m_screen(screen), m_voice(voice) {}

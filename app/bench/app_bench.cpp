@@ -1,9 +1,9 @@
-// desk_bench: figures of the running program, on the offscreen platform. One line a figure.
-//   desk_bench start DIR   from the launch to the main menu, beside an empty window of the toolkit
-//   desk_bench focus DIR   from the Tab key to the speech request, on the main menu and on the claim form
-//   desk_bench list DIR    from the opening of the patient list to the first row's name as a speech request,
+// app_bench: figures of the running program, on the offscreen platform. One line a figure.
+//   app_bench start DIR   from the launch to the main menu, beside an empty window of the toolkit
+//   app_bench focus DIR   from the Tab key to the speech request, on the main menu and on the claim form
+//   app_bench list DIR    from the opening of the patient list to the first row's name as a speech request,
 //                          and from Ctrl+End to the last cell of the last row
-//   desk_bench empty | menu DIR   one measured launch (used by `start`)
+//   app_bench empty | menu DIR   one measured launch (used by `start`)
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -15,7 +15,7 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "app/desk.h"
+#include "app/application.h"
 #include "platform/store/database.h"
 #include "platform/store/record_set.h"
 #include "platform/voice/silent_library.h"
@@ -77,21 +77,21 @@ int emptyWindow() {
 
 /// The program in a folder, with messages that nobody must answer.
 struct Running {
-  explicit Running(const QString& folder) : desk(folder, {voice, sound, focusTalk}, clock) {
+  explicit Running(const QString& folder) : application(folder, {voice, sound, focusTalk}, clock) {
     timer.start();
-    desk.messages().answerFromQueue();
+    application.messages().answerFromQueue();
   }
   QElapsedTimer timer;
   TimingVoice voice{timer};
   voice::SilentSoundLibrary sound;
   voice::SilentFocusTalkLibrary focusTalk;
   text::SystemClock clock;
-  app::Desk desk;
+  app::Application application;
 };
 
 int mainMenu(const QString& folder) {
   Running program(folder);
-  if (program.desk.start() != frame::Started::Menu) return 1;
+  if (program.application.start() != frame::Started::Menu) return 1;
   QTimer::singleShot(0, [] { QCoreApplication::quit(); });
   return QApplication::exec();
 }
@@ -118,8 +118,8 @@ void measureTabs(const char* name, screen::Screen& window, Running& program, int
 
 int focus(const QString& folder) {
   Running program(folder);
-  screen::ScreenNavigator& navigator = program.desk.navigator();
-  if (program.desk.start() != frame::Started::Menu) return 1;
+  screen::ScreenNavigator& navigator = program.application.navigator();
+  if (program.application.start() != frame::Started::Menu) return 1;
   navigator.unload(QStringLiteral("topics"));
   QApplication::processEvents();
   if (auto* menu = navigator.loaded(QStringLiteral("選択3")))
@@ -156,8 +156,8 @@ int list(const QString& folder) {
     }
   }
   Running program(folder);
-  screen::ScreenNavigator& navigator = program.desk.navigator();
-  if (program.desk.start() != frame::Started::Menu || first.isEmpty()) return 1;
+  screen::ScreenNavigator& navigator = program.application.navigator();
+  if (program.application.start() != frame::Started::Menu || first.isEmpty()) return 1;
   navigator.unload(QStringLiteral("topics"));
   QApplication::processEvents();
   QVector<double> opened, ended;
@@ -202,6 +202,6 @@ int main(int argc, char** argv) {
   if (word == "list") return list(folder);
   if (word == "empty") return emptyWindow();
   if (word == "menu") return mainMenu(folder);
-  std::fputs("usage: desk_bench start DIR | focus DIR | list DIR\n", stderr);
+  std::fputs("usage: app_bench start DIR | focus DIR | list DIR\n", stderr);
   return 2;
 }

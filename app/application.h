@@ -12,7 +12,7 @@
 
 namespace app {
 
-/// The three speech channels that a desk speaks through.
+/// The three speech channels that the application speaks through.
 struct Channels {
   voice::VoiceControl& control;
   voice::SoundLibrary& sound;
@@ -21,9 +21,9 @@ struct Channels {
 
 /// The whole program, put together: voice, messages, screens, report engine and the values of one run. The
 /// running program has one; journeys make their own with a recording voice and a clock that stands.
-class Desk {
+class Application {
  public:
-  Desk(const QString& programFolder, Channels channels, const text::Clock& clock);
+  Application(const QString& programFolder, Channels channels, const text::Clock& clock);
 
   /// From the splash screen to the first working screen.
   frame::Started start();

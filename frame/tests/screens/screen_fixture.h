@@ -31,9 +31,9 @@ inline constexpr screen::PromptButton kStandInButtons[] = {
 
 /// A program folder of its own with qv.dat, a recording voice, queued answers and a clock that stands on
 /// 15 June 2024.
-class DeskFixture : public testing::Test {
+class ScreenFixture : public testing::Test {
  protected:
-  DeskFixture() {
+  ScreenFixture() {
     services.messages.answerFromQueue();
     desktop.answerFromQueue();
     navigator.setServices(services);

@@ -1,4 +1,4 @@
-#include "app/desk.h"
+#include "app/application.h"
 
 #include "claims/screens/claims_screens.h"
 #include "frame/screens/frame_screens.h"
@@ -9,7 +9,7 @@
 
 namespace app {
 
-Desk::Desk(const QString& programFolder, Channels channels, const text::Clock& clock)
+Application::Application(const QString& programFolder, Channels channels, const text::Clock& clock)
     : m_voice(channels.control, channels.sound, channels.focusTalk),
       m_messages(m_voice),
       m_navigator(m_registry),
@@ -23,7 +23,7 @@ Desk::Desk(const QString& programFolder, Channels channels, const text::Clock& c
   registerAllScreens();
 }
 
-void Desk::registerAllScreens() {
+void Application::registerAllScreens() {
   frame::registerScreens(m_registry, m_services, m_run);
   records::registerScreens(m_registry, m_run, m_engine);
   office::registerScreens(m_registry, m_run);
@@ -34,7 +34,7 @@ void Desk::registerAllScreens() {
   });
 }
 
-frame::Started Desk::start() {
+frame::Started Application::start() {
   return frame::startProgram(m_run, m_services, {.fontInstalled = [] { return report::fontInstalled(); }});
 }
 
