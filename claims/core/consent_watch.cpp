@@ -26,9 +26,12 @@ struct Ends {
   QHash<Consent, QDate> behind;
 };
 
-Ends endsOf(store::Cursor& claims, QDate from, QDate to, const frame::EraDates& dates) {
+text::Result<Ends> endsOf(store::Cursor& claims, QDate from, QDate to, const frame::EraDates& dates) {
   Ends ends;
-  for (; !claims.eof(); claims.moveNext()) {
+  for (;;) {
+    const text::Result<bool> row = claims.next();
+    if (!row) return row.fault();
+    if (!*row) return ends;
     const QString text = claims.value(QStringLiteral("要加療期間2"));
     if (text.trimmed().isEmpty()) continue;
     const std::optional<QDate> end = dates.anyDate(text);
@@ -38,23 +41,24 @@ Ends endsOf(store::Cursor& claims, QDate from, QDate to, const frame::EraDates& 
     else if (QDate& latest = ends.behind[consentOf(claims)]; !latest.isValid() || *end > latest)
       latest = *end;
   }
-  return ends;
 }
 
 /// Of each name the first claim with an end within the days.
-QList<ConsentEnd> rowsOf(store::Cursor& claims, const Ends& ends) {
+text::Result<QList<ConsentEnd>> rowsOf(store::Cursor& claims, const Ends& ends) {
   QList<ConsentEnd> rows;
-  QSet<QString> told;
-  for (; !claims.eof(); claims.moveNext()) {
+  QSet<QString> listed;
+  for (;;) {
+    const text::Result<bool> row = claims.next();
+    if (!row) return row.fault();
+    if (!*row) return rows;
     const auto end = ends.within.constFind(claims.value(QStringLiteral("ID")));
     if (end == ends.within.cend()) continue;
     const QString name = claims.value(QStringLiteral("氏名"));
-    if (told.contains(name)) continue;
-    told.insert(name);
+    if (listed.contains(name)) continue;
+    listed.insert(name);
     rows.append({name, claims.value(QStringLiteral("保険の種類")), *end,
                  claims.value(QStringLiteral("施術内容")), ends.behind.value(consentOf(claims))});
   }
-  return rows;
 }
 
 }  // namespace
@@ -73,8 +77,10 @@ text::Result<QList<ConsentEnd>> consentsRunningOut(const QString& claimsPath, co
   if (!newestFirst) return newestFirst.fault();
 
   const QDate today = dates.clock().today();
-  QList<ConsentEnd> rows = rowsOf(*newestFirst, endsOf(*byConsent, today, today.addMonths(1), dates));
-  std::ranges::stable_sort(rows, {}, &ConsentEnd::end);
+  const text::Result<Ends> ends = endsOf(*byConsent, today, today.addMonths(1), dates);
+  if (!ends) return ends.fault();
+  text::Result<QList<ConsentEnd>> rows = rowsOf(*newestFirst, *ends);
+  if (rows) std::ranges::stable_sort(*rows, {}, &ConsentEnd::end);
   return rows;
 }
 

@@ -7,7 +7,7 @@ namespace claims {
 namespace {
 
 /// The claim form has always kept at most this many rows of a register.
-constexpr int kMostRows = 1000;
+constexpr int kMaxRows = 1000;
 
 }  // namespace
 
@@ -18,11 +18,15 @@ text::Result<RegisterRows> readRegister(const Register& list, const frame::DataF
   auto cursor = store::Cursor::open(connection, QString::fromUtf16(list.statement));
   if (!cursor) return cursor.fault();
   RegisterRows rows;
-  for (; rows.size() < kMostRows && !cursor->eof(); cursor->moveNext()) {
+  while (rows.size() < kMaxRows) {
+    const text::Result<bool> row = cursor->next();
+    if (!row) return row.fault();
+    if (!*row) return rows;
     QStringList values;
     for (const RegisterField& field : list.fields) values << cursor->value(field.column);
     rows << values;
   }
+  if (const text::Done last = cursor->check(); !last) return last.fault();
   return rows;
 }
 

@@ -79,7 +79,7 @@ void ClaimFormScreen::removeClaim() {
     return leaveTo(m_opener);
   }
   rows.setAbsolutePosition(std::min(position, rows.recordCount() - 1));
-  showPair();
+  if (!showPair()) return showNothing();
   announce();
 }
 
@@ -91,10 +91,14 @@ void ClaimFormScreen::goLast() { step(&store::RecordSet::moveLast); }
 void ClaimFormScreen::step(void (store::RecordSet::*move)()) {
   if (m_id == 0 || !mayLeave()) return;
   store::RecordSet& rows = source(1).rows();
-  (rows.*move)();
-  if (rows.bof()) rows.moveFirst();
-  if (rows.eof()) rows.moveLast();
-  if (rows.bookmark() != m_id) showPair();  // else at its end already: the pair stays as it is
+  const text::Done read = rows.moveAndRead([move](store::RecordSet& set) {
+    (set.*move)();
+    if (set.bof()) set.moveFirst();
+    if (set.eof()) set.moveLast();
+  });
+  if (!read) messages().tellDataFault(read.fault().message);
+  // The same claim: at its end already, the pair stays as it is. One that cannot be read: so does the form.
+  if (rows.bookmark() != m_id && !showPair()) rows.setBookmark(m_id);
   announce();
 }
 

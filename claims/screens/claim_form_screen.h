@@ -100,8 +100,10 @@ class ClaimFormScreen : public screen::Screen {
   bool openSources();
   void fillLists();
   bool showClaim(qint64 id);
-  bool showSecond();
-  void showPair();
+  /// The second half of the claim, made where it is missing. None: a fault was reported.
+  std::optional<store::RecordSet> secondHalf(qint64 id);
+  /// Shows the claim of source 1. False: it cannot be read, which is reported; the form is as it was.
+  bool showPair();
   void takeValuesOfShow();
   void applyKind();
   void applyMonth();

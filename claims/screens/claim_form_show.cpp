@@ -106,20 +106,23 @@ bool ClaimFormScreen::showClaim(qint64 id) {
     messages().tell(QString::fromUtf16(screen::kNotFoundText), QString::fromUtf16(screen::kNotFoundTitle));
     return false;
   }
-  showPair();
-  return m_id == id;
+  if (showPair()) return true;
+  showNothing();
+  return false;
 }
 
-void ClaimFormScreen::showPair() {
+bool ClaimFormScreen::showPair() {
   const qint64 id = source(1).rows().bookmark();
-  if (id != m_id) markCut({});  // red captions stay over a store of the claim that they belong to
-  m_id = id;
-  if (!showSecond()) return showNothing();
+  auto second = secondHalf(id);
+  if (!second) return false;
   auto read = m_file->read(id);
   if (!read) {
     messages().tellDataFault(read.fault().message);
-    return showNothing();
+    return false;
   }
+  if (id != m_id) markCut({});  // red captions stay over a store of the claim that they belong to
+  m_id = id;
+  source(2).assign(std::move(*second));
   m_read = read.value();
   source(1).show();
   showRecord(*this, m_controls, m_read);
@@ -129,25 +132,20 @@ void ClaimFormScreen::showPair() {
   clearCheckChanged();
   m_treatmentChanged = false;
   m_state.display = &m_display;
+  return true;
 }
 
-bool ClaimFormScreen::showSecond() {
-  m_secondAll.setFilter(QStringLiteral("Id = %1").arg(m_id));
+std::optional<store::RecordSet> ClaimFormScreen::secondHalf(qint64 id) {
+  m_secondAll.setFilter(QStringLiteral("Id = %1").arg(id));
   auto half = m_secondAll.openRecordset();
   if (half && half->recordCount() == 0) {  // a first half whose second half is missing
-    if (const text::Done repaired = m_file->repairSecond(m_id); !repaired) {
-      messages().tellDataFault(repaired.fault().message);
-      return false;
-    }
-    if (const text::Done done = m_secondAll.refresh(); !done) messages().tellDataFault(done.fault().message);
-    half = m_secondAll.openRecordset();
+    text::Done repaired = m_file->repairSecond(id);
+    if (repaired) repaired = m_secondAll.refresh();
+    half = repaired ? m_secondAll.openRecordset() : text::Result<store::RecordSet>(repaired.fault());
   }
-  if (!half) {
-    messages().tellDataFault(half.fault().message);
-    return false;
-  }
-  source(2).assign(std::move(half.value()));
-  return true;
+  if (half) return std::move(*half);
+  messages().tellDataFault(half.fault().message);
+  return std::nullopt;
 }
 
 void ClaimFormScreen::showNothing() {

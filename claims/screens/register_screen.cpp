@@ -90,9 +90,9 @@ bool RegisterScreen::offerNew(const QStringList& texts) {
 }
 
 void RegisterScreen::startNew() {
-  if (!source().ready()) return;
+  if (!source().ensureOpen()) return;
   // Typed before 新規 into a register without rows: it is what the new row is to hold.
-  if (!source().holdsRow() && source().pending()) {
+  if (!source().hasCurrentRow() && source().pending()) {
     m_offered.clear();
     if (source().addNewAsShown()) focusOn(field(0));
     return;
@@ -101,18 +101,18 @@ void RegisterScreen::startNew() {
 }
 
 void RegisterScreen::store() {
-  if (!source().ready()) return;
+  if (!source().ensureOpen()) return;
   if (const int blank = firstBlank(texts()); blank >= 0) {
     messages().tell(blankFieldText(words(m_list.fields[size_t(blank)].label)));
     return focusOn(field(blank));
   }
-  if ((!source().holdsRow() && !source().addNewAsShown()) || !source().write()) return;
+  if ((!source().hasCurrentRow() && !source().addNewAsShown()) || !source().write()) return;
   voice().speakText(words(kStored) + voice::kSpeechSeparator + text(field(0)));
 }
 
 void RegisterScreen::remove() {
-  if (!source().ready()) return;
-  if (!source().holdsRow()) return messages().tell(words(kNothingToDelete));
+  if (!source().ensureOpen()) return;
+  if (!source().hasCurrentRow()) return messages().tell(words(kNothingToDelete));
   if (!messages().ask(words(m_list.deleteQuestion))) return;
   if (source().rows().adding())  // it was never stored
     source().drop();
@@ -131,7 +131,7 @@ std::optional<store::RecordSet> RegisterScreen::wholeRegister() {
 }
 
 void RegisterScreen::search() {
-  if (!source().ready() || !leaveRow()) return;
+  if (!source().ensureOpen() || !leaveRow()) return;
   auto rows = wholeRegister();
   if (!rows) return;
   if (const QString word = text(u"Text1"_s); !word.isEmpty()) {
@@ -153,11 +153,16 @@ void RegisterScreen::takeFromClaim() {
   QStringList values;
   for (const RegisterField& each : m_list.fields) values << claim.get(words(each.claimColumn));
   if (values[0].trimmed().isEmpty()) return;
-  if (auto whole = wholeRegister()) source().assign(std::move(*whole));  // not the hits of a search
+  auto whole = wholeRegister();
+  if (!whole) return;
+  source().assign(std::move(*whole));  // not the hits of a search
   store::RecordSet& rows = source().rows();
   for (int position = 0; position < rows.recordCount(); ++position) {
-    if (rows.valueAt(position, words(m_list.fields[0].column)) != values[0]) continue;
-    source().moveTo(position);
+    // A register that was not read to its end offers nothing new: the row may be in it.
+    const auto name = rows.readAt(position, words(m_list.fields[0].column));
+    if (!name) return messages().tellDataFault(name.fault().message);
+    if (*name != values[0]) continue;
+    if (!source().moveTo(position)) return;
     if (agree(values, texts())) return;
   }
   if (offerNew(values)) voice().speakText(words(kOffered));

@@ -8,6 +8,8 @@ namespace screen {
 struct RecordWords {
   const char16_t* stored = u"登録しました";
   const char16_t* deleted = u"削除しました";
+  const char16_t* dropped = u"削除しました";  ///< of a new row that was never stored
+  /// Message where there is no row to delete; nullptr: what is on view is said instead.
   const char16_t* nothingToDelete = u"削除するデータがありません。";
   const char16_t* deleteQuestion = nullptr;   ///< asked before a row is deleted
   const char16_t* deleteTitle = nullptr;      ///< title of that question; with one it has OK and Cancel
@@ -34,10 +36,14 @@ class RecordScreen : public Screen {
  protected:
   /// The row on view as it is said after a move or another act.
   virtual QStringList rowInWords() const = 0;
+  /// Before a move by a record key. False: reported, nothing moves.
+  virtual bool readyToMove() { return true; }
   /// Before storing: blanks to be filled, values to be computed. False: reported, nothing is stored.
   virtual bool readyToStore() { return true; }
   /// Before another row comes on view, by any way: settles what was typed. False: reported, the row stays.
   virtual bool mayLeaveRow();
+  /// After the row was stored.
+  virtual void sayStored() { sayDone(m_words.stored); }
   /// Another row came on view by a record key.
   virtual void rowReached() {}
   /// What is done with the row that is deleted, and where the screen goes then. False: reported.
@@ -45,10 +51,13 @@ class RecordScreen : public Screen {
 
   /// True when nothing typed would be lost, or the user agrees to lose it.
   bool mayDiscard();
+  /// Before the screen closes: settles what was typed. What the file refuses is given up if the user agrees,
+  /// so that it never locks the user in. False: the screen stays.
+  bool mayClose();
   /// Writes the row on view, or what was typed into a table without rows as its first. False: reported.
   bool writeOnView();
   /// Says what was done and the row on view.
-  void sayDone(const char16_t* done);
+  virtual void sayDone(const QString& done);
   const RecordWords& words() const { return m_words; }
 
  private:

@@ -125,7 +125,10 @@ void ClaimPrintScreen::print() {
   job.prepare = [this, &claim] { return claimStands(claim.claim); };
   job.cleanUp = [this] { leave(); };
   voice::VoiceGuide& guide = voice();  // the screen is gone when the print has ended
-  if (runPrint(m_engine, job) == RunEnd::Printed) guide.speakText(QString::fromUtf16(kSent));
+  const RunEnd end = runPrint(m_engine, job);
+  if (end == RunEnd::Printed) guide.speakText(QString::fromUtf16(kSent));
+  // The screen is still open then: the next ＯＫ tries again.
+  if (end == RunEnd::NotTaken) messages().tell(m_engine.lastDocument().fault().message);
 }
 
 void ClaimPrintScreen::leave() {

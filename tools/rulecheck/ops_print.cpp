@@ -114,7 +114,9 @@ void printInto(QJsonObject& reply, const printing::PrintSource& source, const QS
                          : std::unique_ptr<report::DocumentSink>(new report::FileSink(pdf));
   });
   report::RecordingOperations recorder(&engine);
-  printing::runPrint(recorder, printing::claimJob(source, screen, eraDates()));
+  if (printing::runPrint(recorder, printing::claimJob(source, screen, eraDates())) ==
+      printing::RunEnd::NotTaken)
+    reply["error"] = recorder.lastDocument().fault().message;
   reply["calls"] = callsOf(recorder);
   reply["items"] = itemsOf(recorder, context.programFolder, reply["template"].toString());
 }

@@ -62,6 +62,21 @@ TEST_F(ClaimPrint, RefusedPromptLeavesTheScreenOpen) {
   EXPECT_EQ(run.lastAnswer, 2);
 }
 
+TEST_F(ClaimPrint, APrinterThatDoesNotTakeTheDocumentIsReportedAndTheNextTryPrints) {
+  engine.documentResult = text::Fault{u"プリンタの断り"_s};
+  messages.answerFromQueue({true});
+  open(kScreen).trigger(u"Command1"_s);
+  EXPECT_EQ(messages.texts(), QStringList({QString::fromUtf16(kPrompt), u"プリンタの断り"_s}));
+  EXPECT_EQ(channel.lastSaid(), u"プリンタの断り"_s);
+  EXPECT_FALSE(channel.said().contains(u"印刷に送りました。"_s));
+  EXPECT_TRUE(isLoaded(kScreen));
+  engine.documentResult = {};
+  messages.answerFromQueue({true});
+  open(kScreen).trigger(u"Command1"_s);
+  EXPECT_EQ(channel.lastSaid(), u"印刷に送りました。"_s);
+  EXPECT_FALSE(isLoaded(kScreen));
+}
+
 TEST_F(ClaimPrint, ClaimThatFailsItsCheckNeverReachesTheEngine) {
   table.set(u"初療年月日", u"");
   messages.answerFromQueue({true});

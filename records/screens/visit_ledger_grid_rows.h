@@ -1,18 +1,20 @@
+#pragma once
+
 #include "claims/core/form_lists.h"
+#include "platform/screen/rows.h"
 #include "platform/store/tables/claims.h"
-#include "records/screens/visit_ledger_rows.h"
 #include "records/screens/visit_ledger_screen.h"
 
-namespace records {
+// The rows of the visit ledger's day grid 療養費の日付の記入: the claim of a month and its days.
+
+namespace records::visit_ledger_rows {
 
 using namespace screen;
 using Ledger = VisitLedgerScreen;
 
-namespace {
+inline constexpr char16_t kGridMenu[] = u"レセプト日付表示(&D)";
 
-constexpr char16_t kGridMenu[] = u"レセプト日付表示(&D)";
-
-constexpr GridColumn kFirstHalves[] = {
+inline constexpr GridColumn kFirstHalves[] = {
     {claim::month, u"申請年月"},
     {claim::treatmentKind, u"施術内容"},
     {claim::insuranceKind, u"保険の種類"},
@@ -20,8 +22,8 @@ constexpr GridColumn kFirstHalves[] = {
     {claim::firstTreatment, u"初療年月日"},
     {claim::id, u"ID"},
 };
-constexpr GridColumn kSecondHalves[] = {
-    {claim::id, u"ID"},
+inline constexpr GridColumn kSecondHalves[] = {
+    {claim::secondId, u"ID"},
     {claim::reportDate, u"施術報告書交付年月日"},
     {claim::lastReportMonth, u"前回の施術報告書交付年月"},
 };
@@ -36,7 +38,7 @@ consteval TextField readOnlyField(ControlName name, const char16_t* caption, sto
   return TextField{.name = name, .caption = caption, .bind = column, .width = 12, .readOnly = true};
 }
 
-constexpr Row kRows[] = {
+inline constexpr Row kGridRows[] = {
     Bar{},
     TextField{.name = {u"txtFields", 115},
               .caption = u"抽出請求年月:",
@@ -115,8 +117,4 @@ constexpr Row kRows[] = {
     EndGroup{},
 };
 
-}  // namespace
-
-Rows dayGridRows() { return kRows; }
-
-}  // namespace records
+}  // namespace records::visit_ledger_rows

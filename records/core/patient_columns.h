@@ -6,10 +6,9 @@
 
 namespace records {
 
-/// The columns of the patient table that the list of patients is narrowed and sorted by, in the order in
-/// which its dialogs offer them. Unlike the search row of the patient screen they go by the names of the
-/// table (ふりがな) and leave out ID, 治療 and メモ1.
-inline constexpr std::array<store::Column, 30> kListColumns = {
+/// The columns of the patient table that patients are searched, narrowed and sorted by, in the order in which
+/// the dialogs of the patient list offer them.
+inline constexpr std::array<store::Column, 30> kPatientColumns = {
     patients::patientNumber, patients::chartNumber,  patients::kana,         patients::name,
     patients::sex,           patients::birth,        patients::age,          patients::occupation,
     patients::company,       patients::zip,          patients::address[1],   patients::address[2],

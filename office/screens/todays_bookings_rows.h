@@ -1,23 +1,29 @@
+#pragma once
+
 #include "frame/core/routes.h"
 #include "office/screens/booking_rows.h"
 #include "office/screens/todays_bookings_screen.h"
+#include "platform/screen/declare.h"
 #include "platform/screen/opens.h"
 #include "platform/store/tables/bookings.h"
 
-namespace office {
-namespace {
+namespace office::todays_rows {
 
 using namespace screen;
 
-constexpr char16_t kMenu[] = u"メニュー(&M)";
+inline constexpr char16_t kMenu[] = u"メニュー(&M)";
 
-constexpr const char16_t* kSearchColumns[] = {u"予約患者", u"予約時間", u"予約月", u"予約日", u"予約年",
-                                              // Kept: no column of the table; the engine refuses it.
-                                              u"予約曜日", u"患者NO", u"予約日時", u"予約NO", u"メモ1"};
+inline constexpr ColumnChoice kSearched[] = {
+    bookings::patientName,   bookings::time,
+    bookings::month,         bookings::day,
+    bookings::year,          bookings::weekday,
+    bookings::patientNumber, ColumnChoice::missing(u"予約日時"),  // kept: the database refuses it
+    bookings::number,        bookings::memo};
+inline constexpr auto kSearchedNames = captionsOf(kSearched);
 
-constexpr Handler kShowDay = call<&TodaysBookingsScreen::showDay>;
+inline constexpr Handler kShowDay = call<&TodaysBookingsScreen::showDay>;
 
-constexpr Row kRows[] = {
+inline constexpr Row kRows[] = {
     Grid{.name = {u"DBGrid1"},
          .caption = u"予約の一覧",
          .columns = kBookingColumns,
@@ -40,7 +46,7 @@ constexpr Row kRows[] = {
     Combo{.name = {u"Combo4"},
           .caption = u"抽出する項目:",
           .bind = Unbound{u"the column to search"},
-          .items = kSearchColumns,
+          .items = kSearchedNames,
           .say = u"検索の文字選択と文字入力"},
     TextField{.name = {u"txtFields", 0},
               .caption = u"抽出する文字:",
@@ -102,12 +108,19 @@ constexpr Row kRows[] = {
           .run = run<&TodaysBookingsScreen::editBooking>},
 };
 
-}  // namespace
+inline constexpr ScreenRow kDeclaration = declare({.name = routes::TodaysBookings::screen,
+                                                   .caption = u"今日の予約",
+                                                   .rows = kRows,
+                                                   .sources = bookings::table,
+                                                   .functionKeys = true});
 
-constinit const ScreenRow kTodaysBookings{.name = u"今日の予約",
-                                          .caption = u"今日の予約",
-                                          .rows = kRows,
-                                          .sources = bookings::table,
-                                          .functionKeys = true};
+inline constexpr ControlRef kList = ref(kRows, u"DBGrid1");
+inline constexpr DayLists kDay = dayLists(kRows);
+inline constexpr ControlRef kWeekday = ref(kRows, u"Text1");
+inline constexpr ControlRef kColumn = ref(kRows, u"Combo4");
+inline constexpr ControlRef kWord = ref(kRows, u"txtFields", 0);
+inline constexpr ControlRef kPosition = ref(kRows, u"Data1");
+inline constexpr ControlRef kCalendarButton = ref(kRows, u"Command4");
+inline constexpr ControlRef kCalendarEntry = ref(kRows, u"Men_YC");
 
-}  // namespace office
+}  // namespace office::todays_rows
