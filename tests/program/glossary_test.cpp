@@ -27,11 +27,26 @@ bool isOfClass(const screen::Screen& object, const QString& name) {
   return QString::fromLatin1(typeid(object).name()).endsWith(QString::number(name.size()) + name + u'E');
 }
 
-bool fileMentions(const QString& path, const QStringList& words) {
+QString sourceText(const QString& path) {
   QFile file(QStringLiteral(SOURCE_FOLDER "/") + path);
-  if (!file.open(QIODevice::ReadOnly)) return false;
-  const QString text = QString::fromUtf8(file.readAll());
-  return std::ranges::any_of(words, [&](const QString& word) { return text.contains(word); });
+  return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// The route to a screen as sources write it: "routes::TodaysBookings"; null for an unknown screen.
+QString routeTo(const QString& screenName) {
+  static const QString routes = sourceText(u"frame/core/routes.h"_s);
+  const QRegularExpression declared(
+      u"struct (\\w+) \\{\\s+static constexpr ScreenName screen\\{u\"%1\"\\}"_s.arg(
+          QRegularExpression::escape(screenName)));
+  const QRegularExpressionMatch route = declared.match(routes);
+  return route.hasMatch() ? u"routes::"_s + route.captured(1) : QString();
+}
+
+/// Whether the file declares the class or the rows of the screen.
+bool fileDeclares(const QString& path, const QString& className, const QString& screenName) {
+  const QString text = sourceText(path), route = routeTo(screenName);
+  if (text.contains(u"class "_s + className) || text.contains(u"u\""_s + screenName + u'"')) return true;
+  return !route.isNull() && text.contains(QRegularExpression(route + u"\\b"_s));
 }
 
 QStringList without(QStringList list, const QStringList& others) {
@@ -58,8 +73,7 @@ TEST_F(GlossaryTest, ScreenLinesGiveClassFileAndMeaning) {
     const screen::Screen* loaded = m_application->navigator().load(row[0]);
     ASSERT_NE(loaded, nullptr);
     EXPECT_TRUE(isOfClass(*loaded, row[1])) << row[1].toStdString() << " but " << typeid(*loaded).name();
-    EXPECT_TRUE(fileMentions(row[2], {u"class "_s + row[1], u"u\""_s + row[0] + u'"'}))
-        << row[2].toStdString();
+    EXPECT_TRUE(fileDeclares(row[2], row[1], row[0])) << row[2].toStdString();
     EXPECT_FALSE(row[3].isEmpty());
   }
 }
