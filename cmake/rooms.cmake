@@ -71,5 +71,5 @@ function(room_tests NAME)
   endif()
   add_test(NAME ${NAME} COMMAND ${NAME})
   set_tests_properties(${NAME} PROPERTIES LABELS ${ROOM_LABEL}
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=C.UTF-8;TZ=Asia/Tokyo;SPEECHD_ADDRESS=unix_socket:/nonexistent/speech;CUPS_SERVER=/nonexistent/cups")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=C.UTF-8;TZ=Asia/Tokyo;SPEECHD_ADDRESS=unix_socket:/nonexistent/speech;CUPS_SERVER=/nonexistent/cups;QT_FATAL_CRITICALS=1")
 endfunction()

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/store/tables/claims.h"
+
 namespace claims {
 
 QString shareTicksText(const ShareTicks& ticks) {
@@ -20,14 +22,14 @@ ShareTicks shareTicksOf(const QString& text) {
 
 ShareTicks tickValuesOf(const ClaimRecord& claim) {
   ShareTicks ticks{};
-  for (size_t i = 0; i < ticks.size(); ++i) ticks[i] = claim.ticked(columnName(kShareTicks[i].column));
+  for (size_t i = 0; i < ticks.size(); ++i) ticks[i] = claim.ticked(kShareTicks[i].column);
   return ticks;
 }
 
 ShareTicks shareTicksOf(const ClaimRecord& claim) {
   const ShareTicks ticks = tickValuesOf(claim);
   const bool any = std::ranges::find(ticks, true) != ticks.end();
-  return any ? ticks : shareTicksOf(claim.get(QStringLiteral("負担割合")));
+  return any ? ticks : shareTicksOf(claim.get(claim::shareTicks));
 }
 
 }  // namespace claims

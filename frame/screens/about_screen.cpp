@@ -2,6 +2,8 @@
 
 #include <QStandardPaths>
 
+#include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 #include "platform/shell/desktop.h"
 
 namespace frame {
@@ -27,7 +29,8 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{.name = u"frmAbout", .caption = u"ﾊﾞｰｼﾞｮﾝ情報", .rows = kRows};
+constexpr ScreenRow kDeclaration =
+    declare({.name = routes::About::screen, .caption = u"ﾊﾞｰｼﾞｮﾝ情報", .rows = kRows});
 
 }  // namespace
 
@@ -41,6 +44,6 @@ void AboutScreen::showSystemInformation() {
   messages().tell(u"現時点ではｼｽﾃﾑ情報を使用できません"_s);
 }
 
-void AboutScreen::finish() { navigator().unload(u"frmAbout"_s); }
+void AboutScreen::finish() { navigator().unload(routes::About::screen); }
 
 }  // namespace frame

@@ -1,5 +1,8 @@
 #include "frame/screens/fee_screen.h"
 
+#include "frame/core/routes.h"
+#include "platform/screen/declare.h"
+#include "platform/store/tables/fees.h"
 #include "platform/text/number.h"
 
 namespace frame {
@@ -11,42 +14,47 @@ namespace {
 
 /// The column that a box shows and the column that saving writes.
 struct FeeBox {
-  const char16_t* shown;
-  const char16_t* saved;
+  store::Column shown;
+  store::Column saved;
 };
 
 // Kept: two boxes show another column than they save, which is one more reason why the button stays hidden.
 constexpr FeeBox kBoxes[] = {
-    {u"はり", u"はり"},
-    {u"はり初回", u"はり初回"},
-    {u"はり電療", u"はり電療"},
-    {u"はり電療初回", u"はり電療初回"},
-    {u"灸", u"灸"},
-    {u"灸初回", u"灸初回"},
-    {u"灸電療", u"灸電療"},
-    {u"灸電療初回", u"灸電療初回"},
-    {u"はり灸", u"はり灸"},
-    {u"はり灸初回", u"はり灸初回"},
-    {u"はり灸電療", u"はり灸電療"},
-    {u"はり灸電療初回", u"はり灸電療初回"},
-    {u"マッサージ1局所", u"マッサージ1局所"},
-    {u"温罨法", u"温罨法"},
-    {u"電気光線器具併用", u"電気光線器具併用"},
-    {u"徒手矯正術", u"徒手矯正術"},
-    {u"突発的な往療", u"往診料2Kまで"},
-    {u"加算往診料2K", u"加算往診料2K"},
-    {u"加算往診料4K", u"加算往診料4K"},
-    {u"加算往診料6K", u"加算往診料6K"},
-    {u"加算往診料8K", u"加算往診料8K"},
-    {u"加算往診料10K", u"加算往診料10K"},
-    {u"加算往診料12K", u"加算往診料12K"},
-    {u"特別地域", u"加算往診料14K"},
-    {u"加算往診料16K", u"加算往診料16K"},
+    {fees::hari, fees::hari},
+    {fees::hariFirst, fees::hariFirst},
+    {fees::hariElectric, fees::hariElectric},
+    {fees::hariElectricFirst, fees::hariElectricFirst},
+    {fees::kyu, fees::kyu},
+    {fees::kyuFirst, fees::kyuFirst},
+    {fees::kyuElectric, fees::kyuElectric},
+    {fees::kyuElectricFirst, fees::kyuElectricFirst},
+    {fees::hariKyu, fees::hariKyu},
+    {fees::hariKyuFirst, fees::hariKyuFirst},
+    {fees::hariKyuElectric, fees::hariKyuElectric},
+    {fees::hariKyuElectricFirst, fees::hariKyuElectricFirst},
+    {fees::massageArea, fees::massageArea},
+    {fees::warm, fees::warm},
+    {fees::warmLight, fees::warmLight},
+    {fees::limb, fees::limb},
+    {fees::sudden, fees::base2K},
+    {fees::add2K, fees::add2K},
+    {fees::add4K, fees::add4K},
+    {fees::add6K, fees::add6K},
+    {fees::add8K, fees::add8K},
+    {fees::add10K, fees::add10K},
+    {fees::add12K, fees::add12K},
+    {fees::specialArea, fees::add14K},
+    {fees::add16K, fees::add16K},
 };
 constexpr int kBoxCount = static_cast<int>(std::size(kBoxes));
 constexpr int kCheckedBoxes = 24;  // kept: the last box was never tested
 
 constexpr Unbound kShown{u"shows one column and saves another"};
+
+consteval TextField feeBox(int number, const char16_t* caption) {
+  return TextField{
+      .name = {u"Text1", number}, .caption = caption, .bind = kShown, .width = 8, .readOnly = true};
+}
 
 constexpr Row kRows[] = {
     Note{.name = {u"Label26"},
@@ -63,64 +71,31 @@ constexpr Row kRows[] = {
     Note{
         .name = {u"Label28"}, .caption = u"音声の場合は、タブ移動で項目ごとに確認できます。", .spoken = true},
     Group{.name = {u"Frame1"}, .caption = u"料金", .columns = 4},
-    TextField{
-        .name = {u"Text1", 1}, .caption = u"はりor灸の1術", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 2}, .caption = u"はりor灸の1術初回", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 3}, .caption = u"1術の電療", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 4}, .caption = u"はり電療初回", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 5}, .caption = u"灸", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 6}, .caption = u"灸初回", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 7}, .caption = u"灸電療", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 8}, .caption = u"灸電療初回", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 9}, .caption = u"はりと灸の2術", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 10},
-              .caption = u"はりと灸の2術りの初回",
-              .bind = kShown,
-              .width = 8,
-              .readOnly = true},
-    TextField{.name = {u"Text1", 11}, .caption = u"2術の電療", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 12}, .caption = u"はり灸電療初回", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 13}, .caption = u"マッサージ1局所", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 14}, .caption = u"温罨法", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 15}, .caption = u"電気光線器具併用", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 16}, .caption = u"変形徒手矯正術", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 17}, .caption = u"突発的な往療", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 18}, .caption = u"加算往診料2K", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 19}, .caption = u"加算往診料4K", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 20},
-              .caption = u"訪問施術①（1人）+施術費",
-              .bind = kShown,
-              .width = 8,
-              .readOnly = true},
-    TextField{.name = {u"Text1", 21},
-              .caption = u"訪問施術②（2人）+施術費",
-              .bind = kShown,
-              .width = 8,
-              .readOnly = true},
-    TextField{.name = {u"Text1", 22},
-              .caption = u"訪問施術③（3人～9人）+施術費",
-              .bind = kShown,
-              .width = 8,
-              .readOnly = true},
-    TextField{.name = {u"Text1", 23},
-              .caption = u"訪問施術③（10人以上）+施術費",
-              .bind = kShown,
-              .width = 8,
-              .readOnly = true},
-    TextField{
-        .name = {u"Text1", 24}, .caption = u"特別地域加算", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 25}, .caption = u"施術報告書交付料", .bind = kShown, .width = 8, .readOnly = true},
+    feeBox(1, u"はりor灸の1術"),
+    feeBox(2, u"はりor灸の1術初回"),
+    feeBox(3, u"1術の電療"),
+    feeBox(4, u"はり電療初回"),
+    feeBox(5, u"灸"),
+    feeBox(6, u"灸初回"),
+    feeBox(7, u"灸電療"),
+    feeBox(8, u"灸電療初回"),
+    feeBox(9, u"はりと灸の2術"),
+    feeBox(10, u"はりと灸の2術りの初回"),
+    feeBox(11, u"2術の電療"),
+    feeBox(12, u"はり灸電療初回"),
+    feeBox(13, u"マッサージ1局所"),
+    feeBox(14, u"温罨法"),
+    feeBox(15, u"電気光線器具併用"),
+    feeBox(16, u"変形徒手矯正術"),
+    feeBox(17, u"突発的な往療"),
+    feeBox(18, u"加算往診料2K"),
+    feeBox(19, u"加算往診料4K"),
+    feeBox(20, u"訪問施術①（1人）+施術費"),
+    feeBox(21, u"訪問施術②（2人）+施術費"),
+    feeBox(22, u"訪問施術③（3人～9人）+施術費"),
+    feeBox(23, u"訪問施術③（10人以上）+施術費"),
+    feeBox(24, u"特別地域加算"),
+    feeBox(25, u"施術報告書交付料"),
     EndGroup{},
     Bar{},
     Command{.name = {u"Command3"}, .caption = u"ここを音声で説明", .run = run<&FeeScreen::explain>},
@@ -129,10 +104,15 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{
-    .name = u"料金変更", .caption = u"料金確認", .rows = kRows, .sources = 1, .heading = u"料金確認"};
+constexpr ScreenRow kDeclaration = declare({.name = routes::Fees::screen,
+                                            .caption = u"料金確認",
+                                            .rows = kRows,
+                                            .sources = fees::table,
+                                            .heading = u"料金確認"});
 
-QString box(int number) { return u"Text1(%1)"_s.arg(number); }
+constexpr FamilyRef kBox = family(kRows, u"Text1");  // numbered from 1
+constexpr ControlRef kSave = ref(kRows, u"Command1");
+constexpr ControlRef kNotes[] = {ref(kRows, u"Label26"), ref(kRows, u"Label27"), ref(kRows, u"Label28")};
 
 }  // namespace
 
@@ -140,26 +120,28 @@ FeeScreen::FeeScreen(Services& services, RunState& run) : Screen(kDeclaration, s
 
 // The row with the highest ID rules.
 void FeeScreen::onLoad() {
-  setShown(u"Command1"_s, false);
-  if (!source().open(m_run.folders[folder::kFees], u"料金設定"_s)) return;
-  source().rows().moveLast();
+  setShown(kSave, false);
+  if (!source().open(m_run.folders[folder::kFees])) return;
+  if (!source().moveAndShow(&store::RecordSet::moveLast)) return;
   for (int i = 0; i < kBoxCount; ++i) {
-    const QString value = source().rows().value(QString::fromUtf16(kBoxes[i].shown));
-    setText(box(i + 1), value.isEmpty() ? QString() : QString::number(text::intOf(value)));
+    const QString value = source().rows().value(kBoxes[i].shown);
+    setText(kBox[i + 1], value.isEmpty() ? QString() : QString::number(text::intOf(value)));
   }
 }
 
 void FeeScreen::explain() {
-  voice().speakHeading({caption(u"Label26"_s), caption(u"Label27"_s), caption(u"Label28"_s)});
+  QStringList notes;
+  for (const ControlRef& note : kNotes) notes += caption(note);
+  voice().speakHeading(notes);
 }
 
 bool FeeScreen::checkBoxes() {
   for (int number = 1; number <= kCheckedBoxes; ++number) {
-    const QString value = text(box(number));
+    const QString value = text(kBox[number]);
     const bool digits =
         std::all_of(value.begin(), value.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
     if (!value.isEmpty() && digits) continue;
-    messages().tell(caption(box(number)) +
+    messages().tell(caption(kBox[number]) +
                     (value.isEmpty() ? u"の料金が入力されていません"_s : u"の料金が正しくありません"_s));
     return false;
   }
@@ -174,8 +156,7 @@ void FeeScreen::save() {
   store::RecordSet& rows = source().rows();
   for (rows.moveFirst(); !rows.eof(); rows.moveNext()) {
     text::Done done = rows.edit();
-    for (int i = 0; done && i < kBoxCount; ++i)
-      done = rows.setValue(QString::fromUtf16(kBoxes[i].saved), text(box(i + 1)));
+    for (int i = 0; done && i < kBoxCount; ++i) done = rows.setValue(kBoxes[i].saved, text(kBox[i + 1]));
     if (done) done = rows.update();
     if (!done) return messages().tellDataFault(done.fault().message);
   }
@@ -183,6 +164,6 @@ void FeeScreen::save() {
   messages().tell(u"料金設定の変更が終了しました"_s);
 }
 
-void FeeScreen::finish() { navigator().unload(u"料金変更"_s); }
+void FeeScreen::finish() { navigator().unload(routes::Fees::screen); }
 
 }  // namespace frame

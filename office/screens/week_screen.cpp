@@ -1,9 +1,12 @@
 #include "office/screens/week_screen.h"
 
+#include "frame/core/routes.h"
 #include "office/core/booking_date.h"
 #include "office/screens/booking_rows.h"
+#include "platform/screen/declare.h"
 #include "platform/screen/find_row.h"
 #include "platform/screen/opens.h"
+#include "platform/store/tables/bookings.h"
 
 namespace office {
 
@@ -25,7 +28,7 @@ constexpr Row kRows[] = {
               .width = 18,
               .readOnly = true},
     TabRow{.name = {u"SSTab1"}, .caption = u"曜日:", .tabs = kTabs, .onChoose = call<&WeekScreen::showDay>},
-    Grid{.name = {u"DBGrid1"}, .caption = u"予約の一覧", .source = 1, .columns = kBookingColumns},
+    Grid{.name = {u"DBGrid1"}, .caption = u"予約の一覧", .columns = kBookingColumns},
     Bar{},
     Command{.name = {u"Command2"}, .caption = u"今週", .run = run<&WeekScreen::showThisWeek>},
     Command{.name = {u"Command3"}, .caption = u"来週", .run = run<&WeekScreen::showNextWeek>},
@@ -36,16 +39,29 @@ constexpr Row kRows[] = {
             .tip = kHandOverTip},
     Command{.name = {u"Command1"}, .caption = u"閉じる", .run = run<&BookingList::finish>},
     EndBar{},
-    Entry{.name = {u"Men_YS"}, .under = kMenu, .caption = u"予約日を指定して検索", .run = opens<u"抽出5">},
+    Entry{.name = {u"Men_YS"},
+          .under = kMenu,
+          .caption = u"予約日を指定して検索",
+          .run = opens<routes::PickDayOfWeek>},
 };
+
+constexpr ScreenRow kDeclaration = declare({.name = routes::WeekOfBookings::screen,
+                                            .caption = u"予約週間表",
+                                            .rows = kRows,
+                                            .sources = bookings::table,
+                                            .functionKeys = true});
+
+constexpr ControlRef kDayOnView = ref(kRows, u"Text1");
+constexpr ControlRef kWeekdays = ref(kRows, u"SSTab1");
+constexpr ControlRef kList = ref(kRows, u"DBGrid1");
+constexpr ControlRef kThisWeek = ref(kRows, u"Command2");
+constexpr ControlRef kNextWeek = ref(kRows, u"Command3");
+constexpr ControlRef kLastWeek = ref(kRows, u"Command4");
 
 }  // namespace
 
-constinit const ScreenRow kWeek{
-    .name = u"予約週間表", .caption = u"予約週間表", .rows = kRows, .sources = 1, .functionKeys = true};
-
 WeekScreen::WeekScreen(screen::Services& services, frame::RunState& run)
-    : BookingList(kWeek, services, run) {}
+    : BookingList(kDeclaration, kList, services, run) {}
 
 void WeekScreen::opened(const screen::Request&) {
   standOn(0);
@@ -63,19 +79,19 @@ void WeekScreen::showWeek(int days) {
 
 void WeekScreen::standOn(int days) {
   m_reference = m_run.clock->today().addDays(days);
-  setText(u"SSTab1"_s, QString::fromUtf16(kTabs[tabOf(m_reference) - 1]));
+  setText(kWeekdays, QString::fromUtf16(kTabs[tabOf(m_reference) - 1]));
   // Before the button under the focus goes out, the focus goes to the days.
-  focusOn(u"SSTab1"_s);
+  focusOn(kWeekdays);
   // One week to either side is all that the view reaches.
-  setEnabledControl(u"Command2"_s, days != 0);
-  setEnabledControl(u"Command3"_s, days == 0);
-  setEnabledControl(u"Command4"_s, days == 0);
+  setEnabledControl(kThisWeek, days != 0);
+  setEnabledControl(kNextWeek, days == 0);
+  setEnabledControl(kLastWeek, days == 0);
 }
 
 void WeekScreen::showDay() {
-  const QDate date = dayOfTab(m_reference, chosenItem(u"SSTab1"_s) + 1);
+  const QDate date = dayOfTab(m_reference, chosenItem(kWeekdays) + 1);
   const QString spelled = dayText(m_run.eraDates(), date);
-  setText(u"Text1"_s, spelled);
+  setText(kDayOnView, spelled);
   m_run.dayAsked = numbersOf(date);
   auto hits = openWhole() ? bookingsOfDay(m_run.dayAsked) : std::nullopt;
   // Told by then: no other day's rows are left under this date.

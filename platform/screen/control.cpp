@@ -3,14 +3,25 @@
 #include <QtWidgets/QtWidgets>
 
 #include "platform/screen/captions.h"
+#include "platform/screen/declare.h"
 #include "platform/voice/voice_guide.h"
 
 namespace screen {
 
-QString objectName(const ControlName& name, int offset) {
-  const QString family = QString::fromUtf16(name.family());
-  return name.index() < 0 ? family : QStringLiteral("%1(%2)").arg(family).arg(name.index() + offset);
+namespace {
+
+QString objectName(const char16_t* family, int index) {
+  const QString name = QString::fromUtf16(family);
+  return index < 0 ? name : name + u'(' + QString::number(index) + u')';
 }
+
+}  // namespace
+
+QString objectName(const ControlName& name, int offset) {
+  return objectName(name.family(), name.index() < 0 ? -1 : name.index() + offset);
+}
+
+QString ControlRef::name() const { return objectName(m_family, m_index); }
 
 Control::Control(Screen& screen, const ControlName& name, const QString& caption, int offset)
     : m_screen(screen),

@@ -12,10 +12,11 @@ QString GridModel::columnCaption(int column) const {
 
 QString GridModel::cell(int row, int column) const {
   if (!has(row, column)) return {};
-  const QString name = QString::fromUtf16(m_columns[static_cast<size_t>(column)].column);
-  const QString value = m_rows.valueAt(row, name);
-  if (!m_rows.isYesNo(name)) return value;
-  return value == u"-1" ? QStringLiteral("Yes") : QStringLiteral("No");
+  const store::Column& asked = m_columns[static_cast<size_t>(column)].column;
+  const store::Result<store::Value> value = m_rows.readAt(row, asked);
+  if (!value) return QString::fromUtf16(kUnreadableText);
+  if (!m_rows.isYesNo(asked)) return *value;
+  return *value == u"-1" ? QStringLiteral("Yes") : QStringLiteral("No");
 }
 
 void GridModel::follow() {

@@ -6,7 +6,7 @@ namespace screen {
 namespace {
 
 constexpr int kGap = 6;
-/// Up to so many fields in a line stand behind their labels, more of them below.
+/// Up to so many fields in a line follow their labels, more of them are placed below.
 constexpr int kBesideAtMost = 3;
 
 QGridLayout* gridOf(QWidget* host, int margin) {

@@ -12,8 +12,8 @@ Screen::Screen(const ScreenRow& declaration, Services& services)
     : m_declaration(declaration), m_services(services), m_parts(std::make_unique<Parts>(*this, services)) {
   setObjectName(QString::fromUtf16(declaration.name.get()));
   setWindowTitle(QString::fromUtf16(declaration.caption.get()));
-  for (int number = 1; number <= declaration.sources; ++number)
-    m_sources.push_back(std::make_unique<DataSource>(*this, number));
+  for (int number = 1; number <= declaration.sources.count(); ++number)
+    m_sources.push_back(std::make_unique<DataSource>(*this, number, *declaration.sources.table(number)));
   Builder(*this).build();
 }
 

@@ -1,24 +1,25 @@
 #include "records/screens/search_screen.h"
 
+#include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 #include "platform/screen/find_row.h"
 #include "platform/screen/opens.h"
 #include "platform/store/criteria_text.h"
-#include "records/core/search_columns.h"
+#include "platform/store/tables/patients.h"
 #include "records/core/search_history.h"
 
 namespace records {
 
 using namespace screen;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr Choice kColumns[] = {
-    {.name = {u"Option1"}, .caption = u"患者ID", .value = u"患者ID"},
-    {.name = {u"Option2"}, .caption = u"カルテ番号", .value = u"カルテ番号"},
-    {.name = {u"Option3"}, .caption = u"フリガナ", .value = u"ふりがな"},
-    {.name = {u"Option4"}, .caption = u"氏名", .value = u"氏名"},
-    {.name = {u"Option5"}, .caption = u"生年月日", .value = u"生年月日"},
+    {.name = {u"Option1"}, .caption = u"患者ID", .value = patients::patientNumber.name()},
+    {.name = {u"Option2"}, .caption = u"カルテ番号", .value = patients::chartNumber.name()},
+    {.name = {u"Option3"}, .caption = u"フリガナ", .value = patients::kana.name()},
+    {.name = {u"Option4"}, .caption = u"氏名", .value = patients::name.name()},
+    {.name = {u"Option5"}, .caption = u"生年月日", .value = patients::birth.name()},
 };
 
 constexpr Row kRows[] = {
@@ -37,13 +38,17 @@ constexpr Row kRows[] = {
     Bar{},
     Command{.name = {u"Command3"}, .caption = u"検索", .run = run<&SearchScreen::search>, .standard = true},
     Command{.name = {u"Command1"}, .caption = u"新規作成", .run = run<&SearchScreen::newPatient>},
-    Command{.name = {u"Command4"}, .caption = u"一覧と印刷", .run = opens<u"一覧表">},
+    Command{.name = {u"Command4"}, .caption = u"一覧と印刷", .run = opens<routes::PatientList>},
     Command{
         .name = {u"Command2"}, .caption = u"キャンセル", .run = run<&SearchScreen::cancel>, .key = u"Esc"},
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{.name = u"選択4", .caption = u"検索", .rows = kRows, .heading = u"検索"};
+constexpr ScreenRow kDeclaration =
+    declare({.name = routes::PatientSearch::screen, .caption = u"検索", .rows = kRows, .heading = u"検索"});
+
+constexpr ControlRef kColumn = ref(kRows, u"Frame1");
+constexpr ControlRef kWord = ref(kRows, u"Combo1");
 
 }  // namespace
 
@@ -51,59 +56,60 @@ SearchScreen::SearchScreen(Services& services, frame::RunState& run)
     : Screen(kDeclaration, services), m_run(run) {}
 
 void SearchScreen::onLoad() {
-  choose(u"Frame1"_s, u"氏名"_s);
-  setItems(u"Combo1"_s, SearchHistory(m_run.programFolder).words());
-  setText(u"Combo1"_s, QString());
+  choose(kColumn, patients::name);
+  setItems(kWord, SearchHistory(m_run.programFolder).words());
+  setText(kWord, QString());
 }
 
 void SearchScreen::opened(const Request& request) {
-  setItems(u"Combo1"_s, SearchHistory(m_run.programFolder).words());
-  if (!request.contains(u"氏名"_s)) return focusOn(u"Frame1"_s);
-  choose(u"Frame1"_s, u"氏名"_s);
-  setText(u"Combo1"_s, request[u"氏名"_s].toString());
-  focusOn(u"Combo1"_s);
+  setItems(kWord, SearchHistory(m_run.programFolder).words());
+  const auto* route = request.as<routes::PatientSearch>();
+  if (!route || !route->name) return focusOn(kColumn);
+  choose(kColumn, patients::name);
+  setText(kWord, *route->name);
+  focusOn(kWord);
 }
 
-Screen* SearchScreen::patients() {
-  Screen* screen = navigator().load(u"治療台帳4"_s);
+Screen* SearchScreen::openedRegister() {
+  Screen* screen = navigator().load(routes::PatientRegister::screen);
   return screen != nullptr && screen->source().isOpen() ? screen : nullptr;
 }
 
 void SearchScreen::showEmptyNotice() {
-  navigator().show(u"治療台帳4"_s);
-  navigator().show(u"無データ"_s);
-  navigator().unload(u"選択4"_s);
+  navigator().show(routes::PatientRegister{});
+  navigator().show(routes::AskFirstPatient{});
+  navigator().unload(routes::PatientSearch::screen);
 }
 
 QString SearchScreen::criteria(const QString& word) const {
-  const QString column = chosen(u"Frame1"_s);
+  const QString column = chosen(kColumn);
   // Numbers are looked up whole, names and dates by any part.
-  const bool exact = column == u"患者ID" || column == u"カルテ番号";
+  const bool exact = column == patients::patientNumber.text() || column == patients::chartNumber.text();
   return exact ? store::equalCriterion(column, word) : store::likeCriterion(column, word);
 }
 
 void SearchScreen::search() {
-  Screen* screen = patients();
+  Screen* screen = openedRegister();
   if (screen == nullptr) return;
   if (screen->source().rows().recordCount() == 0) return showEmptyNotice();
-  const QString word = text(u"Combo1"_s);
+  const QString word = text(kWord);
   if (!word.isEmpty()) {
     // A history that cannot be written costs nothing: the search itself goes on.
     (void)SearchHistory(m_run.programFolder).remember(word);
-    if (!settleRow(screen->source()) || !findRow(*screen, criteria(word))) return;
+    if (!commitOrDiscardRow(screen->source()) || !findRow(*screen, criteria(word))) return;
   }
-  navigator().show(u"治療台帳4"_s, {{u"表示患者"_s, true}});
-  navigator().unload(u"選択4"_s);
+  navigator().show(routes::PatientRegister{routes::PatientRegister::Announced{}});
+  navigator().unload(routes::PatientSearch::screen);
 }
 
 void SearchScreen::newPatient() {
-  Screen* screen = patients();
+  Screen* screen = openedRegister();
   if (screen == nullptr) return;
   if (screen->source().rows().recordCount() == 0) return showEmptyNotice();
-  navigator().show(u"治療台帳4"_s, {{u"新規"_s, true}});
-  navigator().unload(u"選択4"_s);
+  navigator().show(routes::PatientRegister{routes::PatientRegister::NewPatient{}});
+  navigator().unload(routes::PatientSearch::screen);
 }
 
-void SearchScreen::cancel() { navigator().unload(u"選択4"_s); }
+void SearchScreen::cancel() { navigator().unload(routes::PatientSearch::screen); }
 
 }  // namespace records

@@ -75,6 +75,24 @@ void ProgramTest::press(const QString& screenName, const QString& control) {
   key(Qt::Key_Space);
 }
 
+void ProgramTest::follow(const Road& road) {
+  m_voice.clear();
+  m_application->navigator().show(
+      QString::fromUtf16(road.steps.empty() ? road.screen : road.steps.front().screen));
+  for (const Step& step : road.steps) {
+    goTo(QString::fromUtf16(step.screen), QString::fromUtf16(step.control));
+    m_voice.clear();
+    key(step.key);
+  }
+}
+
+void ProgramTest::closeAllButTheMenu() {
+  for (const QString& name : m_application->registry().names())
+    if (name != QStringLiteral("選択3")) m_application->navigator().unload(name);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  told();
+}
+
 QStringList ProgramTest::told() {
   const QStringList texts = m_application->messages().texts();
   m_application->messages().forget();

@@ -8,6 +8,7 @@
 #include "app/application.h"
 #include "platform/screen/testing/screen_probe.h"
 #include "platform/voice/recording_channel.h"
+#include "tests/program/screen_roads.h"
 
 namespace program {
 
@@ -33,6 +34,9 @@ class ProgramTest : public testing::Test {
   void fill(const QString& screenName, const QString& control, const QString& text);
   /// Goes to the button and presses the space bar.
   void press(const QString& screenName, const QString& control);
+  /// Goes the way to a screen. The voice holds what is heard from its last step on.
+  void follow(const Road& road);
+  void closeAllButTheMenu();
   /// Messages since the last call.
   QStringList told();
   void answer(const QList<bool>& answers) { m_application->messages().answerFromQueue(answers); }

@@ -12,7 +12,7 @@ class Binding : public ::testing::Test {
  protected:
   void SetUp() override {
     path = harness.patientsFile({"見本一", "見本二", "見本三"});
-    ASSERT_TRUE(screen.source().open(path, "臨床QV"));
+    ASSERT_TRUE(screen.source().open(path));
   }
   /// The row as another reader of the file sees it.
   store::Value stored(int position, const QString& column) {
@@ -231,7 +231,7 @@ TEST_F(Binding, FilteredCopyTakesThePlaceOfTheSet) {
 TEST(BindingFault, MissingFileIsToldByNameAndTheScreenStillWorks) {
   Harness harness;
   SampleScreen screen(harness.services);
-  EXPECT_FALSE(screen.source().open(harness.folder.filePath("無い.mdb"), "臨床QV"));
+  EXPECT_FALSE(screen.source().open(harness.folder.filePath("無い.mdb")));
   ASSERT_EQ(harness.messages.texts().size(), 1);
   EXPECT_TRUE(harness.messages.texts()[0].contains("無い.mdb"));
   screen.source().moveNext();

@@ -7,6 +7,8 @@
 #include "platform/screen/grid_view.h"
 #include "platform/store/bulk.h"
 #include "platform/store/database.h"
+#include "platform/store/tables/patients.h"
+#include "platform/store/tables/visits.h"
 #include "sample_screen.h"
 
 namespace screen::testing {
@@ -17,7 +19,7 @@ const QString kPart = QChar(254);
 class GridRows : public ::testing::Test {
  protected:
   void SetUp() override {
-    ASSERT_TRUE(screen.source().open(harness.patientsFile({"見本一", "見本二", "見本三"}), "臨床QV"));
+    ASSERT_TRUE(screen.source().open(harness.patientsFile({"見本一", "見本二", "見本三"})));
     probe.open();
     screen.focusOn("DBGrid1");
     screen.log.clear();
@@ -124,7 +126,7 @@ class WatchedModel : public GridModel {
 
 TEST(GridReading, IsLimitedToTheRowsThatAreSeen) {
   constexpr int kRows = 400;
-  constexpr GridColumn kColumns[] = {{u"氏名", u"氏名"}};
+  constexpr GridColumn kColumns[] = {{patients::name, u"氏名"}};
   Harness harness;
   QStringList names;
   for (int i = 0; i < kRows; ++i) names += QStringLiteral("見本%1").arg(i);
@@ -148,7 +150,7 @@ TEST(GridReading, IsLimitedToTheRowsThatAreSeen) {
 }
 
 TEST(GridMarks, AreShownInTheWordsOfTheirSearch) {
-  constexpr GridColumn kColumns[] = {{u"新患", u"新患"}, {u"治療概略", u"治療概略"}};
+  constexpr GridColumn kColumns[] = {{visits::isNew, u"新患"}, {visits::summary, u"治療概略"}};
   Harness harness;
   const QString path = harness.folder.filePath("カルテ2データ2000.mdb");
   ASSERT_TRUE(store::createFresh(path, "カルテ2データ2000.mdb"));

@@ -6,6 +6,7 @@
 #include "platform/screen/sort_dialog.h"
 #include "platform/store/bulk.h"
 #include "platform/store/database.h"
+#include "platform/store/tables/patients.h"
 #include "sample_screen.h"
 
 // A list with its two dialogs, and the search that walks round.
@@ -15,19 +16,22 @@ namespace {
 
 const QString kPart = QChar(254);
 
-constexpr GridColumn kGridColumns[] = {{u"氏名", u"氏名"}};
+constexpr GridColumn kGridColumns[] = {{patients::name, u"氏名"}};
 constexpr Row kListRows[] = {
-    Grid{.name = u"DBGrid1", .caption = u"一覧", .source = 1, .columns = kGridColumns},
-    TextField{.name = u"Text1", .caption = u"職業:", .bind = Column{u"職業"}},
+    Grid{.name = u"DBGrid1", .caption = u"一覧", .columns = kGridColumns},
+    TextField{.name = u"Text1", .caption = u"職業:", .bind = patients::occupation},
 };
-constexpr ScreenRow kListScreen{
-    .name = u"見本一覧", .caption = u"見本一覧", .rows = kListRows, .sources = 1, .functionKeys = true};
+constexpr ScreenRow kListScreen{.name = u"見本一覧",
+                                .caption = u"見本一覧",
+                                .rows = kListRows,
+                                .sources = patients::table,
+                                .functionKeys = true};
 
 class SampleList : public ListScreen {
  public:
   SampleList(Services& services, const QString& file) : ListScreen(kListScreen, services), m_file(file) {}
   void onLoad() override { openWhole(); }
-  bool openWhole() override { return source().open(m_file, "臨床QV"); }
+  bool openWhole() override { return source().open(m_file); }
   QString noRowsText() const override { return "０件です"; }
   QString noRowsToSortText() const override { return "並び替える行がありません"; }
   QStringList rowOnView() const override { return {source().positionText(), source().rows().value("氏名")}; }
@@ -48,7 +52,8 @@ class SampleList : public ListScreen {
   QString m_file;
 };
 
-constexpr ColumnChoice kColumns[] = {{u"お名前", u"氏名"}, {u"印", u"yn1", true}, {u"ない項目", u"ない項目"}};
+constexpr ColumnChoice kColumns[] = {
+    {u"お名前", patients::name}, {u"印", patients::spareMark[1]}, ColumnChoice::missing(u"ない項目")};
 constexpr ExtractRow kExtract[] = {{.name = u"抽出見本",
                                     .caption = u"抽出",
                                     .list = u"見本一覧",
@@ -277,14 +282,14 @@ TEST_F(ListDialogs, FindRowWithoutAHitKeepsTheRow) {
 TEST_F(ListDialogs, SettlingWritesAnEditAndDropsAnUnstoredRow) {
   addThree();
   list().setText("Text1", "自営");
-  EXPECT_TRUE(settleRow(list().source()));
+  EXPECT_TRUE(commitOrDiscardRow(list().source()));
   EXPECT_EQ(list().source().rows().value("職業"), "自営");
   ASSERT_TRUE(list().source().addNew());
   list().setText("Text1", "会社員");
-  EXPECT_TRUE(settleRow(list().source()));
+  EXPECT_TRUE(commitOrDiscardRow(list().source()));
   EXPECT_EQ(list().source().rows().recordCount(), 3);
   list().setText("Text1", QString(300, u'あ'));
-  EXPECT_FALSE(settleRow(list().source()));
+  EXPECT_FALSE(commitOrDiscardRow(list().source()));
   EXPECT_EQ(told().size(), 1);
   EXPECT_EQ(list().text("Text1").size(), 300) << "what was typed stays";
 }

@@ -9,11 +9,24 @@
 namespace screen::testing {
 namespace {
 
+/// A route that hands a number over, and one of a prompt.
+struct ToSample {
+  static constexpr ScreenName screen{u"見本1"};
+  QString id;
+};
+struct ToPrompt {
+  static constexpr ScreenName screen{u"見本の実行"};
+  QString asked;
+};
+
 class CountingScreen : public SampleScreen {
  public:
   CountingScreen(Services& services, QStringList& life) : SampleScreen(services), life(life) {}
   void onLoad() override { life += "load"; }
-  void opened(const Request& request) override { life += "opened " + request.value("ID").toString(); }
+  void opened(const Request& request) override {
+    const auto* route = request.as<ToSample>();
+    life += "opened " + (route ? route->id : QString());
+  }
   void onClosed() override { life += "closed"; }
   bool onCloseBox() override { return mayClose; }
   QStringList& life;
@@ -22,14 +35,14 @@ class CountingScreen : public SampleScreen {
 
 class Navigation : public ::testing::Test {
  protected:
-  void SetUp() override { harness.registry.add<CountingScreen>("見本1", life); }
+  void SetUp() override { harness.registry.add<ToSample, CountingScreen>(life); }
   QStringList life;
   Harness harness;
 };
 
 TEST_F(Navigation, ScreenIsOneInstanceReenteredByShowingIt) {
-  Screen* first = harness.navigator.show("見本1", {{"ID", "7"}});
-  Screen* again = harness.navigator.show("見本1", {{"ID", "8"}});
+  Screen* first = harness.navigator.show(ToSample{"7"});
+  Screen* again = harness.navigator.show(ToSample{"8"});
   EXPECT_EQ(first, again);
   EXPECT_TRUE(harness.navigator.isShown("見本1"));
   EXPECT_EQ(life, QStringList({"load", "opened 7", "opened 8"}));
@@ -84,13 +97,13 @@ class Prompt : public ::testing::Test {
   void SetUp() override {
     actions.insert("store", [this](ConfirmPrompt& prompt) {
       ++stored;
-      asked = prompt.request().value("asked").toString();
+      asked = prompt.request().as<ToPrompt>()->asked;
       prompt.voice().speakText("登録しました");
     });
     harness.registry.add("見本の実行", [this](Services& services) {
       return std::make_unique<ConfirmPrompt>(kPrompt, actions, services);
     });
-    screen = harness.navigator.show("見本の実行", {{"asked", "登録"}});
+    screen = harness.navigator.show(ToPrompt{"登録"});
     ASSERT_NE(screen, nullptr);
     ScreenProbe(*screen, harness.spy).open();
   }

@@ -61,7 +61,7 @@ TEST_F(TextLimit, HoldsForEditableListsToo) {
 
 TEST_F(TextLimit, AFieldWithoutOneTakesAllAndTheFileRefusesWhatItsColumnCannotHold) {
   const QString path = harness.patientsFile({"見本一"});
-  ASSERT_TRUE(screen.source().open(path, "臨床QV"));
+  ASSERT_TRUE(screen.source().open(path));
   screen.focusOn("txtDay(60)");
   probe.type(QString(256, u'あ'));
   ASSERT_EQ(screen.text("txtDay(60)").size(), 256) << "nothing is cut unheard";
