@@ -5,7 +5,7 @@
 
 namespace frame::test {
 
-/// The desk with the screens of the frame.
+/// The fixture with the screens of the frame.
 class FrameFixture : public DeskFixture {
  protected:
   FrameFixture() { registerScreens(registry, services, run); }
