@@ -32,7 +32,7 @@ class BookingScreen : public screen::RecordScreen {
 
  protected:
   QStringList rowInWords() const override;
-  bool readyToMove() override { return source().ready(); }
+  bool readyToMove() override { return source().ready() && mayLeaveRow(); }
   /// Asks where the user typed something that is not stored. False: the booking stays.
   bool mayLeaveRow() override;
   void sayDone(const QString& done) override;
