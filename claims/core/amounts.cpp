@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "claims/core/amounts_parts.h"
+#include "claims/core/share_rate.h"
 
 namespace claims {
 namespace {

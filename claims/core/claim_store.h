@@ -21,7 +21,7 @@ struct StoreContext {
 /// A claim as 登録 writes it.
 struct StoredClaim {
   ClaimRecord claim;
-  QStringList written;  ///< columns that the store writes itself, beside what was typed
+  QStringList written;  ///< names of the columns that the store writes itself, in addition to what was typed
   ClaimAmounts amounts;
   std::optional<text::Fault> calculation;  ///< the engine's fault where no amounts could be computed
 };
@@ -30,14 +30,14 @@ struct StoredClaim {
 /// 負担割合, 保険順位, summary code, cleared and computed columns of both halves. The checks, trimming and
 /// questions come before it and are the form's.
 ///
-/// `boxes`: the boxes 施術回数 as they stand on the form, where the user may have corrected them. Without
-/// them the claim's own d3 to d11 are kept, and counted anew where all are blank.
+/// `boxes`: the boxes 施術回数 as the form shows them, where the user may have corrected them. Without them
+/// those of the claim (claim::areaDays, claim::limbDays) stay, and are counted anew where all are blank.
 StoredClaim storeClaim(const ClaimRecord& claim, const StoreContext& context,
                        const std::optional<AreaBoxes>& boxes = std::nullopt);
 
 /// The columns of the first half that the calculation clears before it writes.
-std::span<const char16_t* const> calculatedColumns();
+std::span<const store::Column> calculatedColumns();
 /// The eight of the second half.
-std::span<const char16_t* const> calculatedColumnsSecond();
+std::span<const store::Column> calculatedColumnsSecond();
 
 }  // namespace claims

@@ -26,7 +26,7 @@ class PreviewScreen : public screen::Screen {
   ClaimsState& m_state;
 };
 
-/// The six declared screens, in the order of their previewKind 1 to 6.
+/// The six declared screens, oldest fees first, acupuncture before massage.
 std::span<const screen::ScreenRow> previewScreens();
 
 }  // namespace claims

@@ -70,6 +70,10 @@ struct TreatmentReport {
   static constexpr ScreenName screen{u"施術報告書"};
   qint64 claim = 0;
 };
+/// A copy of the report for another month.
+struct ReportCopy {
+  static constexpr ScreenName screen{u"施術報告書コピー"};
+};
 struct VisitBreakdown {
   static constexpr ScreenName screen{u"往療内訳表"};
   qint64 claim = 0;
@@ -161,6 +165,7 @@ inline constexpr ScreenName kAll[] = {
     MemoForMail::screen,
     MemoForMail2::screen,
     TreatmentReport::screen,
+    ReportCopy::screen,
     VisitBreakdown::screen,
     ReasonSheetAcupuncture::screen,
     ReasonSheetMassage::screen,

@@ -122,7 +122,7 @@ FeeScreen::FeeScreen(Services& services, RunState& run) : Screen(kDeclaration, s
 void FeeScreen::onLoad() {
   setShown(kSave, false);
   if (!source().open(m_run.folders[folder::kFees])) return;
-  source().rows().moveLast();
+  if (!source().moveAndShow(&store::RecordSet::moveLast)) return;
   for (int i = 0; i < kBoxCount; ++i) {
     const QString value = source().rows().value(kBoxes[i].shown);
     setText(kBox[i + 1], value.isEmpty() ? QString() : QString::number(text::intOf(value)));

@@ -18,7 +18,7 @@ store::Result<QString> lastValue(const QString& path, const store::Column& colum
   if (!database) return database.fault();
   auto rows = store::RecordSet::open(*database, text::utf16(column.table().name()));
   if (!rows) return rows.fault();
-  rows->moveLast();
+  if (const store::Done read = rows->moveAndRead(&store::RecordSet::moveLast); !read) return read.fault();
   return rows->value(column);
 }
 

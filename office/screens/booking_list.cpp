@@ -60,13 +60,14 @@ void BookingList::sayWithCount(const QStringList& parts) {
 
 void BookingList::sayRows(const QStringList& parts) {
   sayWithCount(parts);
-  if (focused() == u"DBGrid1" && holdsRows())
+  if (focused() == m_list.name() && holdsRows())
     return voice().speakText(rowOnView().join(voice::kSpeechSeparator));
   focusOn(m_list);
 }
 
 void BookingList::handOver() {
   if (!holdsRows()) return messages().tell(u"代入するデータがありません。"_s);
+  if (!source().ensureRead()) return;
   const Booking shown = booking();
   navigator().show(
       routes::PatientRegister{routes::PatientRegister::Booked{shown.patientName, shown.patientNumber}});

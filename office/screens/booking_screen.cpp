@@ -132,19 +132,19 @@ void BookingScreen::addBooking() {
 }
 
 QStringList BookingScreen::rowInWords() const {
-  if (!source().holdsRow()) return {u"予約 0 件"_s};
+  if (!source().hasCurrentRow()) return {u"予約 0 件"_s};
   return {source().positionText(), text(kDay.month) + u"月"_s + text(kDay.day) + u"日"_s, text(kTime),
           text(kName)};
 }
 
 void BookingScreen::sayDone(const QString& done) {
-  sayBooking(source().holdsRow() ? done + voice::kSpeechSeparator + u"表示中の予約"_s : done);
+  sayBooking(source().hasCurrentRow() ? done + voice::kSpeechSeparator + u"表示中の予約"_s : done);
 }
 
 void BookingScreen::sayBooking(const QString& done) { sayResult(QStringList{done} + bookingOnView()); }
 
 QStringList BookingScreen::bookingOnView() const {
-  if (!source().holdsRow()) return {};
+  if (!source().hasCurrentRow()) return {};
   QString day;
   const std::pair<screen::ControlRef, QChar> numbers[] = {
       {kDay.year, u'年'}, {kDay.month, u'月'}, {kDay.day, u'日'}};
@@ -245,7 +245,7 @@ std::optional<screen::ScreenName> BookingScreen::caller() const {
 void BookingScreen::openList() { navigator().show(routes::TodaysBookings{}); }
 
 void BookingScreen::finish() {
-  if (!source().holdsRow()) return leave();
+  if (!source().hasCurrentRow()) return leave();
   if (text(kName).isEmpty() || text(kStamp).isEmpty()) {
     navigator().show(routes::AskUnfinishedBooking{.caller = caller()});
     return;

@@ -32,7 +32,7 @@ class BookingScreen : public screen::RecordScreen {
 
  protected:
   QStringList rowInWords() const override;
-  bool readyToMove() override { return source().ready() && mayLeaveRow(); }
+  bool readyToMove() override { return source().ensureOpen() && mayLeaveRow(); }
   /// Asks where the user typed something that is not stored. False: the booking stays.
   bool mayLeaveRow() override;
   void sayDone(const QString& done) override;

@@ -104,7 +104,7 @@ void TakingsScreen::showTotals() {
 
 // A visit without its link would show the first patient of the register.
 void TakingsScreen::openPatient() {
-  if (emptySet()) return;
+  if (emptySet() || !source().ensureRead()) return;
   const QString serial = source().rows().value(visits::patientSerial);
   if (serial.isEmpty()) return screen::tellNotFound(*this);
   navigator().show(routes::PatientRegister{routes::PatientRegister::BySerial{serial}});

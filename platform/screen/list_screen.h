@@ -93,7 +93,7 @@ class ColumnChoice {
 /// Columns that are offered under their own names.
 template <std::size_t N>
 consteval auto choicesOf(const std::array<store::Column, N>& columns) {
-  return [&columns]<std::size_t... At>(std::index_sequence<At...>) {
+  return [&columns]<std::size_t... At>(std::index_sequence<At...>) consteval {
     return std::array<ColumnChoice, N>{ColumnChoice(columns[At])...};
   }
   (std::make_index_sequence<N>());

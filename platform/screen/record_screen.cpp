@@ -9,10 +9,10 @@ RecordScreen::RecordScreen(const ScreenRow& declaration, Services& services, con
   source().onLeaveRow = [this] { return mayLeaveRow(); };
 }
 
-void RecordScreen::step(void (DataSource::*move)()) {
+void RecordScreen::step(const RowMove& move) {
   if (!readyToMove()) return;
   const store::Bookmark before = source().rows().bookmark();
-  (source().*move)();
+  moveRow(move);
   if (source().rows().bookmark() != before) rowReached();
   voice().speakHeading(rowInWords());
 }
@@ -27,14 +27,21 @@ bool RecordScreen::mayLeaveRow() {
   return true;
 }
 
+bool RecordScreen::mayClose() {
+  if (!source().isOpen() || mayLeaveRow()) return true;
+  if (!messages().askToDrop(QString::fromUtf16(m_words.discardQuestion))) return false;
+  source().drop();
+  return true;
+}
+
 bool RecordScreen::writeOnView() {
-  return (source().holdsRow() || source().addNewAsShown()) && source().write();
+  return (source().hasCurrentRow() || source().addNewAsShown()) && source().write();
 }
 
 void RecordScreen::sayDone(const QString& done) { say(QStringList{done} + rowInWords()); }
 
 void RecordScreen::storeRow() {
-  if (source().ready() && readyToStore() && writeOnView()) sayDone(text::utf16(m_words.stored));
+  if (source().ensureOpen() && readyToStore() && writeOnView()) sayStored();
 }
 
 bool RecordScreen::confirmRemoval() {
@@ -50,8 +57,11 @@ bool RecordScreen::removeOnView() {
 }
 
 void RecordScreen::removeRow() {
-  if (!source().ready()) return;
-  if (!source().holdsRow()) return messages().tell(text::utf16(m_words.nothingToDelete));
+  if (!source().ensureOpen()) return;
+  if (!source().hasCurrentRow()) {
+    if (!m_words.nothingToDelete) return say(rowInWords());
+    return messages().tell(text::utf16(m_words.nothingToDelete));
+  }
   if (!confirmRemoval()) return;
   const bool stored = !source().rows().adding();
   if (removeOnView()) sayDone(text::utf16(stored ? m_words.deleted : m_words.dropped));

@@ -14,8 +14,9 @@ constexpr AmountCell kMassageCells[] = {{10, 13, 71}, {16, 19, 74}, {22, 25, 77}
 constexpr AmountTriple kMassageTriples[] = {40, 43, 46, 49, 52};
 constexpr int kMassageSingles[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 57, 58, 59, 60};
 
-constexpr AmountLayout kHari = {u"h1", kHariCells, kHariTriples, kHariSingles, kHariCrossed, 47};
-constexpr AmountLayout kMassage = {u"m1", kMassageCells, kMassageTriples, kMassageSingles, {}, 59};
+constexpr AmountLayout kHari = {claim::hariRecord, kHariCells, kHariTriples, kHariSingles, kHariCrossed, 47};
+constexpr AmountLayout kMassage = {
+    claim::massageRecord, kMassageCells, kMassageTriples, kMassageSingles, {}, 59};
 
 }  // namespace
 

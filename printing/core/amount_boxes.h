@@ -2,6 +2,7 @@
 
 #include <span>
 
+#include "platform/store/tables/claims.h"
 #include "printing/core/print_source.h"
 
 namespace printing {
@@ -26,7 +27,7 @@ using AmountTriple = int;
 
 /// Where the amount record of a kind of treatment goes on its form.
 struct AmountLayout {
-  const char16_t* record;  ///< column: h1, m1
+  store::Column record;
   std::span<const AmountCell> cells;
   std::span<const AmountTriple> triples;
   std::span<const int> singles;        ///< fields that stand alone

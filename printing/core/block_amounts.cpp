@@ -49,7 +49,7 @@ void putCell(Boxes& boxes, const AmountCell& cell) {
 
 }  // namespace
 
-void amountBoxes(Sheet& sheet) {
+void fillAmountBoxes(Sheet& sheet) {
   if (!sheet.settings.on(Setting::Amounts)) return;
   const AmountLayout& layout = amountLayout(sheet.source.kind);
   Boxes boxes(sheet, layout);

@@ -5,7 +5,7 @@
 #include <QApplication>
 
 #include "frame/core/routes.h"
-#include "frame/tests/screens/desk_fixture.h"
+#include "frame/tests/screens/screen_fixture.h"
 #include "office/screens/office_screens.h"
 #include "platform/screen/testing/screen_probe.h"
 #include "platform/store/bulk.h"
@@ -16,7 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 
 /// The appointment book over files of its own, with stand-ins for the screens around it. Today is Saturday,
 /// 15 June 2024, 9:05.
-class BookingFixture : public frame::test::DeskFixture {
+class BookingFixture : public frame::test::ScreenFixture {
  protected:
   using Columns = QHash<QString, QString>;
 
@@ -27,7 +27,7 @@ class BookingFixture : public frame::test::DeskFixture {
   }
 
   void SetUp() override {
-    DeskFixture::SetUp();
+    ScreenFixture::SetUp();
     makeFile(kBookings);
     makeFile(kPatients);
   }

@@ -3,7 +3,7 @@
 #include <QApplication>
 
 #include "frame/core/routes.h"
-#include "frame/tests/screens/desk_fixture.h"
+#include "frame/tests/screens/screen_fixture.h"
 #include "office/screens/office_screens.h"
 #include "platform/screen/testing/screen_probe.h"
 #include "platform/store/bulk.h"
@@ -13,7 +13,7 @@ namespace office::test {
 using namespace Qt::Literals::StringLiterals;
 
 /// The takings over a file of visits, with stand-ins for the screens around them. Today is 15 June 2024.
-class TakingsFixture : public frame::test::DeskFixture {
+class TakingsFixture : public frame::test::ScreenFixture {
  protected:
   using Visit = QHash<QString, QString>;
 
@@ -24,7 +24,7 @@ class TakingsFixture : public frame::test::DeskFixture {
   }
 
   void SetUp() override {
-    DeskFixture::SetUp();
+    ScreenFixture::SetUp();
     makeFile(kFile);
   }
 
