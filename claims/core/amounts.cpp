@@ -45,7 +45,7 @@ ClaimAmounts amounts(const ClaimRecord& claim, const FeeEdition& fees, const Mon
   if (result.regime == Regime::Visits) {
     computeVisits(claim, result);
   } else {
-    computeOld(claim, flags, result);
+    computeTwoBand(claim, flags, result);
   }
   for (const AmountRow& row : result.rows) result.total += row.amount;
   result.share = shareOf(result.total, result.rate);

@@ -8,8 +8,9 @@
 #include "claims/core/fee_files.h"
 #include "claims/core/fee_source.h"
 #include "claims/core/rule_dates.h"
-#include "claims/core/tally_new.h"
-#include "claims/core/tally_old.h"
+#include "claims/core/tally_steps.h"
+#include "claims/core/tally_two_band.h"
+#include "claims/core/tally_visits.h"
 
 namespace claims {
 
@@ -73,9 +74,9 @@ struct ClaimAmounts {
   int treatmentDays = 0;
   FeeEdition fees;
 
-  OldTally old;      ///< of Steps and TwoBand
-  StepVisits steps;  ///< of Steps
-  NewTally fresh;    ///< of Visits
+  TwoBandTally twoBand;  ///< of Steps and TwoBand
+  StepVisits steps;      ///< of Steps
+  VisitsTally visits;    ///< of Visits
   AcupunctureLines acupuncture;
   MassageLines massage;
 

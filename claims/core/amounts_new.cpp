@@ -24,9 +24,9 @@ QString formLabel(int form, const QString& number) {
 template <class Lines>
 void fillSurcharges(const ClaimRecord& claim, const ClaimAmounts& result, Lines& lines) {
   const FeeEdition& fees = result.fees;
-  lines.sudden = line(fees.yen(Fee::Sudden), result.fresh.suddenDays);
+  lines.sudden = line(fees.yen(Fee::Sudden), result.visits.suddenDays);
   const bool special = claim.ticked(QStringLiteral("d2"));
-  lines.special = line(fees.yen(Fee::SpecialArea), special ? result.fresh.visitDays : 0);
+  lines.special = line(fees.yen(Fee::SpecialArea), special ? result.visits.visitDays : 0);
   lines.report = line(fees.yen(Fee::Report), reportCount(claim));
 }
 
@@ -38,7 +38,7 @@ void addSurchargeRows(ClaimAmounts& result, const Lines& lines) {
 }
 
 void fillAcupuncture(const ClaimRecord& claim, ClaimAmounts& result) {
-  const NewTally& tally = result.fresh;
+  const VisitsTally& tally = result.visits;
   const FeeEdition& fees = result.fees;
   AcupunctureLines& lines = result.acupuncture;
   if (claim.ticked(QStringLiteral("初回有無")) && tally.first != 0)
@@ -72,7 +72,7 @@ void addAcupunctureRows(ClaimAmounts& result) {
 }
 
 /// Days with one of two letters, plain and by every visit form.
-bool anyDay(const NewTally& tally, char16_t first, char16_t second) {
+bool anyDay(const VisitsTally& tally, char16_t first, char16_t second) {
   int days = 0;
   for (const char16_t letter : {first, second}) {
     days += tally.count(letter);
@@ -82,8 +82,8 @@ bool anyDay(const NewTally& tally, char16_t first, char16_t second) {
 }
 
 QString acupunctureSubject(const ClaimAmounts& result) {
-  const bool hari = anyDay(result.fresh, u'a', u'b');
-  const bool kyu = anyDay(result.fresh, u'c', u'd');
+  const bool hari = anyDay(result.visits, u'a', u'b');
+  const bool kyu = anyDay(result.visits, u'c', u'd');
   if (result.acupuncture.artDays[1] != 0 || (hari && kyu)) return QStringLiteral("鍼灸");
   if (hari) return QStringLiteral("鍼");
   return kyu ? QStringLiteral("灸") : QString();
@@ -94,7 +94,7 @@ void fillAreas(ClaimAmounts& result, int row) {
   MassageLines& lines = result.massage;
   int place = 0;
   for (int areas = 1; areas <= 5 && place < 2; ++areas) {
-    const int days = row == 0 ? result.fresh.areaDays(areas) : result.fresh.areaVisits(areas, row - 1);
+    const int days = row == 0 ? result.visits.areaDays(areas) : result.visits.areaVisits(areas, row - 1);
     if (days == 0) continue;
     const int unit = row == 0 ? areas * result.fees.yen(Fee::MassageArea)
                               : result.fees.yen(massageVisitFee(row - 1, areas));
@@ -104,7 +104,7 @@ void fillAreas(ClaimAmounts& result, int row) {
 }
 
 void fillMassage(const ClaimRecord& claim, ClaimAmounts& result) {
-  const NewTally& tally = result.fresh;
+  const VisitsTally& tally = result.visits;
   const FeeEdition& fees = result.fees;
   MassageLines& lines = result.massage;
   for (int row = 0; row <= kForms; ++row) fillAreas(result, row);
@@ -151,8 +151,8 @@ QString massageSubject(const MassageLines& lines) {
 }  // namespace
 
 void computeVisits(const ClaimRecord& claim, ClaimAmounts& result) {
-  result.fresh = tallyNew(claim);
-  result.treatmentDays = result.fresh.treatmentDays;
+  result.visits = tallyVisits(claim);
+  result.treatmentDays = result.visits.treatmentDays;
   if (result.kind == Kind::Massage) {
     fillMassage(claim, result);
     addMassageRows(result);

@@ -16,7 +16,7 @@ int unitsOf(bool digits, int sum, const QString& claimWide, int days) {
 }
 
 QString subjectOf(const ClaimAmounts& r) {
-  switch (r.old.first) {
+  switch (r.twoBand.first) {
     case u'a':
     case u'b':
       return QStringLiteral("鍼");
@@ -46,7 +46,7 @@ void addKind(ClaimAmounts& result, const QString& label, Fee fee, int count, qin
 }
 
 void addTreatments(const ClaimRecord& claim, ClaimAmounts& r) {
-  const OldTally& t = r.old;
+  const TwoBandTally& t = r.twoBand;
   if (t.firstFee) addKind(r, QStringLiteral("初回費用"), *t.firstFee, 1, r.first);
   addKind(r, QStringLiteral("はり"), Fee::Hari, t.hari, r.hari);
   addKind(r, QStringLiteral("灸"), Fee::Kyu, t.kyu, r.kyu);
@@ -63,8 +63,8 @@ void addTreatments(const ClaimRecord& claim, ClaimAmounts& r) {
 
 /// Visits by two bands: the fee of the column 加算往診料4K is the whole fee beyond 4 km, not an add-on.
 void addTwoBands(ClaimAmounts& r) {
-  addKind(r, QStringLiteral("往療料（4kmまで）"), Fee::Base2K, r.old.nearVisits, r.visit1);
-  addKind(r, QStringLiteral("往療料（4km超）"), Fee::Add4K, r.old.farVisits, r.visit2);
+  addKind(r, QStringLiteral("往療料（4kmまで）"), Fee::Base2K, r.twoBand.nearVisits, r.visit1);
+  addKind(r, QStringLiteral("往療料（4km超）"), Fee::Add4K, r.twoBand.farVisits, r.visit2);
 }
 
 /// One step of 2 km: what is added to the base fee. `whenDiffering` rules a month of differing distances;
@@ -92,9 +92,9 @@ void addStepVisits(ClaimAmounts& r) {
 
 }  // namespace
 
-void computeOld(const ClaimRecord& claim, const MonthFlags& flags, ClaimAmounts& result) {
-  result.old = tallyOld(claim);
-  result.treatmentDays = result.old.treatmentDays;
+void computeTwoBand(const ClaimRecord& claim, const MonthFlags& flags, ClaimAmounts& result) {
+  result.twoBand = tallyTwoBand(claim);
+  result.treatmentDays = result.twoBand.treatmentDays;
   addTreatments(claim, result);
   if (result.regime == Regime::Steps) {
     result.steps = tallySteps(claim);

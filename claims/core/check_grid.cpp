@@ -1,6 +1,6 @@
 #include "claims/core/check_grid.h"
 
-#include "claims/core/tally_new.h"
+#include "claims/core/tally_visits.h"
 
 namespace claims {
 namespace {
@@ -57,7 +57,7 @@ int numbersThat(int last, Counts counts) {
 constexpr int kForms = 4;
 
 /// More than two numbers of areas under one form of visit.
-QString visitNumbersMessage(const NewTally& tally) {
+QString visitNumbersMessage(const VisitsTally& tally) {
   for (int form = 0; form < kForms; ++form) {
     if (numbersThat(5, [&](int areas) { return tally.areaVisits(areas, form); }) < 3) continue;
     // v3 and v4 stand for the two bands of the third form here.
@@ -115,7 +115,7 @@ QString specialAreaMessage(const ClaimRecord& claim) {
 }
 
 QString areaNumbersMessage(const ClaimRecord& claim) {
-  const NewTally tally = tallyNew(claim);
+  const VisitsTally tally = tallyVisits(claim);
   // kept: the text says two or more, the rule is three or more.
   if (numbersThat(5, [&](int areas) { return tally.areaDays(areas); }) >= 3)
     return QStringLiteral(
@@ -133,7 +133,7 @@ QString ledgerGridMessage(const ClaimRecord& claim, const MonthFlags& flags) {
   QString message = gridFilledMessage(codes);
   if (message.isNull()) message = gridMixedMessage(codes);
   if (message.isNull()) message = gridCodesMessage(codes, claim, flags.isAfter202012, warnings);
-  if (message.isNull() && flags.isAfter202410) message = visitNumbersMessage(tallyNew(claim));
+  if (message.isNull() && flags.isAfter202410) message = visitNumbersMessage(tallyVisits(claim));
   return message;
 }
 

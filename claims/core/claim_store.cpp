@@ -86,13 +86,13 @@ void writeDerived(const ClaimRecord& claim, Writer& writer) {
 }
 
 /// The distance that the claim shows: the one typed for printing, else the one of all its visits.
-QString distanceText(const OldTally& tally, Writer& writer) {
+QString distanceText(const TwoBandTally& tally, Writer& writer) {
   if (const QString actual = writer.get(u"実際の距離"); !actual.isEmpty()) return actual;
   return tally.distance.value_or(0) == 0 ? QString() : QString::number(*tally.distance);
 }
 
-void writeOld(const ClaimAmounts& a, Writer& writer) {
-  const OldTally& t = a.old;
+void writeTwoBand(const ClaimAmounts& a, Writer& writer) {
+  const TwoBandTally& t = a.twoBand;
   const struct {
     const char16_t *amountColumn, *countColumn;
     qint64 amount;
@@ -123,7 +123,7 @@ void writeSubject(const QString& subject, Writer& writer) {
 }
 
 void writeAmounts(const ClaimAmounts& a, const AreaBoxes& boxes, Writer& writer) {
-  if (a.regime == Regime::TwoBand) writeOld(a, writer);
+  if (a.regime == Regime::TwoBand) writeTwoBand(a, writer);
   writer.fill(u"治療日数", a.treatmentDays);
   writeSubject(a.subject, writer);
   const bool massage = a.kind == Kind::Massage;
