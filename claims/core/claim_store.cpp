@@ -91,30 +91,21 @@ QString distanceText(const TwoBandTally& tally, Writer& writer) {
   return tally.distance.value_or(0) == 0 ? QString() : QString::number(*tally.distance);
 }
 
-void writeTwoBand(const ClaimAmounts& a, Writer& writer) {
-  const TwoBandTally& t = a.twoBand;
-  const struct {
-    const char16_t *amountColumn, *countColumn;
-    qint64 amount;
-    int count;
-  } kinds[] = {{u"はり合計金額", u"はり合計回数", a.hari, t.hari},
-               {u"灸合計金額", u"灸合計回数", a.kyu, t.kyu},
-               {u"はり灸合計金額", u"はり灸合計回数", a.hariKyu, t.hariKyu},
-               {u"はり電療合計金額", u"はり電療合計回数", a.electric, t.electric},
-               {u"マッサージ局所合計金額", u"マッサージ局所合計回数", a.area, t.massageDays},
-               {u"徒手矯正術合計金額", u"徒手矯正術合計回数", a.limb, t.limbDays},
-               {u"温罨法合計金額", u"温罨法合計回数", a.warm, t.warm},
-               {u"電気光線器具併用合計金額", u"電気光線器具併用合計回数", a.warmLight, t.warmLight}};
-  for (const auto& kind : kinds) {
-    writer.fill(kind.amountColumn, kind.amount);
-    writer.fill(kind.countColumn, kind.count);
+/// The columns that keep each item.
+void writeItems(const ClaimAmounts& a, const ClaimCounts& counts, Writer& writer) {
+  for (size_t i = 0; i < a.items().size(); ++i) {
+    const AmountColumns& columns = a.items()[i].columns;
+    const AmountLine& line = a.lines[static_cast<qsizetype>(i)];
+    if (columns.amount != nullptr) writer.fill(columns.amount, line.amount);
+    if (columns.count != nullptr)
+      writer.fill(columns.count, columns.counter != nullptr ? columns.counter(counts).count : line.count);
   }
-  writer.fill(u"初回費用", a.first);
-  if (t.first != 0) writer.fill(u"初回", QString(QChar(t.first)));
-  writer.fill(u"往療距離", distanceText(t, writer));
-  writer.fill(u"往療回数", t.nearVisits + t.farVisits);
-  writer.fill(u"往療金額1", a.visit1);
-  writer.fill(u"往療金額2", a.visit2);
+}
+
+void writeTwoBand(const TwoBandTally& tally, Writer& writer) {
+  if (tally.first != 0) writer.fill(u"初回", QString(QChar(tally.first)));
+  writer.fill(u"往療距離", distanceText(tally, writer));
+  writer.fill(u"往療回数", tally.nearVisits + tally.farVisits);
 }
 
 /// 施術科目, blank but never NULL: NULL says that the claim was never stored.
@@ -122,8 +113,9 @@ void writeSubject(const QString& subject, Writer& writer) {
   writer.set(u"施術科目", subject.isNull() ? QString(QLatin1String("")) : subject);
 }
 
-void writeAmounts(const ClaimAmounts& a, const AreaBoxes& boxes, Writer& writer) {
-  if (a.regime == Regime::TwoBand) writeTwoBand(a, writer);
+void writeAmounts(const ClaimAmounts& a, const ClaimCounts& counts, const AreaBoxes& boxes, Writer& writer) {
+  writeItems(a, counts, writer);
+  if (a.regime == Regime::TwoBand) writeTwoBand(a.twoBand, writer);
   writer.fill(u"治療日数", a.treatmentDays);
   writeSubject(a.subject, writer);
   const bool massage = a.kind == Kind::Massage;
@@ -137,7 +129,7 @@ void writeAmounts(const ClaimAmounts& a, const AreaBoxes& boxes, Writer& writer)
     writer.fill(sum.column, sum.yen);
     if (a.kind != Kind::None) writer.fill(sum.own, sum.yen);
   }
-  if (a.regime == Regime::Visits) writer.fill(massage ? u"m1" : u"h1", amountRecord(a, boxes));
+  if (a.version != nullptr) writer.fill(recordColumn(a.kind), amountRecord(a, boxes));
 }
 
 AreaBoxes boxesFor(const ClaimRecord& claim, const std::optional<AreaBoxes>& given) {
@@ -166,10 +158,10 @@ StoredClaim storeClaim(const ClaimRecord& claim, const StoreContext& context,
   if (flags.month) {
     writer.clear(kCalculated);
     writer.clear(kCalculatedSecond);
-    const auto computed = amounts(claim, flags, Path::Store, context.files, context.fees);
+    const auto computed = amounts(claim, flags, Path::Store, context.files, context.fees, context.eraTable);
     if (computed) {
       stored.amounts = computed.value();
-      writeAmounts(stored.amounts, boxes, writer);
+      writeAmounts(stored.amounts, stored.amounts.counts(claim), boxes, writer);
     } else {
       stored.calculation = computed.fault();
       writeSubject(writer.get(u"施術科目"), writer);

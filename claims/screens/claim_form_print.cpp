@@ -7,17 +7,9 @@
 
 namespace claims {
 
-namespace {
-
-/// The preview screens by previewKind less one.
-constexpr const char16_t* kPreviews[] = {u"施術料金1",     u"施術料金2",     u"施術料金2018H",
-                                         u"施術料金2108A", u"施術料金2024H", u"施術料金2024A"};
-
-}  // namespace
-
 void ClaimFormScreen::closePreview() {
-  for (const char16_t* preview : kPreviews)
-    if (const QString name = QString::fromUtf16(preview); navigator().loaded(name) != nullptr)
+  for (const PreviewRow& preview : kPreviews)
+    if (const QString name = columnName(preview.screen); navigator().loaded(name) != nullptr)
       navigator().unload(name);
   m_state.previewKind = 0;
 }
@@ -27,12 +19,10 @@ void ClaimFormScreen::previewFees() {
   applyMonth();
   if (!mayLeave()) return;
   closePreview();
-  const QString name = previewScreen(kindOf(m_read.get(QStringLiteral("施術内容"))), m_flags);
-  for (int kind = 0; kind < int(std::size(kPreviews)); ++kind) {
-    if (name != QString::fromUtf16(kPreviews[kind])) continue;
-    m_state.previewKind = kind + 1;
-    navigator().show(name);
-  }
+  const Preview preview = previewOf(kindOf(m_read.get(QStringLiteral("施術内容"))), m_flags.month);
+  if (preview == Preview::None) return;
+  m_state.previewKind = static_cast<int>(preview);
+  navigator().show(previewScreen(preview));
 }
 
 void ClaimFormScreen::carryForward() {

@@ -67,11 +67,12 @@ consteval ScreenRow preview(Words name) {
   return {.name = name, .caption = u"施術料金", .rows = kRows, .heading = u"施術料金"};
 }
 
-// 施術料金2108A is the screen's own name, not a slip of ours.
-constexpr ScreenRow kScreens[] = {
-    preview(u"施術料金1"),     preview(u"施術料金2"),     preview(u"施術料金2018H"),
-    preview(u"施術料金2108A"), preview(u"施術料金2024H"), preview(u"施術料金2024A"),
-};
+template <size_t... Index>
+consteval auto allScreens(std::index_sequence<Index...>) {
+  return std::to_array<ScreenRow>({preview(kPreviews[Index].screen)...});
+}
+
+constexpr auto kScreens = allScreens(std::make_index_sequence<std::size(kPreviews)>());
 
 QString yen(qint64 amount) {
   return (amount == 0 ? QStringLiteral("0") : text::thousands(amount)) + QStringLiteral("円");
@@ -82,8 +83,8 @@ QString yen(qint64 amount) {
 std::span<const ScreenRow> previewScreens() { return kScreens; }
 
 PreviewScreen::PreviewScreen(const ScreenRow& declaration, Services& services, frame::RunState& run,
-                             ClaimsState& state)
-    : Screen(declaration, services), m_run(run), m_state(state) {}
+                             ClaimsState& state, EraTable eraTable)
+    : Screen(declaration, services), m_run(run), m_state(state), m_eras(eraTable) {}
 
 void PreviewScreen::opened(const Request&) {
   ClaimAmounts money;
@@ -93,7 +94,7 @@ void PreviewScreen::opened(const Request&) {
     rate = claim.get(QStringLiteral("一部負担金"));
     StoredFees fees;
     auto computed = amounts(claim, monthFlags(claim.get(QStringLiteral("申請年月")), m_run.eraDates()),
-                            Path::Preview, FeeFiles(m_run.programFolder, m_run.folders), fees);
+                            Path::Preview, FeeFiles(m_run.programFolder, m_run.folders), fees, m_eras);
     if (computed)
       money = std::move(*computed);
     else
@@ -110,7 +111,7 @@ void PreviewScreen::widen(const QString& control) {
 }
 
 void PreviewScreen::showMoney(const ClaimAmounts& money, const QString& rate) {
-  setShown(QStringLiteral("Label1"), QStringView(declaration().name.get()) == u"施術料金2024A");
+  setShown(QStringLiteral("Label1"), declaration().name.get() == previewScreen(Preview::VisitsMassage));
   for (int i = 0; i < kLines; ++i) {
     const QString control = QStringLiteral("Text1(%1)").arg(i);
     setShown(control, i < money.rows.size());

@@ -1,5 +1,5 @@
 // The day grid's counts.
-#include "claims/core/rule_dates.h"
+#include "claims/core/era.h"
 #include "claims/core/tally_two_band.h"
 #include "claims/core/tally_visits.h"
 #include "tools/rulecheck/claim_json.h"
@@ -67,7 +67,8 @@ QJsonObject tally(const QJsonObject& request, Context&) {
   const claims::ClaimRecord claim = claimOf(request);
   const auto flags = claims::monthFlags(claim.get(QStringLiteral("申請年月")), eraDates());
   if (!flags.month) return error(QStringLiteral("申請年月: not an era month"));
-  if (!flags.isAfter202410) return {{"regime", "old"}, {"counters", twoBandCounters(claim)}};
+  if (claims::eraOf(flags.month, claims::Path::Store)->regime != claims::Regime::Visits)
+    return {{"regime", "old"}, {"counters", twoBandCounters(claim)}};
   const claims::VisitsTally counted = claims::tallyVisits(claim);
   return {{"regime", "new"}, {"counters", visitsCounters(counted)}, {"visits", visitsByToken(counted)}};
 }
