@@ -1,5 +1,8 @@
 #include "frame/screens/fee_screen.h"
 
+#include <array>
+#include <utility>
+
 #include "platform/text/number.h"
 
 namespace frame {
@@ -9,125 +12,89 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The column that a box shows and the column that saving writes.
+/// A box, the column that it shows and the column that saving writes.
 struct FeeBox {
+  constexpr FeeBox(const char16_t* text, const char16_t* column) : FeeBox(text, column, column) {}
+  constexpr FeeBox(const char16_t* text, const char16_t* showing, const char16_t* saving)
+      : caption(text), shown(showing), saved(saving) {}
+  const char16_t* caption;
   const char16_t* shown;
   const char16_t* saved;
 };
 
 // Kept: two boxes show another column than they save, which is one more reason why the button stays hidden.
 constexpr FeeBox kBoxes[] = {
-    {u"はり", u"はり"},
-    {u"はり初回", u"はり初回"},
-    {u"はり電療", u"はり電療"},
+    {u"はりor灸の1術", u"はり"},
+    {u"はりor灸の1術初回", u"はり初回"},
+    {u"1術の電療", u"はり電療"},
     {u"はり電療初回", u"はり電療初回"},
     {u"灸", u"灸"},
     {u"灸初回", u"灸初回"},
     {u"灸電療", u"灸電療"},
     {u"灸電療初回", u"灸電療初回"},
-    {u"はり灸", u"はり灸"},
-    {u"はり灸初回", u"はり灸初回"},
-    {u"はり灸電療", u"はり灸電療"},
+    {u"はりと灸の2術", u"はり灸"},
+    {u"はりと灸の2術りの初回", u"はり灸初回"},
+    {u"2術の電療", u"はり灸電療"},
     {u"はり灸電療初回", u"はり灸電療初回"},
     {u"マッサージ1局所", u"マッサージ1局所"},
     {u"温罨法", u"温罨法"},
     {u"電気光線器具併用", u"電気光線器具併用"},
-    {u"徒手矯正術", u"徒手矯正術"},
-    {u"突発的な往療", u"往診料2Kまで"},
+    {u"変形徒手矯正術", u"徒手矯正術"},
+    {u"突発的な往療", u"突発的な往療", u"往診料2Kまで"},
     {u"加算往診料2K", u"加算往診料2K"},
     {u"加算往診料4K", u"加算往診料4K"},
-    {u"加算往診料6K", u"加算往診料6K"},
-    {u"加算往診料8K", u"加算往診料8K"},
-    {u"加算往診料10K", u"加算往診料10K"},
-    {u"加算往診料12K", u"加算往診料12K"},
-    {u"特別地域", u"加算往診料14K"},
-    {u"加算往診料16K", u"加算往診料16K"},
+    {u"訪問施術①（1人）+施術費", u"加算往診料6K"},
+    {u"訪問施術②（2人）+施術費", u"加算往診料8K"},
+    {u"訪問施術③（3人～9人）+施術費", u"加算往診料10K"},
+    {u"訪問施術③（10人以上）+施術費", u"加算往診料12K"},
+    {u"特別地域加算", u"特別地域", u"加算往診料14K"},
+    {u"施術報告書交付料", u"加算往診料16K"},
 };
 constexpr int kBoxCount = static_cast<int>(std::size(kBoxes));
 constexpr int kCheckedBoxes = 24;  // kept: the last box was never tested
 
 constexpr Unbound kShown{u"shows one column and saves another"};
 
-constexpr Row kRows[] = {
-    Note{.name = {u"Label26"},
-         .caption =
-             u"※この表示は、2024年10月施術分以降のデータです。2024年10月施術分以前のデータは別の場所で格納し"
-             u"てありますので、"
-             u"2024年10月以前の申請書の施術費計算及び印刷は、そのデータを用いますのでご安心ください。"},
-    Note{.name = {u"Label27"},
-         .caption = u"※間違って入力してしまうと正しい計算と印刷ができなくなるため、Ver8."
-                    u"80以降から料金の変更は、行えなくなり、"
-                    u"料金データの確認だけとなります。最新のバージョンにＵＰすれば、すべて自動で正しく計算、"
-                    u"印刷が出来ます。"
-                    u"旧料金が表示された場合は、必ず最新バージョンへアップデートしてください。"},
-    Note{
-        .name = {u"Label28"}, .caption = u"音声の場合は、タブ移動で項目ごとに確認できます。", .spoken = true},
-    Group{.name = {u"Frame1"}, .caption = u"料金", .columns = 4},
-    TextField{
-        .name = {u"Text1", 1}, .caption = u"はりor灸の1術", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 2}, .caption = u"はりor灸の1術初回", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 3}, .caption = u"1術の電療", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 4}, .caption = u"はり電療初回", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 5}, .caption = u"灸", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 6}, .caption = u"灸初回", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 7}, .caption = u"灸電療", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 8}, .caption = u"灸電療初回", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 9}, .caption = u"はりと灸の2術", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 10},
-              .caption = u"はりと灸の2術りの初回",
-              .bind = kShown,
-              .width = 8,
-              .readOnly = true},
-    TextField{.name = {u"Text1", 11}, .caption = u"2術の電療", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 12}, .caption = u"はり灸電療初回", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 13}, .caption = u"マッサージ1局所", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 14}, .caption = u"温罨法", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 15}, .caption = u"電気光線器具併用", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 16}, .caption = u"変形徒手矯正術", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 17}, .caption = u"突発的な往療", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 18}, .caption = u"加算往診料2K", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 19}, .caption = u"加算往診料4K", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text1", 20},
-              .caption = u"訪問施術①（1人）+施術費",
-              .bind = kShown,
-              .width = 8,
-              .readOnly = true},
-    TextField{.name = {u"Text1", 21},
-              .caption = u"訪問施術②（2人）+施術費",
-              .bind = kShown,
-              .width = 8,
-              .readOnly = true},
-    TextField{.name = {u"Text1", 22},
-              .caption = u"訪問施術③（3人～9人）+施術費",
-              .bind = kShown,
-              .width = 8,
-              .readOnly = true},
-    TextField{.name = {u"Text1", 23},
-              .caption = u"訪問施術③（10人以上）+施術費",
-              .bind = kShown,
-              .width = 8,
-              .readOnly = true},
-    TextField{
-        .name = {u"Text1", 24}, .caption = u"特別地域加算", .bind = kShown, .width = 8, .readOnly = true},
-    TextField{
-        .name = {u"Text1", 25}, .caption = u"施術報告書交付料", .bind = kShown, .width = 8, .readOnly = true},
-    EndGroup{},
-    Bar{},
-    Command{.name = {u"Command3"}, .caption = u"ここを音声で説明", .run = run<&FeeScreen::explain>},
-    Command{.name = {u"Command1"}, .caption = u"上書き保存", .run = run<&FeeScreen::save>},
-    Command{.name = {u"Command2"}, .caption = u"閉じる", .run = run<&FeeScreen::finish>, .key = u"Esc"},
-    EndBar{},
-};
+template <int Index>
+consteval Row field() {
+  return TextField{.name = {u"Text1", Index + 1},
+                   .caption = kBoxes[Index].caption,
+                   .bind = kShown,
+                   .width = 8,
+                   .readOnly = true};
+}
+
+template <int... Index>
+consteval auto allRows(std::integer_sequence<int, Index...>) {
+  return std::to_array<Row>({
+      Note{
+          .name = {u"Label26"},
+          .caption =
+              u"※この表示は、2024年10月施術分以降のデータです。2024年10月施術分以前のデータは別の場所で格納し"
+              u"てありますので、"
+              u"2024年10月以前の申請書の施術費計算及び印刷は、そのデータを用いますのでご安心ください。"},
+      Note{.name = {u"Label27"},
+           .caption =
+               u"※間違って入力してしまうと正しい計算と印刷ができなくなるため、Ver8."
+               u"80以降から料金の変更は、行えなくなり、"
+               u"料金データの確認だけとなります。最新のバージョンにＵＰすれば、すべて自動で正しく計算、"
+               u"印刷が出来ます。"
+               u"旧料金が表示された場合は、必ず最新バージョンへアップデートしてください。"},
+      Note{.name = {u"Label28"},
+           .caption = u"音声の場合は、タブ移動で項目ごとに確認できます。",
+           .spoken = true},
+      Group{.name = {u"Frame1"}, .caption = u"料金", .columns = 4},
+      field<Index>()...,
+      EndGroup{},
+      Bar{},
+      Command{.name = {u"Command3"}, .caption = u"ここを音声で説明", .run = run<&FeeScreen::explain>},
+      Command{.name = {u"Command1"}, .caption = u"上書き保存", .run = run<&FeeScreen::save>},
+      Command{.name = {u"Command2"}, .caption = u"閉じる", .run = run<&FeeScreen::finish>, .key = u"Esc"},
+      EndBar{},
+  });
+}
+
+constexpr auto kRows = allRows(std::make_integer_sequence<int, kBoxCount>());
 
 constexpr ScreenRow kDeclaration{
     .name = u"料金変更", .caption = u"料金確認", .rows = kRows, .sources = 1, .heading = u"料金確認"};

@@ -48,8 +48,8 @@ void fillAmountBoxes(ReportFields& fields, const claims::AmountRecord& record) {
   }
 }
 
-void showShare(ReportFields& fields, PrintKind kind, const QString& text) {
-  for (const AmountItem& item : claims::eras().back().of(recordKind(kind)).items)
+void showShare(ReportFields& fields, const claims::KindRules& rules, const QString& text) {
+  for (const AmountItem& item : rules.items)
     if (item.figure == claims::Figure::Share) showBox(fields, item.boxes.amount, text);
 }
 

@@ -14,6 +14,6 @@ claims::Kind recordKind(PrintKind kind);
 void fillAmountBoxes(ReportFields& fields, const claims::AmountRecord& record);
 
 /// Shows a text in the box of 一部負担金.
-void showShare(ReportFields& fields, PrintKind kind, const QString& text);
+void showShare(ReportFields& fields, const claims::KindRules& rules, const QString& text);
 
 }  // namespace printing

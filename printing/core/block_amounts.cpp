@@ -6,7 +6,8 @@ namespace printing {
 void amountBoxes(Sheet& sheet) {
   if (!sheet.settings.on(Setting::Amounts)) return;
   const claims::Kind kind = recordKind(sheet.source.kind);
-  if (const auto record = claims::readAmountRecord(sheet.value(claims::recordColumn(kind)), kind))
+  const QString text = sheet.value(claims::recordColumn(kind));
+  if (const auto record = claims::readAmountRecord(text, kind, sheet.eras))
     fillAmountBoxes(sheet.fields, *record);
 }
 

@@ -28,7 +28,7 @@ void optionHides(Sheet& sheet) {
   if (sheet.settings.on(Setting::ProxyWords))
     for (const auto* item : {u"JUININ1", u"JUININ2", u"JUININ3"}) sheet.fields.mark(item);
   if (sheet.settings.off(Setting::ShareAsComputed) && sheet.settings.on(Setting::Amounts))
-    showShare(sheet.fields, sheet.source.kind, QStringLiteral("0"));
+    showShare(sheet.fields, sheet.eras.back().of(recordKind(sheet.source.kind)), QStringLiteral("0"));
 }
 
 void chibaPeriod(Sheet& sheet) {

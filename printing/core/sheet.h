@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "claims/core/rule_dates.h"
+#include "claims/core/era.h"
 #include "frame/core/era_date.h"
 #include "printing/contract/report_fields.h"
 #include "printing/core/print_settings.h"
@@ -12,12 +12,14 @@ namespace printing {
 
 /// One page of a claim form while it is being filled.
 struct Sheet {
-  Sheet(ReportFields& reportFields, const PrintSource& printSource, const frame::EraDates& eraDates)
+  Sheet(ReportFields& reportFields, const PrintSource& printSource, const frame::EraDates& eraDates,
+        claims::EraTable eraTable)
       : fields(reportFields),
         source(printSource),
         claim(printSource.claim),
         settings(printSource.claim, printSource.profile),
         dates(eraDates),
+        eras(eraTable),
         month(claims::monthFlags(printSource.claim.get(QStringLiteral("申請年月")), eraDates)) {}
 
   ReportFields& fields;
@@ -25,6 +27,7 @@ struct Sheet {
   const claims::ClaimRecord& claim;
   const PrintSettings settings;
   const frame::EraDates& dates;
+  const claims::EraTable eras;  ///< of the amounts
   const claims::MonthFlags month;
 
   QString value(QStringView column) const { return claim.get(column.toString()); }

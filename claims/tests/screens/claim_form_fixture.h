@@ -41,7 +41,7 @@ class RecordingNavigator final : public screen::Navigator {
 };
 
 /// The claim form over fresh files, with fees of its own, a voice that is written down and queued answers.
-class ClaimFormTest : public testing::Test {
+class ClaimFormTest : public ::testing::Test {
  protected:
   static void SetUpTestSuite();
   static void TearDownTestSuite() { s_files.reset(); }
