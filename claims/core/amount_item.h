@@ -1,11 +1,14 @@
 #pragma once
 
+#include <optional>
+
 #include "claims/core/claim_record.h"
 #include "claims/core/fee_rule.h"
 #include "claims/core/rule_dates.h"
 #include "claims/core/tally_steps.h"
 #include "claims/core/tally_two_band.h"
 #include "claims/core/tally_visits.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 
@@ -56,8 +59,8 @@ constexpr AmountBoxes lineBoxes(int first, int alone = 0) { return {first, first
 
 /// Columns of the claim that keep an item, before there were records.
 struct AmountColumns {
-  const char16_t* amount = nullptr;
-  const char16_t* count = nullptr;
+  std::optional<store::Column> amount{};
+  std::optional<store::Column> count{};
   Counter counter = nullptr;  ///< of the count column, where it counts something else than the charge
 };
 
@@ -67,7 +70,7 @@ struct AmountItem {
   const char16_t* label = nullptr;  ///< of its line; %1 is the counted number
   Counter counter = nullptr;        ///< of a charge
   FeeRule fee{};
-  const char16_t* tick = nullptr;  ///< column that has to be ticked
+  std::optional<store::Column> tick{};  ///< column that has to be ticked
   rule::Date from = rule::kAlways;
   Art art = Art::None;
   bool charged = true;           ///< has a line of its own and is part of the total

@@ -20,7 +20,13 @@ constexpr int lastField(AmountItems items, const RecordVersion& version) {
   return last;
 }
 
-/// Each item is either a charge or a figure, is labelled, and has no box that its record fields cannot fill.
+/// Whether a column is one of a claim's.
+constexpr bool isOfClaim(const std::optional<store::Column>& column) {
+  return !column || &column->table() == &claim::firstHalf || &column->table() == &claim::secondHalf;
+}
+
+/// Each item is either a charge or a figure, is labelled, names columns of a claim, and has no box that its
+/// record fields cannot fill.
 constexpr bool itemsAreComplete(AmountItems items) {
   for (const AmountItem& item : items) {
     const AmountBoxes& boxes = item.boxes;
@@ -30,6 +36,8 @@ constexpr bool itemsAreComplete(AmountItems items) {
     if (item.counter != nullptr && item.charged && item.fee.fees().empty()) return false;
     for (const Fee fee : item.fee.fees())
       if (fee < Fee{} || fee >= Fee::Count) return false;
+    if (!isOfClaim(item.tick) || !isOfClaim(item.columns.amount) || !isOfClaim(item.columns.count))
+      return false;
     if (anyBox && item.field.first == 0) return false;
     if (item.field.parts != RecordFields::Line && boxes.unit != 0) return false;
     if (item.field.parts == RecordFields::Amount && boxes.count != 0) return false;

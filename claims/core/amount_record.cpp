@@ -43,7 +43,9 @@ QVector<qint64> numbersOf(const AmountItem& item, const AmountLine& line) {
 
 }  // namespace
 
-const char16_t* recordColumn(Kind kind) { return kind == Kind::Massage ? u"m1" : u"h1"; }
+store::Column recordColumn(Kind kind) {
+  return kind == Kind::Massage ? claim::massageRecord : claim::hariRecord;
+}
 
 QString amountRecord(const ClaimAmounts& amounts, const AreaBoxes& boxes) {
   if (amounts.version == nullptr) return {};

@@ -10,7 +10,7 @@
 namespace claims {
 
 /// The column of the record: h1 (acupuncture) or m1 (massage).
-const char16_t* recordColumn(Kind kind);
+store::Column recordColumn(Kind kind);
 
 /// The comma-joined record of a claim from 2024/10: field 0 is the mark of the version that rules the claim's
 /// month, the others are whole numbers, each at the field of its item (docs/amount-record.md). Null for

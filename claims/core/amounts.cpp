@@ -26,7 +26,7 @@ void addLines(ClaimAmounts& result, const ClaimCounts& counts, const FeeEdition&
   for (const AmountItem& item : result.rules->items) {
     AmountLine& line = result.lines.emplace_back();
     if (item.counter == nullptr || !item.from.holdsIn(month)) continue;
-    if (item.tick != nullptr && !counts.claim.ticked(columnName(item.tick))) continue;
+    if (item.tick && !counts.claim.ticked(*item.tick)) continue;
     const Counted counted = item.counter(counts);
     if (counted.count == 0) continue;
     const int unit = item.fee.yen(fees, counted.number);
@@ -47,9 +47,9 @@ qint64 shareOf(qint64 total, double rate) {
 ClaimAmounts amounts(const ClaimRecord& claim, const FeeEdition& fees, const MonthFlags& flags, Path path,
                      EraTable table) {
   ClaimAmounts result;
-  result.kind = kindOf(claim.get(QStringLiteral("施術内容")));
+  result.kind = kindOf(claim.get(claim::treatmentKind));
   result.preview = previewOf(result.kind, flags.month, table);
-  result.rate = shareRate(claim.get(QStringLiteral("一部負担金")));
+  result.rate = shareRate(claim.get(claim::shareRate));
   const Era* era = eraOf(flags.month, path, table);
   if (era == nullptr || (era->regime == Regime::Visits && result.kind == Kind::None)) return result;
   result.regime = era->regime;

@@ -1,6 +1,7 @@
 #include "claims/core/carry_forward.h"
 
 #include "claims/core/print_settings.h"
+#include "platform/store/tables/claims.h"
 #include "platform/text/number.h"
 
 namespace claims {
@@ -14,10 +15,8 @@ void copy(const ClaimRecord& from, ClaimRecord& to, const char16_t* name) {
 }  // namespace
 
 QString carryForwardRefusal(const ClaimRecord& claim) {
-  if (claim.blank(QStringLiteral("請求回数")))
-    return QStringLiteral("申請回数が空欄です。記入してください。");
-  if (claim.blank(QStringLiteral("申請年月")))
-    return QStringLiteral("申請年月が空欄です。記入してください。");
+  if (claim.blank(claim::requestCount)) return QStringLiteral("申請回数が空欄です。記入してください。");
+  if (claim.blank(claim::month)) return QStringLiteral("申請年月が空欄です。記入してください。");
   return {};
 }
 
@@ -27,20 +26,19 @@ ClaimRecord carryForward(const ClaimRecord& claim) {
   for (const PrintSetting& setting : printSettings()) copy(claim, next, setting.column);
   for (const NewClaimDefault& hidden : hiddenPrintDefaults()) copy(claim, next, hidden.column);
   // 社保 and 政管健保 were taken over by 全国健康保険協会 in 2008; old claims pass on the new name.
-  if (claim.get(QStringLiteral("保険の種類")) == u"社保")
-    next.set(QStringLiteral("保険の種類"), QStringLiteral("全国健康保険協会"));
-  if (claim.get(QStringLiteral("保険の種類3")) == u"政管健保")
-    next.set(QStringLiteral("保険の種類3"), QStringLiteral("全国健康保険協会"));
-  next.set(QStringLiteral("請求区分"), QStringLiteral("継続"));
-  next.set(QStringLiteral("業務上外のもの"), QStringLiteral("その他"));
-  next.set(QStringLiteral("第三者行為によるもの"), QStringLiteral("いいえ"));
-  next.set(QStringLiteral("入院入院外の別"), QStringLiteral("入院外"));
-  if (const auto month = nextMonth(claim.get(QStringLiteral("申請年月")))) {
-    next.set(QStringLiteral("申請年月"), month->month);
-    next.set(QStringLiteral("申請月"), month->number);
+  if (claim.get(claim::insuranceKind) == u"社保")
+    next.set(claim::insuranceKind, QStringLiteral("全国健康保険協会"));
+  if (claim.get(claim::printedInsurance) == u"政管健保")
+    next.set(claim::printedInsurance, QStringLiteral("全国健康保険協会"));
+  next.set(claim::requestKind, QStringLiteral("継続"));
+  next.set(claim::workRelated, QStringLiteral("その他"));
+  next.set(claim::thirdParty, QStringLiteral("いいえ"));
+  next.set(claim::hospitalised, QStringLiteral("入院外"));
+  if (const auto month = nextMonth(claim.get(claim::month))) {
+    next.set(claim::month, month->month);
+    next.set(claim::monthNumber, month->number);
   }
-  next.set(QStringLiteral("請求回数"),
-           QString::number(text::intOf(claim.get(QStringLiteral("請求回数"))) + 1));
+  next.set(QStringLiteral("請求回数"), QString::number(text::intOf(claim.get(claim::requestCount)) + 1));
   return next;
 }
 

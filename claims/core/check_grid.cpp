@@ -1,6 +1,7 @@
 #include "claims/core/check_grid.h"
 
 #include "claims/core/tally_visits.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 namespace {
@@ -13,9 +14,9 @@ bool isOneOf(const QString& text, std::initializer_list<const char16_t*> list) {
 
 /// Before 2020/12 the numbers could stand in fields of the whole claim.
 QString looseCodeMessage(const QString& code, const ClaimRecord& claim) {
-  if (isOneOf(code, {u"g", u"i", u"j", u"gh"}) && claim.blank(QStringLiteral("マッサージ部位数")))
+  if (isOneOf(code, {u"g", u"i", u"j", u"gh"}) && claim.blank(claim::areaCount))
     return QStringLiteral("マッサージ部位数が入力されていません。記入の仕方をご覧ください。");
-  if (code == u"h" && claim.blank(QStringLiteral("徒手矯正数")))
+  if (code == u"h" && claim.blank(claim::limbCount))
     return QStringLiteral("徒手矯正（肢）数が入力されていません。記入の仕方をご覧ください。");
   return {};
 }
@@ -95,7 +96,7 @@ QString gridMixedMessage(const GridCodes& codes) {
 
 QString gridCodesMessage(const GridCodes& codes, const ClaimRecord& claim, bool isAfter202012,
                          QStringList& warnings) {
-  const bool trunk = claim.ticked(QStringLiteral("躯幹"));
+  const bool trunk = claim.ticked(claim::trunk);
   for (const QString& code : codes) {
     if (code.isEmpty()) continue;
     const QString message = isAfter202012 ? strictCodeMessage(code) : looseCodeMessage(code, claim);
@@ -106,7 +107,7 @@ QString gridCodesMessage(const GridCodes& codes, const ClaimRecord& claim, bool 
 }
 
 QString specialAreaMessage(const ClaimRecord& claim) {
-  if (!claim.ticked(QStringLiteral("d2"))) return {};
+  if (!claim.ticked(claim::specialArea)) return {};
   for (int day = 1; day <= 31; ++day)
     if (!claim.visit(day).isEmpty()) return {};
   return QStringLiteral(

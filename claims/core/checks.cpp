@@ -2,6 +2,7 @@
 
 #include "claims/core/check_grid.h"
 #include "claims/core/rule_dates.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 namespace {
@@ -64,7 +65,7 @@ QString commonMessage(const ClaimRecord& claim, const GridCodes& codes, const fr
 }
 
 QString monthNumberMessage(const ClaimRecord& claim) {
-  const QString number = claim.get(QStringLiteral("申請月"));
+  const QString number = claim.get(claim::monthNumber);
   if (number.isEmpty()) return {};
   for (int month = 1; month <= 12; ++month)
     if (number == QString::number(month)) return {};
@@ -72,8 +73,8 @@ QString monthNumberMessage(const ClaimRecord& claim) {
 }
 
 QString reportDateMessage(const ClaimRecord& claim, const frame::EraDates& era) {
-  if (!claim.ticked(QStringLiteral("yn2"))) return {};
-  const QString date = claim.get(QStringLiteral("txtdummy27"));
+  if (!claim.ticked(claim::report)) return {};
+  const QString date = claim.get(claim::reportDate);
   if (date.isEmpty()) return QStringLiteral("施術報告書交付年月日（必須）の欄に日付が入力されていません。");
   if (!era.isDateOk(date))
     return QStringLiteral("施術報告書交付年月日（必須）の欄に日付が正確ではありません。");
@@ -83,7 +84,7 @@ QString reportDateMessage(const ClaimRecord& claim, const frame::EraDates& era) 
 /// 前回の施術報告書交付年月: an era month, no day and no western year. `full`: with the long text of the full
 /// list.
 QString previousReportMessage(const ClaimRecord& claim, bool full) {
-  const QString month = claim.get(QStringLiteral("txtdummy28"));
+  const QString month = claim.get(claim::lastReportMonth);
   if (month.isEmpty()) return {};
   if (month.endsWith(u'日') || month.startsWith(u'2')) {
     return full ? QStringLiteral(
@@ -96,7 +97,7 @@ QString previousReportMessage(const ClaimRecord& claim, bool full) {
 
 QString fullMessage(const ClaimRecord& claim, const frame::EraDates& era, QStringList& warnings) {
   const GridCodes codes = gridCodes(claim);
-  const MonthFlags flags = monthFlags(claim.get(QStringLiteral("申請年月")), era);
+  const MonthFlags flags = monthFlags(claim.get(claim::month), era);
   return firstOf(
       [&] { return blankMessage(claim, u"保険者名称", u"保険証の保険者名が記入されていません。"); },
       [&] { return commonMessage(claim, codes, era); },

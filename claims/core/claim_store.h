@@ -37,8 +37,8 @@ StoredClaim storeClaim(const ClaimRecord& claim, const StoreContext& context,
                        const std::optional<AreaBoxes>& boxes = std::nullopt);
 
 /// The columns of the first half that the calculation clears before it writes.
-std::span<const char16_t* const> calculatedColumns();
+std::span<const store::Column> calculatedColumns();
 /// The eight of the second half.
-std::span<const char16_t* const> calculatedColumnsSecond();
+std::span<const store::Column> calculatedColumnsSecond();
 
 }  // namespace claims

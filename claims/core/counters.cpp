@@ -4,9 +4,9 @@ namespace claims::counters {
 
 Counted reports(const ClaimCounts& counts) {
   const ClaimRecord& claim = counts.claim;
-  if (!claim.ticked(QStringLiteral("yn2"))) return {0};
-  if (claim.ticked(QStringLiteral("yn4"))) return {3};
-  return {claim.ticked(QStringLiteral("yn3")) ? 2 : 1};
+  if (!claim.ticked(claim::report)) return {0};
+  if (claim.ticked(claim::reportThrice)) return {3};
+  return {claim.ticked(claim::reportTwice) ? 2 : 1};
 }
 
 Counted firstTreatment(const ClaimCounts& counts) {

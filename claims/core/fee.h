@@ -3,7 +3,7 @@
 #include <QString>
 #include <array>
 
-#include "claims/core/claim_record.h"
+#include "platform/store/tables/fees.h"
 
 namespace claims {
 
@@ -51,81 +51,83 @@ constexpr Fee massageVisitFee(int form, int areas) {
   return static_cast<Fee>(static_cast<int>(Fee::MassageVisit) + form * 5 + areas - 1);
 }
 
-/// A fee and the name of its column.
+/// A fee and its column.
 struct FeeRow {
   Fee fee;
-  const char16_t* column;
+  store::Column column;
 };
 
 /// All fees, in the order of the enumeration.
 inline constexpr auto kFees = std::to_array<FeeRow>({
-    {Fee::Hari, u"はり"},
-    {Fee::HariFirst, u"はり初回"},
-    {Fee::HariElectric, u"はり電療"},
-    {Fee::HariElectricFirst, u"はり電療初回"},
-    {Fee::Kyu, u"灸"},
-    {Fee::KyuFirst, u"灸初回"},
-    {Fee::KyuElectric, u"灸電療"},
-    {Fee::KyuElectricFirst, u"灸電療初回"},
-    {Fee::HariKyu, u"はり灸"},
-    {Fee::HariKyuFirst, u"はり灸初回"},
-    {Fee::HariKyuElectric, u"はり灸電療"},
-    {Fee::HariKyuElectricFirst, u"はり灸電療初回"},
-    {Fee::MassageArea, u"マッサージ1局所"},
-    {Fee::Warm, u"温罨法"},
-    {Fee::WarmLight, u"電気光線器具併用"},
-    {Fee::Limb, u"徒手矯正術"},
-    {Fee::Sudden, u"突発的な往療"},
-    {Fee::Add2K, u"加算往診料2K"},
-    {Fee::Add4K, u"加算往診料4K"},
-    {Fee::SpecialArea, u"特別地域"},
-    {Fee::Add6K, u"加算往診料6K"},
-    {Fee::Add8K, u"加算往診料8K"},
-    {Fee::Add10K, u"加算往診料10K"},
-    {Fee::Add12K, u"加算往診料12K"},
-    {Fee::Add16K, u"加算往診料16K"},
-    {Fee::Base2K, u"往診料2Kまで"},
-    {Fee::Add14K, u"加算往診料14K"},
-    {Fee::Report, u"施術報告書交付料"},
-    {hariVisitFee(0, 1), u"はり訪問施術11"},
-    {hariVisitFee(0, 2), u"はり訪問施術12"},
-    {hariVisitFee(1, 1), u"はり訪問施術21"},
-    {hariVisitFee(1, 2), u"はり訪問施術22"},
-    {hariVisitFee(2, 1), u"はり訪問施術311"},
-    {hariVisitFee(2, 2), u"はり訪問施術312"},
-    {hariVisitFee(3, 1), u"はり訪問施術321"},
-    {hariVisitFee(3, 2), u"はり訪問施術322"},
-    {massageVisitFee(0, 1), u"マ訪問施術11"},
-    {massageVisitFee(0, 2), u"マ訪問施術12"},
-    {massageVisitFee(0, 3), u"マ訪問施術13"},
-    {massageVisitFee(0, 4), u"マ訪問施術14"},
-    {massageVisitFee(0, 5), u"マ訪問施術15"},
-    {massageVisitFee(1, 1), u"マ訪問施術21"},
-    {massageVisitFee(1, 2), u"マ訪問施術22"},
-    {massageVisitFee(1, 3), u"マ訪問施術23"},
-    {massageVisitFee(1, 4), u"マ訪問施術24"},
-    {massageVisitFee(1, 5), u"マ訪問施術25"},
-    {massageVisitFee(2, 1), u"マ訪問施術311"},
-    {massageVisitFee(2, 2), u"マ訪問施術312"},
-    {massageVisitFee(2, 3), u"マ訪問施術313"},
-    {massageVisitFee(2, 4), u"マ訪問施術314"},
-    {massageVisitFee(2, 5), u"マ訪問施術315"},
-    {massageVisitFee(3, 1), u"マ訪問施術321"},
-    {massageVisitFee(3, 2), u"マ訪問施術322"},
-    {massageVisitFee(3, 3), u"マ訪問施術323"},
-    {massageVisitFee(3, 4), u"マ訪問施術324"},
-    {massageVisitFee(3, 5), u"マ訪問施術325"},
+    {Fee::Hari, fees::hari},
+    {Fee::HariFirst, fees::hariFirst},
+    {Fee::HariElectric, fees::hariElectric},
+    {Fee::HariElectricFirst, fees::hariElectricFirst},
+    {Fee::Kyu, fees::kyu},
+    {Fee::KyuFirst, fees::kyuFirst},
+    {Fee::KyuElectric, fees::kyuElectric},
+    {Fee::KyuElectricFirst, fees::kyuElectricFirst},
+    {Fee::HariKyu, fees::hariKyu},
+    {Fee::HariKyuFirst, fees::hariKyuFirst},
+    {Fee::HariKyuElectric, fees::hariKyuElectric},
+    {Fee::HariKyuElectricFirst, fees::hariKyuElectricFirst},
+    {Fee::MassageArea, fees::massageArea},
+    {Fee::Warm, fees::warm},
+    {Fee::WarmLight, fees::warmLight},
+    {Fee::Limb, fees::limb},
+    {Fee::Sudden, fees::sudden},
+    {Fee::Add2K, fees::add2K},
+    {Fee::Add4K, fees::add4K},
+    {Fee::SpecialArea, fees::specialArea},
+    {Fee::Add6K, fees::add6K},
+    {Fee::Add8K, fees::add8K},
+    {Fee::Add10K, fees::add10K},
+    {Fee::Add12K, fees::add12K},
+    {Fee::Add16K, fees::add16K},
+    {Fee::Base2K, fees::base2K},
+    {Fee::Add14K, fees::add14K},
+    {Fee::Report, fees::report},
+    {hariVisitFee(0, 1), fees::hariVisit1[1]},
+    {hariVisitFee(0, 2), fees::hariVisit1[2]},
+    {hariVisitFee(1, 1), fees::hariVisit2[1]},
+    {hariVisitFee(1, 2), fees::hariVisit2[2]},
+    {hariVisitFee(2, 1), fees::hariVisit3[1]},
+    {hariVisitFee(2, 2), fees::hariVisit3[2]},
+    {hariVisitFee(3, 1), fees::hariVisit10[1]},
+    {hariVisitFee(3, 2), fees::hariVisit10[2]},
+    {massageVisitFee(0, 1), fees::massageVisit1[1]},
+    {massageVisitFee(0, 2), fees::massageVisit1[2]},
+    {massageVisitFee(0, 3), fees::massageVisit1[3]},
+    {massageVisitFee(0, 4), fees::massageVisit1[4]},
+    {massageVisitFee(0, 5), fees::massageVisit1[5]},
+    {massageVisitFee(1, 1), fees::massageVisit2[1]},
+    {massageVisitFee(1, 2), fees::massageVisit2[2]},
+    {massageVisitFee(1, 3), fees::massageVisit2[3]},
+    {massageVisitFee(1, 4), fees::massageVisit2[4]},
+    {massageVisitFee(1, 5), fees::massageVisit2[5]},
+    {massageVisitFee(2, 1), fees::massageVisit3[1]},
+    {massageVisitFee(2, 2), fees::massageVisit3[2]},
+    {massageVisitFee(2, 3), fees::massageVisit3[3]},
+    {massageVisitFee(2, 4), fees::massageVisit3[4]},
+    {massageVisitFee(2, 5), fees::massageVisit3[5]},
+    {massageVisitFee(3, 1), fees::massageVisit10[1]},
+    {massageVisitFee(3, 2), fees::massageVisit10[2]},
+    {massageVisitFee(3, 3), fees::massageVisit10[3]},
+    {massageVisitFee(3, 4), fees::massageVisit10[4]},
+    {massageVisitFee(3, 5), fees::massageVisit10[5]},
 });
 
-/// Whether row n is the row of fee n, so that a fee is the index of its row.
-consteval bool feesAreInOrder() {
+/// Whether row n is fee n and column n + 1 of the table (behind ID), so that a fee is the index of its row
+/// and no column of the table is forgotten.
+consteval bool feesAreTheTable() {
+  const auto columns = fees::table.columns();
   for (size_t i = 0; i < kFees.size(); ++i)
-    if (kFees[i].fee != static_cast<Fee>(i)) return false;
-  return kFees.size() == static_cast<size_t>(Fee::Count);
+    if (kFees[i].fee != static_cast<Fee>(i) || kFees[i].column.name() != columns[i + 1].name) return false;
+  return kFees.size() == static_cast<size_t>(Fee::Count) && columns.size() == kFees.size() + 1;
 }
-static_assert(feesAreInOrder());
+static_assert(feesAreTheTable());
 
 /// Column name of a fee.
-inline QString feeColumn(Fee fee) { return columnName(kFees[static_cast<size_t>(fee)].column); }
+inline QString feeColumn(Fee fee) { return kFees[static_cast<size_t>(fee)].column; }
 
 }  // namespace claims

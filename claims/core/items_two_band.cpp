@@ -31,14 +31,12 @@ Counted unitsOf(bool digits, int sum, const QString& claimWide, int days) {
 
 Counted areas(const ClaimCounts& counts) {
   const TwoBandTally& tally = counts.twoBand;
-  return unitsOf(tally.digitMassage, tally.areaSum, counts.claim.get(QStringLiteral("マッサージ部位数")),
-                 tally.massageDays);
+  return unitsOf(tally.digitMassage, tally.areaSum, counts.claim.get(claim::areaCount), tally.massageDays);
 }
 
 Counted limbs(const ClaimCounts& counts) {
   const TwoBandTally& tally = counts.twoBand;
-  return unitsOf(tally.digitLimb, tally.limbSum, counts.claim.get(QStringLiteral("徒手矯正数")),
-                 tally.limbDays);
+  return unitsOf(tally.digitLimb, tally.limbSum, counts.claim.get(claim::limbCount), tally.limbDays);
 }
 
 Counted allStepVisits(const ClaimCounts& counts) { return {counts.steps.total()}; }
@@ -55,46 +53,46 @@ constexpr auto kTreatments = std::to_array<AmountItem>({
     {.label = u"初回費用",
      .counter = firstTreatment,
      .fee = {Fee::HariFirst, Fee::KyuFirst, Fee::HariKyuFirst},
-     .columns = {.amount = u"初回費用"}},
+     .columns = {.amount = claim::firstFee}},
     {.label = u"はり",
      .counter = days<&Tally::hari>,
      .fee = Fee::Hari,
      .art = Art::Hari,
-     .columns = {u"はり合計金額", u"はり合計回数"}},
+     .columns = {claim::hariSum, claim::hariTimes}},
     {.label = u"灸",
      .counter = days<&Tally::kyu>,
      .fee = Fee::Kyu,
      .art = Art::Kyu,
-     .columns = {u"灸合計金額", u"灸合計回数"}},
+     .columns = {claim::kyuSum, claim::kyuTimes}},
     {.label = u"はり灸",
      .counter = days<&Tally::hariKyu>,
      .fee = Fee::HariKyu,
      .art = Art::HariKyu,
-     .columns = {u"はり灸合計金額", u"はり灸合計回数"}},
+     .columns = {claim::hariKyuSum, claim::hariKyuTimes}},
     {.label = u"電療",
      .counter = days<&Tally::electric>,
      .fee = Fee::HariElectric,
-     .columns = {u"はり電療合計金額", u"はり電療合計回数"}},
+     .columns = {claim::hariElectricSum, claim::hariElectricTimes}},
     {.label = u"マッサージ",
      .counter = areas,
      .fee = Fee::MassageArea,
      .art = Art::Massage,
-     .columns = {u"マッサージ局所合計金額", u"マッサージ局所合計回数", days<&Tally::massageDays>}},
+     .columns = {claim::massageSum, claim::massageTimes, days<&Tally::massageDays>}},
     {.label = u"徒手矯正術",
      .counter = limbs,
      .fee = Fee::Limb,
      .art = Art::Massage,
-     .columns = {u"徒手矯正術合計金額", u"徒手矯正術合計回数", days<&Tally::limbDays>}},
+     .columns = {claim::limbSum, claim::limbTimes, days<&Tally::limbDays>}},
     {.label = u"温罨法",
      .counter = days<&Tally::warm>,
      .fee = Fee::Warm,
      .art = Art::Massage,
-     .columns = {u"温罨法合計金額", u"温罨法合計回数"}},
+     .columns = {claim::warmSum, claim::warmTimes}},
     {.label = u"電気光線器具",
      .counter = days<&Tally::warmLight>,
      .fee = Fee::WarmLight,
      .art = Art::Massage,
-     .columns = {u"電気光線器具併用合計金額", u"電気光線器具併用合計回数"}},
+     .columns = {claim::warmLightSum, claim::warmLightTimes}},
 });
 
 // The fee of the column 加算往診料4K is the whole fee beyond 4 km, not an add-on.
@@ -102,11 +100,11 @@ constexpr auto kBands = std::to_array<AmountItem>({
     {.label = u"往療料（4kmまで）",
      .counter = days<&Tally::nearVisits>,
      .fee = Fee::Base2K,
-     .columns = {.amount = u"往療金額1"}},
+     .columns = {.amount = claim::visitSum1}},
     {.label = u"往療料（4km超）",
      .counter = days<&Tally::farVisits>,
      .fee = Fee::Add4K,
-     .columns = {.amount = u"往療金額2"}},
+     .columns = {.amount = claim::visitSum2}},
 });
 
 // What each distance adds to the base fee. Kept: in a month of differing distances 12 km takes the column of

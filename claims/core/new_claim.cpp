@@ -1,6 +1,7 @@
 #include "claims/core/new_claim.h"
 
 #include "claims/core/print_settings.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 namespace {
@@ -32,9 +33,9 @@ void setPerson(ClaimRecord& claim, const QString& stem, const QHash<QString, QSt
 }
 
 void setDefaults(ClaimRecord& claim) {
-  claim.set(QStringLiteral("業務上外のもの"), QStringLiteral("その他"));
-  claim.set(QStringLiteral("第三者行為によるもの"), QStringLiteral("いいえ"));
-  claim.set(QStringLiteral("入院入院外の別"), QStringLiteral("入院外"));
+  claim.set(claim::workRelated, QStringLiteral("その他"));
+  claim.set(claim::thirdParty, QStringLiteral("いいえ"));
+  claim.set(claim::hospitalised, QStringLiteral("入院外"));
   for (const PrintSetting& setting : printSettings())
     if (setting.newClaim) claim.set(columnName(setting.column), QString::fromUtf16(setting.newClaim));
   for (const NewClaimDefault& hidden : hiddenPrintDefaults())
@@ -48,24 +49,23 @@ ClaimRecord newClaim(const QHash<QString, QString>& patient, const NewClaimChoic
   ClaimRecord claim;
   for (const char16_t* column : {u"カルテ番号", u"氏名", u"生年月日"})
     claim.set(QString::fromUtf16(column), patient.value(QString::fromUtf16(column)));
-  claim.set(QStringLiteral("番号1"), patient.value(QStringLiteral("テキスト5")));
+  claim.set(claim::patientSerial, patient.value(QStringLiteral("テキスト5")));
   claim.set(QStringLiteral("施術内容"),
             choice.treatment == Kind::Massage ? QStringLiteral("あマ") : QStringLiteral("鍼灸"));
   setPerson(claim, QStringLiteral("療養を受ける者の"), patient);
   if (choice.holder != CardHolder::Family) {
     setPerson(claim, QStringLiteral("被保険者の"), patient);
-    claim.set(QStringLiteral("被保険者との続柄"), QStringLiteral("本人"));
+    claim.set(claim::relation, QStringLiteral("本人"));
   }
-  if (choice.holder == CardHolder::InsuredNotHead)
-    claim.set(QStringLiteral("保険の種類2"), QStringLiteral("-1"));
-  claim.set(QStringLiteral("保険の種類"), choice.insurance);
-  claim.set(QStringLiteral("保険順位"), insuranceOrder(choice.insurance));
+  if (choice.holder == CardHolder::InsuredNotHead) claim.set(claim::notHead, QStringLiteral("-1"));
+  claim.set(claim::insuranceKind, choice.insurance);
+  claim.set(claim::insuranceOrder, insuranceOrder(choice.insurance));
   claim.set(QString::fromUtf16(kSummaryCodeColumn),
-            summaryCode(choice.insurance, claim.get(QStringLiteral("被保険者との続柄"))));
+            summaryCode(choice.insurance, claim.get(claim::relation)));
   for (const frame::ProfileField& field : frame::profileFields())
     if (field.claimColumn) claim.set(QString::fromUtf16(field.claimColumn), profile[field.slot]);
-  claim.set(QStringLiteral("c14"), profile[frame::profile::kElderlyHari]);
-  claim.set(QStringLiteral("c15"), profile[frame::profile::kElderlyMassage]);
+  claim.set(claim::registrationHari, profile[frame::profile::kElderlyHari]);
+  claim.set(claim::registrationMassage, profile[frame::profile::kElderlyMassage]);
   setDefaults(claim);
   return claim;
 }

@@ -1,5 +1,6 @@
 #include "claims/core/print_fields.h"
 
+#include "platform/store/tables/claims.h"
 #include "platform/text/width.h"
 
 namespace claims {
@@ -29,7 +30,7 @@ bool local(const QString& insurance) {
 
 QHash<QString, QString> printFields(const ClaimRecord& claim) {
   QHash<QString, QString> fields;
-  const bool isLocal = local(claim.get(QStringLiteral("保険の種類")));
+  const bool isLocal = local(claim.get(claim::insuranceKind));
   for (const FieldRow& row : kFields) {
     const QString column = columnName(row.column);
     if (claim.blank(column) || (isLocal && row.taken == Taken::EmployeesOnly)) continue;

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "frame/core/settings_slots.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 namespace {
@@ -47,8 +48,7 @@ constexpr std::array<NewClaimDefault, 4> kHidden = {
 
 bool flagRules(const PrintSetting& setting, const ClaimRecord& claim) {
   if (setting.flag != frame::profile::kRelationPrinted) return setting.flag >= 0;
-  return claim.get(QStringLiteral("被保険者との続柄")) == u"本人" ||
-         claim.ticked(QStringLiteral("保険の種類2"));
+  return claim.get(claim::relation) == u"本人" || claim.ticked(claim::notHead);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ text::Result<RegisterRows> readRegister(const Register& list, const frame::DataF
   RegisterRows rows;
   for (; rows.size() < kMostRows && !cursor->eof(); cursor->moveNext()) {
     QStringList values;
-    for (const RegisterField& field : list.fields) values << cursor->value(QString::fromUtf16(field.column));
+    for (const RegisterField& field : list.fields) values << cursor->value(field.column);
     rows << values;
   }
   return rows;

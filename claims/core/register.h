@@ -3,51 +3,55 @@
 #include <QString>
 #include <QStringList>
 #include <QVector>
+#include <array>
 #include <span>
 
 #include "frame/core/data_folders.h"
 #include "platform/store/sources.h"
+#include "platform/store/tables/claims.h"
+#include "platform/store/tables/registers.h"
 #include "platform/text/result.h"
 
 namespace claims {
 
 /// A column of a register: its label on the screen, and the column of the claim that takes its value.
 struct RegisterField {
-  const char16_t* column;
+  store::Column column;
   const char16_t* label;
-  const char16_t* claimColumn;
+  store::Column claimColumn;
   int limit = 0;  ///< characters that can be typed, 0: no limit of its own
 };
 
 /// A register behind the lists of the claim form.
 struct Register {
-  const char16_t* table;
+  const store::Table& table;
   int folder;                             ///< its file's entry of DataFolders
   const char16_t* statement;              ///< reads the rows in the order of the lists
   std::span<const RegisterField> fields;  ///< in the order in which they are checked
-  std::span<const char16_t* const> keys;  ///< columns to search in, in the order of their list
+  std::span<const store::Column> keys;    ///< columns to search in, in the order of their list
   const char16_t* deleteQuestion;
 };
 
-inline constexpr RegisterField kDoctorFields[] = {{u"氏名", u"氏名", u"同意医師氏名", 50},
-                                                  {u"フリガナ", u"フリガナ", u"同意医師フリガナ", 32},
-                                                  {u"病院名", u"病院名", u"医療機関名", 50},
-                                                  {u"住所", u"住所", u"同意医師住所"},
-                                                  {u"TEL", u"TEL", u"同意医師の電話番号", 16}};
-inline constexpr const char16_t* kDoctorKeys[] = {u"氏名", u"病院名", u"TEL", u"フリガナ", u"住所"};
+inline constexpr RegisterField kDoctorFields[] = {{doctors::name, u"氏名", claim::doctorName, 50},
+                                                  {doctors::kana, u"フリガナ", claim::doctorKana, 32},
+                                                  {doctors::hospital, u"病院名", claim::hospital, 50},
+                                                  {doctors::address, u"住所", claim::doctorAddress},
+                                                  {doctors::telephone, u"TEL", claim::doctorTelephone, 16}};
+inline constexpr std::array kDoctorKeys = {doctors::name, doctors::hospital, doctors::telephone,
+                                           doctors::kana, doctors::address};
 /// The consenting doctors.
 inline constexpr Register kDoctorRegister{
-    u"同意医師", frame::folder::kDoctors,          store::source::kDoctors, kDoctorFields,
-    kDoctorKeys, u"　同意医師のデータを削除します"};
+    doctors::table, frame::folder::kDoctors,          store::source::kDoctors, kDoctorFields,
+    kDoctorKeys,    u"　同意医師のデータを削除します"};
 
-inline constexpr RegisterField kInsurerFields[] = {{u"名称", u"名称", u"保険者名称", 20},
-                                                   {u"番号", u"番号", u"保険者番号"},
-                                                   {u"所在地", u"所在地", u"保険者住所", 30}};
-inline constexpr const char16_t* kInsurerKeys[] = {u"番号", u"名称", u"所在地"};
+inline constexpr RegisterField kInsurerFields[] = {{insurers::name, u"名称", claim::insurerName, 20},
+                                                   {insurers::number, u"番号", claim::insurerNumber},
+                                                   {insurers::address, u"所在地", claim::insurerAddress, 30}};
+inline constexpr std::array kInsurerKeys = {insurers::number, insurers::name, insurers::address};
 /// The insurers. Their names must be exact: the summary sheets group by them.
 inline constexpr Register kInsurerRegister{
-    u"保険者",    frame::folder::kInsurers,       store::source::kInsurers, kInsurerFields,
-    kInsurerKeys, u"　保険者のデータを削除します"};
+    insurers::table, frame::folder::kInsurers,       store::source::kInsurers, kInsurerFields,
+    kInsurerKeys,    u"　保険者のデータを削除します"};
 
 /// The values of a register's rows, in the order of its fields.
 using RegisterRows = QVector<QStringList>;

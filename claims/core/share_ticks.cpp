@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/store/tables/claims.h"
+
 namespace claims {
 
 QString shareTicksText(const ShareTicks& ticks) {
@@ -27,7 +29,7 @@ ShareTicks tickValuesOf(const ClaimRecord& claim) {
 ShareTicks shareTicksOf(const ClaimRecord& claim) {
   const ShareTicks ticks = tickValuesOf(claim);
   const bool any = std::ranges::find(ticks, true) != ticks.end();
-  return any ? ticks : shareTicksOf(claim.get(QStringLiteral("負担割合")));
+  return any ? ticks : shareTicksOf(claim.get(claim::shareTicks));
 }
 
 }  // namespace claims

@@ -1,5 +1,7 @@
 #include "claims/core/treatment_period.h"
 
+#include "platform/store/tables/claims.h"
+
 namespace claims {
 
 TreatmentPeriod treatmentPeriod(const ClaimRecord& claim, const MonthFlags& flags) {
@@ -9,11 +11,11 @@ TreatmentPeriod treatmentPeriod(const ClaimRecord& claim, const MonthFlags& flag
     if (period.firstTreated == 0) period.firstTreated = day;
     period.lastTreated = day;
   }
-  if (claim.get(QStringLiteral("請求区分")) == u"新規") {
-    period.startText = claim.get(QStringLiteral("初療年月日"));
+  if (claim.get(claim::requestKind) == u"新規") {
+    period.startText = claim.get(claim::firstTreatment);
     period.startDay = 0;
   }
-  const QString outcome = claim.get(QStringLiteral("転帰"));
+  const QString outcome = claim.get(claim::outcome);
   if (outcome == u"継続") {
     if (flags.month) period.endDay = lastDayOfMonth(flags.month->year(), flags.month->month());
   } else if (outcome == u"治癒" || outcome == u"転医" || outcome == u"中止") {

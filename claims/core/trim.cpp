@@ -1,6 +1,7 @@
 #include "claims/core/trim.h"
 
 #include "claims/core/kinds.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 namespace {
@@ -69,7 +70,7 @@ constexpr const char16_t* kInsurerColumns[] = {
 
 TrimResult trimForPrint(const ClaimRecord& claim, TrimForm form) {
   TrimResult result{claim, {}};
-  const bool massage = kindOf(claim.get(QStringLiteral("施術内容"))) == Kind::Massage;
+  const bool massage = kindOf(claim.get(claim::treatmentKind)) == Kind::Massage;
   for (const LimitRow& row : kLimits) {
     const int limit = limitOf(row, form, massage);
     const QString column = columnName(row.column);

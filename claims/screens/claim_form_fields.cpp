@@ -3,6 +3,8 @@
 #include "claims/core/new_claim.h"
 #include "claims/screens/claim_form_screen.h"
 #include "claims/screens/claim_form_texts.h"
+#include "frame/core/routes.h"
+#include "platform/store/tables/claims.h"
 
 // Fields of the form: checks on leaving, siblings of the lists, ticks with a word of their own.
 
@@ -33,7 +35,7 @@ bool areasDiffer(const ClaimRecord& claim) {
 
 void ClaimFormScreen::codeLeft(int index) {
   const QString message =
-      codeEntryMessage(text(member(u"Text5", index)), kindOf(m_read.get(QStringLiteral("施術内容"))));
+      codeEntryMessage(text(member(u"Text5", index)), kindOf(m_read.get(claim::treatmentKind)));
   if (message.isNull()) return;
   keepFocus();
   messages().tell(message);
@@ -52,7 +54,7 @@ void ClaimFormScreen::gridEdited() {
 }
 
 void ClaimFormScreen::refillBoxes() {
-  if (kindOf(m_read.get(QStringLiteral("施術内容"))) != Kind::Massage) return;
+  if (kindOf(m_read.get(claim::treatmentKind)) != Kind::Massage) return;
   const AreaBoxes boxes = areaBoxes(record());
   for (int i = 0; i < int(boxes.areas.size()); ++i) setText(member(u"Text31", i), boxes.areas[size_t(i)]);
   for (int i = 0; i < int(boxes.limbs.size()); ++i) setText(member(u"Text41", i), boxes.limbs[size_t(i)]);
@@ -62,7 +64,7 @@ void ClaimFormScreen::refillBoxes() {
 void ClaimFormScreen::applyAreaWarning(bool spoken) {
   const QString label = QStringLiteral("LabelAreas");
   const ClaimRecord claim = record();
-  const bool holds = kindOf(claim.get(QStringLiteral("施術内容"))) == Kind::Massage && areasDiffer(claim);
+  const bool holds = kindOf(claim.get(claim::treatmentKind)) == Kind::Massage && areasDiffer(claim);
   if (holds && spoken && !isControlShown(label)) voice().speakText(caption(label));
   setShown(label, holds);
 }
@@ -112,7 +114,7 @@ void ClaimFormScreen::reportToggled() {
 
 void ClaimFormScreen::itemsOnlyToggled() {
   if (checked(QStringLiteral("Check13")) && !m_run.itemsOnlyNoteSilenced)
-    navigator().show(QStringLiteral("項目のみ印刷の注意事項"));
+    navigator().show(routes::ItemsOnlyNote{});
 }
 
 void ClaimFormScreen::datesToWestern() {

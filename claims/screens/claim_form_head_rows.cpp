@@ -1,5 +1,6 @@
 #include "claims/screens/claim_form_rows.h"
 #include "claims/screens/claim_form_screen.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 
@@ -10,23 +11,23 @@ namespace {
 
 constexpr Row kRows[] = {
     Group{{u"FrameHead"}, u"表示中のレセプト", 4},
-    TextField{.name = {u"txtFields", 0}, .caption = u"氏名:", .bind = Column{u"氏名"}},
+    TextField{.name = {u"txtFields", 0}, .caption = u"氏名:", .bind = claim::name},
     TextField{.name = {u"txtFields", 1},
               .caption = u"※申請年月:",
-              .bind = Column{u"申請年月"},
+              .bind = claim::month,
               .width = 12,
               .tip = u"（記入例）令和6年10月",
               .onLeave = call<&Form::monthLeft>},
     TextField{.name = {u"txtFields", 2},
               .caption = u"施術内容:",
-              .bind = Column{u"施術内容"},
+              .bind = claim::treatmentKind,
               .width = 8,
               .readOnly = true,
               .tip = u"（注）変更は出来ません"},
     Note{.name = {u"LabelKind"}, .caption = u"（注）変更は出来ません"},
     TextField{.name = {u"txtFields", 3},
               .caption = u"施術科目:",
-              .bind = Column{u"施術科目"},
+              .bind = claim::subject,
               .width = 8,
               .readOnly = true,
               .tip = u"登録の時に自動で入ります。"},

@@ -2,6 +2,7 @@
 #include "claims/core/carry_forward.h"
 #include "claims/screens/claim_form_screen.h"
 #include "claims/screens/claim_form_texts.h"
+#include "platform/store/tables/claims.h"
 
 // Calculation, carry-forward and the print buttons.
 
@@ -19,7 +20,7 @@ void ClaimFormScreen::previewFees() {
   applyMonth();
   if (!mayLeave()) return;
   closePreview();
-  const Preview preview = previewOf(kindOf(m_read.get(QStringLiteral("施術内容"))), m_flags.month);
+  const Preview preview = previewOf(kindOf(m_read.get(claim::treatmentKind)), m_flags.month);
   if (preview == Preview::None) return;
   m_state.previewKind = static_cast<int>(preview);
   navigator().show(previewScreen(preview));
@@ -48,7 +49,7 @@ void ClaimFormScreen::print(int kind) {
   if (m_id == 0) return;
   applyMonth();
   if (!mayLeave()) return;
-  const QString insurance = record().get(QStringLiteral("保険の種類"));
+  const QString insurance = record().get(claim::insuranceKind);
   if (insurance == u"国保" || insurance == u"社保") {
     if (!checkedFull()) return;
     trimTexts();

@@ -1,6 +1,6 @@
-#include "claims/core/generic_columns.h"
 #include "claims/screens/claim_form_rows.h"
 #include "claims/screens/claim_form_screen.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 
@@ -52,16 +52,16 @@ constexpr Row kRows[] = {
     Note{.name = {u"LabelGuide", 2},
          .caption = u"※令和6年10月施術分以降、往療内訳表の印刷・提出は、必要なくなりました。"},
     Group{{u"FrameStartPoints"}, u"往療起点の登録", 1},
-    field({u"txtFields", 120}, u"往療起点の登録1:", Column{u"c1", 2}, 50),
-    field({u"txtFields", 121}, u"往療起点の登録2:", Column{u"c2", 2}, 50),
-    field({u"txtFields", 122}, u"往療起点の登録3:", Column{u"c3", 2}, 50),
+    field({u"txtFields", 120}, u"往療起点の登録1:", claim::startPoint[1], 50),
+    field({u"txtFields", 121}, u"往療起点の登録2:", claim::startPoint[2], 50),
+    field({u"txtFields", 122}, u"往療起点の登録3:", claim::startPoint[3], 50),
     Command{.name = {u"Command25"}, .caption = u"↓ 起点の代入", .run = run<&Form::openBeside>},
     Command{.name = {u"Command26"}, .caption = u"往療起点の登録の確認表示", .run = run<&Form::openBeside>},
     EndGroup{},
     Group{{u"FrameReportNotes"}, u"新摘要欄", 1},
     TextField{.name = {u"Text25"},
               .caption = u"新摘要欄の内容:",
-              .bind = Column{column::kNewRemarks, 2},
+              .bind = claim::newRemarks,
               .limit = 500,
               .width = 60,
               .lines = 4,

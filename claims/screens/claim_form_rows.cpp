@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "platform/store/tables/claims.h"
+
 namespace claims {
 
 namespace {
@@ -23,7 +25,7 @@ const screen::ScreenRow& claimFormDeclaration() {
   static const screen::ScreenRow declaration{.name = u"frmレセプトフォーム",
                                              .caption = u"保険申請",
                                              .rows = all,
-                                             .sources = 2,
+                                             .sources = {claim::firstHalf, claim::secondHalf},
                                              .heading = u"保険申請",
                                              .functionKeys = true};
   return declaration;

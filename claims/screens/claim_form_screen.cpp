@@ -4,6 +4,7 @@
 
 #include "claims/screens/claim_form_rows.h"
 #include "claims/screens/claim_form_texts.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 
@@ -50,7 +51,7 @@ void ClaimFormScreen::closeForm() {
     return;
   }
   // NULL, not blank: a claim whose days fit no kind is blank there once it is stored.
-  if (m_read.get(QStringLiteral("施術科目")).isNull()) {
+  if (m_read.get(claim::subject).isNull()) {
     messages().tell(QString::fromUtf16(says::kNeverStored));
     return;
   }

@@ -1,6 +1,6 @@
-#include "claims/core/generic_columns.h"
 #include "claims/screens/claim_form_rows.h"
 #include "claims/screens/claim_form_screen.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 
@@ -64,34 +64,31 @@ constexpr Row kRows[] = {
          .caption =
              u"※印刷設定を変更した場合は、必ず「登録」を押してから「印刷」もしくは他の動作をしてください。"},
     Group{{u"FrameSettings", 1}, u"印刷の設定 １", 1},
-    setting({u"FrameSet", 1}, u"施術期間（自）", Column{u"txt dummy1", 2}, kChoices1),
-    setting({u"FrameSet", 2}, u"施術期間（至）", Column{u"txt dummy2", 2}, kChoices2),
-    setting({u"FrameSet", 3}, u"左欄外保険者名の印字", Column{u"txt dummy3", 2}, kChoices3),
-    setting({u"FrameSet", 4}, u"公費負担番号の印字", Column{u"txt dummy4", 2}, kChoices4),
-    setting({u"FrameSet", 5}, u"男女の印字", Column{u"txt dummy9", 2}, kChoices5),
-    setting({u"FrameSet", 6}, u"委任欄（償還払い時）", Column{u"txt dummy10", 2}, kChoices6),
-    setting({u"FrameSet", 7}, u"申請欄（保険者の頭に○）", Column{u"txt dummy11", 2}, kChoices7),
-    setting({u"FrameSet", 8}, u"委任欄の被保険者の氏名の印字", Column{u"txt dummy13", 2}, kChoices8),
-    setting({u"FrameSet", 9}, u"続柄の印字", Column{u"txtdummy26", 2}, kChoices9),
-    setting({u"FrameSet", 10}, u"申請欄の氏名の印字", Column{u"c8", 2}, kChoices10),
+    setting({u"FrameSet", 1}, u"施術期間（自）", claim::periodFrom, kChoices1),
+    setting({u"FrameSet", 2}, u"施術期間（至）", claim::periodTo, kChoices2),
+    setting({u"FrameSet", 3}, u"左欄外保険者名の印字", claim::printMargin, kChoices3),
+    setting({u"FrameSet", 4}, u"公費負担番号の印字", claim::printPublicAidNumber, kChoices4),
+    setting({u"FrameSet", 5}, u"男女の印字", claim::printSex, kChoices5),
+    setting({u"FrameSet", 6}, u"委任欄（償還払い時）", claim::printMandate, kChoices6),
+    setting({u"FrameSet", 7}, u"申請欄（保険者の頭に○）", claim::printRequestMark, kChoices7),
+    setting({u"FrameSet", 8}, u"委任欄の被保険者の氏名の印字", claim::printMandateName, kChoices8),
+    setting({u"FrameSet", 9}, u"続柄の印字", claim::printRelation, kChoices9),
+    setting({u"FrameSet", 10}, u"申請欄の氏名の印字", claim::printApplicantName, kChoices10),
     EndGroup{},
     Group{{u"FrameSettings", 2}, u"印刷の設定 ２", 1},
-    setting({u"FrameSet", 11}, u"右上の給付割合の○", Column{u"c9", 2}, kChoices11),
-    setting({u"FrameSet", 12}, u"施術証明欄に代表者委任の印字", Column{u"c10", 2}, kChoices12),
-    setting({u"FrameSet", 13}, u"一部負担金を", Column{u"c11", 2}, kChoices13),
-    setting({u"FrameSet", 14}, u"施術証明欄・申請欄・委任欄の年月日", Column{u"c13", 2}, kChoices14),
-    setting({u"FrameSet", 15}, u"別添1（様式第6号）の印字", Column{u"c16", 2}, kChoices15),
-    setting({u"FrameSet", 16}, u"支払機関欄の口座", Column{u"txt dummy5", 2}, kChoices16),
-    setting({u"FrameSet", 17}, u"施術証明欄の住所・氏名", Column{u"txt dummy6", 2}, kChoices17),
-    setting({u"FrameSet", 18}, u"同意医師欄の印字", Column{u"txt dummy7", 2}, kChoices18),
-    setting({u"FrameSet", 19}, u"金額欄の印字", Column{u"txt dummy8", 2}, kChoices19),
+    setting({u"FrameSet", 11}, u"右上の給付割合の○", claim::printShareCircles, kChoices11),
+    setting({u"FrameSet", 12}, u"施術証明欄に代表者委任の印字", claim::printProxyWords, kChoices12),
+    setting({u"FrameSet", 13}, u"一部負担金を", claim::shareAsComputed, kChoices13),
+    setting({u"FrameSet", 14}, u"施術証明欄・申請欄・委任欄の年月日", claim::printDates, kChoices14),
+    setting({u"FrameSet", 15}, u"別添1（様式第6号）の印字", claim::printAttachment, kChoices15),
+    setting({u"FrameSet", 16}, u"支払機関欄の口座", claim::printBank, kChoices16),
+    setting({u"FrameSet", 17}, u"施術証明欄の住所・氏名", claim::printProof, kChoices17),
+    setting({u"FrameSet", 18}, u"同意医師欄の印字", claim::printDoctor, kChoices18),
+    setting({u"FrameSet", 19}, u"金額欄の印字", claim::printAmounts, kChoices19),
     EndGroup{},
     Group{{u"FrameSummary"}, u"総括表と受領委任", 2},
-    TextField{.name = {u"Text50"},
-              .caption = u"総括表の種別:",
-              .bind = Column{column::kSummaryKind, 2},
-              .width = 6},
-    flag({u"Check50"}, u"受領委任", Column{column::kDelegated, 2}),
+    TextField{.name = {u"Text50"}, .caption = u"総括表の種別:", .bind = claim::summaryKind, .width = 6},
+    flag({u"Check50"}, u"受領委任", claim::delegated),
     EndGroup{},
 };
 

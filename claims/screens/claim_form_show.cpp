@@ -8,6 +8,7 @@
 #include "claims/screens/claim_form_rows.h"
 #include "claims/screens/claim_form_screen.h"
 #include "claims/screens/claim_form_texts.h"
+#include "platform/store/tables/claims.h"
 
 // What the form shows of a claim: the pair, the values taken on show, and what depends on kind and month.
 
@@ -40,8 +41,8 @@ bool ClaimFormScreen::openSources() {
   source(1).writesOnMove = false;
   source(2).writesOnMove = false;
   const QString table = QString::fromUtf16(kTable);
-  if (!source(1).open(m_run.folders[frame::folder::kClaims1], table)) return false;
-  if (!source(2).open(m_run.folders[frame::folder::kClaims2], table)) return false;
+  if (!source(1).open(m_run.folders[frame::folder::kClaims1])) return false;
+  if (!source(2).open(m_run.folders[frame::folder::kClaims2])) return false;
   auto file = ClaimFile::open(m_run.folders);
   if (!file) {
     messages().tellDataFault(file.fault().message);
@@ -159,16 +160,15 @@ void ClaimFormScreen::showNothing() {
 }
 
 void ClaimFormScreen::takeValuesOfShow() {
-  const QString joined = m_read.get(QStringLiteral("負担割合"));
+  const QString joined = m_read.get(claim::shareTicks);
   if (!joined.isEmpty()) {
     const ShareTicks ticks = shareTicksOf(joined);
     for (int i = 0; i < int(ticks.size()); ++i) setChecked(member(u"Check9", i), ticks[size_t(i)]);
   }
   applyKind();
   const QString addressee = member(u"Combo1", 6);
-  if (text(addressee).isEmpty())
-    setText(addressee, defaultAddressee(m_read.get(QStringLiteral("保険の種類"))));
-  setText(QStringLiteral("TextClinic"), clinicBoxText(m_read.get(QStringLiteral("施術所の名称"))));
+  if (text(addressee).isEmpty()) setText(addressee, defaultAddressee(m_read.get(claim::insuranceKind)));
+  setText(QStringLiteral("TextClinic"), clinicBoxText(m_read.get(claim::clinicName)));
   applyPrintDefaults();
   applyMonth();
   applyVisitTable();
@@ -176,13 +176,13 @@ void ClaimFormScreen::takeValuesOfShow() {
 }
 
 void ClaimFormScreen::applyKind() {
-  const Kind kind = kindOf(m_read.get(QStringLiteral("施術内容")));
+  const Kind kind = kindOf(m_read.get(claim::treatmentKind));
   const bool massage = kind == Kind::Massage;
   setShown(QStringLiteral("Command5"), !massage);
   setShown(QStringLiteral("Command6"), massage);
   for (const int tick : {6, 7}) setShown(member(u"chkFields", tick), !massage);
   for (const int field : {100, 101}) setShown(member(u"txtFields", field), massage);
-  const QString insurance = m_read.get(QStringLiteral("保険の種類"));
+  const QString insurance = m_read.get(claim::insuranceKind);
   const bool aged = insurance == u"後期高齢" || insurance == u"老人";
   setTip(member(u"txtFields", 63), massage ? QStringLiteral("（記入例）令和2年1月上旬")
                                    : aged  ? QStringLiteral("（記入例）平成16/1/上旬")

@@ -2,6 +2,7 @@
 #include "claims/core/trim.h"
 #include "claims/screens/claim_form_screen.h"
 #include "claims/screens/claim_form_texts.h"
+#include "platform/store/tables/claims.h"
 #include "platform/text/number.h"
 
 // 登録: checks, trimming, question, then both halves in one transaction.
@@ -12,7 +13,7 @@ void ClaimFormScreen::store() {
   if (m_id == 0) return;
   applyMonth();
   if (!checkedFull()) return;
-  if (storeTrims(record().get(QStringLiteral("保険の種類")))) {
+  if (storeTrims(record().get(claim::insuranceKind))) {
     showRecord(*this, m_controls, trimInsurer(record()));
     trimTexts();
   }

@@ -3,6 +3,7 @@
 #include "claims/core/kinds.h"
 #include "claims/screens/claim_form_screen.h"
 #include "claims/screens/claim_form_texts.h"
+#include "platform/store/tables/claims.h"
 
 // The screens that open from the claim form.
 
@@ -68,14 +69,14 @@ void ClaimFormScreen::openBeside() {
 void ClaimFormScreen::openReport() { openSingle(QStringLiteral("施術報告書"), true); }
 void ClaimFormScreen::openVisitTable() { openSingle(QStringLiteral("往療内訳表"), true); }
 void ClaimFormScreen::openReasons() {
-  const bool massage = kindOf(m_read.get(QStringLiteral("施術内容"))) == Kind::Massage;
+  const bool massage = kindOf(m_read.get(claim::treatmentKind)) == Kind::Massage;
   openSingle(massage ? QStringLiteral("frm1年16回以上印刷マ") : QStringLiteral("frm1年16回以上印刷は"),
              false);
 }
 
 void ClaimFormScreen::openPictureChart() {
   if (m_id == 0) return;
-  const QString serial = m_read.get(QStringLiteral("番号1"));
+  const QString serial = m_read.get(claim::patientSerial);
   const screen::Request patient = {{QStringLiteral("テキスト5"), serial}};
   navigator().show(QStringLiteral("治療台帳4"), patient);
   const QString picture =

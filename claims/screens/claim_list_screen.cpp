@@ -2,8 +2,10 @@
 
 #include "claims/core/list_keys.h"
 #include "claims/screens/claim_list_rows.h"
+#include "frame/core/routes.h"
 #include "platform/store/criteria_text.h"
 #include "platform/store/growth.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 namespace {
@@ -60,7 +62,7 @@ void ClaimListScreen::tellOpening() {
 }
 
 bool ClaimListScreen::openWhole() {
-  if (!source().open(m_run.folders[frame::folder::kClaims1], kTable)) return false;
+  if (!source().open(m_run.folders[frame::folder::kClaims1])) return false;
   return put(QString(), kNewestFirst);
 }
 
@@ -81,7 +83,7 @@ void ClaimListScreen::showAll() {
 void ClaimListScreen::refresh() { showAll(); }
 
 void ClaimListScreen::askSort() {
-  if (!emptySet()) navigator().show(QStringLiteral("ソート3"));
+  if (!emptySet()) navigator().show(routes::SortClaims{});
 }
 
 qint64 ClaimListScreen::currentId() const {
@@ -113,7 +115,7 @@ void ClaimListScreen::removeClaim() {
   auto file = claimFile();
   if (!file) return;
   const bool onDisplay =
-      m_state.display != nullptr && m_state.display->record().get(QStringLiteral("ID")).toLongLong() == id;
+      m_state.display != nullptr && m_state.display->record().get(claim::id).toLongLong() == id;
   const text::Done removed = file->remove(id);
   if (!removed) messages().tellDataFault(removed.fault().message);
   if (removed && onDisplay) navigator().unload(kForm);
@@ -121,7 +123,7 @@ void ClaimListScreen::removeClaim() {
 }
 
 void ClaimListScreen::finish() {
-  navigator().show(QStringLiteral("選択3"));
+  navigator().show(routes::MainMenu{});
   closeNow();
 }
 

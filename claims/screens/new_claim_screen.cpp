@@ -1,5 +1,7 @@
 #include "claims/screens/new_claim_screen.h"
 
+#include "frame/core/routes.h"
+
 namespace claims {
 namespace {
 
@@ -29,7 +31,7 @@ void NewClaimScreen::opened(const screen::Request& request) {
 }
 
 void NewClaimScreen::accept() {
-  navigator().show(QStringLiteral("レセプト選択"));
+  navigator().show(routes::ClaimChoice{});
   close();
 }
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <utility>
 
+#include "frame/core/routes.h"
 #include "platform/screen/opens.h"
 #include "platform/text/number.h"
 
@@ -56,7 +57,7 @@ consteval auto allRows(std::integer_sequence<int, Index...>) {
               .run = run<&PreviewScreen::finish>,
               .key = u"Esc",
               .say = u"施術料金を閉じます"},
-      Command{.name = u"Command2", .caption = u"計算式確認", .run = opens<u"計算式確認">},
+      Command{.name = u"Command2", .caption = u"計算式確認", .run = opens<routes::ShareFormula>},
       EndBar{},
   });
 }

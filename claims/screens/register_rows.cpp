@@ -5,6 +5,7 @@
 
 #include "claims/core/register.h"
 #include "claims/screens/register_screen.h"
+#include "platform/store/tables/registers.h"
 
 // The rows of both register screens. They differ in their fields and in the notes on them.
 
@@ -21,7 +22,7 @@ consteval auto joined(const std::array<Row, Sizes>&... parts) {
 
 consteval auto listRows(std::span<const GridColumn> columns, std::span<const char16_t* const> keys) {
   return std::array{
-      Row{Grid{.name = {u"DBGrid1"}, .caption = u"登録の一覧", .source = 1, .columns = columns}},
+      Row{Grid{.name = {u"DBGrid1"}, .caption = u"登録の一覧", .columns = columns}},
       Row{Group{.name = {u"Frame1"}, .caption = u"検索", .columns = 3}},
       Row{Combo{.name = {u"Combo1"},
                 .caption = u"検索項目:",
@@ -45,7 +46,7 @@ consteval auto listRows(std::span<const GridColumn> columns, std::span<const cha
 consteval TextField field(int index, const RegisterField& field, const char16_t* tip) {
   return TextField{.name = {u"txtFields", index},
                    .caption = field.label,
-                   .bind = Column{field.column},
+                   .bind = field.column,
                    .limit = field.limit > 0 ? field.limit : screen::kNoLimit,
                    .width = 40,
                    .tip = tip};
@@ -71,15 +72,16 @@ consteval auto commandRows() {
   };
 }
 
-constexpr GridColumn kDoctorColumns[] = {{u"氏名", u"氏名"},
-                                         {u"フリガナ", u"フリガナ"},
-                                         {u"病院名", u"病院名"},
-                                         {u"住所", u"住所"},
-                                         {u"TEL", u"TEL"}};
+constexpr GridColumn kDoctorColumns[] = {{doctors::name, u"氏名"},
+                                         {doctors::kana, u"フリガナ"},
+                                         {doctors::hospital, u"病院名"},
+                                         {doctors::address, u"住所"},
+                                         {doctors::telephone, u"TEL"}};
+constexpr auto kDoctorKeyNames = namesOf(kDoctorKeys);
 constexpr std::array kDoctorTips = {u"全角50文字まで", u"半角32文字まで", u"全角50文字まで", u"住所",
                                     u"全角16文字まで"};
 constexpr auto kDoctorRows = joined(
-    listRows(kDoctorColumns, kDoctorKeys),
+    listRows(kDoctorColumns, kDoctorKeyNames),
     std::array{Row{Note{.name = {u"Label2"},
                         .caption = u"氏名と病院名は全角50文字まで、フリガナは半角32文字まで、TELは全角16"
                                    u"文字まで"}}},
@@ -88,10 +90,12 @@ constexpr auto kDoctorRows = joined(
 
 constexpr char16_t kExample1[] = u"（記入例）府中市→府中";
 constexpr char16_t kExample2[] = u"（記入例）品川社保→品川";
-constexpr GridColumn kInsurerColumns[] = {{u"名称", u"名称"}, {u"番号", u"番号"}, {u"所在地", u"所在地"}};
+constexpr GridColumn kInsurerColumns[] = {
+    {insurers::name, u"名称"}, {insurers::number, u"番号"}, {insurers::address, u"所在地"}};
+constexpr auto kInsurerKeyNames = namesOf(kInsurerKeys);
 constexpr std::array kInsurerTips = {u"全角20文字まで", u"番号", u"30文字まで"};
 constexpr auto kInsurerRows = joined(
-    listRows(kInsurerColumns, kInsurerKeys),
+    listRows(kInsurerColumns, kInsurerKeyNames),
     std::array{
         Row{Note{
             .name = {u"Label2"},
@@ -108,9 +112,15 @@ constexpr auto kInsurerRows = joined(
 
 }  // namespace
 
-constinit const ScreenRow kDoctorRegisterScreen{
-    .name = u"登録2", .caption = u"同意医師の登録", .rows = kDoctorRows, .sources = 1, .functionKeys = true};
-constinit const ScreenRow kInsurerRegisterScreen{
-    .name = u"登録3", .caption = u"保険者登録", .rows = kInsurerRows, .sources = 1, .functionKeys = true};
+constinit const ScreenRow kDoctorRegisterScreen{.name = u"登録2",
+                                                .caption = u"同意医師の登録",
+                                                .rows = kDoctorRows,
+                                                .sources = doctors::table,
+                                                .functionKeys = true};
+constinit const ScreenRow kInsurerRegisterScreen{.name = u"登録3",
+                                                 .caption = u"保険者登録",
+                                                 .rows = kInsurerRows,
+                                                 .sources = insurers::table,
+                                                 .functionKeys = true};
 
 }  // namespace claims

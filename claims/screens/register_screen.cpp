@@ -43,7 +43,7 @@ RegisterScreen::RegisterScreen(const screen::ScreenRow& declaration, const Regis
 
 void RegisterScreen::onLoad() {
   setText(u"Combo1"_s, words(m_list.keys.front()));
-  source().open(m_run.folders[size_t(m_list.folder)], words(m_list.table));
+  source().open(m_run.folders[size_t(m_list.folder)]);
 }
 
 void RegisterScreen::opened(const screen::Request& request) {

@@ -2,6 +2,7 @@
 
 #include <QStandardPaths>
 
+#include "frame/core/routes.h"
 #include "platform/shell/desktop.h"
 
 namespace frame {
@@ -41,6 +42,6 @@ void AboutScreen::showSystemInformation() {
   messages().tell(u"現時点ではｼｽﾃﾑ情報を使用できません"_s);
 }
 
-void AboutScreen::finish() { navigator().unload(u"frmAbout"_s); }
+void AboutScreen::finish() { navigator().unload(routes::About::screen); }
 
 }  // namespace frame

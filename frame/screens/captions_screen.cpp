@@ -1,5 +1,6 @@
 #include "frame/screens/captions_screen.h"
 
+#include "frame/core/routes.h"
 #include "frame/screens/settings_writer.h"
 
 namespace frame {
@@ -62,6 +63,6 @@ void CaptionsScreen::save() {
   if (yes && writeSettings(*this, m_run, SettingsWriter::Other)) navigator().quit();
 }
 
-void CaptionsScreen::cancel() { navigator().unload(u"txtbox"_s); }
+void CaptionsScreen::cancel() { navigator().unload(routes::OwnCaptions::screen); }
 
 }  // namespace frame

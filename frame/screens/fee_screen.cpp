@@ -3,6 +3,8 @@
 #include <array>
 #include <utility>
 
+#include "frame/core/routes.h"
+#include "platform/store/tables/fees.h"
 #include "platform/text/number.h"
 
 namespace frame {
@@ -14,41 +16,41 @@ namespace {
 
 /// A box, the column that it shows and the column that saving writes.
 struct FeeBox {
-  constexpr FeeBox(const char16_t* text, const char16_t* column) : FeeBox(text, column, column) {}
-  constexpr FeeBox(const char16_t* text, const char16_t* showing, const char16_t* saving)
+  constexpr FeeBox(const char16_t* text, store::Column column) : FeeBox(text, column, column) {}
+  constexpr FeeBox(const char16_t* text, store::Column showing, store::Column saving)
       : caption(text), shown(showing), saved(saving) {}
   const char16_t* caption;
-  const char16_t* shown;
-  const char16_t* saved;
+  store::Column shown;
+  store::Column saved;
 };
 
 // Kept: two boxes show another column than they save, which is one more reason why the button stays hidden.
 constexpr FeeBox kBoxes[] = {
-    {u"はりor灸の1術", u"はり"},
-    {u"はりor灸の1術初回", u"はり初回"},
-    {u"1術の電療", u"はり電療"},
-    {u"はり電療初回", u"はり電療初回"},
-    {u"灸", u"灸"},
-    {u"灸初回", u"灸初回"},
-    {u"灸電療", u"灸電療"},
-    {u"灸電療初回", u"灸電療初回"},
-    {u"はりと灸の2術", u"はり灸"},
-    {u"はりと灸の2術りの初回", u"はり灸初回"},
-    {u"2術の電療", u"はり灸電療"},
-    {u"はり灸電療初回", u"はり灸電療初回"},
-    {u"マッサージ1局所", u"マッサージ1局所"},
-    {u"温罨法", u"温罨法"},
-    {u"電気光線器具併用", u"電気光線器具併用"},
-    {u"変形徒手矯正術", u"徒手矯正術"},
-    {u"突発的な往療", u"突発的な往療", u"往診料2Kまで"},
-    {u"加算往診料2K", u"加算往診料2K"},
-    {u"加算往診料4K", u"加算往診料4K"},
-    {u"訪問施術①（1人）+施術費", u"加算往診料6K"},
-    {u"訪問施術②（2人）+施術費", u"加算往診料8K"},
-    {u"訪問施術③（3人～9人）+施術費", u"加算往診料10K"},
-    {u"訪問施術③（10人以上）+施術費", u"加算往診料12K"},
-    {u"特別地域加算", u"特別地域", u"加算往診料14K"},
-    {u"施術報告書交付料", u"加算往診料16K"},
+    {u"はりor灸の1術", fees::hari},
+    {u"はりor灸の1術初回", fees::hariFirst},
+    {u"1術の電療", fees::hariElectric},
+    {u"はり電療初回", fees::hariElectricFirst},
+    {u"灸", fees::kyu},
+    {u"灸初回", fees::kyuFirst},
+    {u"灸電療", fees::kyuElectric},
+    {u"灸電療初回", fees::kyuElectricFirst},
+    {u"はりと灸の2術", fees::hariKyu},
+    {u"はりと灸の2術りの初回", fees::hariKyuFirst},
+    {u"2術の電療", fees::hariKyuElectric},
+    {u"はり灸電療初回", fees::hariKyuElectricFirst},
+    {u"マッサージ1局所", fees::massageArea},
+    {u"温罨法", fees::warm},
+    {u"電気光線器具併用", fees::warmLight},
+    {u"変形徒手矯正術", fees::limb},
+    {u"突発的な往療", fees::sudden, fees::base2K},
+    {u"加算往診料2K", fees::add2K},
+    {u"加算往診料4K", fees::add4K},
+    {u"訪問施術①（1人）+施術費", fees::add6K},
+    {u"訪問施術②（2人）+施術費", fees::add8K},
+    {u"訪問施術③（3人～9人）+施術費", fees::add10K},
+    {u"訪問施術③（10人以上）+施術費", fees::add12K},
+    {u"特別地域加算", fees::specialArea, fees::add14K},
+    {u"施術報告書交付料", fees::add16K},
 };
 constexpr int kBoxCount = static_cast<int>(std::size(kBoxes));
 constexpr int kCheckedBoxes = 24;  // kept: the last box was never tested
@@ -96,8 +98,11 @@ consteval auto allRows(std::integer_sequence<int, Index...>) {
 
 constexpr auto kRows = allRows(std::make_integer_sequence<int, kBoxCount>());
 
-constexpr ScreenRow kDeclaration{
-    .name = u"料金変更", .caption = u"料金確認", .rows = kRows, .sources = 1, .heading = u"料金確認"};
+constexpr ScreenRow kDeclaration{.name = u"料金変更",
+                                 .caption = u"料金確認",
+                                 .rows = kRows,
+                                 .sources = fees::table,
+                                 .heading = u"料金確認"};
 
 QString box(int number) { return u"Text1(%1)"_s.arg(number); }
 
@@ -108,10 +113,10 @@ FeeScreen::FeeScreen(Services& services, RunState& run) : Screen(kDeclaration, s
 // The row with the highest ID rules.
 void FeeScreen::onLoad() {
   setShown(u"Command1"_s, false);
-  if (!source().open(m_run.folders[folder::kFees], u"料金設定"_s)) return;
+  if (!source().open(m_run.folders[folder::kFees])) return;
   source().rows().moveLast();
   for (int i = 0; i < kBoxCount; ++i) {
-    const QString value = source().rows().value(QString::fromUtf16(kBoxes[i].shown));
+    const QString value = source().rows().value(kBoxes[i].shown);
     setText(box(i + 1), value.isEmpty() ? QString() : QString::number(text::intOf(value)));
   }
 }
@@ -141,8 +146,7 @@ void FeeScreen::save() {
   store::RecordSet& rows = source().rows();
   for (rows.moveFirst(); !rows.eof(); rows.moveNext()) {
     text::Done done = rows.edit();
-    for (int i = 0; done && i < kBoxCount; ++i)
-      done = rows.setValue(QString::fromUtf16(kBoxes[i].saved), text(box(i + 1)));
+    for (int i = 0; done && i < kBoxCount; ++i) done = rows.setValue(kBoxes[i].saved, text(box(i + 1)));
     if (done) done = rows.update();
     if (!done) return messages().tellDataFault(done.fault().message);
   }
@@ -150,6 +154,6 @@ void FeeScreen::save() {
   messages().tell(u"料金設定の変更が終了しました"_s);
 }
 
-void FeeScreen::finish() { navigator().unload(u"料金変更"_s); }
+void FeeScreen::finish() { navigator().unload(routes::Fees::screen); }
 
 }  // namespace frame

@@ -1,5 +1,6 @@
 #include "frame/screens/folders_screen.h"
 
+#include "frame/core/routes.h"
 #include "platform/shell/desktop.h"
 
 namespace frame {
@@ -118,10 +119,10 @@ void FoldersScreen::change() {
     typed[static_cast<size_t>(kEntries[i])] = path;
   }
   m_run.pendingFolders = typed;
-  navigator().show(u"LANフォルダ指定の実行"_s);
-  navigator().unload(u"LANフォルダ指定"_s);
+  navigator().show(routes::AskFolders{});
+  navigator().unload(routes::Folders::screen);
 }
 
-void FoldersScreen::cancel() { navigator().unload(u"LANフォルダ指定"_s); }
+void FoldersScreen::cancel() { navigator().unload(routes::Folders::screen); }
 
 }  // namespace frame

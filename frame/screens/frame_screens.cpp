@@ -1,5 +1,6 @@
 #include "frame/screens/frame_screens.h"
 
+#include "frame/core/routes.h"
 #include "frame/screens/about_screen.h"
 #include "frame/screens/captions_screen.h"
 #include "frame/screens/fee_screen.h"
@@ -18,16 +19,16 @@ namespace frame {
 using namespace Qt::Literals::StringLiterals;
 
 void registerScreens(screen::ScreenRegistry& registry, screen::Services&, RunState& run) {
-  registry.add<SplashScreen>(u"frmSplash"_s, run);
-  registry.add<MainMenuScreen>(u"選択3"_s, run);
-  registry.add<TopicsScreen>(u"topics"_s, run);
-  registry.add<AboutScreen>(u"frmAbout"_s);
-  registry.add<FoldersScreen>(u"LANフォルダ指定"_s, run);
-  registry.add<ProfileScreen>(u"登録"_s, run);
-  registry.add<LicenceScreen>(u"登録4"_s, run);
-  registry.add<CaptionsScreen>(u"txtbox"_s, run);
-  registry.add<FeeScreen>(u"料金変更"_s, run);
-  registry.add<HelpTextScreen>(u"テキストヘルプ"_s, run);
+  registry.add<routes::Splash, SplashScreen>(run);
+  registry.add<routes::MainMenu, MainMenuScreen>(run);
+  registry.add<routes::Topics, TopicsScreen>(run);
+  registry.add<routes::About, AboutScreen>();
+  registry.add<routes::Folders, FoldersScreen>(run);
+  registry.add<routes::Profile, ProfileScreen>(run);
+  registry.add<routes::Licences, LicenceScreen>(run);
+  registry.add<routes::OwnCaptions, CaptionsScreen>(run);
+  registry.add<routes::Fees, FeeScreen>(run);
+  registry.add<routes::TextHelp, HelpTextScreen>(run);
   screen::addPrompts(registry, prompts(), promptActions(run));
 }
 

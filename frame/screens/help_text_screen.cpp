@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFile>
 
+#include "frame/core/routes.h"
+
 namespace frame {
 
 using namespace screen;
@@ -66,6 +68,6 @@ void HelpTextScreen::showChapter() {
     if (chapter.section(u'\n', 0, 0) == text(u"Combo1"_s)) setText(u"Text1"_s, chapter);
 }
 
-void HelpTextScreen::finish() { navigator().unload(u"テキストヘルプ"_s); }
+void HelpTextScreen::finish() { navigator().unload(routes::TextHelp::screen); }
 
 }  // namespace frame

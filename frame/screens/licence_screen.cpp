@@ -1,5 +1,6 @@
 #include "frame/screens/licence_screen.h"
 
+#include "frame/core/routes.h"
 #include "frame/screens/settings_writer.h"
 
 namespace frame {
@@ -47,9 +48,9 @@ void LicenceScreen::save() {
   m_run.settings[slot::kLicenceKyu] = text(u"Text2"_s);
   m_run.settings[slot::kLicenceMassage] = text(u"Text3"_s);
   m_run.settings[slot::kPrintLicence] = checked(u"Check1"_s) ? u"2"_s : u"0"_s;
-  if (writeSettings(*this, m_run, SettingsWriter::Other)) navigator().unload(u"登録4"_s);
+  if (writeSettings(*this, m_run, SettingsWriter::Other)) navigator().unload(routes::Licences::screen);
 }
 
-void LicenceScreen::cancel() { navigator().unload(u"登録4"_s); }
+void LicenceScreen::cancel() { navigator().unload(routes::Licences::screen); }
 
 }  // namespace frame

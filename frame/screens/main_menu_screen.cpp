@@ -6,6 +6,7 @@
 #include "frame/core/backup_folder.h"
 #include "frame/core/backup_generations.h"
 #include "frame/core/prefecture.h"
+#include "frame/core/routes.h"
 #include "frame/screens/backup_progress.h"
 #include "frame/screens/main_menu_rows.h"
 #include "frame/screens/settings_writer.h"
@@ -141,7 +142,7 @@ void MainMenuScreen::openTextHelp() {
   const QString path = QDir(m_run.programFolder).filePath(u"help.txt"_s);
   const text::Done done = services().desktop->openFile(path);
   if (!done && QFile::exists(path))
-    navigator().show(u"テキストヘルプ"_s);
+    navigator().show(routes::TextHelp{});
   else
     tellFault(done);
 }

@@ -1,5 +1,6 @@
 #include "frame/screens/profile_rows.h"
 
+#include "frame/core/routes.h"
 #include "frame/screens/profile_screen.h"
 #include "platform/screen/opens.h"
 
@@ -153,7 +154,7 @@ constexpr Row kRows[] = {
     Bar{},
     Command{.name = {u"Command1"}, .caption = u"登録", .run = run<&ProfileScreen::save>},
     Command{.name = {u"Command2"}, .caption = u"キャンセル", .run = run<&ProfileScreen::cancel>},
-    Command{.name = {u"Command3"}, .caption = u"免許番号の登録", .run = opens<u"登録4">},
+    Command{.name = {u"Command3"}, .caption = u"免許番号の登録", .run = opens<routes::Licences>},
     EndBar{},
 };
 

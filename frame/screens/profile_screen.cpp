@@ -1,6 +1,7 @@
 #include "frame/screens/profile_screen.h"
 
 #include "frame/core/prefecture.h"
+#include "frame/core/routes.h"
 #include "frame/screens/profile_rows.h"
 
 namespace frame {
@@ -81,11 +82,11 @@ void ProfileScreen::save() {
   m_run.aichiSubmission = chosen(u"Frame1"_s) == u"4" ? u"4"_s : u"3"_s;
   m_run.tokyoSubmission = chosen(u"Frame2"_s) == u"5" ? u"5"_s : u"6"_s;
   for (const ProfileField& field : profileFields()) m_run.profile[field.slot] = fieldValue(field);
-  navigator().show(u"登録の実行"_s);
-  navigator().unload(u"登録"_s);
+  navigator().show(routes::AskProfile{});
+  navigator().unload(routes::Profile::screen);
 }
 
-void ProfileScreen::cancel() { navigator().unload(u"登録"_s); }
+void ProfileScreen::cancel() { navigator().unload(routes::Profile::screen); }
 
 void ProfileScreen::chooseKind(int index) {
   const QString other = index == 0 ? u"Check1(1)"_s : u"Check1(0)"_s;

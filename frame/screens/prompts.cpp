@@ -1,5 +1,6 @@
 #include "frame/screens/prompts.h"
 
+#include "frame/core/routes.h"
 #include "frame/screens/settings_writer.h"
 
 namespace frame {
@@ -64,11 +65,11 @@ constexpr ConfirmRow kPrompts[] = {
 void storeFolders(ConfirmPrompt& prompt, RunState& run) {
   const DataFolders before = std::exchange(run.folders, run.pendingFolders);
   if (writeSettings(prompt, run, SettingsWriter::Folders)) {
-    prompt.navigator().show(u"終了1"_s);
+    prompt.navigator().show(routes::AskEnd{});
     return;
   }
   run.folders = before;
-  prompt.navigator().show(u"LANフォルダ指定"_s);
+  prompt.navigator().show(routes::Folders{});
 }
 
 void storeProfile(ConfirmPrompt& prompt, RunState& run) {
@@ -83,10 +84,10 @@ std::span<const ConfirmRow> prompts() { return kPrompts; }
 PromptActions promptActions(RunState& run) {
   return {
       {u"storeFolders"_s, [&run](ConfirmPrompt& prompt) { storeFolders(prompt, run); }},
-      {u"backToFolders"_s, [](ConfirmPrompt& prompt) { prompt.navigator().show(u"LANフォルダ指定"_s); }},
+      {u"backToFolders"_s, [](ConfirmPrompt& prompt) { prompt.navigator().show(routes::Folders{}); }},
       {u"storeProfile"_s, [&run](ConfirmPrompt& prompt) { storeProfile(prompt, run); }},
-      {u"backToProfile"_s, [](ConfirmPrompt& prompt) { prompt.navigator().show(u"登録"_s); }},
-      {u"askToEnd"_s, [](ConfirmPrompt& prompt) { prompt.navigator().show(u"終了1"_s); }},
+      {u"backToProfile"_s, [](ConfirmPrompt& prompt) { prompt.navigator().show(routes::Profile{}); }},
+      {u"askToEnd"_s, [](ConfirmPrompt& prompt) { prompt.navigator().show(routes::AskEnd{}); }},
       {u"endProgram"_s, [](ConfirmPrompt& prompt) { prompt.navigator().quit(); }},
       {u"backToOpener"_s,
        [](ConfirmPrompt& prompt) {

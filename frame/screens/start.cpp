@@ -2,6 +2,8 @@
 
 #include <QDir>
 
+#include "frame/core/routes.h"
+
 namespace frame {
 
 using namespace Qt::Literals::StringLiterals;
@@ -32,8 +34,8 @@ Started showMenu(RunState& run, screen::Services& services) {
     services.navigator.quit();
     return Started::NothingToShow;
   }
-  services.navigator.show(u"選択3"_s);
-  if (topicsWanted(run.settings[slot::kTopics])) services.navigator.show(u"topics"_s);
+  services.navigator.show(routes::MainMenu{});
+  if (topicsWanted(run.settings[slot::kTopics])) services.navigator.show(routes::Topics{});
   services.navigator.unload(kSplash);
   return Started::Menu;
 }

@@ -1,5 +1,7 @@
 #include "frame/screens/topics_screen.h"
 
+#include "frame/core/routes.h"
+
 namespace frame {
 
 using namespace screen;
@@ -66,6 +68,6 @@ void TopicsScreen::rememberTick() {
 
 void TopicsScreen::speakAll() { voice().speakHeading(openingTexts()); }
 
-void TopicsScreen::finish() { navigator().unload(u"topics"_s); }
+void TopicsScreen::finish() { navigator().unload(routes::Topics::screen); }
 
 }  // namespace frame

@@ -24,9 +24,7 @@ void BookingList::whenActive(std::function<void()> work) {
   if (isActiveWindow()) m_onceActive.run(*this);
 }
 
-bool BookingList::openWhole() {
-  return source().open(m_run.folders[frame::folder::kAppointments], u"予約"_s);
-}
+bool BookingList::openWhole() { return source().open(m_run.folders[frame::folder::kAppointments]); }
 
 QString BookingList::noRowsText() const {
   return u"検索データが０件です。「全表示に戻す」をクリックして下さい。"_s;

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "platform/screen/rows.h"
+#include "platform/store/tables/bookings.h"
 
 namespace office {
 
@@ -50,9 +51,11 @@ consteval screen::Combo dateList(const char16_t* name, const char16_t* caption, 
 
 /// A booking as the lists show it: what a listener wants first stands first.
 inline constexpr screen::GridColumn kBookingColumns[] = {
-    {u"予約時間", u"予約時間"}, {u"予約患者", u"予約患者"}, {u"予約年", u"予約年"}, {u"予約月", u"予約月"},
-    {u"予約日", u"予約日"},     {u"予約曜日", u"予約曜日"}, {u"患者NO", u"患者NO"}, {u"予約NO", u"予約NO"},
-    {u"メモ1", u"メモ1"},       {u"登録日時", u"登録日時"}};
+    {bookings::time, u"予約時間"},        {bookings::patientName, u"予約患者"},
+    {bookings::year, u"予約年"},          {bookings::month, u"予約月"},
+    {bookings::day, u"予約日"},           {bookings::weekday, u"予約曜日"},
+    {bookings::patientSerial, u"患者NO"}, {bookings::number, u"予約NO"},
+    {bookings::memo, u"メモ1"},           {bookings::entered, u"登録日時"}};
 
 inline constexpr char16_t kHandOverTip[] = u"選択した会員を会員名簿の検索欄に代入します。";
 

@@ -62,9 +62,7 @@ QStringList BookingScreen::openingTexts() const {
 
 void BookingScreen::onActivate() { m_onceActive.run(*this); }
 
-bool BookingScreen::openTable() {
-  return source().open(m_run.folders[frame::folder::kAppointments], u"予約"_s);
-}
+bool BookingScreen::openTable() { return source().open(m_run.folders[frame::folder::kAppointments]); }
 
 void BookingScreen::rowShown(int) { m_shown = fields(); }
 

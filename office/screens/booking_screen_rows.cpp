@@ -1,5 +1,6 @@
 #include "office/screens/booking_rows.h"
 #include "office/screens/booking_screen.h"
+#include "platform/store/tables/bookings.h"
 
 namespace office {
 namespace {
@@ -10,22 +11,22 @@ constexpr int kNameLimit = 50;
 constexpr const char16_t* kWeekdays[] = {u"月曜日", u"火曜日", u"水曜日", u"木曜日",
                                          u"金曜日", u"土曜日", u"日曜日"};
 
-consteval TextField field(int index, const char16_t* caption, const char16_t* column, int width) {
-  return TextField{.name = {u"txtFields", index}, .caption = caption, .bind = Column{column}, .width = width};
+consteval TextField field(int index, const char16_t* caption, store::Column column, int width) {
+  return TextField{.name = {u"txtFields", index}, .caption = caption, .bind = column, .width = width};
 }
 
-consteval TextField hidden(ControlName name, const char16_t* caption, const char16_t* column) {
-  return TextField{.name = name, .caption = caption, .bind = Column{column}, .readOnly = true};
+consteval TextField hidden(ControlName name, const char16_t* caption, store::Column column) {
+  return TextField{.name = name, .caption = caption, .bind = column, .readOnly = true};
 }
 
 consteval TextField patientName() {
-  TextField row = field(2, u"予約患者:", u"予約患者", 24);
+  TextField row = field(2, u"予約患者:", bookings::patientName, 24);
   row.limit = kNameLimit;
   return row;
 }
 
 consteval TextField memo() {
-  TextField row = field(8, u"メモ1:", u"メモ1", 40);
+  TextField row = field(8, u"メモ1:", bookings::memo, 40);
   row.lines = 3;
   return row;
 }
@@ -33,32 +34,32 @@ consteval TextField memo() {
 // The lists of year, month and day hold the columns themselves, typed digits too.
 constexpr Row kRows[] = {
     Group{.name = {u"Frame1"}, .caption = u"患者", .columns = 3},
-    field(0, u"予約NO:", u"予約NO", 10),
-    field(1, u"患者ID:", u"患者NO", 10),
+    field(0, u"予約NO:", bookings::number, 10),
+    field(1, u"患者ID:", bookings::patientSerial, 10),
     patientName(),
     EndGroup{},
     Group{.name = {u"Frame2"}, .caption = u"予約の日", .columns = 4},
-    dateList(u"Combo1", u"予約年:", Column{u"予約年"}, kBookYears.items),
-    dateList(u"Combo2", u"予約月:", Column{u"予約月"}, kMonths),
-    dateList(u"Combo3", u"予約日:", Column{u"予約日"}, kDays),
+    dateList(u"Combo1", u"予約年:", bookings::year, kBookYears.items),
+    dateList(u"Combo2", u"予約月:", bookings::month, kMonths),
+    dateList(u"Combo3", u"予約日:", bookings::day, kDays),
     Combo{.name = {u"Combo4"},
           .caption = u"予約曜日:",
-          .bind = Column{u"予約曜日"},
+          .bind = bookings::weekday,
           .items = kWeekdays,
           .width = 6},
     EndGroup{},
     Group{.name = {u"Frame3"}, .caption = u"予約の時間", .columns = 2},
-    field(6, u"予約時間:", u"予約時間", 14),
-    field(7, u"登録日時:", u"登録日時", 22),
+    field(6, u"予約時間:", bookings::time, 14),
+    field(7, u"登録日時:", bookings::entered, 22),
     EndGroup{},
     memo(),
-    hidden({u"Text1"}, u"ID:", u"ID"),
+    hidden({u"Text1"}, u"ID:", bookings::id),
     // The lists' columns once more.
-    hidden({u"txtFields", 3}, u"予約年の値:", u"予約年"),
-    hidden({u"txtFields", 4}, u"予約月の値:", u"予約月"),
-    hidden({u"txtFields", 5}, u"予約日の値:", u"予約日"),
-    hidden({u"Text2"}, u"日時1:", u"日時1"),
-    hidden({u"Text3"}, u"テキスト1:", u"テキスト1"),
+    hidden({u"txtFields", 3}, u"予約年の値:", bookings::year),
+    hidden({u"txtFields", 4}, u"予約月の値:", bookings::month),
+    hidden({u"txtFields", 5}, u"予約日の値:", bookings::day),
+    hidden({u"Text2"}, u"日時1:", bookings::stamp),
+    hidden({u"Text3"}, u"テキスト1:", bookings::text1),
     Bar{},
     Command{.name = {u"Command1"}, .caption = u"今日の日付", .run = run<&BookingScreen::fillToday>},
     Command{.name = {u"Command2"}, .caption = u"今の時間", .run = run<&BookingScreen::fillNow>},
@@ -77,6 +78,6 @@ constexpr Row kRows[] = {
 }  // namespace
 
 constinit const ScreenRow kBooking{
-    .name = u"予約2", .caption = u"予約", .rows = kRows, .sources = 1, .functionKeys = true};
+    .name = u"予約2", .caption = u"予約", .rows = kRows, .sources = bookings::table, .functionKeys = true};
 
 }  // namespace office

@@ -1,5 +1,6 @@
 #include "office/screens/office_screens.h"
 
+#include "frame/core/routes.h"
 #include "office/screens/booking_screen.h"
 #include "office/screens/calendar_screen.h"
 #include "office/screens/day_pick_screen.h"
@@ -28,13 +29,13 @@ void addTwins(screen::ScreenRegistry& registry, std::span<const screen::ScreenRo
 }  // namespace
 
 void registerScreens(screen::ScreenRegistry& registry, frame::RunState& run) {
-  registry.add<BookingScreen>(QStringLiteral("予約2"), run);
-  registry.add<TodaysBookingsScreen>(QStringLiteral("今日の予約"), run);
-  registry.add<WeekScreen>(QStringLiteral("予約週間表"), run);
+  registry.add<routes::Booking, BookingScreen>(run);
+  registry.add<routes::TodaysBookings, TodaysBookingsScreen>(run);
+  registry.add<routes::WeekOfBookings, WeekScreen>(run);
   addTwins<CalendarScreen>(registry, calendarScreens(), run);
   addTwins<DayPickScreen>(registry, dayPickScreens(), run);
   screen::addPrompts(registry, prompts(), promptActions());
-  registry.add<TakingsScreen>(QStringLiteral("集計"), run);
+  registry.add<routes::Takings, TakingsScreen>(run);
   addTotalsScreens(registry);
   screen::addExtractDialogs(registry, takingsExtractDialogs());
   screen::addSortDialogs(registry, takingsSortDialogs());

@@ -1,5 +1,7 @@
 #include "office/screens/prompts.h"
 
+#include "frame/core/routes.h"
+
 namespace office {
 
 using namespace screen;
@@ -49,7 +51,7 @@ constexpr ConfirmRow kPrompts[] = {
 void dropBooking(ConfirmPrompt& prompt) {
   const QString caller = prompt.request().value(u"caller"_s).toString();
   if (!caller.isEmpty()) prompt.navigator().show(caller, {{u"opener"_s, u"予約2"_s}});
-  prompt.navigator().unload(u"予約2"_s);
+  prompt.navigator().unload(routes::Booking::screen);
 }
 
 void refuseCalendar(ConfirmPrompt& prompt) {
@@ -68,7 +70,7 @@ PromptActions promptActions() {
          prompt.navigator().show(u"予約2"_s, {{u"戻る"_s, true}});
        }},
       {u"refuseCalendar"_s, refuseCalendar},
-      {u"openCalendar"_s, [](ConfirmPrompt& prompt) { prompt.navigator().show(u"予約カレンダー"_s); }},
+      {u"openCalendar"_s, [](ConfirmPrompt& prompt) { prompt.navigator().show(routes::BookingCalendar{}); }},
   };
 }
 

@@ -1,20 +1,15 @@
 #include "office/screens/takings_dialogs.h"
 
+#include "platform/store/tables/visits.h"
+
 namespace office {
 namespace {
 
 using namespace screen;
 
 constexpr ColumnChoice kSearched[] = {
-    {u"氏名", u"氏名"},
-    {u"生年月日", u"生年月日"},
-    {u"治療日時", u"治療日時"},
-    {u"治療概略", u"治療概略"},
-    {u"保険者負担金", u"保険者負担金"},
-    {u"保険の一部負担金", u"保険の一部負担金"},
-    {u"治療金額", u"治療金額"},
-    {u"領収証チェック", u"領収証チェック", true},
-    {u"新患", u"新患", true},
+    visits::name,  visits::birth, visits::date,        visits::summary, visits::insurerPays,
+    visits::share, visits::fee,   visits::receiptDone, visits::isNew,
 };
 constexpr Note kNotes[] = {{.name = {u"Label1"},
                             .caption = u"※領収証チェックと新患は、Yes か No を入力して下さい。",
@@ -29,15 +24,9 @@ constexpr ExtractRow kExtracts[] = {{.name = u"集計抽出",
 
 // Dates are sorted by their western shadow: era text does not sort.
 constexpr ColumnChoice kSorted[] = {
-    {u"氏名", u"氏名"},
-    {u"生年月日", u"生年月日"},
-    {u"治療日時", u"治療日チェック"},
-    {u"治療概略", u"治療概略"},
-    {u"保険者負担金", u"保険者負担金"},
-    {u"保険の一部負担金", u"保険の一部負担金"},
-    {u"治療金額", u"治療金額"},
-    {u"領収証チェック", u"領収証チェック"},
-    {u"新患", u"新患"},
+    visits::name,    visits::birth,       {u"治療日時", visits::dateShadow},
+    visits::summary, visits::insurerPays, visits::share,
+    visits::fee,     visits::receiptDone, visits::isNew,
 };
 constexpr SortRow kSorts[] = {{.name = u"ソート2", .list = u"集計", .columns = kSorted}};
 

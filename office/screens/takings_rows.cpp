@@ -1,7 +1,10 @@
 #include "office/screens/takings_rows.h"
 
+#include "frame/core/routes.h"
+#include "frame/core/routes_unbuilt.h"
 #include "office/screens/takings_screen.h"
 #include "platform/screen/opens.h"
+#include "platform/store/tables/visits.h"
 
 namespace office {
 
@@ -10,15 +13,15 @@ using namespace screen;
 namespace {
 
 constexpr GridColumn kColumns[] = {
-    {u"治療日時", u"治療日時"},
-    {u"氏名", u"氏名"},
-    {u"治療概略", u"治療概略"},
-    {u"保険者負担金", u"保険者負担金"},
-    {u"保険の一部負担金", u"保険の一部負担金"},
-    {u"治療金額", u"治療金額"},
-    {u"領収証チェック", u"領収証チェック"},
-    {u"新患", u"新患"},
-    {u"生年月日", u"生年月日"},
+    {visits::date, u"治療日時"},
+    {visits::name, u"氏名"},
+    {visits::summary, u"治療概略"},
+    {visits::insurerPays, u"保険者負担金"},
+    {visits::share, u"保険の一部負担金"},
+    {visits::fee, u"治療金額"},
+    {visits::receiptDone, u"領収証チェック"},
+    {visits::isNew, u"新患"},
+    {visits::birth, u"生年月日"},
 };
 
 constexpr const char16_t* kMonths[] = {u"1", u"2", u"3", u"4",  u"5",  u"6",
@@ -31,7 +34,6 @@ constexpr const char16_t* kDays[] = {u"1",  u"2",  u"3",  u"4",  u"5",  u"6",  u
 constexpr Row kRows[] = {
     Grid{.name = {u"DBGrid1"},
          .caption = u"集計の一覧表",
-         .source = 1,
          .columns = kColumns,
          .onActivate = call<&TakingsScreen::openPatient>},
     TextField{.name = {u"Label4"},
@@ -39,7 +41,7 @@ constexpr Row kRows[] = {
               .bind = Unbound{u"counts the rows on view"},
               .width = 8,
               .readOnly = true},
-    TextField{.name = {u"Text2"}, .caption = u"ETC1:", .bind = Column{u"ETC1"}, .readOnly = true},
+    TextField{.name = {u"Text2"}, .caption = u"ETC1:", .bind = visits::patientSerial, .readOnly = true},
 
     Group{.name = {u"FrameDay"}, .caption = u"日付", .columns = 4},
     Combo{.name = {u"Combo1"}, .caption = u"年:", .bind = Unbound{u"the day asked for"}, .width = 6},
@@ -64,7 +66,7 @@ constexpr Row kRows[] = {
 
     Bar{},
     Command{.name = {u"Command4"}, .caption = u"カレンダー表示", .run = run<&TakingsScreen::openCalendar>},
-    Command{.name = {u"Command3"}, .caption = u"全般抽出", .run = opens<u"集計抽出">},
+    Command{.name = {u"Command3"}, .caption = u"全般抽出", .run = opens<routes::SearchTakings>},
     Command{.name = {u"Command7"}, .caption = u"並び替え", .run = run<&TakingsScreen::askSort>},
     Command{.name = {u"cmdRefresh"}, .caption = u"全患者表示及び再表示", .run = run<&TakingsScreen::showAll>},
     Command{.name = {u"Command2"}, .caption = u"総合金額の表示", .run = run<&TakingsScreen::showTotals>},
@@ -72,7 +74,7 @@ constexpr Row kRows[] = {
     Bar{},
     Command{
         .name = {u"Command8"}, .caption = u"選択した患者のカルテへ", .run = run<&TakingsScreen::openPatient>},
-    Command{.name = {u"Command5"}, .caption = u"集計印刷", .run = opens<u"集計年月">},
+    Command{.name = {u"Command5"}, .caption = u"集計印刷", .run = opens<routes::unbuilt::TakingsMonth>},
     Command{.name = {u"cmdDelete"}, .caption = u"削除", .run = run<&TakingsScreen::removeVisit>},
     Command{.name = {u"cmdClose"}, .caption = u"閉じる", .run = run<&TakingsScreen::finish>},
     EndBar{},
@@ -81,6 +83,6 @@ constexpr Row kRows[] = {
 }  // namespace
 
 constinit const ScreenRow kTakingsDeclaration{
-    .name = u"集計", .caption = u"集計", .rows = kRows, .sources = 1, .functionKeys = true};
+    .name = u"集計", .caption = u"集計", .rows = kRows, .sources = visits::table, .functionKeys = true};
 
 }  // namespace office

@@ -1,5 +1,6 @@
 #include "office/screens/takings_screen.h"
 
+#include "frame/core/routes.h"
 #include "office/core/booking_date.h"
 #include "office/core/takings.h"
 #include "office/screens/day_lists.h"
@@ -49,7 +50,7 @@ void TakingsScreen::onActivate() { m_onceActive.run(*this); }
 
 QStringList TakingsScreen::openingTexts() const { return QStringList{windowTitle()} + countOnView(); }
 
-bool TakingsScreen::openWhole() { return source().open(m_run.folders[frame::folder::kVisits], u"カルテ"_s); }
+bool TakingsScreen::openWhole() { return source().open(m_run.folders[frame::folder::kVisits]); }
 
 void TakingsScreen::rowShown(int) {
   setText(kCount, QString::number(source().isOpen() ? source().rows().recordCount() : 0));
@@ -81,11 +82,11 @@ void TakingsScreen::showMonth() {
 
 void TakingsScreen::openCalendar() {
   m_run.calendarMode = frame::calendar::kTakings;
-  navigator().show(u"集計カレンダー"_s);
+  navigator().show(routes::TakingsCalendar{});
 }
 
 void TakingsScreen::askSort() {
-  if (!emptySet()) navigator().show(u"ソート2"_s);
+  if (!emptySet()) navigator().show(routes::SortTakings{});
 }
 
 void TakingsScreen::showAll() {
@@ -118,7 +119,7 @@ void TakingsScreen::removeVisit() {
 }
 
 void TakingsScreen::finish() {
-  navigator().show(u"選択3"_s);
+  navigator().show(routes::MainMenu{});
   closeNow();
 }
 

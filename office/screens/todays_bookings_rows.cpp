@@ -1,6 +1,8 @@
+#include "frame/core/routes.h"
 #include "office/screens/booking_rows.h"
 #include "office/screens/todays_bookings_screen.h"
 #include "platform/screen/opens.h"
+#include "platform/store/tables/bookings.h"
 
 namespace office {
 namespace {
@@ -18,7 +20,6 @@ constexpr Handler kShowDay = call<&TodaysBookingsScreen::showDay>;
 constexpr Row kRows[] = {
     Grid{.name = {u"DBGrid1"},
          .caption = u"予約の一覧",
-         .source = 1,
          .columns = kBookingColumns,
          .onActivate = call<&TodaysBookingsScreen::editBooking>},
     Group{.name = {u"Frame1"}, .caption = u"予約日の指定", .columns = 6},
@@ -82,7 +83,10 @@ constexpr Row kRows[] = {
     EndBar{},
 
     // Kept: the buttons of these two captions act at once, their entries ask first.
-    Entry{.name = {u"Men_YS"}, .under = kMenu, .caption = u"予約日を指定して検索", .run = opens<u"抽出4">},
+    Entry{.name = {u"Men_YS"},
+          .under = kMenu,
+          .caption = u"予約日を指定して検索",
+          .run = opens<routes::PickDayOfBookings>},
     Entry{.name = {u"Men_YC"},
           .under = kMenu,
           .caption = u"カレンダー表示",
@@ -100,7 +104,10 @@ constexpr Row kRows[] = {
 
 }  // namespace
 
-constinit const ScreenRow kTodaysBookings{
-    .name = u"今日の予約", .caption = u"今日の予約", .rows = kRows, .sources = 1, .functionKeys = true};
+constinit const ScreenRow kTodaysBookings{.name = u"今日の予約",
+                                          .caption = u"今日の予約",
+                                          .rows = kRows,
+                                          .sources = bookings::table,
+                                          .functionKeys = true};
 
 }  // namespace office

@@ -1,5 +1,6 @@
 #include "office/screens/todays_bookings_screen.h"
 
+#include "frame/core/routes.h"
 #include "office/core/booking_date.h"
 #include "office/screens/day_lists.h"
 #include "platform/screen/find_row.h"
@@ -133,7 +134,7 @@ void TodaysBookingsScreen::showForBookings(const QString& calendar) {
   navigator().show(calendar);
 }
 
-void TodaysBookingsScreen::openWeek() { navigator().show(u"予約週間表"_s); }
+void TodaysBookingsScreen::openWeek() { navigator().show(routes::WeekOfBookings{}); }
 void TodaysBookingsScreen::newBooking() { navigator().show(u"予約2"_s, {{u"opener"_s, objectName()}}); }
 
 void TodaysBookingsScreen::editBooking() {

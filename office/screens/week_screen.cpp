@@ -1,9 +1,11 @@
 #include "office/screens/week_screen.h"
 
+#include "frame/core/routes.h"
 #include "office/core/booking_date.h"
 #include "office/screens/booking_rows.h"
 #include "platform/screen/find_row.h"
 #include "platform/screen/opens.h"
+#include "platform/store/tables/bookings.h"
 
 namespace office {
 
@@ -25,7 +27,7 @@ constexpr Row kRows[] = {
               .width = 18,
               .readOnly = true},
     TabRow{.name = {u"SSTab1"}, .caption = u"曜日:", .tabs = kTabs, .onChoose = call<&WeekScreen::showDay>},
-    Grid{.name = {u"DBGrid1"}, .caption = u"予約の一覧", .source = 1, .columns = kBookingColumns},
+    Grid{.name = {u"DBGrid1"}, .caption = u"予約の一覧", .columns = kBookingColumns},
     Bar{},
     Command{.name = {u"Command2"}, .caption = u"今週", .run = run<&WeekScreen::showThisWeek>},
     Command{.name = {u"Command3"}, .caption = u"来週", .run = run<&WeekScreen::showNextWeek>},
@@ -36,13 +38,19 @@ constexpr Row kRows[] = {
             .tip = kHandOverTip},
     Command{.name = {u"Command1"}, .caption = u"閉じる", .run = run<&BookingList::finish>},
     EndBar{},
-    Entry{.name = {u"Men_YS"}, .under = kMenu, .caption = u"予約日を指定して検索", .run = opens<u"抽出5">},
+    Entry{.name = {u"Men_YS"},
+          .under = kMenu,
+          .caption = u"予約日を指定して検索",
+          .run = opens<routes::PickDayOfWeek>},
 };
 
 }  // namespace
 
-constinit const ScreenRow kWeek{
-    .name = u"予約週間表", .caption = u"予約週間表", .rows = kRows, .sources = 1, .functionKeys = true};
+constinit const ScreenRow kWeek{.name = u"予約週間表",
+                                .caption = u"予約週間表",
+                                .rows = kRows,
+                                .sources = bookings::table,
+                                .functionKeys = true};
 
 WeekScreen::WeekScreen(screen::Services& services, frame::RunState& run)
     : BookingList(kWeek, services, run) {}

@@ -9,7 +9,7 @@ namespace report {
 
 namespace {
 
-/// The spooler, and the file printer behind it for a document that it does not take.
+/// The spooler, and the file printer as fallback for a document that the spooler refuses.
 class SpoolerOrFile final : public DocumentSink {
  public:
   SpoolerOrFile(const PrinterChoice& choice, const QString& folder) : m_spooler(choice), m_file(folder) {}

@@ -6,7 +6,7 @@ namespace report {
 
 namespace {
 
-constexpr int kMostOfOneSecond = 100000;
+constexpr int kMaxFilesPerSecond = 100000;
 
 }  // namespace
 
@@ -36,7 +36,7 @@ bool FilePrinter::take(const QByteArray& pdf) {
   m_file->setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
   const QString stem = QDir(m_folder).filePath(QStringLiteral("%1_%2").arg(
       fileStem(m_title), m_clock->now().toString(QStringLiteral("yyyyMMdd_HHmmss"))));
-  for (int n = 1; n <= kMostOfOneSecond; ++n) {
+  for (int n = 1; n <= kMaxFilesPerSecond; ++n) {
     const QString name = n == 1 ? stem : QStringLiteral("%1_%2").arg(stem).arg(n);
     if (!QFile::exists(name + QStringLiteral(".pdf")) && m_file->rename(name + QStringLiteral(".pdf"))) {
       m_file->setAutoRemove(false);

@@ -8,7 +8,7 @@
 namespace report {
 
 /// The printer of a machine without printers: each document becomes 印刷/<title>_<yyyymmdd_hhmmss>.pdf in
-/// the program folder, with _2, _3, ... where that file stands already. Nothing is ever overwritten.
+/// the program folder, with _2, _3, ... where that file exists already. Nothing is ever overwritten.
 class FilePrinter final : public DocumentSink {
  public:
   explicit FilePrinter(const QString& programFolder, std::shared_ptr<const text::Clock> clock = nullptr);

@@ -29,7 +29,7 @@ class Destinations {
 using Destination = std::unique_ptr<cups_dest_t, decltype([](cups_dest_t* dest) { cupsFreeDests(1, dest); })>;
 
 /// One printer by name, the default one for an empty name: asking for one is much faster than listing what
-/// stands in the network.
+/// is in the network.
 Destination find(const QString& name) {
   const QByteArray bytes = name.toUtf8();
   return Destination(
@@ -74,7 +74,7 @@ std::vector<PrinterEntry> listPrinters() {
   std::vector<PrinterEntry> printers;
   const Destinations destinations;
   for (const cups_dest_t& dest : destinations.all()) {
-    // A queue that is called like the file printer cannot be told from it, and writes PDF files, too.
+    // A queue with the name of the file printer cannot be distinguished from it, and writes PDF files, too.
     if (dest.instance || QString::fromUtf8(dest.name) == kFilePrinter) continue;
     const char* info = cupsGetOption("printer-info", dest.num_options, dest.options);
     printers.push_back(

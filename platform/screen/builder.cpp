@@ -48,6 +48,12 @@ void Builder::build() {
   addKeys();
 }
 
+int Builder::sourceOf(const store::Table* table) const {
+  const int source = m_screen.declaration().sources.numberOf(table);
+  if (source == 0) qFatal("screen %s has no source of this table", qUtf8Printable(m_screen.objectName()));
+  return source;
+}
+
 QWidget* Builder::host() const { return m_places.back()->host(); }
 
 void Builder::open(std::unique_ptr<Place> place) {
@@ -76,7 +82,7 @@ QLabel* Builder::makeLabel(Control& control) {
 }
 
 void Builder::finish(Control& control, const Binding& binding, const char16_t* tip) {
-  if (binding.bound()) control.bind(QString::fromUtf16(binding.column()), binding.source());
+  if (binding.bound()) control.bind(QString::fromUtf16(binding.column()), sourceOf(binding.table()));
   finish(control, tip);
 }
 

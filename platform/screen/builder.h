@@ -46,7 +46,7 @@ class Builder {
 
  private:
   struct Place;
-  /// A control and the captions around it, to tell controls of one caption apart.
+  /// A control and the captions around it, to distinguish controls of one caption.
   struct Spot {
     Control* control;
     QString group, page;
@@ -65,6 +65,8 @@ class Builder {
   void finish(Control& control, const Binding& binding, const char16_t* tip);
   void finish(Control& control, const char16_t* tip);
 
+  /// Number of the screen's source of a table.
+  int sourceOf(const store::Table* table) const;
   /// The widget that new controls become children of.
   QWidget* host() const;
   void open(std::unique_ptr<Place> place);

@@ -64,7 +64,8 @@ void Builder::make(const TextRun& row) {
     line.setLook(row.limit, row.width, row.readOnly);
     setHandlers(line, row);
     family.add(makeLabel(line), line.widget());
-    if (row.bind.bound()) line.bind(numbered(row.bind.column(), row.number + i), row.bind.source());
+    if (row.bind.bound())
+      line.bind(QString::fromUtf16(row.bind.column(row.number + i)), sourceOf(row.bind.table()));
     finish(line, row.tip);
   }
   m_places.back()->addWide(box, false);
@@ -143,7 +144,7 @@ void Builder::make(const EndPages&) { closeToBase(); }
 void Builder::make(const Group& row) {
   auto& group = add(std::make_unique<GroupControl>(m_screen, row, host()));
   if (row.columns == 1)
-    m_places.back()->addSingle(group.widget());  // narrow groups stand beside each other
+    m_places.back()->addSingle(group.widget());  // narrow groups are placed side by side
   else
     m_places.back()->addWide(group.widget(), false);
   open(std::make_unique<Place>(Shelf(group.widget(), row.columns)));
@@ -161,9 +162,8 @@ void Builder::make(const Bar&) {
 void Builder::make(const EndBar&) { close(); }
 
 void Builder::make(const Grid& row) {
-  auto& grid = add(
-      std::make_unique<GridControl>(m_screen, row, m_screen.source(row.source), host(), m_screen.voice()));
-  placeCells(grid);
+  const int source = sourceOf(&row.columns[0].column.table());
+  placeCells(add(std::make_unique<GridControl>(m_screen, row, source, host(), m_screen.voice())));
 }
 
 void Builder::make(const Table& row) {

@@ -38,7 +38,7 @@ void ConfirmPrompt::press() {
     if (const auto found = m_actions.constFind(action); found != m_actions.constEnd())
       found.value()(*this);
     else if (action != QStringView(kClosePrompt))
-      qWarning("no action %s for a prompt", qUtf8Printable(action));
+      qCritical("no action %s for a prompt", qUtf8Printable(action));
     break;
   }
   if (alive) navigator().unload(objectName());

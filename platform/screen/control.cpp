@@ -3,14 +3,25 @@
 #include <QtWidgets/QtWidgets>
 
 #include "platform/screen/captions.h"
+#include "platform/screen/declare.h"
 #include "platform/voice/voice_guide.h"
 
 namespace screen {
 
-QString objectName(const ControlName& name, int offset) {
-  const QString family = QString::fromUtf16(name.family());
-  return name.index() < 0 ? family : QStringLiteral("%1(%2)").arg(family).arg(name.index() + offset);
+namespace {
+
+QString objectName(const char16_t* family, int index) {
+  const QString name = QString::fromUtf16(family);
+  return index < 0 ? name : name + u'(' + QString::number(index) + u')';
 }
+
+}  // namespace
+
+QString objectName(const ControlName& name, int offset) {
+  return objectName(name.family(), name.index() < 0 ? -1 : name.index() + offset);
+}
+
+QString ControlRef::name() const { return objectName(m_family, m_index); }
 
 Control::Control(Screen& screen, const ControlName& name, const QString& caption, int offset)
     : m_screen(screen),
@@ -64,7 +75,7 @@ void Control::setRed(bool red) {
   QWidget* marked = m_label ? static_cast<QWidget*>(m_label) : widget();
   if (!marked) return;
   if (!red) return marked->setPalette(QPalette());
-  // Readable on a light and on a dark desk (contrast above 5:1 on both).
+  // Readable on a light and on a dark desktop theme (contrast above 5:1 on both).
   const bool dark = marked->palette().color(QPalette::Window).lightness() < 128;
   const QColor color = dark ? QColor(0xFF, 0x9A, 0x9A) : QColor(0xB4, 0x00, 0x00);
   QPalette palette = marked->palette();

@@ -6,8 +6,13 @@
 
 namespace screen {
 
+void ControlBook::addName(const QString& name, Control& control) {
+  if (m_byName.contains(name)) qCritical("two controls %s on this screen", qUtf8Printable(name));
+  m_byName.insert(name, &control);
+}
+
 void ControlBook::enter(std::unique_ptr<Control> control) {
-  m_byName.insert(control->name(), control.get());
+  addName(control->name(), *control);
   m_controls.push_back(std::move(control));
 }
 
@@ -17,7 +22,7 @@ void ControlBook::addWidgets(Control& control) {
 
 Control* ControlBook::find(const QString& name) const {
   Control* control = m_byName.value(name);
-  if (!control) qWarning("no control %s on this screen", qUtf8Printable(name));
+  if (!control) qCritical("no control %s on this screen", qUtf8Printable(name));
   return control;
 }
 

@@ -23,10 +23,11 @@ class ControlBook {
     return added;
   }
   /// A second name of the same control: the objectName of a menu twin, a single option button.
-  void addName(const QString& name, Control& control) { m_byName.insert(name, &control); }
+  void addName(const QString& name, Control& control);
   void addWidgets(Control& control);
 
-  /// nullptr where the screen has no such control (a mistake of the screen: told on the error output).
+  /// nullptr if the screen has no such control: a mistake of the program, reported as critical, which is
+  /// fatal in tests.
   Control* find(const QString& name) const;
   template <class T>
   T* find(const QString& name) const {

@@ -5,15 +5,16 @@
 #include "platform/screen/data_source.h"
 #include "platform/screen/grid_model.h"
 #include "platform/screen/grid_view.h"
+#include "platform/screen/screen.h"
 
 namespace screen {
 
-GridControl::GridControl(Screen& screen, const Grid& row, DataSource& source, QWidget* parent,
+GridControl::GridControl(Screen& screen, const Grid& row, int source, QWidget* parent,
                          voice::VoiceGuide& voice)
     : CellsControl(screen, row.name, row.caption, parent, voice),
-      m_source(source),
-      m_number(row.source),
-      m_rows(new GridModel(source.rows(), row.columns, m_view)) {
+      m_source(screen.source(source)),
+      m_number(source),
+      m_rows(new GridModel(m_source.rows(), row.columns, m_view)) {
   m_onEnter = row.onActivate;
   m_onEdit = row.onMove;
   say(row.say);

@@ -10,7 +10,8 @@ class GridModel;
 /// A grid over a source's record set. Its row is the source's row.
 class GridControl : public CellsControl {
  public:
-  GridControl(Screen& screen, const Grid& row, DataSource& source, QWidget* parent, voice::VoiceGuide& voice);
+  /// `source` is the number of the screen's source whose rows are listed.
+  GridControl(Screen& screen, const Grid& row, int source, QWidget* parent, voice::VoiceGuide& voice);
 
   int sourceNumber() const { return m_number; }
 

@@ -8,9 +8,9 @@
 
 namespace screen {
 
-bool DataSource::open(const QString& path, const QString& table) {
+bool DataSource::open(const QString& path) {
   auto database = store::Database::open(path);
-  auto rows = database ? store::RecordSet::open(database.value(), table)
+  auto rows = database ? store::RecordSet::open(database.value(), QString::fromUtf16(m_table.name()))
                        : store::Result<store::RecordSet>(database.fault());
   if (!rows) {
     m_openFault = rows.fault().message;

@@ -14,10 +14,12 @@ class Screen;
 /// data-control message; the row stays.
 class DataSource {
  public:
-  explicit DataSource(Screen& screen, int number) : m_screen(screen), m_number(number) {}
+  DataSource(Screen& screen, int number, const store::Table& table)
+      : m_screen(screen), m_number(number), m_table(table) {}
 
-  /// Opens the table of the file; on a fault tells it and stays closed (the screen still works).
-  bool open(const QString& path, const QString& table);
+  /// Opens the source's table in the file; on a fault reports it and stays closed (the screen still works).
+  bool open(const QString& path);
+  const store::Table& table() const { return m_table; }
   bool isOpen() const { return m_rows.isOpen(); }
   /// A row stands on the screen, stored or being added.
   bool holdsRow() const;
@@ -70,6 +72,7 @@ class DataSource {
   store::Done setChangedColumns();
   Screen& m_screen;
   int m_number;
+  const store::Table& m_table;
   store::RecordSet m_rows;
   QString m_openFault;
 };

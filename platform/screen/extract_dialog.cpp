@@ -7,7 +7,7 @@ namespace detail {
 
 ExtractDeclaration::ExtractDeclaration(const ExtractRow& row)
     : screenRow{.name = row.name, .caption = row.caption, .rows = {}, .heading = row.caption.get()} {
-  for (const ColumnChoice& column : row.columns) captions.push_back(column.caption);
+  for (const ColumnChoice& column : row.columns) captions.push_back(column.caption());
   rows = {
       Combo{.name = u"Combo1",
             .caption = u"抽出する項目:",
@@ -50,8 +50,8 @@ void ExtractDialog::extract() {
   if (list == nullptr || chosen < 0) return;
   if (word.isEmpty() && m_row.blankDoesNothing) return askFor("Text1");
   const ColumnChoice& choice = m_row.columns[static_cast<size_t>(chosen)];
-  if (choice.yesNo) word = yesNoText(word);
-  if (!list->narrowBy(store::likeCriterion(QString::fromUtf16(choice.column), word))) return;
+  if (choice.yesNo()) word = yesNoText(word);
+  if (!list->narrowBy(store::likeCriterion(QString::fromUtf16(choice.column()), word))) return;
   navigator().show(listName);
   close();
 }

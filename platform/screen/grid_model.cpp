@@ -12,9 +12,9 @@ QString GridModel::columnCaption(int column) const {
 
 QString GridModel::cell(int row, int column) const {
   if (!has(row, column)) return {};
-  const QString name = QString::fromUtf16(m_columns[static_cast<size_t>(column)].column);
-  const QString value = m_rows.valueAt(row, name);
-  if (!m_rows.isYesNo(name)) return value;
+  const store::Column& asked = m_columns[static_cast<size_t>(column)].column;
+  const QString value = m_rows.valueAt(row, asked);
+  if (!m_rows.isYesNo(asked)) return value;
   return value == u"-1" ? QStringLiteral("Yes") : QStringLiteral("No");
 }
 

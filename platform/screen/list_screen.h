@@ -67,19 +67,43 @@ class ListScreen : public Screen {
   void step(void (DataSource::*move)());
 };
 
-/// A column that a dialog offers: as the list shows it, and its name in the table.
-struct ColumnChoice {
-  const char16_t* caption = nullptr;
-  const char16_t* column = nullptr;
-  bool yesNo = false;  ///< typed "Yes" or "yes" means the true value, "No" or "no" the false one
+/// A column that a dialog offers.
+class ColumnChoice {
+ public:
+  /// Under its own name; a yes/no column takes "Yes" or "yes" for the true value, "No" or "no" for the false
+  /// one.
+  consteval ColumnChoice(const store::Column& column) : ColumnChoice(column.name(), column) {}
+  /// Under another caption.
+  consteval ColumnChoice(const char16_t* caption, const store::Column& column)
+      : m_caption(caption), m_column(column.name()), m_yesNo(column.type() == store::ColumnType::YesNo) {}
+  /// A name that no column of the list has: the engine says so when it is chosen.
+  static consteval ColumnChoice missing(const char16_t* name) { return ColumnChoice(name); }
+
+  constexpr const char16_t* caption() const { return m_caption; }
+  constexpr const char16_t* column() const { return m_column; }
+  constexpr bool yesNo() const { return m_yesNo; }
+
+ private:
+  consteval explicit ColumnChoice(const char16_t* name) : m_caption(name), m_column(name) {}
+  const char16_t* m_caption;
+  const char16_t* m_column;
+  bool m_yesNo = false;
 };
 
 /// Columns that are offered under their own names.
 template <std::size_t N>
-constexpr std::array<ColumnChoice, N> ownNames(const std::array<const char16_t*, N>& columns) {
-  std::array<ColumnChoice, N> choices{};
-  for (std::size_t i = 0; i < N; ++i) choices[i] = {columns[i], columns[i]};
-  return choices;
+consteval auto choicesOf(const std::array<store::Column, N>& columns) {
+  return [&columns]<std::size_t... At>(std::index_sequence<At...>) {
+    return std::array<ColumnChoice, N>{ColumnChoice(columns[At])...};
+  }
+  (std::make_index_sequence<N>());
+}
+/// Their names, for the list of a combo box.
+template <std::size_t N>
+consteval std::array<const char16_t*, N> namesOf(const std::array<store::Column, N>& columns) {
+  std::array<const char16_t*, N> names{};
+  for (std::size_t i = 0; i < N; ++i) names[i] = columns[i].name();
+  return names;
 }
 
 }  // namespace screen

@@ -1,7 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <type_traits>
 #include <utility>
+
+#include "platform/screen/route.h"
+#include "platform/store/column.h"
 
 // What rows are written with: texts, names, columns and actions. These types have no default constructor and
 // refuse empty text at compile time.
@@ -16,6 +20,7 @@ class Words {
   consteval Words(const char16_t* text) : m_text(text) {
     if (text == nullptr || text[0] == u'\0') throw "a row needs a text here";
   }
+  consteval Words(const ScreenName& screen) : m_text(screen.get()) {}
   constexpr const char16_t* get() const { return m_text; }
 
  private:
@@ -40,16 +45,6 @@ class ControlName {
   int m_index;
 };
 
-/// The column a control is bound to: Column{u"氏名"}, or Column{u"a1", 2} for the screen's second source.
-struct Column {
-  const char16_t* name;
-  int source;
-  consteval Column(const char16_t* columnName, int sourceNumber = 1)
-      : name(columnName), source(sourceNumber) {
-    if (columnName == nullptr || columnName[0] == u'\0') throw "a bound control needs a column";
-  }
-};
-
 /// No column, on purpose; the reason is for the reader.
 struct Unbound {
   const char16_t* reason;
@@ -58,17 +53,34 @@ struct Unbound {
   }
 };
 
+/// What a control shows and stores: a column of one of the screen's tables (patients::name), the columns of a
+/// series for a family of fields (claim::dayCode), or nothing. Which source of the screen holds the column
+/// follows from its table.
 class Binding {
  public:
-  consteval Binding(Column column) : m_column(column.name), m_source(column.source) {}
-  consteval Binding(Unbound) : m_column(nullptr), m_source(0) {}
+  consteval Binding(const store::Column& column)
+      : m_table(&column.table()), m_column(column.name()), m_count(1) {}
+  consteval Binding(const store::Series& series)
+      : m_table(&series.table()),
+        m_column(series[series.first()].name()),
+        m_count(series.count()),
+        m_series(series) {}
+  consteval Binding(Unbound) {}
   constexpr bool bound() const { return m_column != nullptr; }
+  constexpr const store::Table* table() const { return m_table; }
   constexpr const char16_t* column() const { return m_column; }
-  constexpr int source() const { return m_source; }
+  /// Number of columns: of a family of fields each has its own.
+  constexpr int count() const { return m_count; }
+  /// The name of the column of a number of the series.
+  constexpr const char16_t* column(int number) const {
+    return m_series ? (*m_series)[number].name() : m_column;
+  }
 
  private:
-  const char16_t* m_column;
-  int m_source;
+  const store::Table* m_table = nullptr;
+  const char16_t* m_column = nullptr;
+  int m_count = 0;
+  std::optional<store::Series> m_series;
 };
 
 /// A handler: the screen and the index of the control in its family (-1: no family).

@@ -33,16 +33,16 @@ struct TextField {
   Handler onEdit = nullptr;       ///< the user changed the text
 };
 
-/// A family of like text fields: names family(first) .. family(first+count-1); "%1" in caption and column
-/// stands for 1, 2, ... (`number` + n).
+/// A family of like text fields: names family(first) .. family(first+count-1); "%1" in the caption stands for
+/// 1, 2, ... (`number` + n), and so does the number of the column in the series that the family is bound to.
 struct TextRun {
   ControlName name;  ///< {u"txtFields", 60}: family and first index
   int count;
   Words caption;  ///< u"%1日 治療内容"
-  Binding bind;   ///< Column{u"治療内容%1"}
+  Binding bind;   ///< claim::dayCode
   int limit = kNoLimit;
   int width = 4;
-  int perLine = 7;  ///< fields beside each other
+  int perLine = 7;  ///< fields side by side
   bool readOnly = false;
   int number = 1;  ///< what %1 is for the first field
   const char16_t* tip = nullptr;
@@ -76,7 +76,7 @@ struct Check {
   const char16_t* off = u"0";
   const char16_t* tip = nullptr;
   const char16_t* group =
-      nullptr;              ///< word put before the accessible name where the caption alone is not enough
+      nullptr;              ///< word put before the accessible name if the caption alone is not enough
   bool marksDirty = false;  ///< sets the screen's check flag (checkChanged) when the user changes it
   Handler onToggle = nullptr;
 };
@@ -99,14 +99,14 @@ struct Options {
   Handler onChoose = nullptr;
 };
 
-/// A button and, where `under` is given, its menu twin of the same action.
+/// A button and, if `under` is given, its menu twin of the same action.
 struct Command {
   ControlName name;
   Words caption;
   Run run;
   const char16_t* menu = nullptr;         ///< objectName of the twin: u"Men_FU"
-  const char16_t* under = nullptr;        ///< menu it stands under: u"ファイル(&F)"
-  const char16_t* menuCaption = nullptr;  ///< where it differs from the button's
+  const char16_t* under = nullptr;        ///< menu it belongs to: u"ファイル(&F)"
+  const char16_t* menuCaption = nullptr;  ///< if it differs from the button's
   const char16_t* key = nullptr;          ///< key sequence, e.g. u"F1"
   const char16_t* say = nullptr;          ///< sentence of its own on focus
   const char16_t* tip = nullptr;
@@ -133,7 +133,7 @@ struct Note {
 struct Page {
   Words caption;
 };
-/// Ends the pages: what follows stands under the tab strip.
+/// Ends the pages: what follows is placed under the tab strip.
 struct EndPages {};
 struct Group {
   ControlName name;
@@ -146,16 +146,15 @@ struct EndBar {};
 
 /// A column of a grid.
 struct GridColumn {
-  const char16_t* column;
+  store::Column column;
   const char16_t* caption;
 };
 
 /// A grid over a source's record set: real item view, lazy, cells reachable by arrow keys and spoken as
-/// column caption, separator, value.
+/// column caption, separator, value. The source is the one of the table that the columns belong to.
 struct Grid {
   ControlName name;
   Words caption;
-  int source;
   std::span<const GridColumn> columns;
   const char16_t* say = nullptr;  ///< spoken on focus before the cell instead of the caption
   Handler onActivate = nullptr;   ///< Enter or double click on a row
@@ -210,12 +209,35 @@ using Row = std::variant<TextField, TextRun, Combo, Check, Options, Command, Ent
                          Group, EndGroup, Bar, EndBar, Grid, Table, Calendar, TabRow>;
 using Rows = std::span<const Row>;
 
-/// A screen as it is declared: names, rows, and what it says when it opens.
+/// The tables of a screen's data sources, in the order of their numbers: .sources = patients::table, or
+/// {claim::firstHalf, claim::secondHalf}.
+class Sources {
+ public:
+  constexpr Sources() = default;
+  template <class... Tables>
+  consteval Sources(const store::Table& first, const Tables&... others)
+      : m_tables{&first, &others...}, m_count(1 + static_cast<int>(sizeof...(others))) {}
+  constexpr int count() const { return m_count; }
+  constexpr const store::Table* table(int number) const { return m_tables[number - 1]; }
+  /// Number of the source of a table; 0: none of the screen's.
+  constexpr int numberOf(const store::Table* table) const {
+    for (int i = 0; i < m_count; ++i)
+      if (m_tables[i] == table) return i + 1;
+    return 0;
+  }
+
+ private:
+  const store::Table* m_tables[3] = {};
+  int m_count = 0;
+};
+
+/// A screen as it is declared: names, rows, and what it says when it opens. Made by declare(), which looks
+/// through it at compile time.
 struct ScreenRow {
   Words name;     ///< screen name, its objectName: 治療台帳4
   Words caption;  ///< window title
   Rows rows;
-  int sources = 0;                    ///< number of data sources
+  Sources sources = {};               ///< tables of the data sources
   const char16_t* heading = nullptr;  ///< spoken when it opens, before the notes marked as spoken
   bool functionKeys = false;          ///< F1 to F4 are first, previous, next, last of source 1
 };

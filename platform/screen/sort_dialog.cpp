@@ -5,7 +5,7 @@ namespace detail {
 
 SortDeclaration::SortDeclaration(const SortRow& row)
     : screenRow{.name = row.name, .caption = u"ソート", .rows = {}, .heading = u"ソート"} {
-  for (const ColumnChoice& column : row.columns) captions.push_back(column.caption);
+  for (const ColumnChoice& column : row.columns) captions.push_back(column.caption());
   rows = {
       Combo{.name = u"Combo1",
             .caption = u"並び替える項目:",
@@ -37,7 +37,7 @@ void SortDialog::sort(const QString& direction) {
   auto* list = dynamic_cast<ListScreen*>(navigator().load(listName));
   const int chosen = chosenItem("Combo1");
   if (list == nullptr || chosen < 0) return;
-  const QString column = QString::fromUtf16(m_row.columns[static_cast<size_t>(chosen)].column);
+  const QString column = QString::fromUtf16(m_row.columns[static_cast<size_t>(chosen)].column());
   if (!list->sortBy(column + direction)) return;
   navigator().show(listName);
   close();

@@ -1,66 +1,38 @@
 #include "platform/store/catalogue.h"
 
-#include <QStringList>
-#include <deque>
-#include <vector>
-
-#include "platform/store/catalogue_columns.h"
+#include "platform/store/tables/bookings.h"
+#include "platform/store/tables/claims.h"
+#include "platform/store/tables/dictionaries.h"
+#include "platform/store/tables/fees.h"
+#include "platform/store/tables/patients.h"
+#include "platform/store/tables/registers.h"
+#include "platform/store/tables/visits.h"
 
 namespace store {
 namespace {
 
-int trailingNumberStart(const QString& name) {
-  qsizetype start = name.size();
-  while (start > 0 && name[start - 1] >= u'0' && name[start - 1] <= u'9') --start;
-  return static_cast<int>(start);
+constexpr TableRow row(const char16_t* file, int folderEntry, const Table& table) {
+  return {file, folderEntry, table.name(), table.columns()};
 }
 
-/// "t1..t3" as t1, t2, t3; a plain name as itself.
-QStringList namesOf(const QString& entry) {
-  const QStringList ends = entry.split(QStringLiteral(".."));
-  if (ends.size() != 2) return {entry};
-  const int digits = trailingNumberStart(ends[0]);
-  const QString stem = ends[0].left(digits);
-  const int first = ends[0].mid(digits).toInt();
-  const int last = ends[1].mid(trailingNumberStart(ends[1])).toInt();
-  QStringList names;
-  for (int number = first; number != last; number += first < last ? 1 : -1)
-    names += stem + QString::number(number);
-  return names += ends[1];
-}
-
-/// Owns the names and rows that catalogue() hands out, made once from the written lists.
-class Catalogue {
- public:
-  Catalogue() {
-    for (const TableText& text : tableTexts()) m_tables.push_back(tableRow(text));
-  }
-  std::span<const TableRow> tables() const { return m_tables; }
-
- private:
-  TableRow tableRow(const TableText& text) {
-    std::vector<ColumnRow>& columns = m_columns.emplace_back();
-    columns.push_back({u"ID", ColumnType::Counter, false});
-    for (const ColumnsText& part : text.columns) {
-      for (const QString& entry : QString::fromUtf16(part.names).split(u',')) {
-        for (const QString& name : namesOf(entry))
-          columns.push_back({m_names.emplace_back(name.toStdU16String()).c_str(), part.type, part.added});
-      }
-    }
-    return {text.file, text.folderEntry, text.table, columns};
-  }
-
-  std::deque<std::u16string> m_names;
-  std::deque<std::vector<ColumnRow>> m_columns;
-  std::vector<TableRow> m_tables;
+constexpr TableRow kTables[] = {
+    row(u"臨床QV2000N.mdb", 0, patients::table),      row(u"予約2000.mdb", 1, bookings::table),
+    row(u"保険申請2000_1.mdb", 2, claim::firstHalf),  row(u"保険申請2000_2.mdb", 14, claim::secondHalf),
+    row(u"保険申請2000_2.mdb", 14, claim::routeWork), row(u"Keiraku2000.mdb", 3, acupoints::table),
+    row(u"CLmoji2000.mdb", 4, phrases::table),        row(u"CL2moji2000.mdb", 5, phrasePairs::table),
+    row(u"カルテ2データ2000.mdb", 6, visits::table),  row(u"同意医師2000.mdb", 11, doctors::table),
+    row(u"保険者2000.mdb", 12, insurers::table),      row(u"料金設定2000.mdb", 13, fees::table),
+    row(u"料金設定2010.mdb", -1, fees::table),        row(u"料金設定2013.mdb", -1, fees::table),
+    row(u"料金設定2016.mdb", -1, fees::table),        row(u"料金設定2018.mdb", -1, fees::table),
+    row(u"料金設定2019.mdb", -1, fees::table),        row(u"料金設定2020.mdb", -1, fees::table),
+    row(u"料金設定2022.mdb", -1, fees::table),        row(u"料金設定2024.mdb", -1, fees::table),
+    row(u"料金設定o2000.mdb", -1, fees::table),       row(u"料金設定o2016.mdb", -1, fees::table),
+    row(u"料金設定o2018.mdb", -1, fees::table),
 };
 
 }  // namespace
 
-std::span<const TableRow> catalogue() {
-  static const Catalogue made;
-  return made.tables();
-}
+std::span<const TableRow> catalogue() { return kTables; }
 
 const TableRow* tableOfFile(const QString& fileName) {
   for (const TableRow& row : catalogue())
@@ -68,7 +40,7 @@ const TableRow* tableOfFile(const QString& fileName) {
   return nullptr;
 }
 
-bool sortsAsDate(const QString& column) { return column == QStringView(u"治療日チェック"); }
+bool sortsAsDate(const QString& column) { return column == visits::dateShadow.text(); }
 
 const ColumnRow* findColumn(const TableRow& table, const QString& column) {
   for (const ColumnRow& row : table.columns)

@@ -3,15 +3,9 @@
 #include <QString>
 #include <span>
 
+#include "platform/store/column.h"
+
 namespace store {
-
-enum class ColumnType { Counter, Text255, LongText, Integer, YesNo };
-
-struct ColumnRow {
-  const char16_t* name;
-  ColumnType type;
-  bool added;  ///< came with a growth run, not with the first schema
-};
 
 struct TableRow {
   const char16_t* file;  ///< file name in the program folder, e.g. 臨床QV2000N.mdb
@@ -21,12 +15,12 @@ struct TableRow {
 };
 
 /// The one catalogue of all files, tables and columns; the store, fresh files, growth runs, binder tests
-/// and backups read it.
+/// and backups read it. The columns of a table are written down in platform/store/tables.
 std::span<const TableRow> catalogue();
 /// The row of a file name (nullptr: not of this program).
 const TableRow* tableOfFile(const QString& fileName);
-/// Whether the texts of a column are western dates, "yyyy/m/d", that sort as dates: the shadow columns that
-/// stand beside dates kept as they were typed.
+/// Whether the texts of a column are western dates, "yyyy/m/d", that sort as dates: the shadow columns of
+/// dates that are stored as they were typed.
 bool sortsAsDate(const QString& column);
 /// The column of a table of a file, nullptr where it has none.
 const ColumnRow* findColumn(const TableRow& table, const QString& column);

@@ -72,6 +72,15 @@ Value RecordSet::value(const QString& column) const {
   return m_state->onRow() ? m_state->row().value(*m_state->file, m_state->id(), index) : Value();
 }
 
+QString RecordSet::own(const Column& column) const {
+  if (isOpen() && m_state->schema().table() != QStringView(column.table().name()))
+    qCritical("column %s does not belong to table %s", qUtf8Printable(column.text()),
+              qUtf8Printable(table()));
+  return column.text();
+}
+
+Value RecordSet::value(const Column& column) const { return value(own(column)); }
+
 bool RecordSet::isYesNo(const QString& column) const {
   const int index = isOpen() ? m_state->schema().find(column) : -1;
   return index >= 0 && m_state->schema().type(index) == ColumnType::YesNo;

@@ -7,6 +7,7 @@
 #include <optional>
 #include <span>
 
+#include "platform/store/column.h"
 #include "platform/text/result.h"
 
 namespace store {
@@ -71,10 +72,14 @@ class RecordSet {
 
   /// The current row's value (of the row buffer while editing). A column that the table lacks reads null.
   Value value(const QString& column) const;
+  /// The same of a column of the catalogue. One of another table is a mistake of the program: critical.
+  Value value(const Column& column) const;
   /// Whether the column holds marks, "-1" and "0".
   bool isYesNo(const QString& column) const;
+  bool isYesNo(const Column& column) const { return isYesNo(own(column)); }
   /// The value of any row of the set by position, for lists; the current row does not move.
   Value valueAt(int position, const QString& column) const;
+  Value valueAt(int position, const Column& column) const { return valueAt(position, own(column)); }
 
   Done addNew();
   Done edit();
@@ -82,6 +87,7 @@ class RecordSet {
   bool adding() const;
   /// Sets a column of the row buffer. Refuses an unknown column.
   Done setValue(const QString& column, const Value& value);
+  Done setValue(const Column& column, const Value& value) { return setValue(own(column), value); }
   /// Writes the row buffer. The current row stays where it was (moving to the new row is the caller's:
   /// setBookmark(lastModified())).
   Done update();
@@ -116,6 +122,8 @@ class RecordSet {
   Done refresh();
 
  private:
+  /// The column's name, after a look whether it is of this set's table.
+  QString own(const Column& column) const;
   struct State;
   std::unique_ptr<State> m_state;
 };

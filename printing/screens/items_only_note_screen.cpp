@@ -1,5 +1,7 @@
 #include "printing/screens/items_only_note_screen.h"
 
+#include "frame/core/routes.h"
+
 namespace printing {
 
 using namespace screen;
@@ -57,6 +59,6 @@ void ItemsOnlyNoteScreen::speakNote() { voice().speakHeading(openingTexts()); }
 
 void ItemsOnlyNoteScreen::rememberTick() { m_run.itemsOnlyNoteSilenced = checked(u"Check1"_s); }
 
-void ItemsOnlyNoteScreen::finish() { navigator().unload(u"項目のみ印刷の注意事項"_s); }
+void ItemsOnlyNoteScreen::finish() { navigator().unload(routes::ItemsOnlyNote::screen); }
 
 }  // namespace printing

@@ -1,5 +1,6 @@
 #include "printing/screens/printing_screens.h"
 
+#include "frame/core/routes.h"
 #include "printing/core/print_button.h"
 #include "printing/screens/claim_print_screen.h"
 #include "printing/screens/consent_watch_screen.h"
@@ -12,9 +13,9 @@ namespace printing {
 using namespace Qt::Literals::StringLiterals;
 
 void registerScreens(screen::ScreenRegistry& registry, PrintingRoom& room) {
-  registry.add<ClaimPrintScreen>(u"レセプト印刷2024"_s, room.run, room.claims, room.engine);
-  registry.add<ConsentWatchScreen>(u"同意期限一ヶ月"_s, room.run, room.engine);
-  registry.add<ItemsOnlyNoteScreen>(u"項目のみ印刷の注意事項"_s, room.run);
+  registry.add<routes::ClaimPrint2024, ClaimPrintScreen>(room.run, room.claims, room.engine);
+  registry.add<routes::ConsentWatch, ConsentWatchScreen>(room.run, room.engine);
+  registry.add<routes::ItemsOnlyNote, ItemsOnlyNoteScreen>(room.run);
   registry.add<PrinterOptionsScreen>(QString::fromUtf16(kPrinterOptions), room.choice);
   for (const screen::ScreenRow& row : UnbuiltPrintScreen::declarations())
     registry.add(QString::fromUtf16(row.name.get()), [&row](screen::Services& services) {

@@ -4,12 +4,17 @@
 #include <QStringView>
 #include <span>
 
+#include "platform/store/column.h"
+
 namespace records {
 
 /// A column that the patient table can be searched by: the caption in the list and the column's name.
 struct SearchColumn {
   QStringView caption;
-  QStringView column;
+  store::Column column;
+  /// Under its own name.
+  constexpr SearchColumn(const store::Column& own) : caption(own.name()), column(own) {}
+  constexpr SearchColumn(const char16_t* text, const store::Column& of) : caption(text), column(of) {}
 };
 
 /// The columns in the order of the list on the patient screen.

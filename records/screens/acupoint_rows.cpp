@@ -1,5 +1,6 @@
 #include "records/screens/acupoint_rows.h"
 
+#include "platform/store/tables/dictionaries.h"
 #include "records/screens/acupoint_screen.h"
 
 namespace records {
@@ -12,18 +13,20 @@ constexpr int kLongestName = 10;
 
 // Two columns before the name: the opening sentence sends the user two columns to the right.
 constexpr GridColumn kListed[] = {
-    {u"経絡コード", u"経絡コード"}, {u"部位", u"部位"},         {u"経穴名漢字", u"経穴名漢字"},
-    {u"経穴名かな", u"経穴名かな"}, {u"取穴位置", u"取穴位置"}, {u"筋肉", u"筋肉"},
-    {u"運動神経", u"運動神経"},     {u"知覚神経", u"知覚神経"}, {u"血管", u"血管"},
-    {u"刺入方法", u"刺入方法"},     {u"主適応", u"主適応"},
+    {acupoints::meridian, u"経絡コード"}, {acupoints::region, u"部位"},
+    {acupoints::name, u"経穴名漢字"},     {acupoints::kana, u"経穴名かな"},
+    {acupoints::location, u"取穴位置"},   {acupoints::muscle, u"筋肉"},
+    {acupoints::motorNerve, u"運動神経"}, {acupoints::sensoryNerve, u"知覚神経"},
+    {acupoints::vessel, u"血管"},         {acupoints::needling, u"刺入方法"},
+    {acupoints::indications, u"主適応"},
 };
 
-consteval TextField field(int index, const char16_t* caption, const char16_t* column, int width = 30) {
-  return TextField{.name = {u"txtFields", index}, .caption = caption, .bind = Column{column}, .width = width};
+consteval TextField field(int index, const char16_t* caption, store::Column column, int width = 30) {
+  return TextField{.name = {u"txtFields", index}, .caption = caption, .bind = column, .width = width};
 }
 
 consteval TextField name() {
-  TextField row = field(0, u"経穴名漢字:", u"経穴名漢字", kLongestName);
+  TextField row = field(0, u"経穴名漢字:", acupoints::name, kLongestName);
   row.limit = kLongestName;
   return row;
 }
@@ -32,7 +35,7 @@ constexpr Row kRows[] = {
     Note{.name = {u"Label1"},
          .caption = u"まず、→を２回押し、その後↓↑でつぼの名前を呼び出します。",
          .spoken = true},
-    Grid{.name = {u"DBGrid1"}, .caption = u"つぼの一覧", .source = 1, .columns = kListed},
+    Grid{.name = {u"DBGrid1"}, .caption = u"つぼの一覧", .columns = kListed},
 
     Group{.name = {u"Frame1"}, .caption = u"検索", .columns = 3},
     Combo{.name = {u"Combo1"},
@@ -48,17 +51,17 @@ constexpr Row kRows[] = {
 
     Group{.name = {u"Frame2"}, .caption = u"経穴", .columns = 3},
     name(),
-    field(1, u"経穴名かな:", u"経穴名かな"),
-    field(9, u"部位:", u"部位"),
-    field(2, u"取穴位置:", u"取穴位置", 60),
-    field(3, u"筋肉:", u"筋肉"),
-    field(4, u"運動神経:", u"運動神経"),
-    field(5, u"知覚神経:", u"知覚神経"),
-    field(6, u"血管:", u"血管"),
-    field(7, u"刺入方法:", u"刺入方法"),
-    field(8, u"主適応:", u"主適応"),
-    Check{.name = {u"Check1"}, .caption = u"禁鍼:", .bind = Column{u"禁鍼フラグ"}},
-    Check{.name = {u"Check2"}, .caption = u"禁灸:", .bind = Column{u"禁灸フラグ"}},
+    field(1, u"経穴名かな:", acupoints::kana),
+    field(9, u"部位:", acupoints::region),
+    field(2, u"取穴位置:", acupoints::location, 60),
+    field(3, u"筋肉:", acupoints::muscle),
+    field(4, u"運動神経:", acupoints::motorNerve),
+    field(5, u"知覚神経:", acupoints::sensoryNerve),
+    field(6, u"血管:", acupoints::vessel),
+    field(7, u"刺入方法:", acupoints::needling),
+    field(8, u"主適応:", acupoints::indications),
+    Check{.name = {u"Check1"}, .caption = u"禁鍼:", .bind = acupoints::noNeedle},
+    Check{.name = {u"Check2"}, .caption = u"禁灸:", .bind = acupoints::noMoxa},
     EndGroup{},
 
     Bar{},
@@ -76,6 +79,6 @@ constexpr Row kRows[] = {
 }  // namespace
 
 constinit const ScreenRow kAcupointScreen{
-    .name = u"frm経穴", .caption = u"経穴", .rows = kRows, .sources = 1, .functionKeys = true};
+    .name = u"frm経穴", .caption = u"経穴", .rows = kRows, .sources = acupoints::table, .functionKeys = true};
 
 }  // namespace records

@@ -1,6 +1,8 @@
 #include "records/screens/chart1_rows.h"
 
+#include "frame/core/routes.h"
 #include "platform/screen/opens.h"
+#include "platform/store/tables/patients.h"
 #include "records/screens/chart1_screen.h"
 
 namespace records {
@@ -13,11 +15,11 @@ constexpr char16_t kFile[] = u"ファイル(&F)";
 constexpr char16_t kDictionaries[] = u"辞典(&J)";
 constexpr char16_t kWindowsSay[] = u"常用文字１、常用文字２、経穴辞典の窓を閉じます";
 
-consteval TextField field(int index, const char16_t* caption, const char16_t* column, int width = 20) {
-  return TextField{.name = {u"txtFields", index}, .caption = caption, .bind = Column{column}, .width = width};
+consteval TextField field(int index, const char16_t* caption, store::Column column, int width = 20) {
+  return TextField{.name = {u"txtFields", index}, .caption = caption, .bind = column, .width = width};
 }
 
-consteval TextField memo(int index, const char16_t* caption, const char16_t* column) {
+consteval TextField memo(int index, const char16_t* caption, store::Column column) {
   TextField row = field(index, caption, column, 100);
   row.lines = 6;
   return row;
@@ -25,17 +27,17 @@ consteval TextField memo(int index, const char16_t* caption, const char16_t* col
 
 constexpr Row kRows[] = {
     Group{.name = {u"FramePatient"}, .caption = u"患者", .columns = 3},
-    field(32, u"担当者:", u"担当者"),
-    field(4, u"氏名:", u"氏名"),
-    field(5, u"性別:", u"性別", 4),
-    TextField{.name = {u"txtF6"}, .caption = u"生年月日:", .bind = Column{u"生年月日"}, .width = 16},
-    field(7, u"年齢:", u"年齢", 4),
-    TextField{.name = {u"txtF24"}, .caption = u"初診日:", .bind = Column{u"初診日"}, .width = 16},
+    field(32, u"担当者:", patients::practitioner),
+    field(4, u"氏名:", patients::name),
+    field(5, u"性別:", patients::sex, 4),
+    TextField{.name = {u"txtF6"}, .caption = u"生年月日:", .bind = patients::birth, .width = 16},
+    field(7, u"年齢:", patients::age, 4),
+    TextField{.name = {u"txtF24"}, .caption = u"初診日:", .bind = patients::firstVisit, .width = 16},
     EndGroup{},
     Group{.name = {u"FrameChart"}, .caption = u"既往症・症状・治療", .columns = 1},
-    memo(25, u"既往症:", u"既往症"),
-    memo(26, u"症状:", u"症状"),
-    memo(27, u"治療:", u"治療"),
+    memo(25, u"既往症:", patients::history),
+    memo(26, u"症状:", patients::symptoms),
+    memo(27, u"治療:", patients::treatment),
     EndGroup{},
     Bar{},
     Command{.name = {u"cmdUpdate"}, .caption = u"更新", .run = run<&Chart1Screen::update>},
@@ -64,15 +66,26 @@ constexpr Row kRows[] = {
           .under = kFile,
           .caption = u"更新",
           .run = run<&Chart1Screen::updateAfterWarning>},
-    Entry{.name = {u"Men_FJ1"}, .under = kDictionaries, .caption = u"常用文字１", .run = opens<u"frmCLmoji">},
-    Entry{
-        .name = {u"Men_FJ2"}, .under = kDictionaries, .caption = u"常用文字２", .run = opens<u"frmCl2moji">},
-    Entry{.name = {u"Men_FJ3"}, .under = kDictionaries, .caption = u"経穴辞典", .run = opens<u"frm経穴">},
+    Entry{.name = {u"Men_FJ1"},
+          .under = kDictionaries,
+          .caption = u"常用文字１",
+          .run = opens<routes::Phrases>},
+    Entry{.name = {u"Men_FJ2"},
+          .under = kDictionaries,
+          .caption = u"常用文字２",
+          .run = opens<routes::PhrasePairs>},
+    Entry{.name = {u"Men_FJ3"},
+          .under = kDictionaries,
+          .caption = u"経穴辞典",
+          .run = opens<routes::Acupoints>},
 };
 
 }  // namespace
 
-constinit const ScreenRow kChart1Declaration{
-    .name = u"治療台帳2", .caption = u"カルテ１", .rows = kRows, .sources = 1, .functionKeys = true};
+constinit const ScreenRow kChart1Declaration{.name = u"治療台帳2",
+                                             .caption = u"カルテ１",
+                                             .rows = kRows,
+                                             .sources = patients::table,
+                                             .functionKeys = true};
 
 }  // namespace records

@@ -30,7 +30,7 @@ Chart1Screen::Chart1Screen(screen::Services& services, frame::RunState& run)
 
 void Chart1Screen::onLoad() {
   applyOwnCaptions(*this, m_run.settings);
-  source().open(m_run.folders[frame::folder::kPatients], u"臨床QV"_s);
+  source().open(m_run.folders[frame::folder::kPatients]);
 }
 
 void Chart1Screen::opened(const screen::Request& request) {

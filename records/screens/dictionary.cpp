@@ -31,9 +31,7 @@ DictionaryScreen::DictionaryScreen(const DictionaryRow& row, screen::Services& s
   source().onLeaveRow = [this] { return leaveRow(); };
 }
 
-void DictionaryScreen::onLoad() {
-  source().open(m_run.folders[m_row.folder], QString::fromUtf16(m_row.table));
-}
+void DictionaryScreen::onLoad() { source().open(m_run.folders[m_row.folder]); }
 
 QString DictionaryScreen::entry() const { return text(kEntry); }
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "frame/core/routes.h"
 #include "printing/contract/hand_print.h"
 #include "records/screens/patient_list_rows.h"
 
@@ -33,9 +34,7 @@ QStringList PatientListScreen::openingTexts() const { return QStringList{windowT
 
 QStringList PatientListScreen::countOnView() const { return {caption(u"Text2"_s), text(u"Text2"_s)}; }
 
-bool PatientListScreen::openWhole() {
-  return source().open(m_run.folders[frame::folder::kPatients], u"臨床QV"_s);
-}
+bool PatientListScreen::openWhole() { return source().open(m_run.folders[frame::folder::kPatients]); }
 
 QString PatientListScreen::noRowsToSortText() const {
   return QString::fromUtf16(screen::kNoRowsOfMembersText);
@@ -59,7 +58,7 @@ void PatientListScreen::handOver() {
   if (emptySet()) return;
   const store::RecordSet& rows = source().rows();
   const QString name = rows.value(u"氏名"_s);
-  if (Screen* dialog = navigator().loaded(u"選択4"_s)) dialog->opened({{u"氏名"_s, name}});
+  if (Screen* dialog = navigator().loaded(routes::PatientSearch::screen)) dialog->opened({{u"氏名"_s, name}});
   navigator().show(u"治療台帳4"_s, {{u"ID"_s, rows.value(u"ID"_s)}, {u"氏名"_s, name}});
 }
 

@@ -1,6 +1,9 @@
 #include "records/screens/patient_rows.h"
 
+#include "frame/core/routes.h"
+#include "frame/core/routes_unbuilt.h"
 #include "platform/screen/opens.h"
+#include "platform/store/tables/patients.h"
 #include "records/screens/patient_screen.h"
 
 namespace records {
@@ -17,17 +20,17 @@ constexpr char16_t kReceipt[] = u"領収証(&R)";
 constexpr char16_t kSpecial[] = u"特殊(&A)";
 constexpr char16_t kSearchSay[] = u"検索の文字選択と文字入力";
 
-consteval TextField field(int index, const char16_t* caption, const char16_t* column, int width = 20) {
-  return TextField{.name = {u"txtFields", index}, .caption = caption, .bind = Column{column}, .width = width};
+consteval TextField field(int index, const char16_t* caption, store::Column column, int width = 20) {
+  return TextField{.name = {u"txtFields", index}, .caption = caption, .bind = column, .width = width};
 }
 
-consteval TextField address(int index, const char16_t* caption, const char16_t* column) {
+consteval TextField address(int index, const char16_t* caption, store::Column column) {
   TextField row = field(index, caption, column, 40);
   row.tip = u"全角20文字まで";
   return row;
 }
 
-consteval TextField memo(int index, const char16_t* caption, const char16_t* column) {
+consteval TextField memo(int index, const char16_t* caption, store::Column column) {
   TextField row = field(index, caption, column);
   row.lines = 2;
   return row;
@@ -49,11 +52,11 @@ constexpr Row kRows[] = {
     EndBar{},
 
     Group{.name = {u"FramePatient"}, .caption = u"患者", .columns = 5},
-    field(1, u"患者ID:", u"患者ID", 12),
-    field(2, u"カルテ番号:", u"カルテ番号", 12),
-    field(3, u"※フリガナ:", u"ふりがな"),
-    field(4, u"※氏名:", u"氏名"),
-    field(5, u"※性別:", u"性別", 4),
+    field(1, u"患者ID:", patients::patientNumber, 12),
+    field(2, u"カルテ番号:", patients::chartNumber, 12),
+    field(3, u"※フリガナ:", patients::kana),
+    field(4, u"※氏名:", patients::name),
+    field(5, u"※性別:", patients::sex, 4),
     Combo{.name = {u"Combo2"},
           .caption = u"性別の選択:",
           .bind = Unbound{u"writes its choice into the field beside it"},
@@ -62,52 +65,52 @@ constexpr Row kRows[] = {
           .onEdit = call<&PatientScreen::chooseSex>},
     TextField{.name = {u"txtF6"},
               .caption = u"※生年月日:",
-              .bind = Column{u"生年月日"},
+              .bind = patients::birth,
               .width = 16,
               .tip = u"生年月日の記入例：2019/5/25（西暦）",
               .onEnter = call<&PatientScreen::enterBirth>},
-    field(7, u"年齢:", u"年齢", 4),
-    TextField{.name = {u"txtF24"}, .caption = u"初診日:", .bind = Column{u"初診日"}, .width = 16},
-    field(23, u"日付1:", u"日付1", 16),
-    field(16, u"職業:", u"職業"),
-    field(17, u"会社名:", u"会社名"),
-    TextField{.name = {u"Text1"}, .caption = u"ID:", .bind = Column{u"ID"}, .width = 8, .readOnly = true},
+    field(7, u"年齢:", patients::age, 4),
+    TextField{.name = {u"txtF24"}, .caption = u"初診日:", .bind = patients::firstVisit, .width = 16},
+    field(23, u"日付1:", patients::date1, 16),
+    field(16, u"職業:", patients::occupation),
+    field(17, u"会社名:", patients::company),
+    TextField{.name = {u"Text1"}, .caption = u"ID:", .bind = patients::id, .width = 8, .readOnly = true},
     TextField{.name = {u"Text2"},
               .caption = u"テキスト5:",
-              .bind = Column{u"テキスト5"},
+              .bind = patients::serial,
               .width = 14,
               .readOnly = true},
     EndGroup{},
 
     Group{.name = {u"FrameAddress"}, .caption = u"連絡先", .columns = 4},
-    field(8, u"郵便番号:", u"郵便番号", 10),
-    address(9, u"住所1:", u"住所1"),
-    address(10, u"住所2:", u"住所2"),
-    address(11, u"住所3:", u"住所3"),
-    field(12, u"電話1:", u"電話1", 16),
-    field(13, u"電話2:", u"電話2", 16),
-    field(14, u"携帯:", u"携帯", 16),
-    field(15, u"FAX:", u"FAX", 16),
+    field(8, u"郵便番号:", patients::zip, 10),
+    address(9, u"住所1:", patients::address[1]),
+    address(10, u"住所2:", patients::address[2]),
+    address(11, u"住所3:", patients::address[3]),
+    field(12, u"電話1:", patients::telephone[1], 16),
+    field(13, u"電話2:", patients::telephone[2], 16),
+    field(14, u"携帯:", patients::mobile, 16),
+    field(15, u"FAX:", patients::fax, 16),
     EndGroup{},
 
     Group{.name = {u"FrameKind"}, .caption = u"区分と紹介", .columns = 5},
-    field(18, u"紹介してくれた人:", u"紹介してくれた人"),
-    field(19, u"紹介した人:", u"紹介した人"),
-    field(20, u"キーワード1:", u"キーワード1"),
-    field(21, u"キーワード2:", u"キーワード2"),
-    field(22, u"区分:", u"区分"),
-    field(32, u"担当者:", u"担当者"),
-    field(33, u"割付:", u"割付"),
-    field(29, u"テキスト1:", u"テキスト1"),
-    field(30, u"テキスト2:", u"テキスト2"),
-    field(31, u"テキスト3:", u"テキスト3"),
+    field(18, u"紹介してくれた人:", patients::referredBy),
+    field(19, u"紹介した人:", patients::referred),
+    field(20, u"キーワード1:", patients::keyword[1]),
+    field(21, u"キーワード2:", patients::keyword[2]),
+    field(22, u"区分:", patients::group),
+    field(32, u"担当者:", patients::practitioner),
+    field(33, u"割付:", patients::allotted),
+    field(29, u"テキスト1:", patients::ownText[1]),
+    field(30, u"テキスト2:", patients::ownText[2]),
+    field(31, u"テキスト3:", patients::ownText[3]),
     EndGroup{},
 
     Group{.name = {u"FrameChart"}, .caption = u"既往症・症状・治療", .columns = 4},
-    memo(25, u"既往症:", u"既往症"),
-    memo(26, u"症状:", u"症状"),
-    memo(27, u"治療:", u"治療"),
-    memo(28, u"メモ1:", u"メモ1"),
+    memo(25, u"既往症:", patients::history),
+    memo(26, u"症状:", patients::symptoms),
+    memo(27, u"治療:", patients::treatment),
+    memo(28, u"メモ1:", patients::memo),
     EndGroup{},
 
     Group{.name = {u"FrameSearch"}, .caption = u"検索", .columns = 3},
@@ -215,7 +218,7 @@ constexpr Row kRows[] = {
             .under = kFile},
     Command{.name = {u"cmdAdd"},
             .caption = u"経穴辞典",
-            .run = opens<u"frm経穴">,
+            .run = opens<routes::Acupoints>,
             .menu = u"Men_FJ3",
             .under = kFile},
     Command{.name = {u"cmdClose"},
@@ -226,9 +229,9 @@ constexpr Row kRows[] = {
             .menuCaption = u"閉じる"},
     EndBar{},
 
-    Entry{.name = {u"Men_FJ1"}, .under = kFile, .caption = u"常用文字１", .run = opens<u"frmCLmoji">},
-    Entry{.name = {u"Men_FJ2"}, .under = kFile, .caption = u"常用文字２", .run = opens<u"frmCl2moji">},
-    Entry{.name = {u"Men_FO"}, .under = kFile, .caption = u"一覧表と印刷", .run = opens<u"一覧表">},
+    Entry{.name = {u"Men_FJ1"}, .under = kFile, .caption = u"常用文字１", .run = opens<routes::Phrases>},
+    Entry{.name = {u"Men_FJ2"}, .under = kFile, .caption = u"常用文字２", .run = opens<routes::PhrasePairs>},
+    Entry{.name = {u"Men_FO"}, .under = kFile, .caption = u"一覧表と印刷", .run = opens<routes::PatientList>},
     Entry{.name = {u"Men_VF6"},
           .under = kMove,
           .caption = u"症状の項目へ",
@@ -262,23 +265,31 @@ constexpr Row kRows[] = {
           .under = kReceipt,
           .caption = u"表示患者の領収証発行",
           .run = run<&PatientScreen::openReceipt>},
-    Entry{.name = {u"Men_AT"}, .under = kSpecial, .caption = u"初期設定", .run = opens<u"登録">},
+    Entry{.name = {u"Men_AT"}, .under = kSpecial, .caption = u"初期設定", .run = opens<routes::Profile>},
     Entry{.name = {u"Men_ALF"},
           .under = kSpecial,
           .caption = u"ＬＡＮおよびフォルダ指定",
-          .run = opens<u"LANフォルダ指定">},
-    Entry{
-        .name = {u"Men_ACHK"}, .under = kSpecial, .caption = u"項目テキストの変更", .run = opens<u"txtbox">},
-    Entry{.name = {u"Men_Am"}, .under = kSpecial, .caption = u"メール用でメモへ", .run = opens<u"データ送">},
+          .run = opens<routes::Folders>},
+    Entry{.name = {u"Men_ACHK"},
+          .under = kSpecial,
+          .caption = u"項目テキストの変更",
+          .run = opens<routes::OwnCaptions>},
+    Entry{.name = {u"Men_Am"},
+          .under = kSpecial,
+          .caption = u"メール用でメモへ",
+          .run = opens<routes::unbuilt::MemoForMail>},
     Entry{.name = {u"Men_Amml"},
           .under = kSpecial,
           .caption = u"ＭＭＬ形式でメモへ",
-          .run = opens<u"データ送2">},
+          .run = opens<routes::unbuilt::MemoForMail2>},
 };
 
 }  // namespace
 
-const ScreenRow kPatientDeclaration{
-    .name = u"治療台帳4", .caption = u"治療台帳", .rows = kRows, .sources = 1, .functionKeys = true};
+const ScreenRow kPatientDeclaration{.name = u"治療台帳4",
+                                    .caption = u"治療台帳",
+                                    .rows = kRows,
+                                    .sources = patients::table,
+                                    .functionKeys = true};
 
 }  // namespace records

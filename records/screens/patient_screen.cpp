@@ -1,5 +1,6 @@
 #include "records/screens/patient_screen.h"
 
+#include "frame/core/routes.h"
 #include "platform/screen/find_row.h"
 #include "platform/shell/desktop.h"
 #include "platform/store/criteria_text.h"
@@ -36,7 +37,7 @@ void PatientScreen::onLoad() {
   setItems(u"Combo1"_s, captions);
   setText(u"Combo1"_s, u"氏名"_s);
   setItems(u"Combo3"_s, SearchHistory(m_run.programFolder).words());
-  if (!source().open(file(), u"臨床QV"_s)) return;
+  if (!source().open(file())) return;
   const text::Result<bool> older = store::needsGrowth(file(), store::GrowthRun::Patient);
   m_asksGrowth = older && *older;
   // The patient who was on view when the screen was left comes back.
@@ -83,7 +84,7 @@ bool PatientScreen::isEmpty() const {
 
 bool PatientScreen::noPatient() {
   if (!isEmpty()) return false;
-  navigator().show(u"無データ"_s);
+  navigator().show(routes::AskFirstPatient{});
   return true;
 }
 
@@ -214,8 +215,8 @@ void PatientScreen::leave() {
     if (!mayLeave()) return;
     m_run.patientOnView = source().rows().recordCount() > 0 ? source().rows().bookmark() : -1;
   }
-  navigator().show(u"選択3"_s);
-  navigator().unload(u"治療台帳4"_s);
+  navigator().show(routes::MainMenu{});
+  navigator().unload(routes::PatientRegister::screen);
 }
 
 // The close box converts the dates to era notation first, then leaves like the button.

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "platform/store/tables/dictionaries.h"
+
 namespace records {
 
 using namespace screen;
@@ -14,11 +16,10 @@ constexpr char16_t kCopySay[] = u"選択文字をクリップボードにコピ�
 constexpr int kLongestPhrase = 200;
 
 /// The rows of a phrase window; the column is all that the two differ in.
-consteval auto phraseRows(Column column, std::span<const GridColumn> listed) {
+consteval auto phraseRows(store::Column column, std::span<const GridColumn> listed) {
   return std::array{
       Row{Grid{.name = {u"DBGrid1"},
                .caption = u"文字の一覧",
-               .source = 1,
                .columns = listed,
                .onActivate = call<&PhraseScreen::copy>,
                .onMove = call<&PhraseScreen::rowReached>}},
@@ -43,15 +44,21 @@ consteval auto phraseRows(Column column, std::span<const GridColumn> listed) {
   };
 }
 
-constexpr GridColumn kListed1[] = {{u"moji", u"文字"}};
-constexpr GridColumn kListed2[] = {{u"setu1", u"文字"}};
-constexpr auto kRows1 = phraseRows(Column{u"moji"}, kListed1);
-constexpr auto kRows2 = phraseRows(Column{u"setu1"}, kListed2);
+constexpr GridColumn kListed1[] = {{phrases::phrase, u"文字"}};
+constexpr GridColumn kListed2[] = {{phrasePairs::heading, u"文字"}};
+constexpr auto kRows1 = phraseRows(phrases::phrase, kListed1);
+constexpr auto kRows2 = phraseRows(phrasePairs::heading, kListed2);
 
-constexpr ScreenRow kScreen1{
-    .name = u"frmCLmoji", .caption = u"クリップ文字", .rows = kRows1, .sources = 1, .functionKeys = true};
-constexpr ScreenRow kScreen2{
-    .name = u"frmCl2moji", .caption = u"クリップ文字２", .rows = kRows2, .sources = 1, .functionKeys = true};
+constexpr ScreenRow kScreen1{.name = u"frmCLmoji",
+                             .caption = u"クリップ文字",
+                             .rows = kRows1,
+                             .sources = phrases::table,
+                             .functionKeys = true};
+constexpr ScreenRow kScreen2{.name = u"frmCl2moji",
+                             .caption = u"クリップ文字２",
+                             .rows = kRows2,
+                             .sources = phrasePairs::table,
+                             .functionKeys = true};
 
 constexpr DictionaryRow kDictionaries[] = {{kScreen1, frame::folder::kPhrases1, u"CLmoji", kNewRow},
                                            {kScreen2, frame::folder::kPhrases2, u"CL2moji", kNewRow}};

@@ -1,5 +1,6 @@
 #include "records/screens/search_screen.h"
 
+#include "frame/core/routes.h"
 #include "platform/screen/find_row.h"
 #include "platform/screen/opens.h"
 #include "platform/store/criteria_text.h"
@@ -37,7 +38,7 @@ constexpr Row kRows[] = {
     Bar{},
     Command{.name = {u"Command3"}, .caption = u"検索", .run = run<&SearchScreen::search>, .standard = true},
     Command{.name = {u"Command1"}, .caption = u"新規作成", .run = run<&SearchScreen::newPatient>},
-    Command{.name = {u"Command4"}, .caption = u"一覧と印刷", .run = opens<u"一覧表">},
+    Command{.name = {u"Command4"}, .caption = u"一覧と印刷", .run = opens<routes::PatientList>},
     Command{
         .name = {u"Command2"}, .caption = u"キャンセル", .run = run<&SearchScreen::cancel>, .key = u"Esc"},
     EndBar{},
@@ -65,14 +66,14 @@ void SearchScreen::opened(const Request& request) {
 }
 
 Screen* SearchScreen::patients() {
-  Screen* screen = navigator().load(u"治療台帳4"_s);
+  Screen* screen = navigator().load(routes::PatientRegister::screen);
   return screen != nullptr && screen->source().isOpen() ? screen : nullptr;
 }
 
 void SearchScreen::showEmptyNotice() {
-  navigator().show(u"治療台帳4"_s);
-  navigator().show(u"無データ"_s);
-  navigator().unload(u"選択4"_s);
+  navigator().show(routes::PatientRegister{});
+  navigator().show(routes::AskFirstPatient{});
+  navigator().unload(routes::PatientSearch::screen);
 }
 
 QString SearchScreen::criteria(const QString& word) const {
@@ -93,7 +94,7 @@ void SearchScreen::search() {
     if (!settleRow(screen->source()) || !findRow(*screen, criteria(word))) return;
   }
   navigator().show(u"治療台帳4"_s, {{u"表示患者"_s, true}});
-  navigator().unload(u"選択4"_s);
+  navigator().unload(routes::PatientSearch::screen);
 }
 
 void SearchScreen::newPatient() {
@@ -101,9 +102,9 @@ void SearchScreen::newPatient() {
   if (screen == nullptr) return;
   if (screen->source().rows().recordCount() == 0) return showEmptyNotice();
   navigator().show(u"治療台帳4"_s, {{u"新規"_s, true}});
-  navigator().unload(u"選択4"_s);
+  navigator().unload(routes::PatientSearch::screen);
 }
 
-void SearchScreen::cancel() { navigator().unload(u"選択4"_s); }
+void SearchScreen::cancel() { navigator().unload(routes::PatientSearch::screen); }
 
 }  // namespace records

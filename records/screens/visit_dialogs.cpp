@@ -1,15 +1,15 @@
 #include "records/screens/visit_dialogs.h"
 
+#include "platform/store/tables/visits.h"
+
 namespace records {
 namespace {
 
 using namespace screen;
 
 constexpr ColumnChoice kSearched[] = {
-    {u"治療日時", u"治療日時"},         {u"治療概略", u"治療概略"},
-    {u"保険者負担金", u"保険者負担金"}, {u"保険の一部負担金", u"保険の一部負担金"},
-    {u"治療金額", u"治療金額"},         {u"領収証チェック", u"領収証チェック", true},
-    {u"新患", u"新患", true},
+    visits::date, visits::summary,     visits::insurerPays, visits::share,
+    visits::fee,  visits::receiptDone, visits::isNew,
 };
 constexpr Note kNotes[] = {
     // Kept: the sentence ends there.
@@ -32,12 +32,12 @@ constexpr ExtractRow kExtracts[] = {{.name = u"カルテ2の抽出",
 
 constexpr ColumnChoice kSorted[] = {
     // Dates are sorted by their western shadow: era text does not sort.
-    {u"治療日時", u"治療日チェック"},
+    {u"治療日時", visits::dateShadow},
     // Kept: the table has no such column (it is 治療概略), and the engine says so.
-    {u"治療概要", u"治療概要"},
-    {u"保険者負担金", u"保険者負担金"},
-    {u"保険の一部負担金", u"保険の一部負担金"},
-    {u"治療金額", u"治療金額"},
+    ColumnChoice::missing(u"治療概要"),
+    visits::insurerPays,
+    visits::share,
+    visits::fee,
 };
 constexpr SortRow kSorts[] = {{.name = u"ソート5", .list = u"治療台帳3", .columns = kSorted}};
 

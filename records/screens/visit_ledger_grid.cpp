@@ -40,7 +40,7 @@ void VisitLedgerScreen::hideGrid() {
   m_claim.reset();
   m_flags = {};
   // The first halves stand whole again behind the hidden frame.
-  if (source(3).isOpen()) source(3).open(m_run.folders[frame::folder::kClaims1], u"保険申請"_s);
+  if (source(3).isOpen()) source(3).open(m_run.folders[frame::folder::kClaims1]);
 }
 
 void VisitLedgerScreen::openGrid() {

@@ -1,5 +1,5 @@
 #include "claims/core/form_lists.h"
-#include "claims/core/generic_columns.h"
+#include "platform/store/tables/claims.h"
 #include "records/screens/visit_ledger_rows.h"
 #include "records/screens/visit_ledger_screen.h"
 
@@ -13,24 +13,27 @@ namespace {
 constexpr char16_t kGridMenu[] = u"レセプト日付表示(&D)";
 
 constexpr GridColumn kFirstHalves[] = {
-    {u"申請年月", u"申請年月"}, {u"施術内容", u"施術内容"},     {u"保険の種類", u"保険の種類"},
-    {u"請求区分", u"請求区分"}, {u"初療年月日", u"初療年月日"}, {u"ID", u"ID"},
+    {claim::month, u"申請年月"},
+    {claim::treatmentKind, u"施術内容"},
+    {claim::insuranceKind, u"保険の種類"},
+    {claim::requestKind, u"請求区分"},
+    {claim::firstTreatment, u"初療年月日"},
+    {claim::id, u"ID"},
 };
 constexpr GridColumn kSecondHalves[] = {
-    {u"ID", u"ID"},
-    {u"txtdummy27", u"施術報告書交付年月日"},
-    {u"txtdummy28", u"前回の施術報告書交付年月"},
+    {claim::id, u"ID"},
+    {claim::reportDate, u"施術報告書交付年月日"},
+    {claim::lastReportMonth, u"前回の施術報告書交付年月"},
 };
 
-consteval Check tick(const char16_t* name, const char16_t* caption, const char16_t* column,
+consteval Check tick(const char16_t* name, const char16_t* caption, store::Column column,
                      const char16_t* tip = nullptr) {
-  return Check{.name = {name}, .caption = caption, .bind = Column{column, 2}, .tip = tip};
+  return Check{.name = {name}, .caption = caption, .bind = column, .tip = tip};
 }
 
-/// Fields of the claim that are told here and changed on the claim form only.
-consteval TextField told(ControlName name, const char16_t* caption, const char16_t* column) {
-  return TextField{
-      .name = name, .caption = caption, .bind = Column{column, 3}, .width = 12, .readOnly = true};
+/// Fields of the claim that are shown here and changed on the claim form only.
+consteval TextField readOnlyField(ControlName name, const char16_t* caption, store::Column column) {
+  return TextField{.name = name, .caption = caption, .bind = column, .width = 12, .readOnly = true};
 }
 
 constexpr Row kRows[] = {
@@ -53,29 +56,27 @@ constexpr Row kRows[] = {
 
     Group{.name = {u"Frame1"}, .caption = u"療養費の日付", .columns = 2},
     Group{.name = {u"FrameClaim"}, .caption = u"レセプトの項目", .columns = 4},
-    told({u"txtFields", 114}, u"データの請求年月:", u"申請年月"),
+    readOnlyField({u"txtFields", 114}, u"データの請求年月:", claim::month),
     // The kind that the claim was made with; 施術科目 itself is blank until the claim was stored once.
-    told({u"txtFields", 67}, u"施術科目:", u"施術内容"),
-    told({u"Text8"}, u"保険の種類:", u"保険の種類"),
-    TextField{.name = {u"txtFields", 20},
-              .caption = u"被保険者との続柄:",
-              .bind = Column{u"被保険者との続柄", 3},
-              .width = 12},
+    readOnlyField({u"txtFields", 67}, u"施術科目:", claim::treatmentKind),
+    readOnlyField({u"Text8"}, u"保険の種類:", claim::insuranceKind),
+    TextField{
+        .name = {u"txtFields", 20}, .caption = u"被保険者との続柄:", .bind = claim::relation, .width = 12},
     Combo{.name = {u"Combo1"},
           .caption = u"一部負担金:",
-          .bind = Column{u"一部負担金", 3},
+          .bind = claim::shareRate,
           .items = claims::list::kShare,
           .editable = true,
           .width = 6},
     TextField{
-        .name = {u"txtFields", 32}, .caption = u"初療年月日:", .bind = Column{u"初療年月日", 3}, .width = 16},
-    Check{.name = {u"chkFields", 38}, .caption = u"初回有無", .bind = Column{u"初回有無", 3}},
-    tick(u"yn2", u"施術報告書交付", u"yn2"),
-    tick(u"yn3", u"施術報告書を２通交付した", u"yn3"),
-    tick(u"yn4", u"３通の施術報告書を交付した", u"yn4"),
+        .name = {u"txtFields", 32}, .caption = u"初療年月日:", .bind = claim::firstTreatment, .width = 16},
+    Check{.name = {u"chkFields", 38}, .caption = u"初回有無", .bind = claim::hasFirst},
+    tick(u"yn2", u"施術報告書交付", claim::report),
+    tick(u"yn3", u"施術報告書を２通交付した", claim::reportTwice),
+    tick(u"yn4", u"３通の施術報告書を交付した", claim::reportThrice),
     Check{.name = {u"chkFields", 39},
           .caption = u"※特別地域に移住する患者へ施術",
-          .bind = Column{claims::column::kSpecialArea, 2},
+          .bind = claim::specialArea,
           .on = u"1",
           .off = u"0"},
     EndGroup{},
@@ -88,7 +89,7 @@ constexpr Row kRows[] = {
     TextRun{.name = {u"Text5", 0},
             .count = 31,
             .caption = u"%1日 治療内容",
-            .bind = Column{u"治療内容%1", 3},
+            .bind = claim::dayCode,
             .limit = 4,
             .perLine = 10,
             .onLeave = call<&Ledger::codeLeft>},
@@ -97,7 +98,7 @@ constexpr Row kRows[] = {
     TextRun{.name = {u"Text6", 0},
             .count = 31,
             .caption = u"%1日 往療距離",
-            .bind = Column{u"往療距離%1", 3},
+            .bind = claim::dayVisit,
             .limit = 4,
             .perLine = 10,
             .onLeave = call<&Ledger::visitLeft>},
@@ -109,8 +110,8 @@ constexpr Row kRows[] = {
             .run = run<&Ledger::storeGrid>,
             .say = u"療養費の日付の登録"},
     EndBar{},
-    Grid{.name = {u"DBGrid2"}, .caption = u"レセプトの一覧表", .source = 3, .columns = kFirstHalves},
-    Grid{.name = {u"DBGrid3"}, .caption = u"レセプトの後半の一覧表", .source = 2, .columns = kSecondHalves},
+    Grid{.name = {u"DBGrid2"}, .caption = u"レセプトの一覧表", .columns = kFirstHalves},
+    Grid{.name = {u"DBGrid3"}, .caption = u"レセプトの後半の一覧表", .columns = kSecondHalves},
     EndGroup{},
 };
 

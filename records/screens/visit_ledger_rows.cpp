@@ -3,7 +3,10 @@
 #include <iterator>
 #include <vector>
 
+#include "frame/core/routes.h"
 #include "platform/screen/opens.h"
+#include "platform/store/tables/claims.h"
+#include "platform/store/tables/visits.h"
 #include "records/screens/visit_ledger_screen.h"
 
 namespace records {
@@ -26,44 +29,39 @@ constexpr char16_t kDetailHelp[] =
     u"カルテ２詳細データで「前回同様」を使用する際には、「新規追加」を押す前に、前回を下の一覧で選択してから"
     u"「新規追加」→「登録」→「カルテ２詳細データ」のボタンを押し、カルテ２詳細データへ移行してください。";
 
-consteval TextField field(int index, const char16_t* caption, const char16_t* column, int width = 12) {
+consteval TextField field(int index, const char16_t* caption, store::Column column, int width = 12) {
   return TextField{
-      .name = {u"txtFields", index}, .caption = caption, .bind = Column{column}, .limit = 50, .width = width};
+      .name = {u"txtFields", index}, .caption = caption, .bind = column, .limit = 50, .width = width};
 }
 
 constexpr GridColumn kColumns[] = {
-    {u"治療日時", u"治療日"},
-    {u"治療概略", u"治療概略"},
-    {u"保険者負担金", u"保険者負担金"},
-    {u"保険の一部負担金", u"一部負担金"},
-    {u"治療金額", u"治療金額"},
-    {u"領収証チェック", u"領収証チェック"},
-    {u"新患", u"新患"},
-    {u"氏名", u"氏名"},
-    {u"生年月日", u"生年月日"},
+    {visits::date, u"治療日"},      {visits::summary, u"治療概略"}, {visits::insurerPays, u"保険者負担金"},
+    {visits::share, u"一部負担金"}, {visits::fee, u"治療金額"},     {visits::receiptDone, u"領収証チェック"},
+    {visits::isNew, u"新患"},       {visits::name, u"氏名"},        {visits::birth, u"生年月日"},
 };
 
 constexpr Row kRows[] = {
     Group{.name = {u"FrameVisit"}, .caption = u"治療の記録", .columns = 5},
-    field(0, u"氏名:", u"氏名", 20),
-    field(1, u"生年月日:", u"生年月日", 16),
-    field(2, u"治療日:", u"治療日時", 16),
-    field(4, u"保険者負担金:", u"保険者負担金"),
-    field(5, u"一部負担金:", u"保険の一部負担金"),
-    field(6, u"治療金額:", u"治療金額"),
-    Check{.name = {u"chkFields", 7}, .caption = u"領収証チェック", .bind = Column{u"領収証チェック"}},
-    Check{.name = {u"chkFields", 8}, .caption = u"新患チェック", .bind = Column{u"新患"}},
+    field(0, u"氏名:", visits::name, 20),
+    field(1, u"生年月日:", visits::birth, 16),
+    field(2, u"治療日:", visits::date, 16),
+    field(4, u"保険者負担金:", visits::insurerPays),
+    field(5, u"一部負担金:", visits::share),
+    field(6, u"治療金額:", visits::fee),
+    Check{.name = {u"chkFields", 7}, .caption = u"領収証チェック", .bind = visits::receiptDone},
+    Check{.name = {u"chkFields", 8}, .caption = u"新患チェック", .bind = visits::isNew},
     TextField{.name = {u"txtFields", 3},
               .caption = u"治療概略:",
-              .bind = Column{u"治療概略"},
+              .bind = visits::summary,
               .limit = 250,
               .width = 60,
               .lines = 2},
-    TextField{.name = {u"Text3"}, .caption = u"ID:", .bind = Column{u"ID"}, .width = 8, .readOnly = true},
-    TextField{.name = {u"Text2"}, .caption = u"ETC1:", .bind = Column{u"ETC1"}, .width = 8, .readOnly = true},
+    TextField{.name = {u"Text3"}, .caption = u"ID:", .bind = visits::id, .width = 8, .readOnly = true},
+    TextField{
+        .name = {u"Text2"}, .caption = u"ETC1:", .bind = visits::patientSerial, .width = 8, .readOnly = true},
     TextField{.name = {u"Text10"},
               .caption = u"治療日チェック:",
-              .bind = Column{u"治療日チェック"},
+              .bind = visits::dateShadow,
               .width = 8,
               .readOnly = true},
     EndGroup{},
@@ -164,11 +162,11 @@ constexpr Row kRows[] = {
             .run = run<&Ledger::showTotals>,
             .menu = u"Men_VS",
             .under = kView},
-    Command{.name = {u"Command13"}, .caption = u"並び替え", .run = opens<u"ソート5">},
-    Command{.name = {u"Command15"}, .caption = u"抽出", .run = opens<u"カルテ2の抽出">},
+    Command{.name = {u"Command13"}, .caption = u"並び替え", .run = opens<routes::SortVisits>},
+    Command{.name = {u"Command15"}, .caption = u"抽出", .run = opens<routes::SearchVisits>},
     EndBar{},
     Note{.name = {u"LabelMonth"}, .caption = kMonthHelp},
-    Grid{.name = {u"DBGrid1"}, .caption = u"治療の一覧表", .source = 1, .columns = kColumns, .say = kListSay},
+    Grid{.name = {u"DBGrid1"}, .caption = u"治療の一覧表", .columns = kColumns, .say = kListSay},
     EndGroup{},
 };
 
@@ -182,8 +180,11 @@ const ScreenRow& visitLedgerDeclaration() {
     for (const Rows part : {visitRows(), dayGridRows()}) all.insert(all.end(), part.begin(), part.end());
     return all;
   }();
-  static const ScreenRow declaration{
-      .name = u"治療台帳3", .caption = u"カルテ", .rows = rows, .sources = 3, .functionKeys = true};
+  static const ScreenRow declaration{.name = u"治療台帳3",
+                                     .caption = u"カルテ",
+                                     .rows = rows,
+                                     .sources = {visits::table, claim::secondHalf, claim::firstHalf},
+                                     .functionKeys = true};
   return declaration;
 }
 

@@ -1,5 +1,6 @@
 #include "records/screens/visit_ledger_screen.h"
 
+#include "frame/core/routes.h"
 #include "platform/screen/hourglass.h"
 #include "platform/store/growth.h"
 #include "records/core/visit_dates.h"
@@ -90,9 +91,7 @@ bool VisitLedgerScreen::onVisit() const {
   return source().isOpen() && (source().rows().adding() || source().rows().recordCount() > 0);
 }
 
-bool VisitLedgerScreen::openWhole() {
-  return source().open(m_run.folders[frame::folder::kVisits], u"カルテ"_s);
-}
+bool VisitLedgerScreen::openWhole() { return source().open(m_run.folders[frame::folder::kVisits]); }
 
 QStringList VisitLedgerScreen::rowOnView() const {
   if (!onVisit()) return {caption(u"LabelCount"_s), caption(u"Label14"_s)};
@@ -109,10 +108,10 @@ void VisitLedgerScreen::leave() {
   if ((!visitKept || !claimKept) &&
       !messages().askToDrop(u"登録出来ませんでした。入力した内容を捨てて、閉じますか？"_s))
     return;
-  const QString before = navigator().loaded(u"治療台帳4"_s) ? u"治療台帳4"_s : u"選択3"_s;
+  const QString before = navigator().loaded(routes::PatientRegister::screen) ? u"治療台帳4"_s : u"選択3"_s;
   navigator().show(m_opener.isEmpty() ? before : m_opener);
   navigator().unload(kFirstVisit);
-  navigator().unload(u"治療台帳3"_s);
+  navigator().unload(routes::VisitLedger::screen);
 }
 
 bool VisitLedgerScreen::onCloseBox() {

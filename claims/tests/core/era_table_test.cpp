@@ -61,34 +61,17 @@ TEST(EraTable, EveryMarkIsUsedOnce) {
 
 TEST(EraTable, TheColumnsOfItemsAreClearedBeforeAStore) {
   QSet<QString> cleared, used;
-  for (const char16_t* column : calculatedColumns()) cleared.insert(QString::fromUtf16(column));
+  for (const store::Column& column : calculatedColumns()) cleared.insert(column);
   int columns = 0;
   for (const AmountItem& item : eras()[1].acupuncture.items)
-    for (const char16_t* column : {item.columns.amount, item.columns.count}) {
-      if (column == nullptr) continue;
-      EXPECT_TRUE(cleared.contains(QString::fromUtf16(column))) << QString::fromUtf16(column).toStdString();
-      used.insert(QString::fromUtf16(column));
+    for (const auto& column : {item.columns.amount, item.columns.count}) {
+      if (!column) continue;
+      EXPECT_TRUE(cleared.contains(column->text())) << column->text().toStdString();
+      used.insert(*column);
       ++columns;
     }
   EXPECT_EQ(columns, 19);  // two for each of eight treatments, 初回費用, two bands of visits
   EXPECT_EQ(used.size(), columns);
-}
-
-TEST(EraTable, TheTicksAreColumnsOfAClaim) {
-  int ticks = 0;
-  for (const Era& era : eras())
-    for (const KindRules* rules : {&era.acupuncture, &era.massage})
-      for (const AmountItem& item : rules->items) {
-        if (item.tick == nullptr) continue;
-        ++ticks;
-        const QString column = QString::fromUtf16(item.tick);
-        bool found = false;
-        for (const char16_t* file : {u"保険申請2000_1.mdb", u"保険申請2000_2.mdb"})
-          found =
-              found || store::findColumn(*store::tableOfFile(QString::fromUtf16(file)), column) != nullptr;
-        EXPECT_TRUE(found) << column.toStdString();
-      }
-  EXPECT_EQ(ticks, 3);  // 初回, and 特別地域 of both kinds
 }
 
 TEST(EraTable, AWrongRowIsNotSound) {
@@ -106,6 +89,7 @@ TEST(EraTable, AWrongRowIsNotSound) {
       {"middle boxes that are others'", [](auto& items) { itemOf(items, 16).boxes.alone = 58; }},
       {"a box without a field", [](auto& items) { items[0].field = {}; }},
       {"an unknown fee", [](auto& items) { itemOf(items, 34).fee = Fee::Count; }},
+      {"a tick of another table", [](auto& items) { itemOf(items, 37).tick = fees::specialArea; }},
       {"a charge without a fee", [](auto& items) { itemOf(items, 34).fee = {}; }},
       {"an item that neither counts nor is a figure",
        [](auto& items) { itemOf(items, 34).counter = nullptr; }},
@@ -123,14 +107,6 @@ TEST(EraTable, AWrongRowIsNotSound) {
   }
   const RecordVersion twice[] = {needleVersions()[0], {needleVersions()[0].mark, {2031, 6}}};
   EXPECT_FALSE(isSound(needleItems(), twice)) << "a mark used twice";
-}
-
-TEST(FeeTable, IsTheCatalogues) {
-  QStringList catalogue, fees;
-  for (const store::ColumnRow& column : store::tableOfFile(QStringLiteral("料金設定2000.mdb"))->columns)
-    if (QStringView(column.name) != u"ID") catalogue << QString::fromUtf16(column.name);
-  for (const FeeRow& row : kFees) fees << feeColumn(row.fee);
-  EXPECT_EQ(fees, catalogue);
 }
 
 TEST(FeeTable, EveryFileThatIsPickedIsMadeAndShipped) {
@@ -163,7 +139,7 @@ QString boxText(const AmountBoxes& boxes) {
 QString feeText(const AmountItem& item) {
   QStringList columns;
   for (const Fee fee : item.fee.fees()) columns << feeColumn(fee);
-  if (item.tick != nullptr) columns << QStringLiteral("if ") + QString::fromUtf16(item.tick);
+  if (item.tick) columns << QStringLiteral("if ") + item.tick->text();
   return columns.join(QStringLiteral(", "));
 }
 

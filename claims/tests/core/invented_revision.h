@@ -18,7 +18,7 @@ class InventedRevision final : public FeeSource {
   static constexpr rule::Date kFrom{2031, 6};
   static constexpr char16_t kMark[] = u"鍼データ集結ver9.1";
   static constexpr char16_t kFile[] = u"料金設定2031";
-  static constexpr char16_t kTick[] = u"e31";
+  static constexpr store::Column kTick = claim::spareE[31];
   static constexpr AmountItem kSurcharge = {.label = u"見本加算",
                                             .counter = counters::visitDays,
                                             .fee = Fee::KyuElectricFirst,  // priced by no other item

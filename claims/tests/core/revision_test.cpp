@@ -15,7 +15,7 @@ using testing::makeClaim;
 
 /// One plain day, one day at one patient's, one sudden visit.
 ClaimRecord needleClaim(const char16_t* month, const char16_t* tick) {
-  return makeClaim(month, u"鍼灸", u"3割", u"1=a 2=a/v1 3=a/t", {{InventedRevision::kTick, tick}});
+  return makeClaim(month, u"鍼灸", u"3割", u"1=a 2=a/v1 3=a/t", {{InventedRevision::kTick.name(), tick}});
 }
 
 class Revision : public ::testing::Test {
@@ -82,7 +82,7 @@ TEST_F(Revision, EarlierMonthsStayAsTheyWere) {
 
 TEST_F(Revision, MassageIsNotTouched) {
   const ClaimRecord claim =
-      makeClaim(u"令和13年6月", u"あマ", u"1割", u"1=g2", {{InventedRevision::kTick, u"1"}});
+      makeClaim(u"令和13年6月", u"あマ", u"1割", u"1=g2", {{InventedRevision::kTick.name(), u"1"}});
   const FeeEdition fees = revision.load(QStringLiteral("料金設定2000.mdb")).value();
   const MonthFlags flags = monthFlags(QDate(2031, 6, 1));
   EXPECT_EQ(amountRecord(amounts(claim, fees, flags, Path::Store, revision.table()), {}),

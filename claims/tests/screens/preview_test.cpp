@@ -312,7 +312,7 @@ TEST_P(PreviewCommands, AnInventedSurchargeHasItsLine) {
   const QString last = QStringLiteral("Text1(%1)").arg(GetParam().lines.size());
   EXPECT_FALSE(m_screen->isControlShown(last));
   m_shown.claim.set(qs(u"申請年月"), qs(u"令和13年6月"));
-  m_shown.claim.set(qs(InventedRevision::kTick), qs(u"1"));
+  m_shown.claim.set(InventedRevision::kTick, qs(u"1"));
   PreviewScreen screen(previewScreens()[4], m_services, m_run, m_state, revision.table());
   screen.opened({});
   EXPECT_EQ(screen.caption(last), qs(u"見本加算:"));

@@ -4,7 +4,7 @@
 
 #include <QApplication>
 
-#include "frame/tests/screens/desk_fixture.h"
+#include "frame/tests/screens/screen_fixture.h"
 #include "office/screens/office_screens.h"
 #include "platform/screen/testing/screen_probe.h"
 #include "platform/store/bulk.h"
@@ -15,7 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 
 /// The appointment book over files of its own, with the rooms around it stood in for. Today is Saturday,
 /// 15 June 2024, 9:05.
-class BookingFixture : public frame::test::DeskFixture {
+class BookingFixture : public frame::test::ScreenFixture {
  protected:
   using Columns = QHash<QString, QString>;
 
@@ -26,7 +26,7 @@ class BookingFixture : public frame::test::DeskFixture {
   }
 
   void SetUp() override {
-    DeskFixture::SetUp();
+    ScreenFixture::SetUp();
     makeFile(kBookings);
     makeFile(kPatients);
   }

@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "frame/tests/screens/desk_fixture.h"
+#include "frame/tests/screens/screen_fixture.h"
 #include "office/screens/office_screens.h"
 #include "platform/screen/testing/screen_probe.h"
 #include "platform/store/bulk.h"
@@ -12,7 +12,7 @@ namespace office::test {
 using namespace Qt::Literals::StringLiterals;
 
 /// The takings over a file of visits, with the rooms around them stood in for. Today is 15 June 2024.
-class TakingsFixture : public frame::test::DeskFixture {
+class TakingsFixture : public frame::test::ScreenFixture {
  protected:
   using Visit = QHash<QString, QString>;
 
@@ -23,7 +23,7 @@ class TakingsFixture : public frame::test::DeskFixture {
   }
 
   void SetUp() override {
-    DeskFixture::SetUp();
+    ScreenFixture::SetUp();
     makeFile(kFile);
   }
 

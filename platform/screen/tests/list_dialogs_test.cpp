@@ -6,6 +6,7 @@
 #include "platform/screen/sort_dialog.h"
 #include "platform/store/bulk.h"
 #include "platform/store/database.h"
+#include "platform/store/tables/patients.h"
 #include "sample_screen.h"
 
 // A list with its two dialogs, and the search that walks round.
@@ -15,19 +16,22 @@ namespace {
 
 const QString kPart = QChar(254);
 
-constexpr GridColumn kGridColumns[] = {{u"氏名", u"氏名"}};
+constexpr GridColumn kGridColumns[] = {{patients::name, u"氏名"}};
 constexpr Row kListRows[] = {
-    Grid{.name = u"DBGrid1", .caption = u"一覧", .source = 1, .columns = kGridColumns},
-    TextField{.name = u"Text1", .caption = u"職業:", .bind = Column{u"職業"}},
+    Grid{.name = u"DBGrid1", .caption = u"一覧", .columns = kGridColumns},
+    TextField{.name = u"Text1", .caption = u"職業:", .bind = patients::occupation},
 };
-constexpr ScreenRow kListScreen{
-    .name = u"見本一覧", .caption = u"見本一覧", .rows = kListRows, .sources = 1, .functionKeys = true};
+constexpr ScreenRow kListScreen{.name = u"見本一覧",
+                                .caption = u"見本一覧",
+                                .rows = kListRows,
+                                .sources = patients::table,
+                                .functionKeys = true};
 
 class SampleList : public ListScreen {
  public:
   SampleList(Services& services, const QString& file) : ListScreen(kListScreen, services), m_file(file) {}
   void onLoad() override { openWhole(); }
-  bool openWhole() override { return source().open(m_file, "臨床QV"); }
+  bool openWhole() override { return source().open(m_file); }
   QString noRowsText() const override { return "０件です"; }
   QString noRowsToSortText() const override { return "並び替える行がありません"; }
   QStringList rowOnView() const override { return {source().positionText(), source().rows().value("氏名")}; }
@@ -48,7 +52,8 @@ class SampleList : public ListScreen {
   QString m_file;
 };
 
-constexpr ColumnChoice kColumns[] = {{u"お名前", u"氏名"}, {u"印", u"yn1", true}, {u"ない項目", u"ない項目"}};
+constexpr ColumnChoice kColumns[] = {
+    {u"お名前", patients::name}, {u"印", patients::spareMark[1]}, ColumnChoice::missing(u"ない項目")};
 constexpr ExtractRow kExtract[] = {{.name = u"抽出見本",
                                     .caption = u"抽出",
                                     .list = u"見本一覧",
@@ -67,11 +72,12 @@ constexpr SortRow kSort[] = {{.name = u"ソート見本", .list = u"見本一覧
 class ListDialogs : public ::testing::Test {
  protected:
   void SetUp() override {
-    file = desk.folder.filePath("臨床QV2000N.mdb");
+    file = harness.folder.filePath("臨床QV2000N.mdb");
     ASSERT_TRUE(store::createFresh(file, "臨床QV2000N.mdb"));
-    desk.registry.add("見本一覧", [this](Services& all) { return std::make_unique<SampleList>(all, file); });
-    addExtractDialogs(desk.registry, kExtract);
-    addSortDialogs(desk.registry, kSort);
+    harness.registry.add("見本一覧",
+                         [this](Services& all) { return std::make_unique<SampleList>(all, file); });
+    addExtractDialogs(harness.registry, kExtract);
+    addSortDialogs(harness.registry, kSort);
   }
   /// Rows of 氏名 and the yes/no column.
   void add(const QList<std::pair<QString, QString>>& rows) {
@@ -80,8 +86,8 @@ class ListDialogs : public ::testing::Test {
     }));
   }
   void addThree() { add({{"見本 う", "-1"}, {"例示 い", "0"}, {"見本 あ", "-1"}}); }
-  SampleList& list() { return dynamic_cast<SampleList&>(*desk.navigator.load("見本一覧")); }
-  Screen& dialog(const QString& name) { return *desk.navigator.show(name); }
+  SampleList& list() { return dynamic_cast<SampleList&>(*harness.navigator.load("見本一覧")); }
+  Screen& dialog(const QString& name) { return *harness.navigator.show(name); }
   void extract(const QString& column, const QString& word, const QString& name = "抽出見本") {
     Screen& screen = dialog(name);
     screen.setText("Combo1", column);
@@ -93,14 +99,14 @@ class ListDialogs : public ::testing::Test {
     screen.setText("Combo1", column);
     screen.trigger(button);
   }
-  bool isOpen(const QString& name) { return desk.navigator.isShown(name); }
+  bool isOpen(const QString& name) { return harness.navigator.isShown(name); }
   QStringList told() {
-    const QStringList texts = desk.messages.texts();
-    desk.messages.forget();
+    const QStringList texts = harness.messages.texts();
+    harness.messages.forget();
     return texts;
   }
 
-  Desk desk;
+  Harness harness;
   QString file;
 };
 
@@ -108,7 +114,7 @@ TEST_F(ListDialogs, OfferTheColumnsByTheirCaptionsTheFirstChosen) {
   for (const QString& name : {QString("抽出見本"), QString("ソート見本")}) {
     EXPECT_EQ(dialog(name).items("Combo1"), (QStringList{"お名前", "印", "ない項目"}));
     EXPECT_EQ(dialog(name).text("Combo1"), "お名前");
-    ScreenProbe probe(dialog(name), desk.spy);
+    ScreenProbe probe(dialog(name), harness.spy);
     probe.open();
     EXPECT_EQ(probe.faults(), QStringList()) << name.toStdString();
   }
@@ -121,7 +127,7 @@ TEST_F(ListDialogs, ExtractionNarrowsShowsTheListAndCloses) {
   EXPECT_TRUE(isOpen("見本一覧"));
   EXPECT_FALSE(isOpen("抽出見本"));
   EXPECT_EQ(list().changes, 1);
-  EXPECT_TRUE(desk.spy.said().contains("抽出しました" + kPart + "2"));
+  EXPECT_TRUE(harness.spy.said().contains("抽出しました" + kPart + "2"));
   EXPECT_EQ(list().focused(), "DBGrid1");
   extract("お名前", "あ");
   EXPECT_EQ(list().names(), QStringList{"見本 あ"}) << "the second searches what is on view";
@@ -132,7 +138,7 @@ TEST_F(ListDialogs, NoHitIsToldAndTheDialogKeepsWhatWasTyped) {
   addThree();
   list().source().moveTo(1);
   extract("お名前", "架空");
-  EXPECT_EQ(desk.messages.titles(), QStringList{"Not found"});
+  EXPECT_EQ(harness.messages.titles(), QStringList{"Not found"});
   EXPECT_EQ(told(), QStringList{"該当がありません。"});
   EXPECT_TRUE(isOpen("抽出見本"));
   EXPECT_EQ(dialog("抽出見本").text("Text1"), "架空");
@@ -171,9 +177,9 @@ TEST_F(ListDialogs, YesAndNoMeanTheTwoValues) {
 TEST_F(ListDialogs, ABlankTextIsAskedForOrFitsEverything) {
   addThree();
   dialog("抽出見本");
-  desk.spy.clear();
+  harness.spy.clear();
   extract("お名前", "");
-  EXPECT_EQ(desk.spy.lastSaid(), "抽出する文字");
+  EXPECT_EQ(harness.spy.lastSaid(), "抽出する文字");
   EXPECT_TRUE(isOpen("抽出見本"));
   EXPECT_EQ(dialog("抽出見本").focused(), "Text1");
   extract("お名前", "", "抽出見本2");
@@ -234,13 +240,13 @@ TEST_F(ListDialogs, CancelLeavesTheListAlone) {
 TEST_F(ListDialogs, RecordKeysSayTheRow) {
   addThree();
   list().goLast();
-  EXPECT_EQ(desk.spy.lastSaid(), "ﾚｺｰﾄﾞ: 3" + kPart + "見本 あ");
+  EXPECT_EQ(harness.spy.lastSaid(), "ﾚｺｰﾄﾞ: 3" + kPart + "見本 あ");
   list().goNext();
-  EXPECT_EQ(desk.spy.lastSaid(), "ﾚｺｰﾄﾞ: 3" + kPart + "見本 あ") << "stays at the end";
+  EXPECT_EQ(harness.spy.lastSaid(), "ﾚｺｰﾄﾞ: 3" + kPart + "見本 あ") << "stays at the end";
   list().goPrevious();
-  EXPECT_EQ(desk.spy.lastSaid(), "ﾚｺｰﾄﾞ: 2" + kPart + "例示 い");
+  EXPECT_EQ(harness.spy.lastSaid(), "ﾚｺｰﾄﾞ: 2" + kPart + "例示 い");
   list().goFirst();
-  EXPECT_EQ(desk.spy.lastSaid(), "ﾚｺｰﾄﾞ: 1" + kPart + "見本 う");
+  EXPECT_EQ(harness.spy.lastSaid(), "ﾚｺｰﾄﾞ: 1" + kPart + "見本 う");
 }
 
 // ---- The search that walks round ----

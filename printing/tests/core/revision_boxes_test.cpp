@@ -33,7 +33,7 @@ class RevisionBoxes : public ::testing::Test {
     claims::FeeFiles files(QStringLiteral("/p"), QStringLiteral("/p/料金設定2000.mdb"));
     files.national = revision.files();
     const auto claim = claims::testing::makeClaim(month, u"鍼灸", u"3割", u"1=a 2=a/v1 3=a/t",
-                                                  {{InventedRevision::kTick, u"1"}});
+                                                  {{InventedRevision::kTick.name(), u"1"}});
     Filled filled;
     filled.source.claim =
         claims::storeClaim(claim, {claims::testing::era(), files, revision, revision.table()}).claim;

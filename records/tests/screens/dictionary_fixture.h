@@ -7,7 +7,7 @@
 
 namespace records::test {
 
-/// The desk in a folder that is laid out as the program is shipped, dictionaries filled.
+/// A program folder that is laid out as the program is shipped, dictionaries filled.
 class DictionaryFixture : public RecordsFixture {
  protected:
   static void SetUpTestSuite() {

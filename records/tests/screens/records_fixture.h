@@ -1,18 +1,18 @@
 #pragma once
 
-#include "frame/tests/screens/desk_fixture.h"
+#include "frame/tests/screens/screen_fixture.h"
 #include "platform/report/recording_operations.h"
 #include "records/screens/records_screens.h"
 
 namespace records::test {
 
-/// The desk with the screens of the patient rooms, and an empty patient table.
-class RecordsFixture : public frame::test::DeskFixture {
+/// A program folder with the screens of the patient records, and an empty patient table.
+class RecordsFixture : public frame::test::ScreenFixture {
  protected:
   RecordsFixture() { registerScreens(registry, run, engine); }
 
   void SetUp() override {
-    DeskFixture::SetUp();
+    ScreenFixture::SetUp();
     makeFile(kFile);
     standIn(QStringLiteral("選択3"));
   }

@@ -15,9 +15,9 @@ using namespace Qt::Literals::StringLiterals;
 
 constexpr screen::GridColumn kColumns[] = {{u"治療日時", u"治療日時"}};
 constexpr screen::Row kListRows[] = {
-    screen::Grid{.name = {u"DBGrid1"}, .caption = u"治療の一覧表", .source = 1, .columns = kColumns}};
+    screen::Grid{.name = {u"DBGrid1"}, .caption = u"治療の一覧表", .columns = kColumns}};
 constexpr screen::ScreenRow kList{
-    .name = u"治療台帳3", .caption = u"カルテ", .rows = kListRows, .sources = 1};
+    .name = u"治療台帳3", .caption = u"カルテ", .rows = kListRows, .sources = visits::table};
 
 /// A bare list of visits in the place of the ledger.
 class VisitList : public screen::ListScreen {
@@ -32,7 +32,7 @@ class VisitList : public screen::ListScreen {
   }
 
  protected:
-  bool openWhole() override { return source().open(m_path, u"カルテ"_s); }
+  bool openWhole() override { return source().open(m_path); }
   QString noRowsText() const override { return u"０件"_s; }
 
  private:

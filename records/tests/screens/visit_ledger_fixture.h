@@ -7,7 +7,7 @@
 
 namespace records::test {
 
-/// The desk with the visit ledger: fresh files of visits and claims, a patient P1.
+/// A program folder with the visit ledger: fresh files of visits and claims, a patient P1.
 class VisitLedgerFixture : public RecordsFixture {
  protected:
   void SetUp() override;
