@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "claims/core/share_rate.h"
+
 namespace claims {
 namespace {
 

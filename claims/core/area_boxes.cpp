@@ -14,6 +14,11 @@ void fill(std::array<QString, N>& boxes, const std::array<store::Column, N>& tic
     if (claim.ticked(ticks[i])) boxes[i] = countText(days);
 }
 
+template <size_t N>
+void read(std::array<QString, N>& boxes, const store::Series& columns, const ClaimRecord& claim) {
+  for (size_t i = 0; i < N; ++i) boxes[i] = claim.get(columns[columns.first() + static_cast<int>(i)]);
+}
+
 }  // namespace
 
 AreaBoxes areaBoxes(const ClaimRecord& claim) {
@@ -33,8 +38,8 @@ AreaBoxes areaBoxes(const ClaimRecord& claim) {
 
 AreaBoxes storedAreaBoxes(const ClaimRecord& claim) {
   AreaBoxes boxes;
-  for (size_t i = 0; i < boxes.areas.size(); ++i) boxes.areas[i] = claim.get(areaBoxColumn(i));
-  for (size_t i = 0; i < boxes.limbs.size(); ++i) boxes.limbs[i] = claim.get(limbBoxColumn(i));
+  read(boxes.areas, claim::areaDays, claim);
+  read(boxes.limbs, claim::limbDays, claim);
   return boxes;
 }
 

@@ -21,14 +21,6 @@ inline constexpr std::array kAreaColumns = {claim::trunk, claim::rightArm, claim
                                             claim::leftLeg};
 inline constexpr std::array kLimbColumns = {claim::limbRightArm, claim::limbLeftArm, claim::limbRightLeg,
                                             claim::limbLeftLeg};
-/// The columns that keep the boxes, by index from 0.
-constexpr store::Column areaBoxColumn(size_t index) {
-  return claim::areaDays[claim::areaDays.first() + static_cast<int>(index)];
-}
-constexpr store::Column limbBoxColumn(size_t index) {
-  return claim::limbDays[claim::limbDays.first() + static_cast<int>(index)];
-}
-
 /// The boxes counted anew from the grid and the ticks (↑↓再代入, each change of the grid).
 AreaBoxes areaBoxes(const ClaimRecord& claim);
 /// The boxes as a stored claim keeps them in d3 to d11.

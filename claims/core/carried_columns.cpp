@@ -1,5 +1,5 @@
 #include "claims/core/carry_forward.h"
-#include "claims/core/kinds.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 namespace {
@@ -7,43 +7,43 @@ namespace {
 // The pages 保険証, 同意書 and 申請者の確認, the sickness columns and the claim's keys. The print settings
 // follow from their own table.
 // clang-format off
-constexpr const char16_t* kCarried[] = {
+constexpr store::Column kCarried[] = {
     // keys
-    u"番号1", u"Flag4", u"Flag5", u"カルテ番号", u"氏名", u"生年月日", u"施術内容", u"保険順位",
-    u"保険証番号1", kSummaryCodeColumn,
+    claim::patientSerial, claim::flag4, claim::flag5, claim::chartNumber, claim::name, claim::birth, claim::treatmentKind, claim::insuranceOrder,
+    claim::cardNumber1, claim::summaryCode,
     // 保険証
-    u"保険の種類", u"保険の種類2", u"保険の種類3", u"一部負担金", u"負担割合", u"本人", u"家族", u"就学前",
-    u"高齢7", u"高齢8", u"高齢9", u"公費負担", u"保険者名称", u"保険者番号", u"保険者住所", u"保険証記号1",
-    u"保険証記号2", u"保険証番号", u"資格取得年月日", u"有効期限", u"区市町村番号", u"受給者番号",
-    u"区市町村名称", u"公費負担番号", u"公費受給者番号", u"師会名", u"被保険者のフリガナ",
-    u"被保険者の氏名", u"被保険者の生年月日", u"被保険者の性別", u"被保険者の郵便番号", u"被保険者の住所",
-    u"被保険者の住所フリガナ", u"被保険者の電話番号", u"被保険者との続柄", u"事業所の名称",
-    u"事業所の所在地", u"療養を受ける者の氏名", u"療養を受ける者のフリガナ", u"療養を受ける者の生年月日",
-    u"療養を受ける者の性別", u"療養を受ける者の郵便番号", u"療養を受ける者の住所",
-    u"療養を受ける者の住所フリガナ", u"療養を受ける者の電話番号", u"c6", u"c12", u"c18", u"c24",
+    claim::insuranceKind, claim::notHead, claim::printedInsurance, claim::shareRate, claim::shareTicks, claim::isInsured, claim::isFamily, claim::isPreschool,
+    claim::elderly[7], claim::elderly[8], claim::elderly[9], claim::publicAid, claim::insurerName, claim::insurerNumber, claim::insurerAddress, claim::cardSymbol1,
+    claim::cardSymbol2, claim::cardNumber, claim::qualifiedFrom, claim::validUntil, claim::municipalityNumber, claim::recipientNumber,
+    claim::municipalityName, claim::publicAidNumber, claim::publicAidRecipient, claim::associationName, claim::insuredKana,
+    claim::insuredName, claim::insuredBirth, claim::insuredSex, claim::insuredZip, claim::insuredAddress,
+    claim::insuredAddressKana, claim::insuredTelephone, claim::relation, claim::employerName,
+    claim::employerAddress, claim::treatedName, claim::treatedKana, claim::treatedBirth,
+    claim::treatedSex, claim::treatedZip, claim::treatedAddress,
+    claim::treatedAddressKana, claim::treatedTelephone, claim::addressee, claim::summaryKind, claim::publicAidAddressee, claim::delegated,
     // 同意書
-    u"傷病名", u"傷病名1", u"傷病名2", u"傷病名3", u"傷病名4", u"傷病名5", u"傷病名6", u"傷病名7",
-    u"傷病名8", u"発病又は負傷年月日", u"発病又は負傷の原因", u"初療年月日", u"同意の年月日",
-    u"実際の同意の年月日", u"同意の傷病名", u"同意症状", u"memodummy11", u"同意医師氏名",
-    u"同意医師フリガナ", u"同意医師住所", u"同意医師の電話番号", u"医療機関名", u"要加療期間1",
-    u"要加療期間2", u"同意_施術者", u"同意_患者", u"躯幹", u"右上肢", u"左上肢", u"右下肢", u"左下肢",
-    u"徒手右上肢", u"徒手左上肢", u"徒手右下肢", u"徒手左下肢", u"温あん法", u"電気光線器具", u"入院期間1",
-    u"入院期間2", u"入院日数", u"摘要1", u"摘要2", u"摘要3", u"摘要4", u"摘要5", u"摘要6",
+    claim::disease, claim::diseaseTick[1], claim::diseaseTick[2], claim::diseaseTick[3], claim::diseaseTick[4], claim::diseaseTick[5], claim::diseaseTick[6], claim::diseaseOther,
+    claim::diseaseNote, claim::onset, claim::cause, claim::firstTreatment, claim::consentDateKept,
+    claim::consentDate, claim::consentDisease, claim::consentSymptom, claim::consentNote, claim::doctorName,
+    claim::doctorKana, claim::doctorAddress, claim::doctorTelephone, claim::hospital, claim::consentFrom,
+    claim::consentUntil, claim::consentToPractitioner, claim::consentToPatient, claim::trunk, claim::rightArm, claim::leftArm, claim::rightLeg, claim::leftLeg,
+    claim::limbRightArm, claim::limbLeftArm, claim::limbRightLeg, claim::limbLeftLeg, claim::warm, claim::warmLight, claim::hospitalFrom,
+    claim::hospitalUntil, claim::hospitalDays, claim::remark[1], claim::remark[2], claim::remark[3], claim::remark[4], claim::remark[5], claim::remark[6],
     // 既往症 to 備考
-    u"既往症", u"主要症状", u"経過", u"施術経過所見", u"備考",
+    claim::history, claim::mainSymptoms, claim::course, claim::findings, claim::remarks,
     // 申請者の確認
-    u"施術者氏名", u"施術者フリガナ", u"施術所の名称", u"施術所の所在地", u"施術所の所在地カナ",
-    u"施術所の郵便番号", u"施術所電話番号", u"師会等の機関番号", u"支払い機関区分", u"金融機関名",
-    u"金融機関名種類", u"本店支店名", u"本店支店名種類", u"預金の種類", u"口座番号", u"口座名義",
-    u"口座名義カタカナ", u"郵便局名", u"代表者氏名", u"代表者フリガナ", u"代表者郵便番号", u"代表者住所",
-    u"代表者住所フリガナ", u"代表者電話番号", u"代表者金融機関名", u"代表者金融機関名種類",
-    u"代表者本店支店名", u"代表者本店支店名種類", u"代表者預金の種類", u"代表者口座番号", u"代表者口座名義",
-    u"代表者口座名義カタカナ", u"代表者郵便局名", u"c14", u"c15",
+    claim::practitionerName, claim::practitionerKana, claim::clinicName, claim::clinicAddress, claim::clinicAddressKana,
+    claim::clinicZip, claim::clinicTelephone, claim::institutionNumber, claim::payment, claim::bank,
+    claim::bankKind, claim::branch, claim::branchKind, claim::deposit, claim::account, claim::accountHolder,
+    claim::accountHolderKana, claim::postOffice, claim::agentName, claim::agentKana, claim::agentZip, claim::agentAddress,
+    claim::agentAddressKana, claim::agentTelephone, claim::agentBank, claim::agentBankKind,
+    claim::agentBranch, claim::agentBranchKind, claim::agentDeposit, claim::agentAccount, claim::agentAccountHolder,
+    claim::agentAccountHolderKana, claim::agentPostOffice, claim::registrationHari, claim::registrationMassage,
 };
 // clang-format on
 
 }  // namespace
 
-std::span<const char16_t* const> carriedColumns() { return kCarried; }
+std::span<const store::Column> carriedColumns() { return kCarried; }
 
 }  // namespace claims

@@ -7,8 +7,8 @@
 namespace claims {
 namespace {
 
-void copy(const ClaimRecord& from, ClaimRecord& to, const char16_t* name) {
-  const QString column = columnName(name);
+template <class Column>
+void copy(const ClaimRecord& from, ClaimRecord& to, const Column& column) {
   if (from.has(column)) to.set(column, from.get(column));
 }
 
@@ -22,9 +22,8 @@ QString carryForwardRefusal(const ClaimRecord& claim) {
 
 ClaimRecord carryForward(const ClaimRecord& claim) {
   ClaimRecord next;
-  for (const char16_t* name : carriedColumns()) copy(claim, next, name);
-  for (const PrintSetting& setting : printSettings()) copy(claim, next, setting.column);
-  for (const NewClaimDefault& hidden : hiddenPrintDefaults()) copy(claim, next, hidden.column);
+  for (const store::Column& column : carriedColumns()) copy(claim, next, column);
+  for (const PrintSetting& setting : kPrintSettings) copy(claim, next, setting.column);
   // 社保 and 政管健保 were taken over by 全国健康保険協会 in 2008; old claims pass on the new name.
   if (claim.get(claim::insuranceKind) == u"社保")
     next.set(claim::insuranceKind, QStringLiteral("全国健康保険協会"));
@@ -38,7 +37,7 @@ ClaimRecord carryForward(const ClaimRecord& claim) {
     next.set(claim::month, month->month);
     next.set(claim::monthNumber, month->number);
   }
-  next.set(QStringLiteral("請求回数"), QString::number(text::intOf(claim.get(claim::requestCount)) + 1));
+  next.set(claim::requestCount, QString::number(text::intOf(claim.get(claim::requestCount)) + 1));
   return next;
 }
 

@@ -14,8 +14,8 @@ struct NextMonth {
   QString number;  ///< 申請月
 };
 
-/// The era month behind a claim month: month 12 goes to month 1 of the next year, and a month past its
-/// era's end is told in the new era (平成31年4月 to 令和1年5月). 元 counts as 1. nullopt: no era month.
+/// The era month after a claim month: month 12 goes to month 1 of the next year, and a month past its
+/// era's end is written in the new era (平成31年4月 to 令和1年5月). 元 counts as 1. nullopt: no era month.
 std::optional<NextMonth> nextMonth(const QString& claimMonth);
 
 /// Why a claim cannot be carried forward: 請求回数 or 申請年月 blank. Null: it can.
@@ -23,7 +23,7 @@ QString carryForwardRefusal(const ClaimRecord& claim);
 
 /// Columns that 翌月へ継続 carries: the pages 保険証, 同意書, 申請者の確認, the print settings, and 既往症 to
 /// 備考. The day grid, the calculated columns, 初回有無 and the ticks of the report stay blank.
-std::span<const char16_t* const> carriedColumns();
+std::span<const store::Column> carriedColumns();
 
 /// The next month's claim.
 ClaimRecord carryForward(const ClaimRecord& claim);

@@ -3,46 +3,48 @@
 #include "claims/core/check_grid.h"
 #include "claims/core/rule_dates.h"
 #include "platform/store/tables/claims.h"
+#include "platform/text/utf16.h"
 
 namespace claims {
+
+using text::utf16;
+
 namespace {
 
 constexpr char16_t kPreviousReportWrong[] = u"前回の施術報告書交付年月が正しく入力されていません。";
 
 /// A date field: what is said where it is blank (nullptr: blank passes) and where it is no date.
 struct DateRow {
-  const char16_t* column;
+  store::Column column;
   const char16_t* blank;
   const char16_t* wrong;
 };
 constexpr DateRow kDates[] = {
-    {u"申請年月", u"申請年月が入力されていません。", u"申請年月が正しく入力されていません。"},
-    {u"初療年月日", u"初療年月日が入力されていません。", u"初療年月日が正しく入力されていません。"},
-    {u"被保険者の生年月日", nullptr, u"被保険者の生年月日が正しく入力されていません。"},
-    {u"有効期限", nullptr, u"有効期限が正しく入力されていません。"},
-    {u"資格取得年月日", nullptr, u"資格取得日が正しく入力されていません。"},
-    {u"請求年月日", nullptr, u"請求年月日が正しく入力されていません。"},
-    {u"領収年月日", nullptr, u"領収年月日が正しく入力されていません。"},
-    {u"療養を受ける者の生年月日", nullptr, u"療養を受ける者の生年月日が正しく入力されていません。"},
-    {u"同意の年月日", nullptr, u"同意年月日が正しく入力されていません。"},
-    {u"実際の同意の年月日", nullptr, u"実際にレセプトへ記入する同意の年月日が正しく入力されていません。"},
-    {u"要加療期間1", nullptr, u"要加療期間(自)が正しく入力されていません。"},
-    {u"要加療期間2", nullptr, u"要加療期間(至)が正しく入力されていません。"},
+    {claim::month, u"申請年月が入力されていません。", u"申請年月が正しく入力されていません。"},
+    {claim::firstTreatment, u"初療年月日が入力されていません。", u"初療年月日が正しく入力されていません。"},
+    {claim::insuredBirth, nullptr, u"被保険者の生年月日が正しく入力されていません。"},
+    {claim::validUntil, nullptr, u"有効期限が正しく入力されていません。"},
+    {claim::qualifiedFrom, nullptr, u"資格取得日が正しく入力されていません。"},
+    {claim::requestDate, nullptr, u"請求年月日が正しく入力されていません。"},
+    {claim::receiptDate, nullptr, u"領収年月日が正しく入力されていません。"},
+    {claim::treatedBirth, nullptr, u"療養を受ける者の生年月日が正しく入力されていません。"},
+    {claim::consentDateKept, nullptr, u"同意年月日が正しく入力されていません。"},
+    {claim::consentDate, nullptr, u"実際にレセプトへ記入する同意の年月日が正しく入力されていません。"},
+    {claim::consentFrom, nullptr, u"要加療期間(自)が正しく入力されていません。"},
+    {claim::consentUntil, nullptr, u"要加療期間(至)が正しく入力されていません。"},
 };
 
-QString textOf(const char16_t* text) { return QString::fromUtf16(text); }
-
-QString blankMessage(const ClaimRecord& claim, const char16_t* column, const char16_t* message) {
-  return claim.blank(textOf(column)) ? textOf(message) : QString();
+QString blankMessage(const ClaimRecord& claim, const store::Column& column, const char16_t* message) {
+  return claim.blank(column) ? utf16(message) : QString();
 }
 
 QString dateMessage(const ClaimRecord& claim, const DateRow& row, const frame::EraDates& era) {
-  const QString value = claim.get(textOf(row.column));
-  if (value.isEmpty()) return row.blank ? textOf(row.blank) : QString();
-  return era.isDateOk(value) ? QString() : textOf(row.wrong);
+  const QString value = claim.get(row.column);
+  if (value.isEmpty()) return utf16(row.blank);
+  return era.isDateOk(value) ? QString() : utf16(row.wrong);
 }
 
-/// The first message of the checks in their order; those behind it are not asked.
+/// The first message of the checks in their order; the later ones are not run.
 template <class... Checks>
 QString firstOf(const Checks&... checks) {
   QString message;
@@ -59,7 +61,9 @@ QString datesMessage(const ClaimRecord& claim, const frame::EraDates& era) {
 /// The part that both lists have in the same order.
 QString commonMessage(const ClaimRecord& claim, const GridCodes& codes, const frame::EraDates& era) {
   return firstOf(
-      [&] { return blankMessage(claim, u"保険の種類3", u"施術録の保険の種類が選択されていません。"); },
+      [&] {
+        return blankMessage(claim, claim::printedInsurance, u"施術録の保険の種類が選択されていません。");
+      },
       [&] { return gridFilledMessage(codes); }, [&] { return gridMixedMessage(codes); },
       [&] { return datesMessage(claim, era); });
 }
@@ -90,16 +94,16 @@ QString previousReportMessage(const ClaimRecord& claim, bool full) {
     return full ? QStringLiteral(
                       "前回の施術報告書交付年月が正しく入力されていません。日まで入れずに、"
                       "令和6年5月のように月までにして、和暦で入力してください。")
-                : textOf(kPreviousReportWrong);
+                : utf16(kPreviousReportWrong);
   }
-  return month.startsWith(u"平成") || month.startsWith(u"令和") ? QString() : textOf(kPreviousReportWrong);
+  return month.startsWith(u"平成") || month.startsWith(u"令和") ? QString() : utf16(kPreviousReportWrong);
 }
 
 QString fullMessage(const ClaimRecord& claim, const frame::EraDates& era, QStringList& warnings) {
   const GridCodes codes = gridCodes(claim);
   const MonthFlags flags = monthFlags(claim.get(claim::month), era);
   return firstOf(
-      [&] { return blankMessage(claim, u"保険者名称", u"保険証の保険者名が記入されていません。"); },
+      [&] { return blankMessage(claim, claim::insurerName, u"保険証の保険者名が記入されていません。"); },
       [&] { return commonMessage(claim, codes, era); },
       [&] { return gridCodesMessage(codes, claim, flags.isAfter202012, warnings); },
       [&] { return monthNumberMessage(claim); }, [&] { return reportDateMessage(claim, era); },
@@ -108,10 +112,11 @@ QString fullMessage(const ClaimRecord& claim, const frame::EraDates& era, QStrin
 }
 
 QString fastMessage(const ClaimRecord& claim, const frame::EraDates& era, const QStringList& openWindows) {
-  return firstOf([&] { return blankMessage(claim, u"保険の種類", u"保険の種類が選択されていません。"); },
-                 [&] { return commonMessage(claim, gridCodes(claim), era); },
-                 [&] { return openWindowMessage(openWindows, false); },
-                 [&] { return previousReportMessage(claim, false); });
+  return firstOf(
+      [&] { return blankMessage(claim, claim::insuranceKind, u"保険の種類が選択されていません。"); },
+      [&] { return commonMessage(claim, gridCodes(claim), era); },
+      [&] { return openWindowMessage(openWindows, false); },
+      [&] { return previousReportMessage(claim, false); });
 }
 
 CheckResult resultOf(const QString& failure, QStringList warnings) {

@@ -10,12 +10,10 @@
 namespace claims {
 
 /// Outcome of a check: the messages in the order in which they are shown. Where `stop` is set the last one
-/// is the failure and claimCheck is "break"; all others are warnings, after which the check went on.
+/// is the failure; all others are warnings, after which the check went on.
 struct CheckResult {
   bool stop = false;
   QStringList messages;
-  /// claimCheck: "" or "break".
-  QString claimCheck() const { return stop ? QStringLiteral("break") : QString(); }
 };
 
 /// checkClaimFull: before 登録 and the print buttons.
@@ -25,9 +23,9 @@ CheckResult checkClaimFull(const ClaimRecord& claim, const frame::EraDates& era)
 CheckResult checkClaimFast(const ClaimRecord& claim, const frame::EraDates& era,
                            const QStringList& openWindows);
 
-/// A window that stands alone beside the claim form, and what is said while it is open.
+/// A window of the claim form of which only one may be open, and what is said while it is.
 struct SingleWindow {
-  const char16_t* screen;
+  const char16_t* screen;  ///< the name of its route
   const char16_t* message;
   bool stopsFastCheck;
 };

@@ -2,36 +2,35 @@
 
 #include <QSet>
 
-#include "platform/store/catalogue.h"
+#include "platform/store/tables/claims.h"
+#include "platform/text/utf16.h"
 
 namespace claims {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Columns = store::PairStore::Columns;
 
-constexpr char16_t kFirstFile[] = u"保険申請2000_1.mdb";
-constexpr char16_t kSecondFile[] = u"保険申請2000_2.mdb";
-constexpr char16_t kTable[] = u"保険申請";
-/// The link that the second half keeps beside its ID; later the column of a print setting.
-constexpr char16_t kLink[] = u"txt dummy1";
+/// The link that the second half keeps next to its ID until the claim is stored for the first time; then the
+/// column belongs to the print setting.
+constexpr store::Column kLink = claim::periodFrom;
 
-QSet<QString> columnsOf(const char16_t* file) {
+/// Names of the columns of a half but ID.
+QSet<QString> columnsOf(const store::Table& half) {
   QSet<QString> columns;
-  for (const store::TableRow& table : store::catalogue()) {
-    if (QStringView(table.file) != QStringView(file) || QStringView(table.table) != QStringView(kTable))
-      continue;
-    for (const store::ColumnRow& column : table.columns) columns.insert(QString::fromUtf16(column.name));
-  }
-  columns.remove(QStringLiteral("ID"));
+  for (const store::ColumnRow& column : half.columns()) columns.insert(text::utf16(column.name));
+  columns.remove(claim::id);
   return columns;
 }
 
 const QSet<QString>& firstColumns() {
-  static const QSet<QString> columns = columnsOf(kFirstFile);
+  static const QSet<QString> columns = columnsOf(claim::firstHalf);
   return columns;
 }
 const QSet<QString>& secondColumns() {
-  static const QSet<QString> columns = columnsOf(kSecondFile);
+  static const QSet<QString> columns = columnsOf(claim::secondHalf);
   return columns;
 }
 
@@ -45,11 +44,11 @@ Columns half(const ClaimRecord& claim, const QSet<QString>& names) {
   return columns;
 }
 
-/// Whether a value is to be written. NULL and blank are the same to the user; only 施術科目 tells a stored
-/// claim by a blank that is not NULL.
+/// Whether a value is to be written. NULL and blank are the same to the user; only in 施術科目 a blank that
+/// is not NULL means something: the claim was stored.
 bool differs(const QString& column, const QString& seen, const QString& value) {
   if (seen != value) return true;
-  return seen.isNull() && !value.isNull() && column == u"施術科目";
+  return seen.isNull() && !value.isNull() && column == claim::subject.text();
 }
 
 }  // namespace
@@ -57,7 +56,7 @@ bool differs(const QString& column, const QString& seen, const QString& value) {
 ClaimFile::ClaimFile(std::unique_ptr<store::PairStore> pair) : m_pair(std::move(pair)) {}
 
 text::Result<ClaimFile> ClaimFile::open(const QString& firstPath, const QString& secondPath) {
-  auto pair = store::PairStore::open(firstPath, secondPath, QString::fromUtf16(kTable));
+  auto pair = store::PairStore::open(firstPath, secondPath, text::utf16(claim::firstHalf.name()));
   if (!pair) return pair.fault();
   return ClaimFile(std::move(pair.value()));
 }
@@ -76,7 +75,7 @@ text::Done ClaimFile::store(qint64 id, const ClaimRecord& seen, const ClaimRecor
   Columns first, second;
   const auto& all = changed.columns();
   for (auto it = all.cbegin(); it != all.cend(); ++it) {
-    if (!differs(it.key(), seen.get(it.key()), it.value())) continue;
+    if (!differs(it.key(), seen.named(it.key()), it.value())) continue;
     if (firstColumns().contains(it.key()))
       first.insert(it.key(), it.value());
     else if (secondColumns().contains(it.key()))
@@ -89,14 +88,13 @@ text::Done ClaimFile::store(qint64 id, const ClaimRecord& seen, const ClaimRecor
 
 text::Result<qint64> ClaimFile::add(const ClaimRecord& claim) {
   Columns first = half(claim, firstColumns()), second = half(claim, secondColumns());
-  const QString link = QString::fromUtf16(kLink);
   qint64 id = 0;
   const text::Done done = m_pair->together([&]() -> text::Done {
     const auto added = m_pair->add(first, second);
     if (!added) return added.fault();
     id = added.value();
-    if (!second.value(link).isEmpty()) return {};  // the print setting has taken the column over
-    return m_pair->update(id, {}, {{link, QString::number(id)}});
+    if (!second.value(kLink).isEmpty()) return {};  // the print setting has taken the column over
+    return m_pair->update(id, {}, {{kLink, QString::number(id)}});
   });
   if (!done) return done.fault();
   return id;
@@ -105,8 +103,8 @@ text::Result<qint64> ClaimFile::add(const ClaimRecord& claim) {
 text::Done ClaimFile::remove(qint64 id) { return m_pair->remove(id); }
 
 text::Done ClaimFile::repairSecond(qint64 id) {
-  Columns second{{QString::fromUtf16(kLink), QString::number(id)}};
-  for (int n = 1; n <= 4; ++n) second.insert(QStringLiteral("memo dummy%1").arg(n), QStringLiteral(" "));
+  Columns second{{kLink, QString::number(id)}};
+  for (int note = 1; note <= 4; ++note) second.insert(claim::spareMemo[note], u" "_s);
   return m_pair->repairSecond(id, second);
 }
 

@@ -21,10 +21,11 @@ class ClaimFile {
   /// Writes the columns of `changed` that differ from `seen` (the claim as it was read). Refused with the
   /// engine's text where another computer changed the claim meanwhile. Columns of no table are left out.
   text::Done store(qint64 id, const ClaimRecord& seen, const ClaimRecord& changed);
-  /// Adds a claim: a row in each half with one ID, written to Txt dummy1 too. Returns the ID.
+  /// Adds a claim: a row in each half with one ID, written to the second half's link column (txt dummy1) too.
+  /// Returns the ID.
   text::Result<qint64> add(const ClaimRecord& claim);
   text::Done remove(qint64 id);
-  /// Makes the second half that a claim lacks: ID, Txt dummy1 and memo dummy1 to 4 with a blank.
+  /// Makes the second half that a claim lacks: ID, link, and the first four notes with a blank.
   text::Done repairSecond(qint64 id);
   /// Runs the calls of `work` in one transaction.
   text::Done together(const std::function<text::Done()>& work);

@@ -2,67 +2,69 @@
 
 #include <QHash>
 #include <QString>
-#include <array>
 #include <string>
 #include <utility>
 
+#include "platform/store/tables/claims.h"
+
 namespace claims {
 
-/// A column's name from a literal of the program, without a copy: the literal outlives every record.
-inline QString columnName(const char16_t* literal) {
-  return QString::fromRawData(reinterpret_cast<const QChar*>(literal),
-                              static_cast<qsizetype>(std::char_traits<char16_t>::length(literal)));
-}
-
-/// ClaimRecord: one patient's claim for one month and one kind of treatment, the columns of both halves by
-/// name in one flat map (no column name stands in both halves but ID). A null text is NULL in the file.
+/// ClaimRecord: one patient's claim for one month and one kind of treatment, the columns of both halves in
+/// one flat map (no column name but ID occurs in both halves). A null text is NULL in the file.
 class ClaimRecord {
  public:
   ClaimRecord() = default;
-  /// The columns of both halves.
+  /// The columns of both halves by their names.
   ClaimRecord(QHash<QString, QString> first, const QHash<QString, QString>& second)
       : m_columns(std::move(first)) {
     m_columns.insert(second);
   }
 
-  QString get(const QString& column) const { return m_columns.value(column); }
-  void set(const QString& column, const QString& value) { m_columns.insert(column, value); }
+  QString get(const store::Column& column) const { return named(column); }
+  void set(const store::Column& column, const QString& value) { setNamed(column, value); }
   /// Sets the column to NULL.
-  void clear(const QString& column) { m_columns.insert(column, QString()); }
-  bool has(const QString& column) const { return m_columns.contains(column); }
+  void clear(const store::Column& column) { setNamed(column, QString()); }
+  bool has(const store::Column& column) const { return m_columns.contains(column); }
+  bool blank(const store::Column& column) const { return get(column).isEmpty(); }
   /// A tick: -1, 1 or true.
-  bool ticked(const QString& column) const {
-    const QString value = get(column);
-    return value == u"-1" || value == u"1" || value == u"true";
-  }
-  bool blank(const QString& column) const { return get(column).isEmpty(); }
+  bool ticked(const store::Column& column) const { return means(get(column)); }
 
-  /// 治療内容1..31 and 往療距離1..31.
-  QString code(int day) const { return get(codeColumn(day)); }
-  QString visit(int day) const { return get(visitColumn(day)); }
+  /// The same by a name that comes from outside: a request in JSON, a row of the files, the column that a
+  /// control is bound to. An unknown name reads null.
+  QString named(const QString& column) const { return m_columns.value(column); }
+  void setNamed(const QString& column, const QString& value) { m_columns.insert(column, value); }
 
-  /// The column names of a day (1..31), built once for the run.
-  static const QString& codeColumn(int day) {
-    static const auto names = dayColumns(QStringLiteral("治療内容"));
-    return names.at(static_cast<size_t>(day));
-  }
-  static const QString& visitColumn(int day) {
-    static const auto names = dayColumns(QStringLiteral("往療距離"));
-    return names.at(static_cast<size_t>(day));
-  }
+  /// 治療内容 and 往療距離 of a day, 1 to 31.
+  QString code(int day) const { return get(claim::dayCode[day]); }
+  QString visit(int day) const { return get(claim::dayVisit[day]); }
 
   const QHash<QString, QString>& columns() const { return m_columns; }
-  /// Room for the given number of columns.
+  /// Makes space for the given number of columns.
   void reserve(int columns) { m_columns.reserve(columns); }
 
+  // ---- Deprecated: names in program code. These go as soon as the last caller uses columns. ----
+  QString get(const QString& column) const { return named(column); }
+  QString get(const char16_t* column) const { return named(QString::fromUtf16(column)); }
+  void set(const QString& column, const QString& value) { setNamed(column, value); }
+  void set(const char16_t* column, const QString& value) { setNamed(QString::fromUtf16(column), value); }
+  void clear(const QString& column) { setNamed(column, QString()); }
+  bool has(const QString& column) const { return m_columns.contains(column); }
+  bool has(const char16_t* column) const { return has(QString::fromUtf16(column)); }
+  bool blank(const QString& column) const { return named(column).isEmpty(); }
+  bool ticked(const QString& column) const { return means(named(column)); }
+  static QString codeColumn(int day) { return claim::dayCode[day]; }
+  static QString visitColumn(int day) { return claim::dayVisit[day]; }
+
  private:
-  static std::array<QString, 32> dayColumns(const QString& stem) {
-    std::array<QString, 32> names;
-    for (int day = 1; day <= 31; ++day) names[static_cast<size_t>(day)] = stem + QString::number(day);
-    return names;
-  }
+  static bool means(const QString& value) { return value == u"-1" || value == u"1" || value == u"true"; }
 
   QHash<QString, QString> m_columns;
 };
+
+/// Deprecated, as the functions above: a column's name from a literal, without a copy.
+inline QString columnName(const char16_t* literal) {
+  return QString::fromRawData(reinterpret_cast<const QChar*>(literal),
+                              static_cast<qsizetype>(std::char_traits<char16_t>::length(literal)));
+}
 
 }  // namespace claims

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "claims/core/amount_record.h"
+#include "claims/core/insurance.h"
 #include "claims/core/share_ticks.h"
 #include "platform/store/tables/claims.h"
 
@@ -55,7 +56,7 @@ class Writer {
     m_stored.claim.set(column, value);
     m_stored.written.append(column);
   }
-  /// Sets the calculated columns to NULL; what has a value is filled in behind it.
+  /// Sets the calculated columns to NULL; fill() puts the values in afterwards.
   void clear(std::span<const store::Column> columns) {
     for (const store::Column& column : columns) set(column, QString());
   }
@@ -71,15 +72,16 @@ class Writer {
 
 /// 老人 and 退職国保 were replaced by other kinds; a claim whose printed kind says so follows.
 void rewriteInsurance(Writer& writer) {
-  const QString kind = writer.get(claim::insuranceKind), printed = writer.get(claim::printedInsurance);
+  const QString kind = writer.get(claim::insuranceKind);
+  const QString printed = writer.get(claim::printedInsurance);
   if (printed == u"後期高齢" && kind == u"老人") writer.set(claim::insuranceKind, QStringLiteral("後期高齢"));
   if (printed == u"国民健保" && kind == u"退職国保") writer.set(claim::insuranceKind, QStringLiteral("国保"));
 }
 
 void writeDerived(const ClaimRecord& claim, Writer& writer) {
   rewriteInsurance(writer);
-  const bool hasTicks = std::ranges::any_of(
-      kShareTicks, [&](const ShareTick& tick) { return claim.has(columnName(tick.column)); });
+  const bool hasTicks =
+      std::ranges::any_of(kShareTicks, [&](const ShareTick& tick) { return claim.has(tick.column); });
   if (hasTicks) writer.set(claim::shareTicks, shareTicksText(tickValuesOf(claim)));
   const QString kind = writer.get(claim::insuranceKind);
   writer.set(claim::insuranceOrder, insuranceOrder(kind));
@@ -140,9 +142,9 @@ AreaBoxes boxesFor(const ClaimRecord& claim, const std::optional<AreaBoxes>& giv
   return stored == AreaBoxes() ? areaBoxes(claim) : stored;
 }
 
-void writeBoxes(const AreaBoxes& boxes, Writer& writer) {
-  for (size_t i = 0; i < boxes.areas.size(); ++i) writer.set(areaBoxColumn(i), boxes.areas[i]);
-  for (size_t i = 0; i < boxes.limbs.size(); ++i) writer.set(limbBoxColumn(i), boxes.limbs[i]);
+template <size_t Count>
+void writeBoxes(const std::array<QString, Count>& boxes, const store::Series& columns, Writer& writer) {
+  for (size_t i = 0; i < Count; ++i) writer.set(columns[columns.first() + int(i)], boxes[i]);
 }
 
 }  // namespace
@@ -169,7 +171,8 @@ StoredClaim storeClaim(const ClaimRecord& claim, const StoreContext& context,
     }
   }
   writeDerived(claim, writer);
-  writeBoxes(boxes, writer);
+  writeBoxes(boxes.areas, claim::areaDays, writer);
+  writeBoxes(boxes.limbs, claim::limbDays, writer);
   return stored;
 }
 

@@ -22,7 +22,7 @@ struct StoreContext {
 /// A claim as 登録 writes it.
 struct StoredClaim {
   ClaimRecord claim;
-  QStringList written;  ///< columns that the store writes itself, beside what was typed
+  QStringList written;  ///< names of the columns that the store writes itself, in addition to what was typed
   ClaimAmounts amounts;
   std::optional<text::Fault> calculation;  ///< the engine's fault where no amounts could be computed
 };
@@ -31,8 +31,8 @@ struct StoredClaim {
 /// 負担割合, 保険順位, summary code, cleared and computed columns of both halves. The checks, trimming and
 /// questions come before it and are the form's.
 ///
-/// `boxes`: the boxes 施術回数 as they stand on the form, where the user may have corrected them. Without
-/// them the claim's own d3 to d11 are kept, and counted anew where all are blank.
+/// `boxes`: the boxes 施術回数 as the form shows them, where the user may have corrected them. Without them
+/// those of the claim (claim::areaDays, claim::limbDays) stay, and are counted anew where all are blank.
 StoredClaim storeClaim(const ClaimRecord& claim, const StoreContext& context,
                        const std::optional<AreaBoxes>& boxes = std::nullopt);
 

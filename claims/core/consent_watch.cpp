@@ -8,6 +8,7 @@
 #include "claims/core/kinds.h"
 #include "platform/store/connection.h"
 #include "platform/store/sources.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 namespace {
@@ -16,45 +17,49 @@ namespace {
 using Consent = std::pair<QString, bool>;
 
 Consent consentOf(const store::Cursor& claim) {
-  const QString treatment = claim.value(QStringLiteral("施術内容"));
-  return {claim.value(QStringLiteral("氏名")), kindOf(treatment) == Kind::Massage};
+  const QString treatment = claim.value(claim::treatmentKind);
+  return {claim.value(claim::name), kindOf(treatment) == Kind::Massage};
 }
 
-/// The ends that all claims tell: by their ID those within the days, and the latest behind them.
+/// The ends of all claims: by their ID those within the days, and the latest of those after them.
 struct Ends {
   QHash<QString, QDate> within;
-  QHash<Consent, QDate> behind;
+  QHash<Consent, QDate> later;
 };
 
-Ends endsOf(store::Cursor& claims, QDate from, QDate to, const frame::EraDates& dates) {
+text::Result<Ends> endsOf(store::Cursor& claims, QDate from, QDate to, const frame::EraDates& dates) {
   Ends ends;
-  for (; !claims.eof(); claims.moveNext()) {
-    const QString text = claims.value(QStringLiteral("要加療期間2"));
+  for (;;) {
+    const text::Result<bool> row = claims.next();
+    if (!row) return row.fault();
+    if (!*row) return ends;
+    const QString text = claims.value(claim::consentUntil);
     if (text.trimmed().isEmpty()) continue;
     const std::optional<QDate> end = dates.anyDate(text);
     if (!end || *end < from) continue;
     if (*end <= to)
-      ends.within.insert(claims.value(QStringLiteral("ID")), *end);
-    else if (QDate& latest = ends.behind[consentOf(claims)]; !latest.isValid() || *end > latest)
+      ends.within.insert(claims.value(claim::id), *end);
+    else if (QDate& latest = ends.later[consentOf(claims)]; !latest.isValid() || *end > latest)
       latest = *end;
   }
-  return ends;
 }
 
 /// Of each name the first claim with an end within the days.
-QList<ConsentEnd> rowsOf(store::Cursor& claims, const Ends& ends) {
+text::Result<QList<ConsentEnd>> rowsOf(store::Cursor& claims, const Ends& ends) {
   QList<ConsentEnd> rows;
-  QSet<QString> told;
-  for (; !claims.eof(); claims.moveNext()) {
-    const auto end = ends.within.constFind(claims.value(QStringLiteral("ID")));
+  QSet<QString> listed;
+  for (;;) {
+    const text::Result<bool> row = claims.next();
+    if (!row) return row.fault();
+    if (!*row) return rows;
+    const auto end = ends.within.constFind(claims.value(claim::id));
     if (end == ends.within.cend()) continue;
-    const QString name = claims.value(QStringLiteral("氏名"));
-    if (told.contains(name)) continue;
-    told.insert(name);
-    rows.append({name, claims.value(QStringLiteral("保険の種類")), *end,
-                 claims.value(QStringLiteral("施術内容")), ends.behind.value(consentOf(claims))});
+    const QString name = claims.value(claim::name);
+    if (listed.contains(name)) continue;
+    listed.insert(name);
+    rows.append({name, claims.value(claim::insuranceKind), *end,
+                 claims.value(claim::treatmentKind), ends.later.value(consentOf(claims))});
   }
-  return rows;
 }
 
 }  // namespace
@@ -73,8 +78,10 @@ text::Result<QList<ConsentEnd>> consentsRunningOut(const QString& claimsPath, co
   if (!newestFirst) return newestFirst.fault();
 
   const QDate today = dates.clock().today();
-  QList<ConsentEnd> rows = rowsOf(*newestFirst, endsOf(*byConsent, today, today.addMonths(1), dates));
-  std::ranges::stable_sort(rows, {}, &ConsentEnd::end);
+  const text::Result<Ends> ends = endsOf(*byConsent, today, today.addMonths(1), dates);
+  if (!ends) return ends.fault();
+  text::Result<QList<ConsentEnd>> rows = rowsOf(*newestFirst, *ends);
+  if (rows) std::ranges::stable_sort(*rows, {}, &ConsentEnd::end);
   return rows;
 }
 

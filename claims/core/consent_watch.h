@@ -9,7 +9,7 @@
 
 namespace claims {
 
-/// A patient whose consent runs out within a month, as the list tells it.
+/// A patient whose consent runs out within a month, as the list shows it.
 struct ConsentEnd {
   QString name;       ///< 氏名
   QString insurance;  ///< 保険の種類
@@ -24,12 +24,12 @@ struct ConsentEnd {
 QString consentEndText(QDate end);
 
 /// The claims whose 要加療期間2 lies from today up to one month ahead, both days included; of each 氏名 the
-/// newest such claim, so that a patient is told once. The nearest end stands first. The 31st of January
+/// newest such claim, so that a patient is listed once. The nearest end comes first. The 31st of January
 /// reaches to the last day of February.
 ///
 /// Dates of any form are read; what cannot be read is left out. A later consent does not take the warning
-/// back, as a year typed wrong would silence it; it is told beside the end (`later`), for acupuncture and
-/// massage apart, which have a consent each.
+/// back, as a year typed wrong would silence it; it is returned in `later`. Acupuncture and massage have
+/// separate consents.
 text::Result<QList<ConsentEnd>> consentsRunningOut(const QString& claimsPath, const frame::EraDates& dates);
 
 }  // namespace claims

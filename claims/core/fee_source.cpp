@@ -27,8 +27,11 @@ text::Result<FeeEdition> readEdition(const QString& path) {
   if (const auto opened = connection.open(store::connectionString(path)); !opened) return opened.fault();
   auto rows = store::Cursor::open(connection, QString::fromUtf16(store::source::kFeesNewestFirst));
   if (!rows) return rows.fault();
-  if (rows->eof()) return text::Fault{path + QStringLiteral(": 料金設定 のデータがありません。")};
+  const text::Result<bool> row = rows->next();
+  if (!row) return row.fault();
+  if (!*row) return text::Fault{path + QStringLiteral(": 料金設定 のデータがありません。")};
   FeeEdition edition = editionAt(*rows);
+  if (const text::Done read = rows->check(); !read) return read.fault();
   edition.path = path;
   return edition;
 }

@@ -1,75 +1,88 @@
 #include "claims/core/new_claim.h"
 
+#include "claims/core/insurance.h"
 #include "claims/core/print_settings.h"
 #include "platform/store/tables/claims.h"
+#include "platform/text/utf16.h"
 
 namespace claims {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// A value of the patient and the ends of the column names that take it: 被保険者の and 療養を受ける者の.
+/// A member of the patient and the columns that take it: of the person treated and of the insured person.
 struct PersonRow {
-  const char16_t* patient;
-  const char16_t* column;
+  QString frame::Patient::*value;
+  store::Column treated, insured;
 };
-constexpr PersonRow kPerson[] = {{u"ふりがな", u"フリガナ"}, {u"氏名", u"氏名"},
-                                 {u"生年月日", u"生年月日"}, {u"性別", u"性別"},
-                                 {u"郵便番号", u"郵便番号"}, {u"電話1", u"電話番号"}};
+constexpr PersonRow kPerson[] = {
+    {&frame::Patient::kana, claim::treatedKana, claim::insuredKana},
+    {&frame::Patient::name, claim::treatedName, claim::insuredName},
+    {&frame::Patient::birth, claim::treatedBirth, claim::insuredBirth},
+    {&frame::Patient::sex, claim::treatedSex, claim::insuredSex},
+    {&frame::Patient::zip, claim::treatedZip, claim::insuredZip},
+    {&frame::Patient::telephone, claim::treatedTelephone, claim::insuredTelephone},
+};
 
-constexpr const char16_t* kRepresentative[] = {
-    u"代表者氏名",         u"代表者フリガナ",         u"代表者郵便番号",   u"代表者住所",
-    u"代表者住所フリガナ", u"代表者電話番号",         u"代表者金融機関名", u"代表者金融機関名種類",
-    u"代表者本店支店名",   u"代表者本店支店名種類",   u"代表者預金の種類", u"代表者口座番号",
-    u"代表者口座名義",     u"代表者口座名義カタカナ", u"代表者郵便局名"};
+/// The columns that join a claim to its patient.
+constexpr store::Field<frame::Patient> kRegister[] = {
+    {claim::chartNumber, &frame::Patient::chartNumber},
+    {claim::name, &frame::Patient::name},
+    {claim::birth, &frame::Patient::birth},
+    {claim::patientSerial, &frame::Patient::serial},
+};
 
-QString address(const QHash<QString, QString>& patient) {
-  return patient.value(QStringLiteral("住所1")) + patient.value(QStringLiteral("住所2")) +
-         patient.value(QStringLiteral("住所3"));
-}
-
-void setPerson(ClaimRecord& claim, const QString& stem, const QHash<QString, QString>& patient) {
-  for (const PersonRow& row : kPerson)
-    claim.set(stem + columnName(row.column), patient.value(QString::fromUtf16(row.patient)));
-  claim.set(stem + QStringLiteral("住所"), address(patient));
-}
+constexpr store::Column kRepresentative[] = {
+    claim::agentName,          claim::agentKana,
+    claim::agentZip,           claim::agentAddress,
+    claim::agentAddressKana,   claim::agentTelephone,
+    claim::agentBank,          claim::agentBankKind,
+    claim::agentBranch,        claim::agentBranchKind,
+    claim::agentDeposit,       claim::agentAccount,
+    claim::agentAccountHolder, claim::agentAccountHolderKana,
+    claim::agentPostOffice,
+};
 
 void setDefaults(ClaimRecord& claim) {
-  claim.set(claim::workRelated, QStringLiteral("その他"));
-  claim.set(claim::thirdParty, QStringLiteral("いいえ"));
-  claim.set(claim::hospitalised, QStringLiteral("入院外"));
-  for (const PrintSetting& setting : printSettings())
-    if (setting.newClaim) claim.set(columnName(setting.column), QString::fromUtf16(setting.newClaim));
-  for (const NewClaimDefault& hidden : hiddenPrintDefaults())
-    claim.set(QString::fromUtf16(hidden.column), QString::fromUtf16(hidden.value));
+  claim.set(claim::workRelated, u"その他"_s);
+  claim.set(claim::thirdParty, u"いいえ"_s);
+  claim.set(claim::hospitalised, u"入院外"_s);
+  for (const PrintSetting& setting : kPrintSettings)
+    if (setting.newClaim) claim.set(setting.column, text::utf16(setting.newClaim));
+}
+
+void setPersons(ClaimRecord& claim, const frame::Patient& patient, bool insuredToo) {
+  for (const store::Field<frame::Patient>& field : kRegister) claim.set(field.column, patient.*(field.text));
+  for (const PersonRow& row : kPerson) {
+    claim.set(row.treated, patient.*(row.value));
+    if (insuredToo) claim.set(row.insured, patient.*(row.value));
+  }
+  claim.set(claim::treatedAddress, frame::wholeAddress(patient));
+  if (insuredToo) claim.set(claim::insuredAddress, frame::wholeAddress(patient));
 }
 
 }  // namespace
 
-ClaimRecord newClaim(const QHash<QString, QString>& patient, const NewClaimChoice& choice,
+ClaimRecord newClaim(const frame::Patient& patient, const NewClaimChoice& choice,
                      const frame::ClinicProfile& profile) {
   ClaimRecord claim;
-  for (const char16_t* column : {u"カルテ番号", u"氏名", u"生年月日"})
-    claim.set(QString::fromUtf16(column), patient.value(QString::fromUtf16(column)));
-  claim.set(claim::patientSerial, patient.value(QStringLiteral("テキスト5")));
-  claim.set(QStringLiteral("施術内容"),
-            choice.treatment == Kind::Massage ? QStringLiteral("あマ") : QStringLiteral("鍼灸"));
-  setPerson(claim, QStringLiteral("療養を受ける者の"), patient);
-  if (choice.holder != CardHolder::Family) {
-    setPerson(claim, QStringLiteral("被保険者の"), patient);
-    claim.set(claim::relation, QStringLiteral("本人"));
-  }
-  if (choice.holder == CardHolder::InsuredNotHead) claim.set(claim::notHead, QStringLiteral("-1"));
+  const bool insured = choice.holder != CardHolder::Family;
+  setPersons(claim, patient, insured);
+  claim.set(claim::treatmentKind, choice.treatment == Kind::Massage ? u"あマ"_s : u"鍼灸"_s);
+  if (insured) claim.set(claim::relation, u"本人"_s);
+  if (choice.holder == CardHolder::InsuredNotHead) claim.set(claim::notHead, u"-1"_s);
   claim.set(claim::insuranceKind, choice.insurance);
   claim.set(claim::insuranceOrder, insuranceOrder(choice.insurance));
-  claim.set(QString::fromUtf16(kSummaryCodeColumn),
-            summaryCode(choice.insurance, claim.get(claim::relation)));
+  claim.set(claim::summaryCode, summaryCode(choice.insurance, claim.get(claim::relation)));
   for (const frame::ProfileField& field : frame::profileFields())
-    if (field.claimColumn) claim.set(QString::fromUtf16(field.claimColumn), profile[field.slot]);
+    if (field.claimColumn) claim.set(field.claimColumn, profile[field.slot]);
   claim.set(claim::registrationHari, profile[frame::profile::kElderlyHari]);
   claim.set(claim::registrationMassage, profile[frame::profile::kElderlyMassage]);
   setDefaults(claim);
   return claim;
 }
 
-std::span<const char16_t* const> representativeColumns() { return kRepresentative; }
+std::span<const store::Column> representativeColumns() { return kRepresentative; }
 
 }  // namespace claims

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QHash>
 #include <QString>
 #include <span>
 
 #include "claims/core/claim_record.h"
 #include "claims/core/kinds.h"
 #include "frame/core/clinic_profile.h"
+#include "frame/core/patient.h"
 
 namespace claims {
 
@@ -15,17 +15,17 @@ enum class CardHolder { Insured, Family, InsuredNotHead };
 
 /// The answers of レセプト選択.
 struct NewClaimChoice {
-  QString insurance;  ///< one of the seven kinds
+  QString insurance;  ///< one of kNewClaimInsurance
   Kind treatment = Kind::Acupuncture;
   CardHolder holder = CardHolder::Insured;
 };
 
-/// Columns of a new claim: the patient's data (columns of table 臨床QV), the choices, the practitioner copy
-/// of the clinic profile and the defaults. The claim month stays blank: the user types it.
-ClaimRecord newClaim(const QHash<QString, QString>& patient, const NewClaimChoice& choice,
+/// A new claim: the patient's data, the choices, the practitioner copy of the clinic profile and the
+/// defaults. The claim month stays blank: the user types it.
+ClaimRecord newClaim(const frame::Patient& patient, const NewClaimChoice& choice,
                      const frame::ClinicProfile& profile);
 
 /// The columns of the representative, which 代表者のデータのクリア blanks.
-std::span<const char16_t* const> representativeColumns();
+std::span<const store::Column> representativeColumns();
 
 }  // namespace claims

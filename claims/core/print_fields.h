@@ -7,8 +7,8 @@
 
 namespace claims {
 
-/// printFields: what the checks prepare for printing, by column: identifying numbers in full width. A
-/// column that is blank, or that the claim's kind of insurance does not take, is not in it.
+/// printFields: what the checks prepare for printing, by the name of the column: identifying numbers in full
+/// width. A column that is blank, or that the claim's kind of insurance does not take, is not in it.
 QHash<QString, QString> printFields(const ClaimRecord& claim);
 
 }  // namespace claims

@@ -22,14 +22,16 @@ struct RegisterField {
   int limit = 0;  ///< characters that can be typed, 0: no limit of its own
 };
 
-/// A register behind the lists of the claim form.
+/// A register that feeds lists of the claim form: of the doctors or of the insurers.
 struct Register {
   const store::Table& table;
   int folder;                             ///< its file's entry of DataFolders
   const char16_t* statement;              ///< reads the rows in the order of the lists
   std::span<const RegisterField> fields;  ///< in the order in which they are checked
   std::span<const store::Column> keys;    ///< columns to search in, in the order of their list
-  const char16_t* deleteQuestion;
+
+  /// Index of the field that is this column of the register or of the claim; -1: none is.
+  int fieldOf(const store::Column& column) const;
 };
 
 inline constexpr RegisterField kDoctorFields[] = {{doctors::name, u"氏名", claim::doctorName, 50},
@@ -40,26 +42,25 @@ inline constexpr RegisterField kDoctorFields[] = {{doctors::name, u"氏名", cla
 inline constexpr std::array kDoctorKeys = {doctors::name, doctors::hospital, doctors::telephone,
                                            doctors::kana, doctors::address};
 /// The consenting doctors.
-inline constexpr Register kDoctorRegister{
-    doctors::table, frame::folder::kDoctors,          store::source::kDoctors, kDoctorFields,
-    kDoctorKeys,    u"　同意医師のデータを削除します"};
+inline constexpr Register kDoctorRegister{doctors::table, frame::folder::kDoctors, store::source::kDoctors,
+                                          kDoctorFields, kDoctorKeys};
 
 inline constexpr RegisterField kInsurerFields[] = {{insurers::name, u"名称", claim::insurerName, 20},
                                                    {insurers::number, u"番号", claim::insurerNumber},
                                                    {insurers::address, u"所在地", claim::insurerAddress, 30}};
 inline constexpr std::array kInsurerKeys = {insurers::number, insurers::name, insurers::address};
 /// The insurers. Their names must be exact: the summary sheets group by them.
-inline constexpr Register kInsurerRegister{
-    insurers::table, frame::folder::kInsurers,       store::source::kInsurers, kInsurerFields,
-    kInsurerKeys,    u"　保険者のデータを削除します"};
+inline constexpr Register kInsurerRegister{insurers::table, frame::folder::kInsurers,
+                                           store::source::kInsurers, kInsurerFields, kInsurerKeys};
 
 /// The values of a register's rows, in the order of its fields.
 using RegisterRows = QVector<QStringList>;
 
-/// The register's rows in the order of the claim form's lists, at most 1,000. A fault in the engine's words.
+/// The register's rows in the order of the claim form's lists, at most 1,000. A fault in the database's
+/// words.
 text::Result<RegisterRows> readRegister(const Register& list, const frame::DataFolders& folders);
 
-/// Index of the first blank value, -1 where there is none: a row of a register never has a blank field.
+/// Index of the first blank value, -1: none is. A row of a register never has a blank field.
 int firstBlank(const QStringList& values);
 /// What a blank field says.
 QString blankFieldText(const QString& label);

@@ -22,7 +22,7 @@ ShareTicks shareTicksOf(const QString& text) {
 
 ShareTicks tickValuesOf(const ClaimRecord& claim) {
   ShareTicks ticks{};
-  for (size_t i = 0; i < ticks.size(); ++i) ticks[i] = claim.ticked(columnName(kShareTicks[i].column));
+  for (size_t i = 0; i < ticks.size(); ++i) ticks[i] = claim.ticked(kShareTicks[i].column);
   return ticks;
 }
 

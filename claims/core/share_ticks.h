@@ -7,19 +7,19 @@
 
 namespace claims {
 
-/// One tick of the form's right-hand box: its word in 負担割合 and the name of its check box.
+/// One tick of the form's right-hand box: its word in 負担割合 and the column of its check box.
 struct ShareTick {
   const char16_t* word;
-  const char16_t* column;
+  store::Column column;
 };
 
 /// In the order in which 負担割合 joins them. 三歳未満 is the older word for 就学前 and stays in the text.
-inline constexpr std::array<ShareTick, 6> kShareTicks = {{{u"本人", u"本人"},
-                                                          {u"三歳未満", u"就学前"},
-                                                          {u"家族", u"家族"},
-                                                          {u"高齢9", u"高齢9"},
-                                                          {u"高齢8", u"高齢8"},
-                                                          {u"高齢7", u"高齢7"}}};
+inline constexpr std::array<ShareTick, 6> kShareTicks = {{{u"本人", claim::isInsured},
+                                                          {u"三歳未満", claim::isPreschool},
+                                                          {u"家族", claim::isFamily},
+                                                          {u"高齢9", claim::elderly[9]},
+                                                          {u"高齢8", claim::elderly[8]},
+                                                          {u"高齢7", claim::elderly[7]}}};
 
 /// The ticks by the order of kShareTicks.
 using ShareTicks = std::array<bool, 6>;

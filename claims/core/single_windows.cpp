@@ -1,6 +1,11 @@
 #include "claims/core/checks.h"
+#include "frame/core/routes_unbuilt.h"
+#include "platform/text/utf16.h"
 
 namespace claims {
+
+namespace unbuilt = routes::unbuilt;
+
 namespace {
 
 constexpr char16_t kReport[] =
@@ -17,9 +22,11 @@ constexpr char16_t kCopy[] =
     u"（後ろに隠れている可能性があります。）";
 
 constexpr SingleWindow kWindows[] = {
-    {u"施術報告書", kReport, true},           {u"往療内訳表", kRoute, true},
-    {u"frm1年16回以上印刷は", kReason, true}, {u"frm1年16回以上印刷マ", kReason, true},
-    {u"施術報告書コピー", kCopy, false},
+    {unbuilt::TreatmentReport::screen.get(), kReport, true},
+    {unbuilt::VisitBreakdown::screen.get(), kRoute, true},
+    {unbuilt::ReasonSheetAcupuncture::screen.get(), kReason, true},
+    {unbuilt::ReasonSheetMassage::screen.get(), kReason, true},
+    {unbuilt::ReportCopy::screen.get(), kCopy, false},
 };
 
 }  // namespace
@@ -29,7 +36,7 @@ std::span<const SingleWindow> singleWindows() { return kWindows; }
 QString openWindowMessage(const QStringList& openWindows, bool withCopy) {
   for (const SingleWindow& window : kWindows)
     if ((window.stopsFastCheck || withCopy) && openWindows.contains(QStringView(window.screen)))
-      return QString::fromUtf16(window.message);
+      return text::utf16(window.message);
   return {};
 }
 

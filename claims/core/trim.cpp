@@ -8,45 +8,45 @@ namespace {
 
 /// Limits of a column in characters, 0: none. The differences between the four columns are the papers' own.
 struct LimitRow {
-  const char16_t* column;
+  store::Column column;
   int acupuncture, massage;              ///< the claim forms
   int recordAcupuncture, recordMassage;  ///< the treatment record
 };
 
 constexpr LimitRow kLimits[] = {
-    {u"事業所の名称", 52, 52, 30, 30},
-    {u"事業所の所在地", 52, 52, 30, 30},
-    {u"被保険者のフリガナ", 0, 22, 0, 22},
-    {u"被保険者の氏名", 22, 22, 22, 22},
-    {u"被保険者の住所フリガナ", 0, 58, 0, 58},
-    {u"被保険者の住所", 60, 60, 39, 39},
-    {u"被保険者との続柄", 4, 4, 4, 4},
-    {u"傷病名", 50, 50, 50, 50},
-    {u"傷病名7", 15, 15, 10, 10},
-    {u"傷病名8", 10, 10, 10, 10},
-    {u"同意の傷病名", 26, 24, 26, 24},
-    {u"同意医師住所", 40, 40, 40, 40},
-    {u"摘要1", 14, 14, 14, 14},
-    {u"摘要4", 50, 50, 79, 79},
-    {u"摘要5", 50, 50, 79, 79},
-    {u"摘要6", 50, 50, 37, 37},
-    {u"マッサージ部位数", 1, 1, 1, 1},
-    {u"施術所の名称", 0, 23, 0, 0},
-    {u"施術者フリガナ", 0, 64, 0, 0},
-    {u"施術所の所在地", 100, 100, 0, 0},
-    {u"施術所の所在地カナ", 0, 41, 0, 0},
-    {u"金融機関名", 8, 8, 0, 0},
-    {u"本店支店名", 10, 10, 0, 0},
-    {u"郵便局名", 10, 10, 0, 0},
-    {u"口座名義", 30, 24, 0, 0},
-    {u"代表者フリガナ", 0, 64, 0, 0},
-    {u"代表者氏名", 37, 30, 0, 0},
-    {u"代表者住所", 200, 120, 0, 0},
-    {u"代表者住所フリガナ", 0, 27, 0, 0},
-    {u"代表者金融機関名", 8, 8, 0, 0},
-    {u"代表者本店支店名", 6, 8, 0, 0},
-    {u"代表者郵便局名", 7, 8, 0, 0},
-    {u"代表者口座名義", 30, 24, 0, 0},
+    {claim::employerName, 52, 52, 30, 30},
+    {claim::employerAddress, 52, 52, 30, 30},
+    {claim::insuredKana, 0, 22, 0, 22},
+    {claim::insuredName, 22, 22, 22, 22},
+    {claim::insuredAddressKana, 0, 58, 0, 58},
+    {claim::insuredAddress, 60, 60, 39, 39},
+    {claim::relation, 4, 4, 4, 4},
+    {claim::disease, 50, 50, 50, 50},
+    {claim::diseaseOther, 15, 15, 10, 10},
+    {claim::diseaseNote, 10, 10, 10, 10},
+    {claim::consentDisease, 26, 24, 26, 24},
+    {claim::doctorAddress, 40, 40, 40, 40},
+    {claim::remark[1], 14, 14, 14, 14},
+    {claim::remark[4], 50, 50, 79, 79},
+    {claim::remark[5], 50, 50, 79, 79},
+    {claim::remark[6], 50, 50, 37, 37},
+    {claim::areaCount, 1, 1, 1, 1},
+    {claim::clinicName, 0, 23, 0, 0},
+    {claim::practitionerKana, 0, 64, 0, 0},
+    {claim::clinicAddress, 100, 100, 0, 0},
+    {claim::clinicAddressKana, 0, 41, 0, 0},
+    {claim::bank, 8, 8, 0, 0},
+    {claim::branch, 10, 10, 0, 0},
+    {claim::postOffice, 10, 10, 0, 0},
+    {claim::accountHolder, 30, 24, 0, 0},
+    {claim::agentKana, 0, 64, 0, 0},
+    {claim::agentName, 37, 30, 0, 0},
+    {claim::agentAddress, 200, 120, 0, 0},
+    {claim::agentAddressKana, 0, 27, 0, 0},
+    {claim::agentBank, 8, 8, 0, 0},
+    {claim::agentBranch, 6, 8, 0, 0},
+    {claim::agentPostOffice, 7, 8, 0, 0},
+    {claim::agentAccountHolder, 30, 24, 0, 0},
 };
 
 int limitOf(const LimitRow& row, TrimForm form, bool massage) {
@@ -62,9 +62,10 @@ QString firstCharacters(const QString& text, int limit) {
   return text.left(at);
 }
 
-constexpr const char16_t* kInsurerColumns[] = {
-    u"保険者名称",   u"保険者番号", u"保険者住所",   u"保険証記号1",  u"保険証記号2",   u"保険証番号",
-    u"区市町村番号", u"受給者番号", u"区市町村名称", u"公費負担番号", u"公費受給者番号"};
+constexpr store::Column kInsurerColumns[] = {
+    claim::insurerName,      claim::insurerNumber,   claim::insurerAddress,     claim::cardSymbol1,
+    claim::cardSymbol2,      claim::cardNumber,      claim::municipalityNumber, claim::recipientNumber,
+    claim::municipalityName, claim::publicAidNumber, claim::publicAidRecipient};
 
 }  // namespace
 
@@ -73,27 +74,19 @@ TrimResult trimForPrint(const ClaimRecord& claim, TrimForm form) {
   const bool massage = kindOf(claim.get(claim::treatmentKind)) == Kind::Massage;
   for (const LimitRow& row : kLimits) {
     const int limit = limitOf(row, form, massage);
-    const QString column = columnName(row.column);
-    const QString text = claim.get(column);
+    const QString text = claim.get(row.column);
     if (limit == 0 || text.size() <= limit) continue;
     const QString cut = firstCharacters(text, limit);
     if (cut == text) continue;
-    result.claim.set(column, cut);
-    result.cut.append(column);
+    result.claim.set(row.column, cut);
+    result.cut.append(row.column);
   }
   return result;
 }
 
-int printLimit(const QString& column, TrimForm form, bool massage) {
-  for (const LimitRow& row : kLimits)
-    if (column == row.column) return limitOf(row, form, massage);
-  return 0;
-}
-
 ClaimRecord trimInsurer(const ClaimRecord& claim) {
   ClaimRecord result = claim;
-  for (const char16_t* name : kInsurerColumns) {
-    const QString column = columnName(name);
+  for (const store::Column& column : kInsurerColumns) {
     const QString text = claim.get(column);
     qsizetype begin = 0, end = text.size();
     while (begin < end && text[begin] == u' ') ++begin;

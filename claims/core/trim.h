@@ -12,15 +12,12 @@ enum class TrimForm { Claim, TreatmentRecord };
 
 struct TrimResult {
   ClaimRecord claim;
-  QStringList cut;  ///< columns that were cut, in the order of the table
+  QStringList cut;  ///< names of the columns that were cut, in the order of the table
 };
 
 /// Cuts over-long texts to what the form prints, by the kind of the claim (施術内容 あマ: massage). Lengths
 /// are counted in characters.
 TrimResult trimForPrint(const ClaimRecord& claim, TrimForm form);
-
-/// The limit of a column in characters; 0: none.
-int printLimit(const QString& column, TrimForm form, bool massage);
 
 /// Blanks around the insurer's fields taken off, as the store does for 全国健康保険協会, 共済, 組合, 社保.
 ClaimRecord trimInsurer(const ClaimRecord& claim);

@@ -1,6 +1,12 @@
 #include "claims/screens/claim_choice_screen.h"
 
+#include <array>
+#include <utility>
+
 #include "claims/core/claim_file.h"
+#include "frame/core/routes.h"
+#include "platform/screen/declare.h"
+#include "platform/text/utf16.h"
 
 namespace claims {
 namespace {
@@ -12,15 +18,13 @@ constexpr const char16_t* kMassage = u"あマ";
 constexpr const char16_t* kFamily = u"家族";
 constexpr const char16_t* kNotHead = u"世帯主でない本人";
 
-constexpr Choice kInsurance[] = {
-    {.name = {u"Option1", 0}, .caption = u"全国健康保険協会", .value = u"全国健康保険協会"},
-    {.name = {u"Option1", 1}, .caption = u"共済", .value = u"共済"},
-    {.name = {u"Option1", 2}, .caption = u"組合", .value = u"組合"},
-    {.name = {u"Option1", 3}, .caption = u"国保", .value = u"国保"},
-    {.name = {u"Option1", 4}, .caption = u"退職国保", .value = u"退職国保"},
-    {.name = {u"Option1", 5}, .caption = u"特別国保", .value = u"特別国保"},
-    {.name = {u"Option1", 6}, .caption = u"後期高齢", .value = u"後期高齢"},
-};
+template <std::size_t... Index>
+consteval auto insuranceChoices(std::index_sequence<Index...>) {
+  return std::array{Choice{.name = {u"Option1", int(Index)},
+                           .caption = kNewClaimInsurance[Index],
+                           .value = kNewClaimInsurance[Index]}...};
+}
+constexpr auto kInsurance = insuranceChoices(std::make_index_sequence<kNewClaimInsurance.size()>());
 constexpr Choice kTreatment[] = {
     {.name = {u"Option2", 0}, .caption = u"鍼灸治療", .value = u"鍼灸"},
     {.name = {u"Option2", 1}, .caption = u"マッサージ治療", .value = kMassage},
@@ -48,20 +52,26 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kScreen{
-    .name = u"レセプト選択", .caption = u"選択チェック", .rows = kRows, .heading = u"選択チェック"};
+constexpr ScreenRow kScreen = declare({.name = routes::ClaimChoice::screen,
+                                       .caption = u"選択チェック",
+                                       .rows = kRows,
+                                       .heading = u"選択チェック"});
+
+constexpr ControlRef kInsuranceGroup = ref(kRows, u"Frame1");
+constexpr ControlRef kTreatmentGroup = ref(kRows, u"Frame2");
+constexpr ControlRef kHolderGroup = ref(kRows, u"Frame3");
 
 }  // namespace
 
 ClaimChoiceScreen::ClaimChoiceScreen(screen::Services& services, frame::RunState& run, ClaimsState& state)
     : Screen(kScreen, services), m_run(run), m_state(state) {}
 
-void ClaimChoiceScreen::opened(const screen::Request&) { focusOn("Option1(0)"); }
+void ClaimChoiceScreen::opened(const screen::Request&) { focusOn(ref(kRows, u"Option1", 0)); }
 
 std::optional<NewClaimChoice> ClaimChoiceScreen::choice() const {
-  const QString insurance = chosen("Frame1");
-  const QString treatment = chosen("Frame2");
-  const QString holder = chosen("Frame3");
+  const QString insurance = chosen(kInsuranceGroup);
+  const QString treatment = chosen(kTreatmentGroup);
+  const QString holder = chosen(kHolderGroup);
   if (insurance.isEmpty() || treatment.isEmpty() || holder.isEmpty()) return std::nullopt;
   NewClaimChoice answer;
   answer.insurance = insurance;
@@ -74,8 +84,8 @@ std::optional<NewClaimChoice> ClaimChoiceScreen::choice() const {
 
 // The focus goes to the first group without an answer, so that the ear finds what is missing.
 void ClaimChoiceScreen::tellUnanswered() {
-  messages().tell(QString::fromUtf16(kAsk));
-  for (const char* group : {"Frame1", "Frame2", "Frame3"})
+  messages().tell(text::utf16(kAsk));
+  for (const ControlRef& group : {kInsuranceGroup, kTreatmentGroup, kHolderGroup})
     if (chosen(group).isEmpty()) return focusOn(group);
 }
 
@@ -83,13 +93,13 @@ void ClaimChoiceScreen::accept() {
   const auto answer = choice();
   if (!answer) return tellUnanswered();
   auto file = ClaimFile::open(m_run.folders);
-  const auto id = file ? file->add(newClaim(m_state.newClaim.columns(), *answer, m_run.profile))
+  const auto id = file ? file->add(newClaim(m_state.newClaim, *answer, m_run.profile))
                        : text::Result<qint64>(file.fault());
   if (!id) {
     messages().tellDataFault(id.fault().message);
     return;
   }
-  navigator().show(QStringLiteral("frmレセプトフォーム"), {{"ID", QString::number(*id)}});
+  navigator().show(routes::ClaimForm{.id = *id, .opener = {}});
   close();
 }
 

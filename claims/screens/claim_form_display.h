@@ -12,10 +12,9 @@ class ClaimFormDisplay final : public ClaimOnDisplay {
   explicit ClaimFormDisplay(ClaimFormScreen& form) : m_form(form) {}
 
   ClaimRecord record() const override;
-  QSet<QString> checks() const override;
-  void trimForPrint() override;
+  FormTicks checks() const override;
   quintptr window() const override;
-  void put(const QString& column, const QString& text) override;
+  void put(const store::Column& column, const QString& text) override;
 
  private:
   ClaimFormScreen& m_form;

@@ -1,26 +1,41 @@
 #include "claims/core/area_boxes.h"
 #include "claims/core/day_codes.h"
 #include "claims/core/new_claim.h"
-#include "claims/screens/claim_form_screen.h"
+#include "claims/screens/claim_form_consent_rows.h"
+#include "claims/screens/claim_form_head_rows.h"
+#include "claims/screens/claim_form_insurance_rows.h"
 #include "claims/screens/claim_form_texts.h"
+#include "claims/screens/claim_form_treatment_rows.h"
 #include "frame/core/routes.h"
-#include "platform/store/tables/claims.h"
+#include "platform/text/utf16.h"
 
 // Fields of the form: checks on leaving, siblings of the lists, ticks with a word of their own.
 
 namespace claims {
 
+using form::on;
+using screen::ref;
+using text::utf16;
+
 namespace {
 
-QString member(const char16_t* family, int index) {
-  return QStringLiteral("%1(%2)").arg(QString::fromUtf16(family)).arg(index);
-}
+constexpr screen::FamilyRef kCodes = screen::family(form::kTreatment, u"Text5");
+constexpr screen::FamilyRef kVisits = screen::family(form::kTreatment, u"Text6");
+constexpr screen::ControlRef kAreasNote = ref(form::kConsent, u"LabelAreas");
+constexpr screen::ControlRef kItemsOnly = ref(form::kHead, u"Check13");
+constexpr screen::ControlRef kReport = on(form::kTreatment, claim::report);
+constexpr screen::ControlRef kReceivers[] = {on(form::kConsent, claim::consentToPractitioner),
+                                             on(form::kConsent, claim::consentToPatient)};
+constexpr screen::ControlRef kPrintedInsurance = on(form::kInsurance, claim::printedInsurance);
+constexpr screen::ControlRef kInsurerName = on(form::kInsurance, claim::insurerName);
+constexpr screen::ControlRef kInsurerNumber = on(form::kInsurance, claim::insurerNumber);
+constexpr screen::ControlRef kDoctorName = on(form::kConsent, claim::doctorName);
 
 /// Dates that 西暦 and 和暦 turn. 生年月日 of the patient register stays: it joins the claim to the patient.
-constexpr const char16_t* kDates[] = {u"被保険者の生年月日", u"療養を受ける者の生年月日", u"初療年月日",
-                                      u"同意の年月日", u"実際の同意の年月日"};
+constexpr store::Column kDates[] = {claim::insuredBirth, claim::treatedBirth, claim::firstTreatment,
+                                    claim::consentDateKept, claim::consentDate};
 
-/// Whether the days of the month hold more than one number of massage areas.
+/// Whether the days of the month have more than one number of massage areas.
 bool areasDiffer(const ClaimRecord& claim) {
   QSet<int> numbers;
   for (int number = 1; number <= 5; ++number)
@@ -33,16 +48,15 @@ bool areasDiffer(const ClaimRecord& claim) {
 
 }  // namespace
 
-void ClaimFormScreen::codeLeft(int index) {
-  const QString message =
-      codeEntryMessage(text(member(u"Text5", index)), kindOf(m_read.get(claim::treatmentKind)));
+void ClaimFormScreen::codeLeft(int day) {
+  const QString message = codeEntryMessage(text(kCodes[day]), kindOf(m_read.get(claim::treatmentKind)));
   if (message.isNull()) return;
   keepFocus();
   messages().tell(message);
 }
 
-void ClaimFormScreen::visitLeft(int index) {
-  const QString message = visitEntryMessage(text(member(u"Text6", index)), m_flags.isAfter202410);
+void ClaimFormScreen::visitLeft(int day) {
+  const QString message = visitEntryMessage(text(kVisits[day]), m_flags.isAfter202410);
   if (message.isNull()) return;
   keepFocus();
   messages().tell(message);
@@ -56,44 +70,47 @@ void ClaimFormScreen::gridEdited() {
 void ClaimFormScreen::refillBoxes() {
   if (kindOf(m_read.get(claim::treatmentKind)) != Kind::Massage) return;
   const AreaBoxes boxes = areaBoxes(record());
-  for (int i = 0; i < int(boxes.areas.size()); ++i) setText(member(u"Text31", i), boxes.areas[size_t(i)]);
-  for (int i = 0; i < int(boxes.limbs.size()); ++i) setText(member(u"Text41", i), boxes.limbs[size_t(i)]);
+  const auto fill = [this](const auto& counts, const store::Series& columns) {
+    for (size_t i = 0; i < counts.size(); ++i) put(columns[columns.first() + int(i)], counts[i]);
+  };
+  fill(boxes.areas, claim::areaDays);
+  fill(boxes.limbs, claim::limbDays);
   applyAreaWarning(true);
 }
 
 void ClaimFormScreen::applyAreaWarning(bool spoken) {
-  const QString label = QStringLiteral("LabelAreas");
   const ClaimRecord claim = record();
-  const bool holds = kindOf(claim.get(claim::treatmentKind)) == Kind::Massage && areasDiffer(claim);
-  if (holds && spoken && !isControlShown(label)) voice().speakText(caption(label));
-  setShown(label, holds);
+  const bool differ = kindOf(claim.get(claim::treatmentKind)) == Kind::Massage && areasDiffer(claim);
+  if (differ && spoken && !isControlShown(kAreasNote)) voice().speakText(caption(kAreasNote));
+  setShown(kAreasNote, differ);
 }
 
 void ClaimFormScreen::insurerNumberLeft() {
-  const QString message =
-      insurerNumberMessage(text(QStringLiteral("Combo1(1)")), text(QStringLiteral("Combo1(4)")));
+  const QString message = insurerNumberMessage(text(kPrintedInsurance), text(kInsurerNumber));
   if (!message.isNull()) messages().tell(message);
 }
 
 void ClaimFormScreen::insurerNameChosen() {
-  fillSiblings(3, u"保険者名称", kInsurerRegister, m_lists.insurers);
+  fillSiblings(kInsurerName, claim::insurerName, kInsurerRegister, m_lists.insurers);
 }
 
 void ClaimFormScreen::insurerNumberChosen() {
-  fillSiblings(4, u"保険者番号", kInsurerRegister, m_lists.insurers);
+  fillSiblings(kInsurerNumber, claim::insurerNumber, kInsurerRegister, m_lists.insurers);
 }
 
-void ClaimFormScreen::doctorChosen() { fillSiblings(24, u"同意医師氏名", kDoctorRegister, m_lists.doctors); }
+void ClaimFormScreen::doctorChosen() {
+  fillSiblings(kDoctorName, claim::doctorName, kDoctorRegister, m_lists.doctors);
+}
 
 // The list position decides: two entries of one name are two rows of the register.
-void ClaimFormScreen::fillSiblings(int combo, const char16_t* column, const Register& list,
-                                   const RegisterRows& rows) {
-  const int position = chosenItem(member(u"Combo1", combo));
+void ClaimFormScreen::fillSiblings(const screen::ControlRef& list, const store::Column& column,
+                                   const Register& from, const RegisterRows& rows) {
+  const int position = chosenItem(list);
   if (position < 0 || position >= rows.size()) return;  // typed, or the sentence of an empty register
   QStringList brought;
-  for (size_t field = 0; field < list.fields.size(); ++field) {
-    const QString sibling = QString::fromUtf16(list.fields[field].claimColumn);
-    if (sibling == QStringView(column)) continue;
+  for (size_t field = 0; field < from.fields.size(); ++field) {
+    const store::Column& sibling = from.fields[field].claimColumn;
+    if (sibling == column) continue;
     const QString value = rows[position][qsizetype(field)];
     put(sibling, value);
     if (!value.isEmpty()) brought << value;
@@ -104,41 +121,37 @@ void ClaimFormScreen::fillSiblings(int combo, const char16_t* column, const Regi
 }
 
 void ClaimFormScreen::consentReceiverToggled() {
-  if (!checked(QStringLiteral("chkFields(20)")) && !checked(QStringLiteral("chkFields(21)")))
-    messages().tell(QString::fromUtf16(kConsentTicksMessage));
+  if (!checked(kReceivers[0]) && !checked(kReceivers[1])) messages().tell(utf16(kConsentTicksMessage));
 }
 
 void ClaimFormScreen::reportToggled() {
-  if (checked(QStringLiteral("Check11"))) messages().tell(QString::fromUtf16(kReportTickMessage));
+  if (checked(kReport)) messages().tell(utf16(kReportTickMessage));
 }
 
 void ClaimFormScreen::itemsOnlyToggled() {
-  if (checked(QStringLiteral("Check13")) && !m_run.itemsOnlyNoteSilenced)
-    navigator().show(routes::ItemsOnlyNote{});
+  if (checked(kItemsOnly) && !m_run.itemsOnlyNoteSilenced) navigator().show(routes::ItemsOnlyNote{});
 }
 
 void ClaimFormScreen::datesToWestern() {
   convertDates(&frame::EraDates::seireki);
-  voice().speakText(QString::fromUtf16(says::kWesternDone));
+  voice().speakText(utf16(says::kWesternDone));
 }
 
 void ClaimFormScreen::datesToEra() {
   convertDates(&frame::EraDates::wareki);
-  voice().speakText(QString::fromUtf16(says::kEraDone));
+  voice().speakText(utf16(says::kEraDone));
 }
 
 void ClaimFormScreen::convertDates(QString (frame::EraDates::*conversion)(const QString&) const) {
   const frame::EraDates era = m_run.eraDates();
   const ClaimRecord claim = record();
-  for (const char16_t* date : kDates) {
-    const QString column = QString::fromUtf16(date);
-    if (!claim.blank(column)) put(column, (era.*conversion)(claim.get(column)));
-  }
+  for (const store::Column& date : kDates)
+    if (!claim.blank(date)) put(date, (era.*conversion)(claim.get(date)));
 }
 
 void ClaimFormScreen::clearAgent() {
-  if (!messages().ask(QString::fromUtf16(says::kClearAgentQuestion))) return;
-  for (const char16_t* column : representativeColumns()) put(QString::fromUtf16(column), QString());
+  if (!messages().ask(utf16(says::kClearAgentQuestion))) return;
+  for (const store::Column& column : representativeColumns()) put(column, QString());
 }
 
 }  // namespace claims

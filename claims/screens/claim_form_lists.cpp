@@ -1,19 +1,18 @@
 #include "claims/screens/claim_form_lists.h"
 
 #include "claims/core/form_lists.h"
+#include "platform/text/utf16.h"
 
 namespace claims {
 
 namespace {
 
-/// The column's values in the order of the rows; an empty register says so where it has a sentence.
-QStringList listed(const Register& list, const RegisterRows& rows, const char16_t* column,
+/// A column's values in the order of the rows; an empty register says so where it has a sentence.
+QStringList listed(const Register& list, const RegisterRows& rows, const store::Column& column,
                    const char16_t* whenEmpty) {
   QStringList items;
-  for (size_t field = 0; field < list.fields.size(); ++field)
-    if (QStringView(list.fields[field].column) == QStringView(column))
-      for (const QStringList& row : rows) items << row[qsizetype(field)];
-  if (items.isEmpty() && whenEmpty != nullptr) items << QString::fromUtf16(whenEmpty);
+  for (const QStringList& row : rows) items << row[list.fieldOf(column)];
+  if (items.isEmpty() && whenEmpty != nullptr) items << text::utf16(whenEmpty);
   return items;
 }
 
@@ -34,19 +33,19 @@ ClaimFormLists ClaimFormLists::read(const frame::DataFolders& folders) {
 }
 
 QStringList ClaimFormLists::doctorNames() const {
-  return listed(kDoctorRegister, doctors, u"氏名", list::kNoDoctors);
+  return listed(kDoctorRegister, doctors, ::doctors::name, list::kNoDoctors);
 }
 QStringList ClaimFormLists::hospitals() const {
-  return listed(kDoctorRegister, doctors, u"病院名", list::kNoDoctors);
+  return listed(kDoctorRegister, doctors, ::doctors::hospital, list::kNoDoctors);
 }
 QStringList ClaimFormLists::insurerNames() const {
-  return listed(kInsurerRegister, insurers, u"名称", list::kNoInsurerNames);
+  return listed(kInsurerRegister, insurers, ::insurers::name, list::kNoInsurerNames);
 }
 QStringList ClaimFormLists::insurerNumbers() const {
-  return listed(kInsurerRegister, insurers, u"番号", list::kNoInsurerNumbers);
+  return listed(kInsurerRegister, insurers, ::insurers::number, list::kNoInsurerNumbers);
 }
 QStringList ClaimFormLists::insurerAddresses() const {
-  return listed(kInsurerRegister, insurers, u"所在地", nullptr);
+  return listed(kInsurerRegister, insurers, ::insurers::address, nullptr);
 }
 
 }  // namespace claims

@@ -2,17 +2,20 @@
 #include "claims/core/carry_forward.h"
 #include "claims/screens/claim_form_screen.h"
 #include "claims/screens/claim_form_texts.h"
-#include "platform/store/tables/claims.h"
+#include "claims/screens/preview_screen.h"
+#include "frame/core/routes_unbuilt.h"
+#include "platform/text/utf16.h"
 
 // Calculation, carry-forward and the print buttons.
 
 namespace claims {
 
+using text::utf16;
+
 void ClaimFormScreen::closePreview() {
-  for (const PreviewRow& preview : kPreviews)
-    if (const QString name = columnName(preview.screen); navigator().loaded(name) != nullptr)
+  for (const screen::ScreenRow& preview : previewScreens())
+    if (const QString name = utf16(preview.name.get()); navigator().loaded(name) != nullptr)
       navigator().unload(name);
-  m_state.previewKind = 0;
 }
 
 void ClaimFormScreen::previewFees() {
@@ -21,9 +24,7 @@ void ClaimFormScreen::previewFees() {
   if (!mayLeave()) return;
   closePreview();
   const Preview preview = previewOf(kindOf(m_read.get(claim::treatmentKind)), m_flags.month);
-  if (preview == Preview::None) return;
-  m_state.previewKind = static_cast<int>(preview);
-  navigator().show(previewScreen(preview));
+  if (preview != Preview::None) navigator().show(previewScreen(preview));
 }
 
 void ClaimFormScreen::carryForward() {
@@ -42,10 +43,10 @@ void ClaimFormScreen::carryForward() {
   if (showClaim(added.value())) announce();
 }
 
-void ClaimFormScreen::printAcupuncture() { print(1); }
-void ClaimFormScreen::printMassage() { print(2); }
+void ClaimFormScreen::printAcupuncture() { print(PrintKind::Acupuncture); }
+void ClaimFormScreen::printMassage() { print(PrintKind::Massage); }
 
-void ClaimFormScreen::print(int kind) {
+void ClaimFormScreen::print(PrintKind kind) {
   if (m_id == 0) return;
   applyMonth();
   if (!mayLeave()) return;
@@ -55,8 +56,9 @@ void ClaimFormScreen::print(int kind) {
     trimTexts();
   }
   m_state.printKind = kind;
-  const QString name = m_state.choosePrintScreen ? m_state.choosePrintScreen(record(), checks()) : QString();
-  if (name.isEmpty()) return messages().tell(QString::fromUtf16(says::kNoPrintScreen));
+  const QString name =
+      m_state.printing != nullptr ? m_state.printing->screenOf(record(), checks()) : QString();
+  if (name.isEmpty()) return messages().tell(utf16(says::kNoPrintScreen));
   navigator().show(name);
 }
 
@@ -64,12 +66,12 @@ void ClaimFormScreen::printRecord() {
   if (m_id == 0) return;
   applyMonth();
   if (!mayLeave()) return;
-  navigator().show(m_flags.isAfter202410 ? QStringLiteral("施術録単体印刷2024")
-                                         : QStringLiteral("施術録単体印刷"));
+  navigator().show(m_flags.isAfter202410 ? routes::unbuilt::TreatmentRecord2024::screen
+                                         : routes::unbuilt::TreatmentRecord::screen);
 }
 
 void ClaimFormScreen::printerOptions() {
-  if (m_state.printerSetup) m_state.printerSetup(winId());
+  if (m_state.printing != nullptr) m_state.printing->setUpPrinter(winId());
 }
 
 }  // namespace claims

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/screen/rows.h"
+#include "platform/screen/declare.h"
 
-// The rows of the claim form, one table a page. The short makers below keep a page readable as a table:
-// control, caption, column.
+// The rows of the claim form are one table a page, claim_form_<page>_rows.h. The short makers below keep a
+// page readable as a table: control, caption, column.
 
 namespace claims {
 
@@ -61,19 +61,37 @@ constexpr screen::Check flag(screen::ControlName name, screen::Words caption, sc
 
 }  // namespace rows
 
-// In the order of the screen.
-screen::Rows claimHeadRows();           ///< name, month, kind and the commands, above the pages
-screen::Rows claimInsuranceRows();      ///< page 保険証
-screen::Rows claimConsentRows();        ///< page 同意書
-screen::Rows claimTreatmentRows();      ///< page 治療
-screen::Rows claimVisitTableRows();     ///< page 治療, the rows of 往療内訳
-screen::Rows claimPrintsRows();         ///< page 各種印刷
-screen::Rows claimPrintSettingsRows();  ///< page 印刷設定
-screen::Rows claimHistoryRows();        ///< page 既往症
-screen::Rows claimReserveRows();        ///< page 既往症, the reserve columns
-screen::Rows claimApplicantRows();      ///< page 申請者の確認
+namespace form {
+
+namespace detail {
+
+/// The name of the control that a row binds to the column; nullptr: it binds none.
+constexpr const screen::ControlName* nameBound(const screen::Row& row, const store::Column& column) {
+  return std::visit(
+      [&column](const auto& kind) -> const screen::ControlName* {
+        if constexpr (requires { kind.bind; }) {
+          if (kind.bind.count() == 1 && kind.bind.table() == &column.table() &&
+              store::detail::equal(kind.bind.column(), column.name()))
+            return &kind.name;
+        }
+        return nullptr;
+      },
+      row);
+}
+
+}  // namespace detail
+
+/// The control of a page that is bound to a column. A column that the page lacks does not compile.
+consteval screen::ControlRef on(screen::Rows page, const store::Column& column) {
+  for (const screen::Row& row : page)
+    if (const screen::ControlName* name = detail::nameBound(row, column))
+      return screen::ref(page, name->family(), name->index());
+  throw "no control of the page is bound to the column";
+}
+
+}  // namespace form
 
 /// The whole screen.
-const screen::ScreenRow& claimFormDeclaration();
+extern const screen::ScreenRow kClaimFormScreen;
 
 }  // namespace claims

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QStringList>
-#include <QVector>
 #include <optional>
 
 #include "claims/core/amounts.h"
@@ -11,24 +10,21 @@
 #include "claims/core/claims_state.h"
 #include "claims/core/fee_source.h"
 #include "claims/core/rule_dates.h"
-#include "claims/screens/claim_form_columns.h"
 #include "claims/screens/claim_form_display.h"
 #include "claims/screens/claim_form_lists.h"
 #include "frame/core/run_state.h"
-#include "platform/screen/screen.h"
+#include "platform/screen/declare.h"
+#include "platform/screen/record_screen.h"
 
 namespace claims {
 
 /// frmレセプトフォーム (caption 保険申請): the one place where a claim is read, changed, computed and sent to
 /// printing. Source 1 is the first half, source 2 the second; both show the claim of one ID.
 ///
-/// Opened with Request{"ID": number}, and "opener": the screen that gets the focus back at store and close
-/// (治療台帳3), blank for the claim list.
-///
 /// Two dirty marks guard it: checkChanged (a bound tick or option) and treatmentChanged (the day grid).
-/// While one stands, nothing but 登録 and 削除 goes on. Edits of text fields set neither; they are written by
+/// While one is set, nothing but 登録 and 削除 goes on. Edits of text fields set neither; they are written by
 /// 登録 and lost when the record is left.
-class ClaimFormScreen : public screen::Screen {
+class ClaimFormScreen : public screen::RecordScreen {
  public:
   ClaimFormScreen(screen::Services& services, frame::RunState& run, ClaimsState& state);
   ~ClaimFormScreen() override;
@@ -37,27 +33,23 @@ class ClaimFormScreen : public screen::Screen {
   void onLoad() override;
   void opened(const screen::Request& request) override;
   bool onCloseBox() override;
-  void goFirst() override;
-  void goPrevious() override;
-  void goNext() override;
-  void goLast() override;
+  void removeRow() override;
   void closeForm();
-  void removeClaim();
 
   // What the form shows: claim_form_show.cpp.
-  /// The claim as it stands on the form, columns of both halves.
+  /// The claim as the form shows it, columns of both halves.
   ClaimRecord record() const;
-  /// Names of the unbound ticks that are set.
-  QSet<QString> checks() const;
-  /// Puts a text into the field of a column, as the helper windows do; unknown columns are left.
-  void put(const QString& column, const QString& text);
+  /// The ticks for printing.
+  FormTicks checks() const;
+  /// Puts a text into the field of a column, as the helper windows do; a column without a field is left out.
+  void put(const store::Column& column, const QString& text);
   const MonthFlags& flags() const { return m_flags; }
   bool treatmentChanged() const { return m_treatmentChanged; }
   void monthLeft();
   void visitTableToggled();
 
   // Store: claim_form_store.cpp.
-  void store();
+  void storeRow() override;
   void trimTexts();
   void printSettingChosen(int index);
 
@@ -91,25 +83,49 @@ class ClaimFormScreen : public screen::Screen {
   void openVisitTable();
   void openReasons();
   void openPictureChart();
-  /// Opens the screen that belongs to the running command.
-  void openBeside();
+  /// Opens a helper screen on the claim on display.
+  template <screen::Route R>
+  void openOnClaim() {
+    if (m_id == 0) return;
+    R route;
+    route.claim = m_id;
+    navigator().show(route);
+  }
+  /// The same of a screen that prints: the dirty marks stop it, as all printing.
+  template <screen::Route R>
+  void openToPrint() {
+    if (m_id != 0 && !dirty()) openOnClaim<R>();
+  }
+  /// Opens a register with what the claim shows.
+  template <screen::Route R>
+  void openRegister() {
+    if (m_id != 0) navigator().show(R{.fromClaim = true});
+  }
   void speakPrintGuide();
+
+ protected:
+  QStringList rowInWords() const override;
+  bool readyToMove() override { return m_id != 0 && mayLeave(); }
+  void moveRow(const screen::RowMove& move) override;
+  void rowReached() override { showPair(); }
 
  private:
   // Showing.
   bool openSources();
   void fillLists();
   bool showClaim(qint64 id);
-  bool showSecond();
-  void showPair();
-  void takeValuesOfShow();
+  /// The second half of the claim, made where it is missing. None: a fault was reported.
+  std::optional<store::RecordSet> secondHalf(qint64 id);
+  /// Shows the claim of source 1. False: it cannot be read, which is reported; the form is as it was.
+  bool showPair();
+  void applyDefaultsOnShow();
   void applyKind();
   void applyMonth();
   void applyVisitTable();
   void applyPrintDefaults();
   void showNothing();
 
-  // Guards. Each tells its message itself.
+  // Guards. Each reports by its message.
   /// True where a dirty mark stops an action; checkChanged is tested first.
   bool dirty();
   bool checkedFast();
@@ -121,27 +137,32 @@ class ClaimFormScreen : public screen::Screen {
   // Store.
   bool writeClaim(const ClaimRecord& stored);
   void sayStored(const ClaimAmounts& amounts);
+  /// Puts what differs into the fields, where it counts as typed.
+  void putChanges(const ClaimRecord& before, const ClaimRecord& after);
   void markCut(const QStringList& cut);
 
-  void step(void (store::RecordSet::*move)());
-  void announce();
-  void print(int kind);
+  void announce() { voice().speakHeading(rowInWords()); }
+  void print(PrintKind kind);
   void closePreview();
   /// Shows the warning on differing numbers of areas where it holds; spoken when it comes up by an edit.
   void applyAreaWarning(bool spoken);
-  /// A window that stands alone; refused while one of its kind is open, and for months before 2018/10
-  /// where `since201810`.
-  void openSingle(const QString& name, bool since201810);
+  /// Whether a window of which only one may be open can be opened: refused, with a message, while one of them
+  /// is, and for months before 2018/10 where `since201810`.
+  bool mayOpenSingle(screen::ScreenName name, bool since201810);
+  template <screen::Route R>
+  void openSingle(const R& route, bool since201810) {
+    if (mayOpenSingle(R::screen, since201810)) navigator().show(route);
+  }
   void convertDates(QString (frame::EraDates::*conversion)(const QString&) const);
-  /// Fills the fields beside a list from the register row behind the chosen entry; the list itself stays
-  /// where it is, so that two entries of one text are told apart.
-  void fillSiblings(int combo, const char16_t* column, const Register& list, const RegisterRows& rows);
-  void leaveTo(const QString& screenName);
+  /// Fills the other fields of a register's row from the entry chosen in a list; the list itself stays as it
+  /// is, so that two entries of one text are told apart.
+  void fillSiblings(const screen::ControlRef& list, const store::Column& column, const Register& from,
+                    const RegisterRows& rows);
+  void leaveTo(std::optional<screen::ScreenName> next);
 
   frame::RunState& m_run;
   ClaimsState& m_state;
   ClaimFormDisplay m_display;
-  const QVector<BoundControl> m_controls;
   std::optional<ClaimFile> m_file;
   store::RecordSet m_secondAll;  ///< whole second half, of which source 2 shows one row
   StoredFees m_fees;
@@ -149,7 +170,7 @@ class ClaimFormScreen : public screen::Screen {
   ClaimRecord m_read;  ///< the claim on display as it was read
   qint64 m_id = 0;     ///< 0: no claim on display
   MonthFlags m_flags;
-  QString m_opener;
+  std::optional<screen::ScreenName> m_opener;  ///< none: the claim list
   bool m_treatmentChanged = false;
   bool m_carried = false;  ///< 翌月へ継続 was done since this form was opened
 };

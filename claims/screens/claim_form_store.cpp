@@ -1,23 +1,37 @@
 #include "claims/core/claim_store.h"
 #include "claims/core/trim.h"
 #include "claims/screens/claim_form_screen.h"
+#include "claims/screens/claim_form_settings_rows.h"
 #include "claims/screens/claim_form_texts.h"
-#include "platform/store/tables/claims.h"
+#include "frame/core/routes.h"
+#include "platform/screen/bound_values.h"
+#include "platform/screen/control_book.h"
 #include "platform/text/number.h"
+#include "platform/text/utf16.h"
 
 // 登録: checks, trimming, question, then both halves in one transaction.
 
 namespace claims {
 
-void ClaimFormScreen::store() {
+using namespace Qt::StringLiterals;
+using ::text::utf16;
+
+namespace {
+
+constexpr screen::FamilyRef kSettings = screen::family(form::kPrintPage, u"FrameSet");
+
+}  // namespace
+
+void ClaimFormScreen::storeRow() {
   if (m_id == 0) return;
   applyMonth();
   if (!checkedFull()) return;
   if (storeTrims(record().get(claim::insuranceKind))) {
-    showRecord(*this, m_controls, trimInsurer(record()));
+    const ClaimRecord typed = record();
+    putChanges(typed, trimInsurer(typed));
     trimTexts();
   }
-  if (!messages().ask(QString::fromUtf16(says::kStoreQuestion), screen::Buttons::YesNo)) return;
+  if (!messages().ask(utf16(says::kStoreQuestion), screen::Buttons::YesNo)) return;
 
   const frame::EraDates era = m_run.eraDates();
   const FeeFiles files(m_run.programFolder, m_run.folders);
@@ -29,18 +43,16 @@ void ClaimFormScreen::store() {
   showClaim(m_id);
   if (stored.calculation) messages().tellDataFault(stored.calculation->message);
   sayStored(stored.amounts);
-  if (m_opener == u"治療台帳3" && navigator().loaded(m_opener)) navigator().show(m_opener);
+  if (m_opener == routes::VisitLedger::screen && navigator().loaded(*m_opener)) navigator().show(*m_opener);
 }
 
 void ClaimFormScreen::sayStored(const ClaimAmounts& amounts) {
-  QStringList parts{QString::fromUtf16(says::kStored)};
+  QStringList parts{utf16(says::kStored)};
   if (amounts.regime != Regime::None) {
     const std::pair<const char16_t*, qint64> sums[] = {
         {u"合計", amounts.total}, {u"一部負担金", amounts.share}, {u"請求額", amounts.claim}};
     for (const auto& [name, yen] : sums)
-      parts << QStringLiteral("%1 %2円")
-                   .arg(QString::fromUtf16(name))
-                   .arg(yen == 0 ? QStringLiteral("0") : ::text::thousands(yen));
+      parts << u"%1 %2円"_s.arg(utf16(name)).arg(yen == 0 ? u"0"_s : ::text::thousands(yen));
   }
   voice().speakText(parts.join(voice::kSpeechSeparator));
 }
@@ -52,30 +64,34 @@ bool ClaimFormScreen::writeClaim(const ClaimRecord& stored) {
 }
 
 void ClaimFormScreen::trimTexts() {
-  const TrimResult result = trimForPrint(record(), TrimForm::Claim);
-  showRecord(*this, m_controls, result.claim, QSet<QString>(result.cut.begin(), result.cut.end()));
+  const ClaimRecord typed = record();
+  const TrimResult result = trimForPrint(typed, TrimForm::Claim);
+  putChanges(typed, result.claim);
   markCut(result.cut);
-  if (!result.cut.isEmpty()) messages().tell(QString::fromUtf16(kTrimMessage));
+  if (!result.cut.isEmpty()) messages().tell(utf16(kTrimMessage));
+}
+
+void ClaimFormScreen::putChanges(const ClaimRecord& before, const ClaimRecord& after) {
+  for (auto it = after.columns().cbegin(); it != after.columns().cend(); ++it) {
+    if (it.value() == before.named(it.key())) continue;
+    if (screen::Control* control = screen::controlOf(*this, it.key(), {1, 2})) control->putText(it.value());
+  }
 }
 
 void ClaimFormScreen::markCut(const QStringList& cut) {
-  for (const BoundControl& bound : m_controls)
-    if (bound.kind == BoundControl::Kind::Text) {
-      const bool red = cut.contains(bound.column);
-      if (red != isCaptionRed(bound.control)) setCaptionRed(bound.control, red);
+  for (const int half : {1, 2})
+    for (screen::Control* control : controls().boundTo(half)) {
+      const bool red = cut.contains(control->column());
+      if (red != control->isRed()) control->setRed(red);
     }
 }
 
 void ClaimFormScreen::printSettingChosen(int index) {
   if (m_id == 0) return;
-  const QString control = QStringLiteral("FrameSet(%1)").arg(index);
-  for (const BoundControl& bound : m_controls) {
-    if (bound.control != control) continue;
-    ClaimRecord changed = m_read;
-    changed.set(bound.column, chosen(control));
-    if (writeClaim(changed)) m_read = changed;
-    return;
-  }
+  const screen::Control* group = controls().find(kSettings[index]);
+  ClaimRecord changed = m_read;
+  changed.setNamed(group->column(), group->stored());
+  if (writeClaim(changed)) m_read = changed;
 }
 
 }  // namespace claims

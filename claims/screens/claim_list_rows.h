@@ -1,10 +1,162 @@
 #pragma once
 
-#include "platform/screen/rows.h"
+#include "claims/core/list_keys.h"
+#include "claims/screens/claim_list_screen.h"
+#include "frame/core/routes.h"
+#include "frame/core/routes_unbuilt.h"
+#include "platform/screen/declare.h"
+#include "platform/screen/opens.h"
 
-namespace claims {
+// The rows of レセプト一覧表, for its screen alone.
 
-/// The declared screen レセプト一覧表.
-extern const screen::ScreenRow kClaimListScreen;
+namespace claims::claim_list {
 
-}  // namespace claims
+using namespace screen;
+
+inline constexpr const char16_t* kMenu = u"メニュー(&M)";
+
+inline constexpr GridColumn kColumns[] = {
+    {claim::month, u"申請年月"},
+    {claim::name, u"氏名"},
+    {claim::treatmentKind, u"施術内容"},
+    {claim::insuranceKind, u"保険の種類"},
+    {claim::requestKind, u"請求区分"},
+    {claim::total, u"合計"},
+    {claim::share, u"一部負担金"},
+    {claim::claimed, u"請求額"},
+    {claim::birth, u"生年月日"},
+    {claim::insurerNumber, u"保険者番号"},
+    {claim::insurerName, u"保険者名称"},
+    {claim::cardNumber1, u"保険証番号1"},
+    {claim::insuredKana, u"被保険者のフリガナ"},
+    {claim::insuredName, u"被保険者の氏名"},
+    {claim::insuredBirth, u"被保険者の生年月日"},
+    {claim::relation, u"続柄"},
+    {claim::treatedKana, u"療養を受ける者のフリガナ"},
+    {claim::treatedName, u"療養を受ける者の氏名"},
+    {claim::treatedBirth, u"療養を受ける者の生年月日"},
+    {claim::employerName, u"事業所の名称"},
+    {claim::employerAddress, u"事業所の所在地"},
+    {claim::firstTreatment, u"初療年月日"},
+    {claim::doctorAddress, u"同意医師住所"},
+    {claim::doctorName, u"同意医師氏名"},
+    {claim::consentDateKept, u"同意の年月日"},
+    {claim::monthNumber, u"申請月"},
+    {claim::consentUntil, u"要加療期間2"},
+    {claim::requestCount, u"請求回数"},
+    {claim::id, u"ID"},
+};
+
+inline constexpr auto kSearched = namesOf(kListKeys);
+
+inline constexpr Row kRows[] = {
+    Grid{.name = u"DBGrid1",
+         .caption = u"レセプトの一覧",
+         .columns = kColumns,
+         .onActivate = call<&ClaimListScreen::openClaim>},
+    Group{.name = u"Frame1", .caption = u"抽出", .columns = 3},
+    Combo{.name = u"Combo1",
+          .caption = u"抽出する項目:",
+          .bind = Unbound{u"the column to search"},
+          .items = kSearched,
+          .say = u"検索の文字選択と文字入力"},
+    TextField{.name = u"Text1",
+              .caption = u"抽出する文字:",
+              .bind = Unbound{u"the text to search"},
+              .onEnter = call<&ClaimListScreen::search>},
+    TextField{.name = u"Text2",
+              .caption = u"現在の行:",
+              .bind = Unbound{u"the row's place in the list"},
+              .width = 12,
+              .readOnly = true},
+    EndGroup{},
+    Bar{},
+    Command{.name = u"Command1",
+            .caption = u"レセプト項目の記入へ",
+            .run = run<&ClaimListScreen::openClaim>,
+            .menu = u"fm_1",
+            .under = kMenu},
+    Command{.name = u"cmdRefresh",
+            .caption = u"全患者表示及び再表示",
+            .run = run<&ClaimListScreen::showAll>,
+            .menu = u"fm_2",
+            .under = kMenu,
+            .tip = u"元の全ての患者表示に変わります。"},
+    Command{.name = u"Command3",
+            .caption = u"並び替え",
+            .run = run<&ClaimListScreen::askSort>,
+            .menu = u"fm_3",
+            .under = kMenu},
+    Command{.name = u"Command4",
+            .caption = u"月一括印刷",
+            .run = opens<routes::ClaimMonth>,
+            .menu = u"fm_4",
+            .under = kMenu},
+    Command{.name = u"Command5",
+            .caption = u"レセプト総括表印刷",
+            .run = opens<routes::unbuilt::SummaryConditions>,
+            .menu = u"fm_5",
+            .under = kMenu},
+    Command{.name = u"Command6",
+            .caption = u"更新",
+            .run = run<&ClaimListScreen::refresh>,
+            .menu = u"fm_6",
+            .under = kMenu},
+    Command{.name = u"Command7",
+            .caption = u"抽出",
+            .run = run<&ClaimListScreen::search>,
+            .menu = u"fm_7",
+            .under = kMenu},
+    Command{.name = u"cmdDelete",
+            .caption = u"削除",
+            .run = run<&ClaimListScreen::removeClaim>,
+            .menu = u"fm_8",
+            .under = kMenu,
+            .tip = u"表示の該当患者のデータをすべて削除します。"},
+    Command{.name = u"cmdClose",
+            .caption = u"閉じる",
+            .run = run<&ClaimListScreen::finish>,
+            .menu = u"fm_E",
+            .under = kMenu},
+    EndBar{},
+    Bar{},
+    Command{.name = u"Command8",
+            .caption = u"国保・後期の集計表",
+            .run = opens<routes::unbuilt::CollectiveTables>,
+            .menu = u"fm_9",
+            .under = kMenu},
+    Command{.name = u"Command9",
+            .caption = u"療養費支給申請総括票Ⅰ・Ⅱ",
+            .run = opens<routes::unbuilt::SummarySheets>,
+            .menu = u"fm_10",
+            .under = kMenu},
+    Command{.name = u"Command10",
+            .caption = u"往療行程の印刷",
+            .run = opens<routes::unbuilt::RouteSheets>,
+            .menu = u"fm_11",
+            .under = kMenu},
+    Command{.name = u"Command11",
+            .caption = u"同意期限一ヶ月以内表示",
+            .run = opens<routes::ConsentWatch>,
+            .menu = u"fm_12",
+            .under = kMenu},
+    Command{.name = u"Command12",
+            .caption = u"人体図の印刷",
+            .run = opens<routes::unbuilt::PrintPictures>,
+            .menu = u"fm_13",
+            .under = kMenu},
+    EndBar{},
+    Entry{.name = u"fm_14",
+          .under = kMenu,
+          .caption = u"同意一ｹ月以内の抽出",
+          .run = opens<routes::ExtractConsents>},
+};
+
+inline constexpr ScreenRow kScreen = declare({.name = routes::ClaimList::screen,
+                                              .caption = u"レセプトの一覧表",
+                                              .rows = kRows,
+                                              .sources = claim::firstHalf,
+                                              .heading = u"レセプトの一覧表",
+                                              .functionKeys = true});
+
+}  // namespace claims::claim_list

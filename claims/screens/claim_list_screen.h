@@ -10,14 +10,12 @@
 
 namespace claims {
 
-/// レセプト一覧表: the door to all claims. It lists the first halves, newest at the top; opening, deleting
+/// レセプト一覧表: the list of all claims. It lists the first halves, newest at the top; opening, deleting
 /// and making a claim keep the second halves in step.
 ///
 /// A search narrows the set on view and leaves it where there is no hit; the filter by a patient shows an
 /// empty list too. 全患者表示及び再表示 and 更新 read the whole table again; a claim made elsewhere meanwhile
 /// is not in the list before that.
-///
-/// Request keys: "sort" (an order of the list), "criteria" (a filter, from the patient screen).
 class ClaimListScreen : public screen::ListScreen {
  public:
   ClaimListScreen(screen::Services& services, frame::RunState& run, ClaimsState& state);
@@ -48,12 +46,12 @@ class ClaimListScreen : public screen::ListScreen {
   /// What came of growing the second file, and that the list is empty.
   void tellOpening();
   qint64 currentId() const;
-  /// Both files; nothing where one of them cannot be opened, which was told.
+  /// Both files; nothing: one of them cannot be opened, which was reported.
   std::optional<ClaimFile> claimFile();
 
   frame::RunState& m_run;
   ClaimsState& m_state;
-  QString m_growthFault;  ///< until it was told
+  QString m_growthFault;  ///< until it was reported
   screen::OnceActive m_onceActive;
 };
 

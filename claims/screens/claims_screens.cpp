@@ -9,20 +9,18 @@
 #include "claims/screens/month_screen.h"
 #include "claims/screens/new_claim_screen.h"
 #include "claims/screens/preview_screen.h"
-#include "claims/screens/register_rows.h"
 #include "claims/screens/register_screen.h"
 #include "claims/screens/share_screen.h"
 #include "frame/core/routes.h"
 #include "platform/screen/sort_dialog.h"
+#include "platform/text/utf16.h"
 
 namespace claims {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 constexpr auto kSortColumns = screen::choicesOf(kListKeys);
 constexpr screen::SortRow kSortDialogs[] = {
-    {.name = u"ソート3", .list = u"レセプト一覧表", .columns = kSortColumns}};
+    {.name = routes::SortClaims::screen, .list = routes::ClaimList::screen, .columns = kSortColumns}};
 }  // namespace
 
 void registerScreens(screen::ScreenRegistry& registry, frame::RunState& run, ClaimsState& state) {
@@ -37,19 +35,18 @@ void registerScreens(screen::ScreenRegistry& registry, frame::RunState& run, Cla
   registry.add<routes::FillingHelp2018, FillingHelp2018Screen>(run, state);
   registry.add<routes::FillingHelp2024, FillingHelp2024Screen>(run, state);
   for (const screen::ScreenRow& preview : previewScreens()) {
-    registry.add(QString::fromUtf16(preview.name.get()),
-                 [&preview, &run, &state](screen::Services& services) {
-                   return std::make_unique<PreviewScreen>(preview, services, run, state);
-                 });
+    registry.add(text::utf16(preview.name.get()), [&preview, &run, &state](screen::Services& services) {
+      return std::make_unique<PreviewScreen>(preview, services, run, state);
+    });
   }
   registry.add<routes::ShareFormula, ShareScreen>();
-  const auto addRegister = [&](const screen::ScreenRow& row, const Register& list) {
-    registry.add(QString::fromUtf16(row.name.get()), [&row, &list, &run, &state](screen::Services& services) {
-      return std::make_unique<RegisterScreen>(row, list, services, run, state);
+  const auto addRegister = [&](screen::ScreenName name, const RegisterForm& form) {
+    registry.add(name, [&form, &run, &state](screen::Services& services) {
+      return std::make_unique<RegisterScreen>(form, services, run, state);
     });
   };
-  addRegister(kDoctorRegisterScreen, kDoctorRegister);
-  addRegister(kInsurerRegisterScreen, kInsurerRegister);
+  addRegister(routes::DoctorRegister::screen, kDoctorRegisterForm);
+  addRegister(routes::InsurerRegister::screen, kInsurerRegisterForm);
 }
 
 }  // namespace claims

@@ -1,7 +1,11 @@
 #include "claims/screens/consent_extract_screen.h"
 
+#include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 #include "platform/screen/list_screen.h"
 #include "platform/store/criteria_text.h"
+#include "platform/store/tables/claims.h"
+#include "platform/text/utf16.h"
 
 namespace claims {
 namespace {
@@ -28,25 +32,28 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kScreen{
-    .name = u"抽出6", .caption = u"同意一ｹ月以内の抽出", .rows = kRows, .heading = u"同意一ｹ月以内の抽出"};
+constexpr ScreenRow kScreen = declare({.name = routes::ExtractConsents::screen,
+                                       .caption = u"同意一ｹ月以内の抽出",
+                                       .rows = kRows,
+                                       .heading = u"同意一ｹ月以内の抽出"});
 
-const QString kList = QStringLiteral("レセプト一覧表");
+constexpr ControlRef kFrom = ref(kRows, u"Text1");
+constexpr ControlRef kUntil = ref(kRows, u"Text2");
 
 }  // namespace
 
 ConsentExtractScreen::ConsentExtractScreen(Services& services) : Screen(kScreen, services) {}
 
 void ConsentExtractScreen::extract() {
-  if (text("Text1").isEmpty()) {
-    messages().tell(QString::fromUtf16(kWriteDates));
-    return focusOn("Text1");
+  if (text(kFrom).isEmpty()) {
+    messages().tell(::text::utf16(kWriteDates));
+    return focusOn(kFrom);
   }
-  auto* list = dynamic_cast<ListScreen*>(navigator().load(kList));
+  auto* list = dynamic_cast<ListScreen*>(navigator().load(routes::ClaimList::screen));
   if (list == nullptr) return;
-  const QString criteria = store::spanCriterion(QStringLiteral("要加療期間2"), text("Text1"), text("Text2"));
+  const QString criteria = store::spanCriterion(claim::consentUntil, text(kFrom), text(kUntil));
   if (!list->narrowBy(criteria)) return;
-  navigator().show(kList);
+  navigator().show(routes::ClaimList::screen);
   close();
 }
 

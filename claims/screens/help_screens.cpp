@@ -3,6 +3,9 @@
 #include <algorithm>
 
 #include "claims/screens/help_texts.h"
+#include "frame/core/routes.h"
+#include "platform/screen/declare.h"
+#include "platform/text/utf16.h"
 
 namespace claims {
 
@@ -27,9 +30,12 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kOldest{.name = u"記入の仕方", .caption = u"記入の仕方", .rows = kRows};
-constexpr ScreenRow k2018{.name = u"記入の仕方2018", .caption = u"記入の仕方2018", .rows = kRows};
-constexpr ScreenRow k2024{.name = u"記入の仕方2024", .caption = u"記入の仕方2024", .rows = kRows};
+consteval ScreenRow helpOf(ScreenName name) {
+  return declare({.name = name, .caption = name, .rows = kRows});
+}
+constexpr ScreenRow kBefore202012 = helpOf(routes::FillingHelp::screen);
+constexpr ScreenRow kBefore202410 = helpOf(routes::FillingHelp2018::screen);
+constexpr ScreenRow kFrom202410 = helpOf(routes::FillingHelp2024::screen);
 
 }  // namespace
 
@@ -39,11 +45,11 @@ HelpScreen::HelpScreen(const ScreenRow& declaration, std::span<const char16_t* c
 
 QStringList HelpScreen::lines() const {
   QStringList all;
-  for (const char16_t* line : m_lines) all << QString::fromUtf16(line);
+  for (const char16_t* line : m_lines) all << text::utf16(line);
   return all;
 }
 
-void HelpScreen::onLoad() { setText(QStringLiteral("Text1"), lines().join(u'\n')); }
+void HelpScreen::onLoad() { setText(ref(kRows, u"Text1"), lines().join(u'\n')); }
 QStringList HelpScreen::openingTexts() const { return lines(); }
 void HelpScreen::speakAll() { voice().speakHeading(lines()); }
 void HelpScreen::speakNext() { speakLine(m_line + 1); }
@@ -51,16 +57,16 @@ void HelpScreen::speakPrevious() { speakLine(m_line - 1); }
 
 void HelpScreen::speakLine(int line) {
   m_line = std::clamp(line, 0, int(m_lines.size()) - 1);
-  voice().speakFocus(QString::fromUtf16(m_lines[size_t(m_line)]));
+  voice().speakFocus(text::utf16(m_lines[size_t(m_line)]));
 }
 
-void HelpScreen::closeHelp() { navigator().unload(QString::fromUtf16(declaration().name.get())); }
+void HelpScreen::closeHelp() { navigator().unload(objectName()); }
 
 FillingHelpScreen::FillingHelpScreen(Services& services, frame::RunState&, ClaimsState&)
-    : HelpScreen(kOldest, help::before202012(), services) {}
+    : HelpScreen(kBefore202012, help::before202012(), services) {}
 FillingHelp2018Screen::FillingHelp2018Screen(Services& services, frame::RunState&, ClaimsState&)
-    : HelpScreen(k2018, help::before202410(), services) {}
+    : HelpScreen(kBefore202410, help::before202410(), services) {}
 FillingHelp2024Screen::FillingHelp2024Screen(Services& services, frame::RunState&, ClaimsState&)
-    : HelpScreen(k2024, help::from202410(), services) {}
+    : HelpScreen(kFrom202410, help::from202410(), services) {}
 
 }  // namespace claims

@@ -1,8 +1,16 @@
 #include "claims/screens/month_screen.h"
 
 #include "claims/core/month_claims.h"
+#include "frame/core/routes.h"
+#include "frame/core/routes_unbuilt.h"
+#include "platform/screen/declare.h"
+#include "platform/text/utf16.h"
 
 namespace claims {
+
+using namespace Qt::StringLiterals;
+namespace unbuilt = routes::unbuilt;
+
 namespace {
 
 using namespace screen;
@@ -48,50 +56,53 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kScreen{.name = u"年月", .caption = u"年月指定", .rows = kRows, .heading = u"年月指定"};
+constexpr ScreenRow kScreen = declare(
+    {.name = routes::ClaimMonth::screen, .caption = u"年月指定", .rows = kRows, .heading = u"年月指定"});
+
+constexpr ControlRef kMonth = ref(kRows, u"Text1");
+constexpr ControlRef kPaper = ref(kRows, u"Frame1");
+constexpr ControlRef kOlderForms = ref(kRows, u"Check1");
+constexpr ControlRef kEraWord = ref(kRows, u"Check2");
 
 /// What the four buttons print; the oldest generation has a screen of its own.
 struct Batch {
-  const char16_t* kind;
+  bool massage;
   bool oldest;
 };
-constexpr Batch kBatches[] = {{u"5", false}, {u"6", false}, {u"7", true}, {u"8", true}};
+constexpr Batch kBatches[] = {{false, false}, {true, false}, {false, true}, {true, true}};
 
 }  // namespace
 
 MonthScreen::MonthScreen(Services& services, frame::RunState& run, ClaimsState& state)
     : Screen(kScreen, services), m_run(run), m_state(state) {}
 
-void MonthScreen::onLoad() { choose("Frame1", QString::fromUtf16(kPapers[0].value)); }
+void MonthScreen::onLoad() { choose(kPaper, text::utf16(kPapers[0].value)); }
 
-bool MonthScreen::monthStands() {
-  const auto stands = holdsMonth(m_run.folders[frame::folder::kClaims1], text("Text1"));
-  if (!stands) messages().tellDataFault(stands.fault().message);
-  if (stands && !*stands) messages().tell(QStringLiteral("年月が正しくありません。"));
-  if (stands && *stands) return true;
-  focusOn("Text1");
+bool MonthScreen::monthExists() {
+  const auto exists = holdsMonth(m_run.folders[frame::folder::kClaims1], text(kMonth));
+  if (!exists) messages().tellDataFault(exists.fault().message);
+  if (exists && !*exists) messages().tell(u"年月が正しくありません。"_s);
+  if (exists && *exists) return true;
+  focusOn(kMonth);
   return false;
 }
 
-QString MonthScreen::batchScreen() const {
-  const QString screen = checked("Check1") ? QStringLiteral("年月印刷2018") : QStringLiteral("年月印刷2024");
-  const bool association = m_run.prefectureCode == u"23" && m_run.aichiSubmission != u"3";
-  return association ? screen + QStringLiteral("aimakai") : screen;
-}
-
 void MonthScreen::printMonth(int index) {
-  if (!monthStands()) return;
+  if (!monthExists()) return;
   const Batch& batch = kBatches[index];
-  navigator().show(
-      batch.oldest ? QStringLiteral("年月印刷") : batchScreen(),
-      {{QStringLiteral("申請年月"), text("Text1")},
-       {QStringLiteral("PrintKind"), QString::fromUtf16(batch.kind)},
-       {QStringLiteral("局所別計算用紙"), chosen("Frame1") == QString::fromUtf16(kPapers[1].value)},
-       {QStringLiteral("元号"), checked("Check2")}});
+  const unbuilt::MonthRun run{text(kMonth), batch.massage ? u"あマ"_s : u"鍼灸"_s,
+                              chosen(kPaper) == text::utf16(kPapers[1].value), checked(kEraWord)};
+  const bool association = m_run.prefectureCode == u"23" && m_run.aichiSubmission != u"3";
+  if (batch.oldest)
+    openPrint<unbuilt::MonthPrint>(run);
+  else if (checked(kOlderForms))
+    association ? openPrint<unbuilt::MonthPrint2018Aichi>(run) : openPrint<unbuilt::MonthPrint2018>(run);
+  else
+    association ? openPrint<unbuilt::MonthPrint2024Aichi>(run) : openPrint<unbuilt::MonthPrint2024>(run);
 }
 
 void MonthScreen::printerOptions() {
-  if (m_state.printerSetup) m_state.printerSetup(winId());
+  if (m_state.printing != nullptr) m_state.printing->setUpPrinter(winId());
 }
 
 void MonthScreen::finish() { close(); }

@@ -1,6 +1,7 @@
 #include "claims/screens/new_claim_screen.h"
 
 #include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 
 namespace claims {
 namespace {
@@ -16,8 +17,10 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kScreen{
-    .name = u"新規レセプト", .caption = u"新規レセプト作成", .rows = kRows, .heading = u"新規レセプト作成"};
+constexpr ScreenRow kScreen = declare({.name = routes::NewClaim::screen,
+                                       .caption = u"新規レセプト作成",
+                                       .rows = kRows,
+                                       .heading = u"新規レセプト作成"});
 
 }  // namespace
 
@@ -25,9 +28,8 @@ NewClaimScreen::NewClaimScreen(screen::Services& services, ClaimsState& state)
     : Screen(kScreen, services), m_state(state) {}
 
 void NewClaimScreen::opened(const screen::Request& request) {
-  m_state.newClaim = ClaimRecord();
-  for (auto column = request.cbegin(); column != request.cend(); ++column)
-    m_state.newClaim.set(column.key(), column.value().toString());
+  const auto* route = request.as<routes::NewClaim>();
+  m_state.newClaim = route ? route->patient : frame::Patient();
 }
 
 void NewClaimScreen::accept() {

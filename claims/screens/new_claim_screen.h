@@ -5,8 +5,7 @@
 
 namespace claims {
 
-/// 新規レセプト: asks whether a claim is made of the patient on display. The opener hands the patient's
-/// columns in the request.
+/// 新規レセプト: asks whether a claim is made of the patient that it was opened with.
 class NewClaimScreen : public screen::Screen {
  public:
   NewClaimScreen(screen::Services& services, ClaimsState& state);

@@ -27,7 +27,7 @@ class PreviewScreen : public screen::Screen {
   const EraTable m_eras;
 };
 
-/// The declared screens, in the order of kPreviews.
+/// The declared screens in the order of kPreviews: oldest fees first, acupuncture before massage.
 std::span<const screen::ScreenRow> previewScreens();
 
 }  // namespace claims

@@ -1,15 +1,20 @@
 #include "claims/screens/share_screen.h"
 
 #include "claims/core/share_table.h"
+#include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 #include "platform/text/number.h"
 
 namespace claims {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace screen;
 
-/// Bases of more digits are not doubled any more.
-constexpr qint64 kLargestBase = 999'999'999'999;
+/// A base whose double is larger is not doubled.
+constexpr qint64 kMaxBase = 999'999'999'999;
 
 consteval Row cell(ControlName name, Words caption) {
   return TextField{
@@ -57,31 +62,37 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kScreen{
-    .name = u"計算式確認", .caption = u"計算式確認", .rows = kRows, .heading = u"計算式確認"};
+constexpr ScreenRow kScreen = declare({.name = routes::ShareFormula::screen,
+                                       .caption = u"計算式確認",
+                                       .rows = kRows,
+                                       .heading = u"計算式確認"});
 
-QString shown(qint64 yen) { return yen == 0 ? QStringLiteral("0") : text::thousands(yen); }
+constexpr ControlRef kBase = ref(kRows, u"Text1");
+constexpr FamilyRef kUp = family(kRows, u"Text2");
+constexpr FamilyRef kDown = family(kRows, u"Text3");
+constexpr FamilyRef kNearest = family(kRows, u"Text4");
+
+QString shown(qint64 yen) { return yen == 0 ? u"0"_s : text::thousands(yen); }
 
 }  // namespace
 
 ShareScreen::ShareScreen(screen::Services& services) : Screen(kScreen, services) {}
 
 void ShareScreen::calculate() {
-  const auto lines = shareTable(text::intOf(text("Text1")));
+  const auto lines = shareTable(text::intOf(text(kBase)));
   for (int i = 0; i < int(lines.size()); ++i) {
-    const QString index = '(' + QString::number(i) + ')';
-    setText("Text2" + index, shown(lines[i].up));
-    setText("Text3" + index, shown(lines[i].down));
-    setText("Text4" + index, shown(lines[i].nearest));
+    setText(kUp[i], shown(lines[size_t(i)].up));
+    setText(kDown[i], shown(lines[size_t(i)].down));
+    setText(kNearest[i], shown(lines[size_t(i)].nearest));
   }
-  focusOn("Text2(0)");
+  focusOn(kUp[0]);
 }
 
 void ShareScreen::doubleUp() {
-  const qint64 base = text::intOf(text("Text1"));
-  if (base <= kLargestBase / 2) setText("Text1", QString::number(base * 2));
+  const qint64 base = text::intOf(text(kBase));
+  if (base <= kMaxBase / 2) setText(kBase, QString::number(base * 2));
   calculate();
-  voice().speakText(caption("Text1") + voice::kSpeechSeparator + text("Text1"));
+  voice().speakText(caption(kBase) + voice::kSpeechSeparator + text(kBase));
 }
 
 void ShareScreen::finish() { close(); }

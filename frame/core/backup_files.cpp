@@ -89,7 +89,7 @@ std::vector<std::vector<FreshCopy>> copyGroups(const std::vector<BackupGroup>& g
 }
 
 bool isWhole(const BackupFile& file, const QString& copy) {
-  if (!file.settings) return store::isSoundDatabase(copy);
+  if (!file.settings) return store::isIntactDatabase(copy);
   const auto settings = readSettingsFile(copy);
   return settings && settings->readWhole;
 }

@@ -57,6 +57,8 @@ class Generations {
     store::syncFolder(m_folder);
     m_list.forgetAnnounced();
     m_list.keepStanding(m_folder);
+    // The copies are whole without it: the list of before names sums that fit older copies alone, and the
+    // next rotation writes it anew.
     (void)m_list.write(m_folder);
   }
 

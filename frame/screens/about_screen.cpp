@@ -3,6 +3,7 @@
 #include <QStandardPaths>
 
 #include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 #include "platform/shell/desktop.h"
 
 namespace frame {
@@ -28,7 +29,8 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{.name = u"frmAbout", .caption = u"ﾊﾞｰｼﾞｮﾝ情報", .rows = kRows};
+constexpr ScreenRow kDeclaration =
+    declare({.name = routes::About::screen, .caption = u"ﾊﾞｰｼﾞｮﾝ情報", .rows = kRows});
 
 }  // namespace
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 #include "platform/store/tables/fees.h"
 #include "platform/text/number.h"
 
@@ -98,13 +99,15 @@ consteval auto allRows(std::integer_sequence<int, Index...>) {
 
 constexpr auto kRows = allRows(std::make_integer_sequence<int, kBoxCount>());
 
-constexpr ScreenRow kDeclaration{.name = u"料金変更",
-                                 .caption = u"料金確認",
-                                 .rows = kRows,
-                                 .sources = fees::table,
-                                 .heading = u"料金確認"};
+constexpr ScreenRow kDeclaration = declare({.name = routes::Fees::screen,
+                                            .caption = u"料金確認",
+                                            .rows = kRows,
+                                            .sources = fees::table,
+                                            .heading = u"料金確認"});
 
-QString box(int number) { return u"Text1(%1)"_s.arg(number); }
+constexpr FamilyRef kBox = family(kRows, u"Text1");  // numbered from 1
+constexpr ControlRef kSave = ref(kRows, u"Command1");
+constexpr ControlRef kNotes[] = {ref(kRows, u"Label26"), ref(kRows, u"Label27"), ref(kRows, u"Label28")};
 
 }  // namespace
 
@@ -112,26 +115,28 @@ FeeScreen::FeeScreen(Services& services, RunState& run) : Screen(kDeclaration, s
 
 // The row with the highest ID rules.
 void FeeScreen::onLoad() {
-  setShown(u"Command1"_s, false);
+  setShown(kSave, false);
   if (!source().open(m_run.folders[folder::kFees])) return;
-  source().rows().moveLast();
+  if (!source().moveAndShow(&store::RecordSet::moveLast)) return;
   for (int i = 0; i < kBoxCount; ++i) {
     const QString value = source().rows().value(kBoxes[i].shown);
-    setText(box(i + 1), value.isEmpty() ? QString() : QString::number(text::intOf(value)));
+    setText(kBox[i + 1], value.isEmpty() ? QString() : QString::number(text::intOf(value)));
   }
 }
 
 void FeeScreen::explain() {
-  voice().speakHeading({caption(u"Label26"_s), caption(u"Label27"_s), caption(u"Label28"_s)});
+  QStringList notes;
+  for (const ControlRef& note : kNotes) notes += caption(note);
+  voice().speakHeading(notes);
 }
 
 bool FeeScreen::checkBoxes() {
   for (int number = 1; number <= kCheckedBoxes; ++number) {
-    const QString value = text(box(number));
+    const QString value = text(kBox[number]);
     const bool digits =
         std::all_of(value.begin(), value.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
     if (!value.isEmpty() && digits) continue;
-    messages().tell(caption(box(number)) +
+    messages().tell(caption(kBox[number]) +
                     (value.isEmpty() ? u"の料金が入力されていません"_s : u"の料金が正しくありません"_s));
     return false;
   }
@@ -146,7 +151,7 @@ void FeeScreen::save() {
   store::RecordSet& rows = source().rows();
   for (rows.moveFirst(); !rows.eof(); rows.moveNext()) {
     text::Done done = rows.edit();
-    for (int i = 0; done && i < kBoxCount; ++i) done = rows.setValue(kBoxes[i].saved, text(box(i + 1)));
+    for (int i = 0; done && i < kBoxCount; ++i) done = rows.setValue(kBoxes[i].saved, text(kBox[i + 1]));
     if (done) done = rows.update();
     if (!done) return messages().tellDataFault(done.fault().message);
   }

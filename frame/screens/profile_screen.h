@@ -20,7 +20,6 @@ class ProfileScreen : public screen::Screen {
  private:
   void showProfile();
   void showPrefecture();
-  QString fieldValue(const ProfileField& field) const;
   RunState& m_run;
 };
 

@@ -3,6 +3,8 @@
 #include <functional>
 
 #include "frame/core/run_state.h"
+#include "office/core/booking.h"
+#include "platform/screen/declare.h"
 #include "platform/screen/list_screen.h"
 #include "platform/screen/once_active.h"
 
@@ -12,7 +14,9 @@ namespace office {
 /// chart and back to the caller.
 class BookingList : public screen::ListScreen {
  public:
-  BookingList(const screen::ScreenRow& declaration, screen::Services& services, frame::RunState& run);
+  /// `list`: the grid of the declaration.
+  BookingList(const screen::ScreenRow& declaration, screen::ControlRef list, screen::Services& services,
+              frame::RunState& run);
 
   void onActivate() override;
   bool onCloseBox() override;
@@ -41,11 +45,13 @@ class BookingList : public screen::ListScreen {
   frame::RunState& m_run;
 
  private:
+  /// The booking on view.
+  Booking booking() const { return store::readRecord<Booking>(source().rows()); }
+  const screen::ControlRef m_list;
   screen::OnceActive m_onceActive;
 };
 
-/// Name of the screen that the appointment book goes back to, by the caller's mark of the run; blank where
-/// there is none.
-QString callerOf(const frame::RunState& run);
+/// The screen that the appointment book goes back to. The main menu only where the patients have a file.
+std::optional<screen::ScreenName> callerOf(const frame::RunState& run);
 
 }  // namespace office

@@ -6,9 +6,7 @@ namespace office {
 
 /// 今日の予約: all bookings, narrowed to a day or to a text. A search narrows the rows on view; the list
 /// keeps them until 全表示に戻す.
-///
-/// Request keys: "最終行" (the main menu: the last booking is on view), "指定日" (the day asked for of the
-/// run is to be shown). Coming back to the open list reads its rows afresh.
+/// Coming back to the open list reads its rows afresh.
 class TodaysBookingsScreen : public BookingList {
  public:
   using BookingList::BookingList;
@@ -40,15 +38,11 @@ class TodaysBookingsScreen : public BookingList {
   std::optional<QDate> readLists();
   /// Title, and that not all bookings are on view.
   QStringList headingTexts() const;
-  /// Opens a calendar screen in the mode of the appointment book.
-  void showForBookings(const QString& calendar);
   /// The rows on view are read again, where they lie behind what happened on other screens.
   void readAgain();
   bool m_loaded = false;
   bool m_narrowed = false;
   bool m_showsDay = false;  ///< opened for a day: its bookings are told, not those on view before
 };
-
-extern const screen::ScreenRow kTodaysBookings;
 
 }  // namespace office

@@ -27,6 +27,4 @@ class WeekScreen : public BookingList {
   QDate m_reference;
 };
 
-extern const screen::ScreenRow kWeek;
-
 }  // namespace office

@@ -14,7 +14,7 @@ class FilePrinter final : public DocumentSink {
   explicit FilePrinter(const QString& programFolder, std::shared_ptr<const text::Clock> clock = nullptr);
 
   bool open(const QString& title) override;
-  bool take(const QByteArray& pdf) override;
+  text::Done take(const QByteArray& pdf) override;
 
   /// Title made fit for a file name.
   static QString fileStem(const QString& title);

@@ -78,7 +78,7 @@ std::shared_ptr<const FramePart> FrameStore::part(const std::vector<ItemState>& 
 
 std::shared_ptr<const FrameFonts> FrameStore::fonts(PagePainter& painter) {
   if (m_fonts) return m_fonts;
-  painter.acquaint(*m_form);
+  painter.registerCaptionGlyphs(*m_form);
   const std::vector<ItemState> states = storedStates(*m_form);
   PdfCanvas canvas(m_form->height() * kPointsPerMm, nullptr);
   paintFrame(canvas, *this, states, painter);

@@ -93,10 +93,17 @@ class ColumnChoice {
 /// Columns that are offered under their own names.
 template <std::size_t N>
 consteval auto choicesOf(const std::array<store::Column, N>& columns) {
-  return [&columns]<std::size_t... At>(std::index_sequence<At...>) {
+  return [&columns]<std::size_t... At>(std::index_sequence<At...>) consteval {
     return std::array<ColumnChoice, N>{ColumnChoice(columns[At])...};
   }
   (std::make_index_sequence<N>());
+}
+/// Their captions, for the list of a combo box.
+template <std::size_t N>
+consteval std::array<const char16_t*, N> captionsOf(const ColumnChoice (&choices)[N]) {
+  std::array<const char16_t*, N> captions{};
+  for (std::size_t i = 0; i < N; ++i) captions[i] = choices[i].caption();
+  return captions;
 }
 /// Their names, for the list of a combo box.
 template <std::size_t N>

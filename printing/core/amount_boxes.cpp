@@ -39,7 +39,7 @@ claims::Kind recordKind(PrintKind kind) {
   return kind == PrintKind::Massage ? claims::Kind::Massage : claims::Kind::Acupuncture;
 }
 
-void fillAmountBoxes(ReportFields& fields, const claims::AmountRecord& record) {
+void printRecord(ReportFields& fields, const claims::AmountRecord& record) {
   for (const AmountItem& item : record.rules->items) {
     if (!record.version->records(item)) continue;
     if (item.boxes.wholeLine() && !record.counted(item)) continue;

@@ -3,12 +3,12 @@
 
 namespace printing {
 
-void amountBoxes(Sheet& sheet) {
+void fillAmountBoxes(Sheet& sheet) {
   if (!sheet.settings.on(Setting::Amounts)) return;
   const claims::Kind kind = recordKind(sheet.source.kind);
-  const QString text = sheet.value(claims::recordColumn(kind).text());
+  const QString text = sheet.value(claims::recordColumn(kind));
   if (const auto record = claims::readAmountRecord(text, kind, sheet.eras))
-    fillAmountBoxes(sheet.fields, *record);
+    printRecord(sheet.fields, *record);
 }
 
 }  // namespace printing

@@ -86,6 +86,7 @@ void ConsentWatchScreen::print() {
     drawConsentPage(engine, m_rows, m_run.clock->today(), page);
   };
   const RunEnd end = runHandPrint(m_engine, job);
+  if (end == RunEnd::NotTaken) return messages().tell(m_engine.lastDocument().fault().message);
   if (end != RunEnd::Cancelled)
     voice().speakText(QString::fromUtf16(end == RunEnd::Printed ? kSent : kNotSent));
 }

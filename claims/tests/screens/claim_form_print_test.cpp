@@ -12,14 +12,13 @@ struct PreviewCase {
   const char16_t* month;
   bool massageClaim;
   const char16_t* screen;
-  int kind;
 };
 
 TEST_F(ClaimFormPrint, TheMonthAndTheKindChooseThePreview) {
   const PreviewCase cases[] = {
-      {u"平成30年5月", false, u"施術料金1", 1},     {u"平成30年5月", true, u"施術料金2", 2},
-      {u"平成30年6月", false, u"施術料金2018H", 3}, {u"令和6年9月", true, u"施術料金2108A", 4},
-      {u"令和6年10月", false, u"施術料金2024H", 5}, {u"令和6年10月", true, u"施術料金2024A", 6}};
+      {u"平成30年5月", false, u"施術料金1"},     {u"平成30年5月", true, u"施術料金2"},
+      {u"平成30年6月", false, u"施術料金2018H"}, {u"令和6年9月", true, u"施術料金2108A"},
+      {u"令和6年10月", false, u"施術料金2024H"}, {u"令和6年10月", true, u"施術料金2024A"}};
   for (const PreviewCase& row : cases) {
     m_form.reset();
     m_navigator.shows.clear();
@@ -30,7 +29,6 @@ TEST_F(ClaimFormPrint, TheMonthAndTheKindChooseThePreview) {
     press(qs(u"Command2"));
     EXPECT_EQ(told(), QStringList());
     EXPECT_EQ(m_navigator.shows, QStringList(qs(row.screen)));
-    EXPECT_EQ(m_state.previewKind, row.kind);
   }
 }
 
@@ -46,9 +44,9 @@ TEST_F(ClaimFormPrint, ThePrintButtonsOpenTheChosenScreen) {
   openNew(acupuncture());
   press(qs(u"Command5"));
   EXPECT_EQ(m_navigator.shows, QStringList(qs(u"レセプト印刷2024")));
-  EXPECT_EQ(m_state.printKind, 1);
+  EXPECT_EQ(m_state.printKind, PrintKind::Acupuncture);
   press(qs(u"Command6"));
-  EXPECT_EQ(m_state.printKind, 2);
+  EXPECT_EQ(m_state.printKind, PrintKind::Massage);
 }
 
 TEST_F(ClaimFormPrint, ThePrintOfANationalClaimTrimsItsTexts) {
@@ -63,18 +61,12 @@ TEST_F(ClaimFormPrint, ThePrintOfANationalClaimTrimsItsTexts) {
 }
 
 TEST_F(ClaimFormPrint, TheChoiceSeesTheClaimAndTheTicks) {
-  QString month;
-  QSet<QString> ticks;
-  m_state.choosePrintScreen = [&](const ClaimRecord& claim, const QSet<QString>& checks) {
-    month = claim.get(qs(u"申請年月"));
-    ticks = checks;
-    return qs(u"東京助成レセプト印刷2024");
-  };
+  m_printing.screen = qs(u"東京助成レセプト印刷2024");
   openNew(acupuncture());
   toggle(qs(u"Check7"));
   press(qs(u"Command5"));
-  EXPECT_EQ(month, qs(u"令和6年10月"));
-  EXPECT_EQ(ticks, QSet<QString>({qs(u"Check7")}));
+  EXPECT_EQ(m_printing.claim.get(qs(u"申請年月")), qs(u"令和6年10月"));
+  EXPECT_EQ(m_printing.ticks, FormTicks{.publicAid = true});
   EXPECT_EQ(m_navigator.shows, QStringList(qs(u"東京助成レセプト印刷2024")));
 }
 

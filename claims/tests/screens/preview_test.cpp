@@ -12,8 +12,7 @@ namespace {
 class ShownClaim final : public ClaimOnDisplay {
  public:
   ClaimRecord record() const override { return claim; }
-  QSet<QString> checks() const override { return {}; }
-  void trimForPrint() override {}
+  FormTicks checks() const override { return {}; }
   quintptr window() const override { return 0; }
   ClaimRecord claim;
 };

@@ -118,7 +118,7 @@ class BackupTest : public testing::Test {
   void stamp(const QString& name, int number) const {
     if (name == u"qv.DAT") {
       SettingsSlots settings = freshSettings();
-      settings[profile::kPractitioner] = QString::number(number);
+      settings[slot::kPractitioner] = QString::number(number);
       ASSERT_TRUE(writeSettingsFile(live(name), settings));
     } else {
       ASSERT_TRUE(runOn(live(name), "PRAGMA user_version=" + QByteArray::number(number)))
@@ -133,7 +133,7 @@ class BackupTest : public testing::Test {
     if (!QFileInfo::exists(path)) return -1;
     if (!path.endsWith(u".mdb")) {
       const auto settings = readSettingsFile(path);
-      return settings && settings->readWhole ? (*settings)[profile::kPractitioner].toInt() : -1;
+      return settings && settings->readWhole ? (*settings)[slot::kPractitioner].toInt() : -1;
     }
     if (!store::checkIntegrity(path)) return -1;
     QFile file(path);

@@ -1,3 +1,4 @@
+#include "frame/core/routes.h"
 #include "frame/tests/screens/frame_fixture.h"
 
 namespace frame {
@@ -81,13 +82,13 @@ TEST_F(FoldersTest, QuestionIsSpokenThenTheLineBelow) {
 }
 
 TEST_F(FoldersTest, ClosingQuestionGoesBackToTheScreenThatAskedOrJustCloses) {
-  standIn(u"asker"_s);
-  for (const char16_t* button : {u"Command1", u"Command2"}) {
-    navigator.show(u"閉じる1"_s, {{u"opener"_s, u"asker"_s}});
-    navigator.loaded(u"閉じる1"_s)->trigger(QString::fromUtf16(button));
+  standIn(u"集計"_s);
+  for (const QString& button : {u"Command1"_s, u"Command2"_s}) {
+    navigator.show(routes::AskClose{.opener = routes::Takings::screen});
+    navigator.loaded(u"閉じる1"_s)->trigger(button);
     EXPECT_FALSE(isShown(u"閉じる1"));
-    EXPECT_EQ(isShown(u"asker"), QString::fromUtf16(button) == u"Command1");
-    navigator.unload(u"asker"_s);
+    EXPECT_EQ(isShown(u"集計"), button == u"Command1");
+    navigator.unload(u"集計"_s);
   }
 }
 

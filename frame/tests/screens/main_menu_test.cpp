@@ -1,6 +1,8 @@
 #include <QAction>
 #include <QCheckBox>
 
+#include "frame/core/routes.h"
+#include "frame/core/routes_unbuilt.h"
 #include "frame/tests/screens/frame_fixture.h"
 
 namespace frame {
@@ -137,26 +139,32 @@ INSTANTIATE_TEST_SUITE_P(Rows, MenuRoomTest,
 TEST_F(MainMenuTest, BookingsComeBackToTheMenuAndShowTheLastRow) {
   standIn(u"今日の予約"_s);
   shown(u"選択3").trigger(u"Command5"_s);
-  EXPECT_EQ(run.callerMark, 2);
-  EXPECT_TRUE(requestOf(u"今日の予約"_s).value(u"最終行"_s).toBool());
+  EXPECT_EQ(run.bookingsCaller, routes::MainMenu::screen);
+  const auto bookings = routeTo<routes::TodaysBookings>();
+  ASSERT_TRUE(bookings);
+  EXPECT_TRUE(bookings->lastRow);
 }
 
 TEST_F(MainMenuTest, TakingsShowTheLastVisit) {
   standIn(u"集計"_s);
   shown(u"選択3").trigger(u"Command10"_s);
-  EXPECT_TRUE(requestOf(u"集計"_s).value(u"最終行"_s).toBool());
+  const auto takings = routeTo<routes::Takings>();
+  ASSERT_TRUE(takings);
+  EXPECT_TRUE(takings->lastRow);
 }
 
-TEST_F(MainMenuTest, ClaimsAndReceiptsSetTheScreenMode) {
+TEST_F(MainMenuTest, ClaimsOpenTheNewestFirstAndReceiptsOnToday) {
   standIn(u"レセプト一覧表"_s);
   standIn(u"領収証選択"_s);
   screen::Screen& menu = shown(u"選択3");
   menu.trigger(u"Command2"_s);
-  EXPECT_EQ(run.lastScreenMode, 2);
-  EXPECT_EQ(requestOf(u"レセプト一覧表"_s).value(u"sort"_s).toString(), u"ID DESC"_s);
+  const auto claims = routeTo<routes::ClaimList>();
+  ASSERT_TRUE(claims);
+  EXPECT_EQ(claims->order, u"ID DESC"_s);
   menu.trigger(u"Command3"_s);
-  EXPECT_EQ(run.lastScreenMode, 1);
-  EXPECT_EQ(requestOf(u"領収証選択"_s).value(u"日付"_s).toString(), u"令和6年6月15日"_s);
+  const auto receipts = routeTo<routes::unbuilt::ReceiptChoice>();
+  ASSERT_TRUE(receipts);
+  EXPECT_EQ(receipts->day, u"令和6年6月15日"_s);
 }
 
 // Without the platform's help the menu's own list runs one place on from its third year: 2020 is 令和3年.
@@ -165,7 +173,9 @@ TEST_F(MainMenuTest, ReceiptDateWithoutEraSupportUsesTheMenusOwnList) {
   clock.set(QDate(2020, 3, 4));
   standIn(u"領収証選択"_s);
   shown(u"選択3").trigger(u"Command3"_s);
-  EXPECT_EQ(requestOf(u"領収証選択"_s).value(u"日付"_s).toString(), u"令和3年3月4日"_s);
+  const auto receipts = routeTo<routes::unbuilt::ReceiptChoice>();
+  ASSERT_TRUE(receipts);
+  EXPECT_EQ(receipts->day, u"令和3年3月4日"_s);
 }
 
 TEST_F(MainMenuTest, EndWritesTheRunIntoTheSettingsFile) {

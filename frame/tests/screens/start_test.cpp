@@ -50,7 +50,7 @@ TEST_F(StartTest, ShortListLeavesTheRestBlankAndTheFileAsItIs) {
   const QByteArray before = settingsBytes();
   EXPECT_EQ(start(), Started::Menu);
   EXPECT_EQ(run.runCounter, 5);
-  EXPECT_EQ(run.profile[profile::kPractitioner], QString());
+  EXPECT_EQ(run.profile[slot::kPractitioner], QString());
   navigator.loaded(u"選択3"_s)->trigger(u"Command4"_s);
   EXPECT_EQ(settingsBytes(), before);
 }

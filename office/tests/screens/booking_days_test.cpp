@@ -131,10 +131,11 @@ TEST_F(WeekView, ABookThatCannotBeReadLeavesNoOtherDaysRows) {
 }
 
 TEST_F(WeekView, HandsOverAndGoesBackToTheCaller) {
-  run.callerMark = 3;
+  run.bookingsCaller = routes::PatientRegister::screen;
   screen::Screen& screen = week();
   screen.trigger(u"Command8"_s);
-  EXPECT_EQ(requestOf(u"治療台帳4"_s)[u"代入"_s].toString(), u"火曜　太郎"_s);
+  ASSERT_TRUE(handedOver());
+  EXPECT_EQ(handedOver()->name, u"火曜　太郎"_s);
   navigator.unload(u"治療台帳4"_s);
   screen.trigger(u"Command1"_s);
   EXPECT_TRUE(isShown(u"治療台帳4"));
@@ -258,12 +259,14 @@ TEST_F(BookingCalendar, ExtractingShowsTheDayOnTheList) {
 }
 
 TEST_F(BookingCalendar, InTheTakingsModeTheDayGoesToTheTakings) {
-  run.calendarMode = 2;
+  run.calendarUse = frame::CalendarUse::Takings;
   for (const QString& name : {u"集計カレンダー"_s, u"予約カレンダー"_s}) {
     screen::Screen& screen = open(name);
     screen.setDay(u"Calendar1"_s, QDate(2024, 6, 5));
     screen.trigger(u"Command1"_s);
-    EXPECT_EQ(requestOf(u"集計"_s)[u"日付"_s].toString(), u"2024-06-05"_s);
+    const auto takings = routeTo<routes::Takings>();
+    ASSERT_TRUE(takings);
+    EXPECT_EQ(takings->day, QDate(2024, 6, 5));
     EXPECT_FALSE(isShown(u"今日の予約"));
     navigator.unload(u"集計"_s);
   }

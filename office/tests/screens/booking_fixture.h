@@ -4,6 +4,7 @@
 
 #include <QApplication>
 
+#include "frame/core/routes.h"
 #include "frame/tests/screens/screen_fixture.h"
 #include "office/screens/office_screens.h"
 #include "platform/screen/testing/screen_probe.h"
@@ -74,6 +75,16 @@ class BookingFixture : public frame::test::ScreenFixture {
     EXPECT_NE(screen, nullptr) << name.toStdString();
     activate(*screen);
     return *screen;
+  }
+  static routes::Booking storedBooking(qint64 id) { return {.what = routes::Booking::Stored{id}}; }
+  static routes::Booking newBookingOf(const frame::Patient& patient) {
+    return {.what = routes::Booking::NewBooking{patient}};
+  }
+  /// The booked person that was handed to the patient screen last.
+  std::optional<routes::PatientRegister::Booked> handedOver() const {
+    const auto patient = routeTo<routes::PatientRegister>();
+    const auto* booked = patient ? std::get_if<routes::PatientRegister::Booked>(&patient->who) : nullptr;
+    return booked ? std::optional(*booked) : std::nullopt;
   }
   static void activate(screen::Screen& screen) {
     QApplication::setActiveWindow(&screen);

@@ -16,7 +16,7 @@ const QString kUnfinished =
 class BookingLeave : public BookingFixture {
  protected:
   screen::Screen& fresh(const screen::Request& request = {}) { return open(u"予約2"_s, request); }
-  screen::Screen& storedBooking(const screen::Request& request = {}) {
+  screen::Screen& finishedBooking(const screen::Request& request = {}) {
     screen::Screen& form = fresh(request);
     form.setText(u"txtFields(2)"_s, u"見本"_s);
     form.trigger(u"cmdUpdate"_s);
@@ -26,32 +26,31 @@ class BookingLeave : public BookingFixture {
 };
 
 struct WayBack {
-  int mark;
-  QString opener;
+  std::optional<screen::ScreenName> caller;
+  std::optional<screen::ScreenName> opener;
   QString leadsTo;
 };
 class WaysBack : public BookingLeave, public testing::WithParamInterface<WayBack> {};
 
 TEST_P(WaysBack, ClosingGoesToTheCaller) {
-  run.callerMark = GetParam().mark;
-  screen::Request request;
-  if (!GetParam().opener.isEmpty()) request[u"opener"_s] = GetParam().opener;
-  storedBooking(request).trigger(u"cmdClose"_s);
+  run.bookingsCaller = GetParam().caller;
+  finishedBooking(routes::Booking{.opener = GetParam().opener}).trigger(u"cmdClose"_s);
   settle();
   for (const QString& room : {u"選択3"_s, u"治療台帳4"_s, u"今日の予約"_s})
     EXPECT_EQ(navigator.isShown(room), room == GetParam().leadsTo) << room.toStdString();
   EXPECT_EQ(navigator.loaded(u"予約2"_s), nullptr);
   EXPECT_EQ(told(), QStringList());
 }
-INSTANTIATE_TEST_SUITE_P(Marks, WaysBack,
-                         testing::Values(WayBack{2, u""_s, u"選択3"_s}, WayBack{3, u""_s, u"治療台帳4"_s},
-                                         WayBack{2, u"今日の予約"_s, u"今日の予約"_s},
-                                         WayBack{3, u"今日の予約"_s, u"今日の予約"_s},
-                                         WayBack{0, u""_s, u""_s}));
+constexpr screen::ScreenName kMenu = routes::MainMenu::screen, kChart = routes::PatientRegister::screen,
+                             kList = routes::TodaysBookings::screen;
+INSTANTIATE_TEST_SUITE_P(Callers, WaysBack,
+                         testing::Values(WayBack{kMenu, {}, kMenu}, WayBack{kChart, {}, kChart},
+                                         WayBack{kMenu, kList, kList}, WayBack{kChart, kList, kList},
+                                         WayBack{{}, {}, {}}));
 
 TEST_F(BookingLeave, ClosingWritesTheWeekdayOnceMore) {
   book(u"2024/6/15"_s, u"9 時 0 分"_s, u"見本"_s);
-  screen::Screen& form = fresh({{u"ID"_s, 1}});
+  screen::Screen& form = fresh(storedBooking(1));
   type(form, u"2024"_s, u"6"_s, u"18"_s);
   form.trigger(u"cmdClose"_s);
   EXPECT_EQ(stored(u"予約曜日"_s), QStringList(u"火曜日"_s));
@@ -76,7 +75,7 @@ TEST_F(BookingLeave, AnUnfinishedBookingIsAskedFor) {
 }
 
 TEST_F(BookingLeave, TheWayBackIsKeptOverTheQuestion) {
-  run.callerMark = 3;
+  run.bookingsCaller = routes::PatientRegister::screen;
   fresh().trigger(u"cmdClose"_s);
   led(u"更新の確認"_s).trigger(u"Command1"_s);
   EXPECT_TRUE(isShown(u"治療台帳4"));
@@ -117,7 +116,7 @@ TEST_F(BookingLeave, ARefusedWriteKeepsTheFormOrIsDropped) {
   for (const bool drops : {false, true}) {
     book(u"2024/6/15"_s, u"9 時 0 分"_s, u"見本"_s);
     const qint64 id = stored(u"ID"_s).last().toLongLong();
-    screen::Screen& form = fresh({{u"ID"_s, id}});
+    screen::Screen& form = fresh(storedBooking(id));
     form.setText(u"txtFields(8)"_s, u"書きかけ"_s);
     elsewhere("UPDATE \"予約\" SET \"メモ1\"='電話あり'");
     answer({drops});
@@ -137,11 +136,11 @@ TEST_F(BookingLeave, ARefusedWriteKeepsTheFormOrIsDropped) {
 
 TEST_F(BookingLeave, AStoredRowWithoutADateIsLeftAsItIs) {
   addBooking({{u"予約患者"_s, u"見本"_s}, {u"登録日時"_s, u"令和6年6月1日 9:0"_s}});
-  fresh({{u"ID"_s, 1}}).trigger(u"cmdClose"_s);
+  fresh(storedBooking(1)).trigger(u"cmdClose"_s);
   settle();
   EXPECT_FALSE(isShown(u"予約2"));
   EXPECT_EQ(told(), QStringList());
-  screen::Screen& form = fresh({{u"ID"_s, 1}});
+  screen::Screen& form = fresh(storedBooking(1));
   form.setText(u"txtFields(8)"_s, u"書きかけ"_s);
   form.trigger(u"cmdClose"_s);
   EXPECT_TRUE(isShown(u"予約2"));
@@ -152,7 +151,7 @@ TEST_F(BookingLeave, AStoredRowWithoutADateIsLeftAsItIs) {
 
 TEST_F(BookingLeave, DeletingAsksFirst) {
   book(u"2024/6/15"_s, u"9 時 0 分"_s, u"見本"_s);
-  screen::Screen& form = fresh({{u"ID"_s, 1}});
+  screen::Screen& form = fresh(storedBooking(1));
   answer({false, true});
   form.trigger(u"cmdDelete"_s);
   EXPECT_EQ(told(), QStringList(kDelete));
@@ -224,16 +223,16 @@ TEST_F(BookingLeave, AnotherBookingAsksWhereSomethingWasTyped) {
   form.trigger(u"cmdAdd"_s);
   EXPECT_EQ(told(), QStringList(kDrop));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"例示"_s);
-  fresh({{u"氏名"_s, u"見本"_s}});
+  fresh(newBookingOf({.name = u"見本"_s}));
   EXPECT_EQ(told(), QStringList(kDrop));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"例示"_s);
   answer({true});
-  fresh({{u"氏名"_s, u"見本"_s}});
+  fresh(newBookingOf({.name = u"見本"_s}));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"見本"_s);
 }
 
 TEST_F(BookingLeave, AddingAgainIsHeard) {
-  screen::Screen& form = storedBooking();
+  screen::Screen& form = finishedBooking();
   form.trigger(u"cmdAdd"_s);
   EXPECT_EQ(form.text(u"txtFields(2)"_s), QString());
   EXPECT_TRUE(

@@ -28,7 +28,7 @@ TEST_F(BookingTest, ANewBookingStandsOnTodayAndNow) {
 
 TEST_F(BookingTest, TakesThePatientHandedOver) {
   screen::Screen& form =
-      fresh({{u"患者ID"_s, u"17"_s}, {u"氏名"_s, u"見本　太郎"_s}, {u"テキスト5"_s, u"20240101003"_s}});
+      fresh(newBookingOf({.serial = u"20240101003"_s, .number = u"17"_s, .name = u"見本　太郎"_s}));
   EXPECT_EQ(form.text(u"txtFields(1)"_s), u"17"_s);
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"見本　太郎"_s);
   EXPECT_EQ(form.focused(), u"Combo1"_s);
@@ -154,7 +154,7 @@ TEST_F(BookingTest, AMissingBookIsToldByNameAndWhatWasTypedStays) {
 
 TEST_F(BookingTest, ARowChangedElsewhereIsRefusedAndWhatWasTypedStays) {
   book(u"2024/6/15"_s, u"9 時 0 分"_s, u"見本"_s);
-  screen::Screen& form = fresh({{u"ID"_s, 1}});
+  screen::Screen& form = fresh(storedBooking(1));
   form.setText(u"txtFields(6)"_s, u"14 時 0 分"_s);
   elsewhere("UPDATE \"予約\" SET \"メモ1\"='電話あり'");
   form.trigger(u"cmdUpdate"_s);
@@ -170,7 +170,7 @@ TEST_F(BookingTest, ARowChangedElsewhereIsRefusedAndWhatWasTypedStays) {
 TEST_F(BookingTest, ShowsTheBookingAskedFor) {
   book(u"2024/6/15"_s, u"9 時 0 分"_s, u"見本"_s);
   book(u"2031/1/2"_s, u"朝"_s, u"例示"_s);
-  screen::Screen& form = fresh({{u"ID"_s, 2}});
+  screen::Screen& form = fresh(storedBooking(2));
   EXPECT_EQ(dayOf(form), QStringList({u"2031"_s, u"1"_s, u"2"_s}));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"例示"_s);
   EXPECT_EQ(form.text(u"txtFields(6)"_s), u"朝"_s);
@@ -185,7 +185,7 @@ TEST_F(BookingTest, SaysWhatCameOnView) {
             spoken({u"予約"_s, u"新規予約"_s, u"2024年6月15日"_s, u"土曜日"_s, u"9 時 5 分"_s}));
   form.focusOn(u"Command5"_s);
   channel.clear();
-  fresh({{u"ID"_s, 2}});
+  fresh(storedBooking(2));
   EXPECT_EQ(channel.heardWhole(), QStringList({spoken({u"予約"_s, u"2024年2月31日"_s, u"朝"_s, u"例示"_s}),
                                                spoken({u"予約NO:"_s, u""_s})}))
       << channel.said().join(u'\n').toStdString();
@@ -209,13 +209,13 @@ TEST_F(BookingTest, TheDayStandsInItsHiddenFieldsToo) {
   form.trigger(u"cmdUpdate"_s);
   EXPECT_EQ(stored(u"予約月"_s), QStringList(u"7"_s))
       << "the field of the same column does not undo the list";
-  fresh({{u"ID"_s, 1}});
+  fresh(storedBooking(1));
   EXPECT_EQ(shown(form), QStringList({u"2025"_s, u"7"_s, u"8"_s}));
   for (const QString& field : hidden) EXPECT_FALSE(form.isControlShown(field)) << field.toStdString();
 }
 
 TEST_F(BookingTest, ABookingDeletedMeanwhileIsNotFound) {
-  fresh({{u"ID"_s, 7}});
+  fresh(storedBooking(7));
   EXPECT_EQ(messages.titles(), QStringList(u"Not found"_s));
   EXPECT_EQ(told(), QStringList(kNotFound));
 }
@@ -224,7 +224,7 @@ TEST_F(BookingTest, ABookingDeletedMeanwhileIsNotFound) {
 
 TEST_F(BookingTest, TodayAndNowAreFilledInAndSaid) {
   book(u"2020/1/2"_s, u"8 時 0 分"_s, u"見本"_s);
-  screen::Screen& form = fresh({{u"ID"_s, 1}});
+  screen::Screen& form = fresh(storedBooking(1));
   form.trigger(u"Command1"_s);
   EXPECT_EQ(dayOf(form), QStringList({u"2024"_s, u"6"_s, u"15"_s}));
   EXPECT_EQ(form.text(u"Combo4"_s), u"土曜日"_s);

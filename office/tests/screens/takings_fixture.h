@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "frame/core/routes.h"
 #include "frame/tests/screens/screen_fixture.h"
 #include "office/screens/office_screens.h"
 #include "platform/screen/testing/screen_probe.h"

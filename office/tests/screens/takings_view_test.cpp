@@ -26,12 +26,12 @@ TEST_F(TakingsTest, OpensOnToday) {
 
 TEST_F(TakingsTest, TheMainMenuLeadsToTheLastVisit) {
   addDates({u"令和6年6月14日"_s, u"令和6年6月15日"_s, u"令和6年6月13日"_s});
-  screen::Screen& screen = takings({{u"最終行"_s, true}});
+  screen::Screen& screen = takings(routes::Takings{.lastRow = true});
   EXPECT_EQ(screen.source().rows().value(u"治療日時"_s), u"令和6年6月13日"_s);
 }
 
 TEST_F(TakingsTest, TheMainMenuMeetsAnEmptyFile) {
-  screen::Screen& screen = takings({{u"最終行"_s, true}});
+  screen::Screen& screen = takings(routes::Takings{.lastRow = true});
   EXPECT_EQ(screen.text(u"Label4"_s), u"0"_s);
   EXPECT_EQ(told(), QStringList());
 }
@@ -122,7 +122,7 @@ TEST_F(TakingsTest, EnterInTheMonthShowsIt) {
 
 TEST_F(TakingsTest, NoHitIsToldAndLeavesTheListAsItWas) {
   addDates({u"令和6年6月14日"_s, u"令和6年6月13日"_s});
-  screen::Screen& screen = takings({{u"最終行"_s, true}});
+  screen::Screen& screen = takings(routes::Takings{.lastRow = true});
   screen.trigger(u"Command1"_s);
   EXPECT_EQ(messages.titles(), QStringList(u"Not found"_s));
   EXPECT_EQ(told(), QStringList(kNotFound));

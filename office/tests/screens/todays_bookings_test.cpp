@@ -100,7 +100,7 @@ TEST_F(TodaysBookings, TheListsFollowTheClockUntilADayIsAskedFor) {
 }
 
 TEST_F(TodaysBookings, TheMainMenuLeadsToTheLastRow) {
-  EXPECT_EQ(list({{u"最終行"_s, true}}).source().rows().absolutePosition(), 3);
+  EXPECT_EQ(list(routes::TodaysBookings{.lastRow = true}).source().rows().absolutePosition(), 3);
 }
 
 TEST_F(TodaysBookings, AnEmptyTableHasNoLastRow) {
@@ -109,7 +109,7 @@ TEST_F(TodaysBookings, AnEmptyTableHasNoLastRow) {
     rows.moveFirst();
     ASSERT_TRUE(rows.remove());
   }
-  list({{u"最終行"_s, true}});
+  list(routes::TodaysBookings{.lastRow = true});
   EXPECT_EQ(told(), QStringList());
 }
 
@@ -260,11 +260,9 @@ TEST_F(TodaysBookings, DeletingAsksAndMovesToTheLastRow) {
   answer({false});
   screen.trigger(u"cmdDelete"_s);
   EXPECT_EQ(told(), QStringList(u"　現在の該当患者を削除しますか？"_s));
-  EXPECT_EQ(run.lastAnswer, 0);
   EXPECT_EQ(stored(u"ID"_s).size(), 4);
   answer({true});
   screen.trigger(u"cmdDelete"_s);
-  EXPECT_EQ(run.lastAnswer, 1);
   EXPECT_EQ(stored(u"予約患者"_s), QStringList({u"例示　花子"_s, u"架空　次郎"_s, u"見本　花子"_s}));
   EXPECT_EQ(screen.source().rows().absolutePosition(), 2);
   EXPECT_EQ(channel.lastSaid(), spoken({u"削除しました"_s, u"予約 3 件"_s}));
@@ -274,10 +272,11 @@ TEST_F(TodaysBookings, DeletingAsksAndMovesToTheLastRow) {
 
 TEST_F(TodaysBookings, TheBookedPersonIsHandedToTheChart) {
   addBooking({{u"予約患者"_s, u"巡り　三郎"_s}, {u"患者NO"_s, u"42"_s}});
-  screen::Screen& screen = list({{u"最終行"_s, true}});
+  screen::Screen& screen = list(routes::TodaysBookings{.lastRow = true});
   screen.trigger(u"Command8"_s);
-  EXPECT_EQ(requestOf(u"治療台帳4"_s)[u"代入"_s].toString(), u"巡り　三郎"_s);
-  EXPECT_EQ(requestOf(u"治療台帳4"_s)[u"患者NO"_s].toString(), u"42"_s);
+  ASSERT_TRUE(handedOver());
+  EXPECT_EQ(handedOver()->name, u"巡り　三郎"_s);
+  EXPECT_EQ(handedOver()->number, u"42"_s);
   EXPECT_TRUE(isShown(u"今日の予約"));
 }
 
@@ -296,7 +295,7 @@ TEST_F(TodaysBookings, ABookingIsEditedAndTheListReadsItAgain) {
 }
 
 TEST_F(TodaysBookings, ANewBookingComesBackToTheList) {
-  run.callerMark = 2;
+  run.bookingsCaller = routes::MainMenu::screen;
   screen::Screen& screen = list();
   screen.trigger(u"Men_YY"_s);
   screen::Screen& form = led(u"予約2"_s);
@@ -311,19 +310,18 @@ TEST_F(TodaysBookings, ANewBookingComesBackToTheList) {
 }
 
 TEST_F(TodaysBookings, ClosingGoesToTheCaller) {
-  const std::pair<int, QString> marks[] = {{2, u"選択3"_s}, {3, u"治療台帳4"_s}};
-  for (const auto& [mark, caller] : marks) {
-    run.callerMark = mark;
+  for (const screen::ScreenName& caller : {routes::MainMenu::screen, routes::PatientRegister::screen}) {
+    run.bookingsCaller = caller;
     list().close();  // the close box does as the button does
     settle();
-    EXPECT_TRUE(navigator.isShown(caller)) << caller.toStdString();
+    EXPECT_TRUE(navigator.isShown(caller)) << caller.text().toStdString();
     EXPECT_FALSE(isShown(u"今日の予約"));
     navigator.unload(caller);
   }
 }
 
 TEST_F(TodaysBookings, WithoutAPatientListThereIsNoWayToTheMenu) {
-  run.callerMark = 2;
+  run.bookingsCaller = routes::MainMenu::screen;
   run.folders[frame::folder::kPatients].clear();
   list().trigger(u"cmdClose"_s);
   EXPECT_FALSE(isShown(u"選択3"));
@@ -350,13 +348,13 @@ TEST_F(TodaysBookings, ButtonsAndEntriesOpenTheirScreens) {
                                               {u"Command5"_s, u"予約週間表"_s},
                                               {u"Men_YI"_s, u"予約週間表"_s}};
   screen::Screen& screen = list();
-  run.calendarMode = 2;
+  run.calendarUse = frame::CalendarUse::Takings;
   for (const auto& [command, room] : ways) {
     screen.trigger(command);
     EXPECT_TRUE(navigator.isShown(room)) << command.toStdString();
     navigator.unload(room);
   }
-  EXPECT_EQ(run.calendarMode, 1) << "the calendar serves the book again";
+  EXPECT_EQ(run.calendarUse, frame::CalendarUse::Bookings) << "the calendar serves the book again";
 }
 
 TEST_F(TodaysBookings, TheCalendarIsHiddenWhereItEndsTheProgram) {

@@ -282,14 +282,14 @@ TEST_F(ListDialogs, FindRowWithoutAHitKeepsTheRow) {
 TEST_F(ListDialogs, SettlingWritesAnEditAndDropsAnUnstoredRow) {
   addThree();
   list().setText("Text1", "自営");
-  EXPECT_TRUE(settleRow(list().source()));
+  EXPECT_TRUE(commitOrDiscardRow(list().source()));
   EXPECT_EQ(list().source().rows().value("職業"), "自営");
   ASSERT_TRUE(list().source().addNew());
   list().setText("Text1", "会社員");
-  EXPECT_TRUE(settleRow(list().source()));
+  EXPECT_TRUE(commitOrDiscardRow(list().source()));
   EXPECT_EQ(list().source().rows().recordCount(), 3);
   list().setText("Text1", QString(300, u'あ'));
-  EXPECT_FALSE(settleRow(list().source()));
+  EXPECT_FALSE(commitOrDiscardRow(list().source()));
   EXPECT_EQ(told().size(), 1);
   EXPECT_EQ(list().text("Text1").size(), 300) << "what was typed stays";
 }
