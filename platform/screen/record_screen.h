@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/screen/screen.h"
+#include "platform/text/utf16.h"
 
 namespace screen {
 

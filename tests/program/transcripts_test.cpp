@@ -69,7 +69,7 @@ TEST_F(TranscriptsTest, EveryScreenWithASourceIsHeardWithRows) {
   for (const QString& name : m_application->registry().names()) {
     const screen::Screen* loaded = m_application->navigator().load(name);
     ASSERT_NE(loaded, nullptr) << name.toStdString();
-    if (loaded->declaration().sources == 0) continue;
+    if (loaded->declaration().sources.count() == 0) continue;
     ++bound;
     EXPECT_TRUE(heard.contains(name)) << name.toStdString() << " has no road in screen_roads.cpp";
   }
