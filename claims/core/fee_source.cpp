@@ -14,10 +14,9 @@ constexpr qint64 kLookAgainMilliseconds = 1000;
 /// The row at the cursor. A fraction is dropped; a column that the file lacks is empty.
 FeeEdition editionAt(const store::Cursor& row) {
   FeeEdition edition;
-  for (int i = 0; i < static_cast<int>(Fee::Count); ++i) {
-    const auto fee = static_cast<Fee>(i);
-    const QString value = row.value(feeColumn(fee));
-    if (text::isNumeric(value)) edition.set(fee, static_cast<int>(text::intOf(value)));
+  for (const FeeRow& fee : kFees) {
+    const QString value = row.value(feeColumn(fee.fee));
+    if (text::isNumeric(value)) edition.set(fee.fee, static_cast<int>(text::intOf(value)));
   }
   edition.id = row.value(QStringLiteral("ID")).toLongLong();
   return edition;

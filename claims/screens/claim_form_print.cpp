@@ -23,8 +23,8 @@ void ClaimFormScreen::previewFees() {
   applyMonth();
   if (!mayLeave()) return;
   closePreview();
-  const QString name = previewScreen(kindOf(m_read.get(claim::treatmentKind)), m_flags);
-  if (!name.isNull()) navigator().show(name);
+  const Preview preview = previewOf(kindOf(m_read.get(claim::treatmentKind)), m_flags.month);
+  if (preview != Preview::None) navigator().show(previewScreen(preview));
 }
 
 void ClaimFormScreen::carryForward() {

@@ -28,8 +28,7 @@ void applySettings(Sheet& sheet) {
   if (sheet.settings.on(Setting::ProxyWords))
     for (const Item item : {Item(u"JUININ1"), Item(u"JUININ2"), Item(u"JUININ3")}) sheet.mark(item);
   if (sheet.settings.off(Setting::ShareAsComputed) && sheet.settings.on(Setting::Amounts))
-    sheet.fields.show(QStringLiteral("dain") + QString::number(amountLayout(sheet.source.kind).shareBox),
-                      QStringLiteral("0"));
+    showShare(sheet.fields, sheet.eras.back().of(recordKind(sheet.source.kind)), QStringLiteral("0"));
 }
 
 void fillPeriodOfChiba(Sheet& sheet) {

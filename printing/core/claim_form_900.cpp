@@ -65,8 +65,9 @@ void hideClaim900(ReportFields& fields, const PrintSource& source) {
   for (const Item item : {Item(u"T_seibetu2"), Item(u"GG4")}) fields.hide(item);
 }
 
-void fillClaim900(ReportFields& fields, const PrintSource& source, const frame::EraDates& dates) {
-  Sheet sheet(fields, source, dates);
+void fillClaim900(ReportFields& fields, const PrintSource& source, const frame::EraDates& dates,
+                  claims::EraTable eras) {
+  Sheet sheet(fields, source, dates, eras);
   for (const Step step : kSteps) step(sheet);
 }
 

@@ -3,7 +3,7 @@
 #include <QString>
 #include <span>
 
-#include "claims/core/rule_dates.h"
+#include "claims/core/era.h"
 #include "frame/core/era_date.h"
 #include "platform/store/tables/claims.h"
 #include "printing/contract/report_fields.h"
@@ -32,12 +32,14 @@ struct DateItems {
 
 /// One page of a claim form while it is being filled.
 struct Sheet {
-  Sheet(ReportFields& reportFields, const PrintSource& printSource, const frame::EraDates& eraDates)
+  Sheet(ReportFields& reportFields, const PrintSource& printSource, const frame::EraDates& eraDates,
+        claims::EraTable eraTable)
       : fields(reportFields),
         source(printSource),
         claim(printSource.claim),
         settings(printSource.claim, printSource.profile),
         dates(eraDates),
+        eras(eraTable),
         month(claims::monthFlags(printSource.claim.get(claim::month), eraDates)) {}
 
   ReportFields& fields;
@@ -45,6 +47,7 @@ struct Sheet {
   const claims::ClaimRecord& claim;
   const PrintSettings settings;
   const frame::EraDates& dates;
+  const claims::EraTable eras;  ///< of the amounts
   const claims::MonthFlags month;
 
   QString value(const store::Column& column) const { return claim.get(column); }

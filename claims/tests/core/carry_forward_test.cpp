@@ -90,9 +90,8 @@ TEST(CarryForward, WhatTheMonthMadeStaysBlank) {
   for (const char16_t* column : {u"初回有無", u"yn2", u"yn3", u"yn4", u"txtdummy27", u"施術科目", u"d3",
                                  u"転帰", u"請求年月日", u"ID"})
     EXPECT_TRUE(next.blank(QString::fromUtf16(column))) << QString::fromUtf16(column).toStdString();
-  for (const char16_t* column : calculatedColumns()) EXPECT_TRUE(next.blank(QString::fromUtf16(column)));
-  for (const char16_t* column : calculatedColumnsSecond())
-    EXPECT_TRUE(next.blank(QString::fromUtf16(column)));
+  for (const store::Column& column : calculatedColumns()) EXPECT_TRUE(next.blank(column));
+  for (const store::Column& column : calculatedColumnsSecond()) EXPECT_TRUE(next.blank(column));
 }
 
 TEST(CarryForward, WhatIsSetAnew) {

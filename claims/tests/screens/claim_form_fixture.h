@@ -57,7 +57,7 @@ class RecordingPrinting final : public ClaimPrinting {
 };
 
 /// The claim form over fresh files, with fees of its own, a voice that is written down and queued answers.
-class ClaimFormTest : public testing::Test {
+class ClaimFormTest : public ::testing::Test {
  protected:
   static void SetUpTestSuite();
   static void TearDownTestSuite() { s_files.reset(); }

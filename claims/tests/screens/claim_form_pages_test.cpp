@@ -33,8 +33,8 @@ constexpr Unshown kUnshown[] = {
 };
 
 bool isCalculated(int half, const QString& column) {
-  for (const char16_t* name : half == 1 ? calculatedColumns() : calculatedColumnsSecond())
-    if (column == qs(name)) return true;
+  for (const store::Column& name : half == 1 ? calculatedColumns() : calculatedColumnsSecond())
+    if (column == name.text()) return true;
   return false;
 }
 

@@ -1,4 +1,4 @@
-#include "claims/core/tally_new.h"
+#include "claims/core/tally_visits.h"
 
 namespace claims {
 namespace {
@@ -9,11 +9,11 @@ constexpr std::array<const char16_t*, kTokens> kNames = {
 
 /// One day while it is tallied.
 struct Day {
-  NewTally& tally;
+  VisitsTally& tally;
   VisitForm form;
   bool treated = false;
 
-  /// Whether the day is paid by the plain fee: no visit, or a sudden one, which is charged beside it.
+  /// Whether the day is paid by the plain fee: no visit, or a sudden one, which is charged in addition.
   bool plain() const { return form == VisitForm::None || form == VisitForm::Sudden; }
 
   void add(char16_t letter, int number = 0) {
@@ -55,7 +55,7 @@ struct Day {
   }
 };
 
-void addDay(NewTally& tally, const DayCode& code, VisitForm form) {
+void addDay(VisitsTally& tally, const DayCode& code, VisitForm form) {
   Day day{tally, form};
   if (code.exact() >= u'a' && code.exact() <= u'f') day.add(code.exact());
   if (code.hasToken()) {
@@ -102,19 +102,19 @@ int tokenIndex(char16_t letter, int number) {
 
 const char16_t* tokenName(int index) { return kNames.at(static_cast<size_t>(index)); }
 
-int NewTally::areaVisits(int areas, int form) const {
+int VisitsTally::areaVisits(int areas, int form) const {
   return visitsOf(u'g', areas).of(form) + visitsOf(u'i', areas).of(form) + visitsOf(u'j', areas).of(form);
 }
 
-int NewTally::artVisits(int arts, int form) const {
+int VisitsTally::artVisits(int arts, int form) const {
   int days = 0;
   for (char16_t letter = arts == 1 ? u'a' : u'e'; letter <= (arts == 1 ? u'd' : u'f'); ++letter)
     days += visitsOf(letter).of(form);
   return days;
 }
 
-NewTally tallyNew(const ClaimRecord& claim) {
-  NewTally tally;
+VisitsTally tallyVisits(const ClaimRecord& claim) {
+  VisitsTally tally;
   for (int day = 1; day <= 31; ++day) {
     const DayCode code(claim.code(day));
     if (code.blank()) continue;

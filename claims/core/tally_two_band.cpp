@@ -1,6 +1,4 @@
-#include "claims/core/tally_old.h"
-
-#include <numeric>
+#include "claims/core/tally_two_band.h"
 
 #include "claims/core/day_codes.h"
 
@@ -10,7 +8,7 @@ namespace {
 /// One number for the whole month: the first one stays, any other makes it 0.
 void unify(std::optional<int>& common, int number) { common = !common || *common == number ? number : 0; }
 
-void takeFirst(OldTally& tally, const DayCode& code) {
+void takeFirst(TwoBandTally& tally, const DayCode& code) {
   tally.first = code.leadingLetter();
   switch (code.exact()) {
     case u'a':
@@ -31,7 +29,7 @@ void takeFirst(OldTally& tally, const DayCode& code) {
 }
 
 /// A massage token: g, i or j on so many areas.
-void addMassage(OldTally& tally, char16_t letter, int areas) {
+void addMassage(TwoBandTally& tally, char16_t letter, int areas) {
   ++tally.massageDays;
   tally.areaSum += areas;
   unify(tally.massageN, areas);
@@ -39,7 +37,7 @@ void addMassage(OldTally& tally, char16_t letter, int areas) {
   if (letter == u'j') ++tally.warmLight;
 }
 
-void addExact(OldTally& tally, char16_t letter) {
+void addExact(TwoBandTally& tally, char16_t letter) {
   if (letter == u'a' || letter == u'b') ++tally.hari;
   if (letter == u'c' || letter == u'd') ++tally.kyu;
   if (letter == u'e' || letter == u'f') ++tally.hariKyu;
@@ -48,7 +46,7 @@ void addExact(OldTally& tally, char16_t letter) {
   if (letter == u'h') ++tally.limbDays;
 }
 
-void addTokens(OldTally& tally, const DayCode& code) {
+void addTokens(TwoBandTally& tally, const DayCode& code) {
   for (int number = 1; number <= 5; ++number) {
     for (const char16_t letter : {u'g', u'i', u'j'}) {
       if (!code.has(letter, number)) continue;
@@ -63,7 +61,7 @@ void addTokens(OldTally& tally, const DayCode& code) {
   }
 }
 
-void addVisit(OldTally& tally, const QString& entry) {
+void addVisit(TwoBandTally& tally, const QString& entry) {
   const int distance = visitDistance(entry);
   if (distance == 0) return;
   ++(distance <= 4 ? tally.nearVisits : tally.farVisits);
@@ -72,12 +70,8 @@ void addVisit(OldTally& tally, const QString& entry) {
 
 }  // namespace
 
-QString OldTally::localCountText() const {
-  return massageN.value_or(0) == 0 ? QString(QLatin1String("")) : QString::number(*massageN);
-}
-
-OldTally tallyOld(const ClaimRecord& claim) {
-  OldTally tally;
+TwoBandTally tallyTwoBand(const ClaimRecord& claim) {
+  TwoBandTally tally;
   const bool firstTicked = claim.ticked(QStringLiteral("初回有無"));
   for (int day = 1; day <= 31; ++day) {
     const DayCode code(claim.code(day));
@@ -90,22 +84,6 @@ OldTally tallyOld(const ClaimRecord& claim) {
     addTokens(tally, code);
   }
   return tally;
-}
-
-int StepVisits::total() const { return std::accumulate(count.begin(), count.end(), 0); }
-
-StepVisits tallySteps(const ClaimRecord& claim) {
-  StepVisits visits;
-  int seen = 0;
-  for (int day = 1; day <= 31; ++day) {
-    if (claim.code(day).isEmpty()) continue;
-    const int distance = visitDistance(claim.visit(day));
-    if (distance < 2 || distance > 16 || distance % 2 != 0) continue;  // no other number is a step
-    ++visits.count[static_cast<size_t>(distance / 2 - 1)];
-    if (seen != 0 && seen != distance) visits.differing = true;
-    seen = distance;
-  }
-  return visits;
 }
 
 }  // namespace claims

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <array>
 #include <optional>
 
 #include "claims/core/claim_record.h"
@@ -10,7 +9,7 @@
 namespace claims {
 
 /// Counts of a claim before 2024/10.
-struct OldTally {
+struct TwoBandTally {
   int hari = 0;         ///< count 1: a, b
   int kyu = 0;          ///< count 2: c, d
   int hariKyu = 0;      ///< count 3: e, f
@@ -26,7 +25,7 @@ struct OldTally {
 
   int areaSum = 0;  ///< areas of all days
   int limbSum = 0;
-  bool digitMassage = false;  ///< a number stood behind a massage letter: areaSum prices the claim
+  bool digitMassage = false;  ///< a massage letter had a number: areaSum prices the claim
   bool digitLimb = false;
   std::optional<int> massageN;  ///< areas of every massage day alike; 0 where they differ
   std::optional<int> limbN;
@@ -34,20 +33,8 @@ struct OldTally {
   int nearVisits = 0;           ///< up to 4 km
   int farVisits = 0;            ///< 5 to 20 km
   std::optional<int> distance;  ///< the distance of every visit alike; 0 where they differ
-
-  /// massageN as the forms show it: blank where it is 0.
-  QString localCountText() const;
 };
 
-OldTally tallyOld(const ClaimRecord& claim);
-
-/// Visits by the 2 km steps of the rule before 2018/06.
-struct StepVisits {
-  std::array<int, 8> count{};  ///< visits of 2, 4, ... 16 km
-  bool differing = false;      ///< the month holds differing distances
-  int total() const;
-};
-
-StepVisits tallySteps(const ClaimRecord& claim);
+TwoBandTally tallyTwoBand(const ClaimRecord& claim);
 
 }  // namespace claims

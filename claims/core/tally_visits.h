@@ -26,9 +26,9 @@ int tokenIndex(char16_t letter, int number = 0);
 const char16_t* tokenName(int index);
 
 /// Counts of a claim from 2024/10. A visit by 訪問施術 (v1 to v20) leaves the counters of what its fee
-/// contains untouched: はり, 灸, one art, two arts and the areas. What is charged beside that fee, 電療,
+/// contains untouched: はり, 灸, one art, two arts and the areas. What is charged in addition, 電療,
 /// 温罨法, 電気光線器具 and 徒手矯正術, counts on every treated day.
-struct NewTally {
+struct VisitsTally {
   int hari = 0;
   int kyu = 0;
   int oneArt = 0;
@@ -56,6 +56,6 @@ struct NewTally {
   static size_t at(char16_t letter, int number) { return static_cast<size_t>(tokenIndex(letter, number)); }
 };
 
-NewTally tallyNew(const ClaimRecord& claim);
+VisitsTally tallyVisits(const ClaimRecord& claim);
 
 }  // namespace claims
