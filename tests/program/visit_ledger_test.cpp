@@ -1,6 +1,7 @@
 // The visit ledger beside the real claim form: the days of a claim go from one to the other and back.
 
 #include "claims/core/claim_file.h"
+#include "frame/core/routes.h"
 #include "tests/program/program_fixture.h"
 
 namespace program {
@@ -28,7 +29,8 @@ class VisitLedgerHandOver : public ProgramTest {
           std::pair(u"一部負担金"_s, u"3割"_s)})
       claim.set(column, value);
     m_id = file().add(claim).value();
-    m_desk->navigator().show(kLedger, {{u"テキスト5"_s, u"P1"_s}, {u"氏名"_s, u"見本　太郎"_s}});
+    m_desk->navigator().show(routes::VisitLedger{
+        routes::VisitLedger::Of{.serial = u"P1"_s, .name = u"見本　太郎"_s, .birth = {}, .opener = {}}});
     fill(kLedger, u"txtFields(115)"_s, u"令和6年10月"_s);
     press(kLedger, u"Check1"_s);
     ASSERT_TRUE(screen(kLedger).isControlShown(u"Frame1"_s));

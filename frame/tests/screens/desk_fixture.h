@@ -79,7 +79,15 @@ class DeskFixture : public testing::Test {
   }
   screen::Request requestOf(const QString& name) const {
     const auto* prompt = dynamic_cast<const screen::ConfirmPrompt*>(navigator.loaded(name));
-    return prompt ? prompt->request() : screen::Request{{QStringLiteral("not shown"), true}};
+    return prompt ? prompt->request() : screen::Request{};
+  }
+  /// The route that a stood-in screen was opened by last; nothing where it is not shown or was opened
+  /// otherwise.
+  template <screen::Route R>
+  std::optional<R> routeTo() const {
+    const screen::Request request = requestOf(R::screen);
+    const R* route = request.as<R>();
+    return route ? std::optional(*route) : std::nullopt;
   }
 
   static void settle() {
