@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <csignal>
 
-#include "app/desk.h"
+#include "app/application.h"
 #include "platform/screen/accessibility.h"
 #include "platform/voice/silent_library.h"
 #include "platform/voice/speech_dispatcher_channel.h"
@@ -18,7 +18,7 @@ int main(int argc, char** argv) {
   voice::SpeechDispatcherChannel speech;
   voice::SilentSoundLibrary sound;
   voice::SilentFocusTalkLibrary focusTalk;
-  app::Desk desk(QCoreApplication::applicationDirPath(), {speech, sound, focusTalk}, clock);
-  if (desk.start() != frame::Started::Menu) return 1;
+  app::Application program(QCoreApplication::applicationDirPath(), {speech, sound, focusTalk}, clock);
+  if (program.start() != frame::Started::Menu) return 1;
   return QApplication::exec();
 }

@@ -1,7 +1,7 @@
 # A room is a folder of sources that becomes one static library. What it may use is what it links:
 # a room of rules links Qt6::Core alone, a room of screens links Qt6::Widgets through platform_screen.
 
-# Two precompiled headers serve all rooms: one without widgets, one with.
+# Two precompiled headers serve all rooms, their tests and the tools: one without widgets, one with.
 file(WRITE ${CMAKE_BINARY_DIR}/pch_core.cpp "")
 add_library(pch_core OBJECT ${CMAKE_BINARY_DIR}/pch_core.cpp)
 target_link_libraries(pch_core PUBLIC Qt6::Core)
@@ -39,8 +39,11 @@ function(room NAME)
 endfunction()
 
 # room_tests(NAME [WIDGETS] [FOLDER dir] [LABEL quick|full] LINKS lib...): every *_test.cpp of the
-# folder in one GoogleTest program. WIDGETS: runs with an offscreen QApplication.
+# folder in one GoogleTest program; nothing in a build without tests. WIDGETS: runs with an offscreen QApplication.
 function(room_tests NAME)
+  if(NOT BUILD_TESTING)
+    return()
+  endif()
   cmake_parse_arguments(ROOM "WIDGETS" "FOLDER;LABEL" "LINKS" ${ARGN})
   if(NOT ROOM_FOLDER)
     set(ROOM_FOLDER tests)
@@ -61,10 +64,12 @@ function(room_tests NAME)
   target_link_libraries(${NAME} PRIVATE ${ROOM_LINKS} GTest::gtest GTest::gmock)
   if(ROOM_WIDGETS)
     target_link_libraries(${NAME} PRIVATE Qt6::Widgets Qt6::Test)
+    target_precompile_headers(${NAME} REUSE_FROM pch_widgets)
   else()
     target_link_libraries(${NAME} PRIVATE Qt6::Core GTest::gtest_main)
+    target_precompile_headers(${NAME} REUSE_FROM pch_core)
   endif()
   add_test(NAME ${NAME} COMMAND ${NAME})
   set_tests_properties(${NAME} PROPERTIES LABELS ${ROOM_LABEL}
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=C.UTF-8;TZ=Asia/Tokyo;SPEECHD_ADDRESS=unix_socket:/nonexistent/speech;CUPS_SERVER=/nonexistent/cups")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=C.UTF-8;TZ=Asia/Tokyo;SPEECHD_ADDRESS=unix_socket:/nonexistent/speech;CUPS_SERVER=/nonexistent/cups;QT_FATAL_CRITICALS=1")
 endfunction()

@@ -2,33 +2,37 @@
 
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 #include "claims/core/amounts.h"
+#include "claims/core/area_boxes.h"
 
 namespace claims {
 
-inline constexpr char16_t kAcupunctureMark[] = u"鍼データ集結ver9.0";
-inline constexpr char16_t kMassageMark[] = u"あマデータ集結ver9.0";
+/// The column of the record: h1 (acupuncture) or m1 (massage).
+store::Column recordColumn(Kind kind);
 
-/// The comma-joined record of a claim from 2024/10, column h1 (acupuncture) or m1 (massage): field 0 is the
-/// mark, the others are whole numbers. Field n goes to the amount box of the forms that has the number n
-/// (docs/amount-record.md). Null for other claims.
+/// The comma-joined record of a claim from 2024/10: field 0 is the mark of the version that rules the claim's
+/// month, the others are whole numbers, each at the field of its item (docs/amount-record.md). Null for
+/// claims of other months.
 QString amountRecord(const ClaimAmounts& amounts, const AreaBoxes& boxes);
 
-/// The fields of a stored record by their number; empty where the text is no such record. `fields[0]` is
-/// the mark.
-QStringList amountRecordFields(const QString& record);
+/// A stored record and what its fields are.
+struct AmountRecord {
+  const KindRules* rules;
+  const RecordVersion* version;
+  QStringList fields;  ///< field 0 is the mark
 
-/// Numbers of the fields that are no triple.
-namespace acupuncture_field {
-inline constexpr int kFirst = 1, kOneArtDays = 2, kTwoArtDays = 3, kPlain = 4, kVisits = 10, kElectric = 34,
-                     kSpecial = 37, kSudden = 40, kReport = 43, kTotal = 46, kShare = 47, kClaim = 48,
-                     kLast = 48;
-}
-namespace massage_field {
-inline constexpr int kAreaBoxes = 1, kLimbBoxes = 6, kPlain = 10, kVisits = 16, kWarm = 40, kWarmLight = 43,
-                     kLimb = 46, kSpecial = 49, kSudden = 52, kReport = 55, kTotal = 58, kShare = 59,
-                     kClaim = 60, kLast = 60;
-}
+  /// A field as a number; 0 for a field that the record has not.
+  qint64 number(int field) const;
+  /// Whether the line of an item has a count.
+  bool counted(const AmountItem& item) const { return number(item.field.first + 1) != 0; }
+};
+
+/// Reads a record of a kind by the version that its mark names; nothing for any other text.
+std::optional<AmountRecord> readAmountRecord(const QString& record, Kind kind, EraTable table = eras());
+
+/// The fields of a stored record of either kind by their number; empty where the text is no such record.
+QStringList amountRecordFields(const QString& record, EraTable table = eras());
 
 }  // namespace claims

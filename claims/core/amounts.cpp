@@ -2,15 +2,41 @@
 
 #include <cmath>
 
-#include "claims/core/amounts_parts.h"
+#include "claims/core/share_rate.h"
 
 namespace claims {
 namespace {
 
-Regime regimeOf(Kind kind, const MonthFlags& flags, Path path) {
-  if (!flags.month) return Regime::None;
-  if (flags.isAfter202410) return kind == Kind::None ? Regime::None : Regime::Visits;
-  return path == Path::Preview && !flags.isAfter201806 ? Regime::Steps : Regime::TwoBand;
+void tallyInto(ClaimAmounts& result, const ClaimRecord& claim) {
+  if (result.regime == Regime::Visits) {
+    result.visits = tallyVisits(claim);
+    result.treatmentDays = result.visits.treatmentDays;
+    return;
+  }
+  result.twoBand = tallyTwoBand(claim);
+  result.treatmentDays = result.twoBand.treatmentDays;
+  if (result.regime == Regime::Steps) result.steps = tallySteps(claim);
+}
+
+QString labelOf(const AmountItem& item, int number) {
+  const QString label = columnName(item.label);
+  return label.contains(u'%') ? label.arg(number) : label;
+}
+
+/// The lines of all items in force, and the rows of those that are charged.
+void addLines(ClaimAmounts& result, const ClaimCounts& counts, const FeeEdition& fees, QDate month) {
+  for (const AmountItem& item : result.rules->items) {
+    AmountLine& line = result.lines.emplace_back();
+    if (item.counter == nullptr || !item.from.holdsIn(month)) continue;
+    if (item.tick && !counts.claim.ticked(*item.tick)) continue;
+    const Counted counted = item.counter(counts);
+    if (counted.count == 0) continue;
+    const int unit = item.fee.yen(fees, counted.number);
+    line = {unit, counted.count, qint64{unit} * counted.count};
+    if (!item.charged) continue;
+    result.rows.append({labelOf(item, counted.number), line.unit, line.count, line.amount});
+    result.total += line.amount;
+  }
 }
 
 }  // namespace
@@ -20,45 +46,32 @@ qint64 shareOf(qint64 total, double rate) {
   return static_cast<qint64>(std::floor(static_cast<double>(total) * rate + 0.999));
 }
 
-QString previewScreen(Kind kind, const MonthFlags& flags) {
-  if (!flags.month || kind == Kind::None) return {};
-  const bool massage = kind == Kind::Massage;
-  if (flags.isAfter202410) return massage ? QStringLiteral("施術料金2024A") : QStringLiteral("施術料金2024H");
-  if (flags.isAfter201806) return massage ? QStringLiteral("施術料金2108A") : QStringLiteral("施術料金2018H");
-  return massage ? QStringLiteral("施術料金2") : QStringLiteral("施術料金1");
-}
-
-int reportCount(const ClaimRecord& claim) {
-  if (!claim.ticked(QStringLiteral("yn2"))) return 0;
-  if (claim.ticked(QStringLiteral("yn4"))) return 3;
-  return claim.ticked(QStringLiteral("yn3")) ? 2 : 1;
-}
-
-ClaimAmounts amounts(const ClaimRecord& claim, const FeeEdition& fees, const MonthFlags& flags, Path path) {
+ClaimAmounts amounts(const ClaimRecord& claim, const FeeEdition& fees, const MonthFlags& flags, Path path,
+                     EraTable table) {
   ClaimAmounts result;
-  result.kind = kindOf(claim.get(QStringLiteral("施術内容")));
-  result.regime = regimeOf(result.kind, flags, path);
-  result.previewScreen = previewScreen(result.kind, flags);
-  result.rate = shareRate(claim.get(QStringLiteral("一部負担金")));
-  if (result.regime == Regime::None) return result;
-  result.fees = fees;
-  if (result.regime == Regime::Visits) {
-    computeVisits(claim, result);
-  } else {
-    computeOld(claim, flags, result);
-  }
-  for (const AmountRow& row : result.rows) result.total += row.amount;
+  result.kind = kindOf(claim.get(claim::treatmentKind));
+  result.preview = previewOf(result.kind, flags.month, table);
+  result.rate = shareRate(claim.get(claim::shareRate));
+  const Era* era = eraOf(flags.month, path, table);
+  if (era == nullptr || (era->regime == Regime::Visits && result.kind == Kind::None)) return result;
+  result.regime = era->regime;
+  result.rules = &era->of(result.kind);
+  result.version = result.rules->versionOf(*flags.month);
+  result.lines.reserve(static_cast<qsizetype>(result.rules->items.size()));
+  tallyInto(result, claim);
+  addLines(result, result.counts(claim), fees, *flags.month);
+  result.subject = result.rules->subject(result);
   result.share = shareOf(result.total, result.rate);
   result.claim = result.total - result.share;
   return result;
 }
 
 text::Result<ClaimAmounts> amounts(const ClaimRecord& claim, const MonthFlags& flags, Path path,
-                                   const FeeFiles& files, FeeSource& source) {
-  if (!flags.month) return amounts(claim, FeeEdition(), flags, path);
+                                   const FeeFiles& files, FeeSource& source, EraTable table) {
+  if (!flags.month) return amounts(claim, FeeEdition(), flags, path, table);
   const auto fees = source.load(files.path(*flags.month));
   if (!fees) return fees.fault();
-  return amounts(claim, fees.value(), flags, path);
+  return amounts(claim, fees.value(), flags, path, table);
 }
 
 }  // namespace claims

@@ -4,10 +4,11 @@
 #include <array>
 
 #include "claims/core/claim_record.h"
+#include "platform/store/tables/claims.h"
 
 namespace claims {
 
-/// 施術回数 beside 同意部位 on the massage form, by area (躯幹, 右上肢, 左上肢, 右下肢, 左下肢) and by limb
+/// 施術回数 next to 同意部位 on the massage form, by area (躯幹, 右上肢, 左上肢, 右下肢, 左下肢) and by limb
 /// (右上肢, 左上肢, 右下肢, 左下肢). A blank text is a blank box.
 struct AreaBoxes {
   std::array<QString, 5> areas;  ///< Text31, stored in d3 to d7
@@ -15,11 +16,11 @@ struct AreaBoxes {
   bool operator==(const AreaBoxes&) const = default;
 };
 
-inline constexpr std::array kAreaColumns = {u"躯幹", u"右上肢", u"左上肢", u"右下肢", u"左下肢"};
-inline constexpr std::array kLimbColumns = {u"徒手右上肢", u"徒手左上肢", u"徒手右下肢", u"徒手左下肢"};
-inline constexpr std::array kAreaBoxColumns = {u"d3", u"d4", u"d5", u"d6", u"d7"};
-inline constexpr std::array kLimbBoxColumns = {u"d8", u"d9", u"d10", u"d11"};
-
+/// The ticks of the consent that the boxes belong to, in the same order.
+inline constexpr std::array kAreaColumns = {claim::trunk, claim::rightArm, claim::leftArm, claim::rightLeg,
+                                            claim::leftLeg};
+inline constexpr std::array kLimbColumns = {claim::limbRightArm, claim::limbLeftArm, claim::limbRightLeg,
+                                            claim::limbLeftLeg};
 /// The boxes counted anew from the grid and the ticks (↑↓再代入, each change of the grid).
 AreaBoxes areaBoxes(const ClaimRecord& claim);
 /// The boxes as a stored claim keeps them in d3 to d11.

@@ -25,8 +25,7 @@ QString carryForwardRefusal(const ClaimRecord& claim) {
 ClaimRecord carryForward(const ClaimRecord& claim) {
   ClaimRecord next;
   for (const store::Column& column : carriedColumns()) copy(claim, next, column);
-  for (const PrintSetting& setting : printSettings()) copy(claim, next, setting.column);
-  for (const NewClaimDefault& hidden : hiddenPrintDefaults()) copy(claim, next, hidden.column);
+  for (const PrintSetting& setting : kPrintSettings) copy(claim, next, setting.column);
   // 社保 and 政管健保 were taken over by 全国健康保険協会 in 2008; old claims pass on the new name.
   if (claim.get(claim::insuranceKind) == u"社保") next.set(claim::insuranceKind, u"全国健康保険協会"_s);
   if (claim.get(claim::printedInsurance) == u"政管健保")

@@ -1,6 +1,6 @@
 #include "claims/core/check_grid.h"
 
-#include "claims/core/tally_new.h"
+#include "claims/core/tally_visits.h"
 #include "platform/store/tables/claims.h"
 
 namespace claims {
@@ -58,7 +58,7 @@ int numbersThat(int last, Counts counts) {
 constexpr int kForms = 4;
 
 /// More than two numbers of areas under one form of visit.
-QString visitNumbersMessage(const NewTally& tally) {
+QString visitNumbersMessage(const VisitsTally& tally) {
   for (int form = 0; form < kForms; ++form) {
     if (numbersThat(5, [&](int areas) { return tally.areaVisits(areas, form); }) < 3) continue;
     // v3 and v4 mean the two bands of the third form here.
@@ -113,7 +113,7 @@ QString specialAreaMessage(const ClaimRecord& claim) {
 }
 
 QString areaNumbersMessage(const ClaimRecord& claim) {
-  const NewTally tally = tallyNew(claim);
+  const VisitsTally tally = tallyVisits(claim);
   // kept: the text says two or more, the rule is three or more.
   if (numbersThat(5, [&](int areas) { return tally.areaDays(areas); }) >= 3)
     return u"マッサージの局数が２つ以上の異なる数字が入っています。マッサージの局数は２種類のみにしてください。"_s;
@@ -129,7 +129,7 @@ QString ledgerGridMessage(const ClaimRecord& claim, const MonthFlags& flags) {
   QString message = gridFilledMessage(codes);
   if (message.isNull()) message = gridMixedMessage(codes);
   if (message.isNull()) message = gridCodesMessage(codes, claim, flags.isAfter202012, warnings);
-  if (message.isNull() && flags.isAfter202410) message = visitNumbersMessage(tallyNew(claim));
+  if (message.isNull() && flags.isAfter202410) message = visitNumbersMessage(tallyVisits(claim));
   return message;
 }
 

@@ -10,12 +10,10 @@
 namespace claims {
 
 /// Outcome of a check: the messages in the order in which they are shown. Where `stop` is set the last one
-/// is the failure and claimCheck is "break"; all others are warnings, after which the check went on.
+/// is the failure; all others are warnings, after which the check went on.
 struct CheckResult {
   bool stop = false;
   QStringList messages;
-  /// claimCheck: "" or "break".
-  QString claimCheck() const { return stop ? QStringLiteral("break") : QString(); }
 };
 
 /// checkClaimFull: before 登録 and the print buttons.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "claims/core/amount_record.h"
+#include "claims/core/insurance.h"
 #include "claims/core/share_ticks.h"
 #include "platform/store/tables/claims.h"
 
@@ -91,35 +92,26 @@ void writeDerived(const ClaimRecord& claim, Writer& writer) {
 }
 
 /// The distance that the claim shows: the one typed for printing, else the one of all its visits.
-QString distanceText(const OldTally& tally, Writer& writer) {
+QString distanceText(const TwoBandTally& tally, Writer& writer) {
   if (const QString actual = writer.get(claim::realDistance); !actual.isEmpty()) return actual;
   return tally.distance.value_or(0) == 0 ? QString() : QString::number(*tally.distance);
 }
 
-void writeOld(const ClaimAmounts& a, Writer& writer) {
-  const OldTally& t = a.old;
-  const struct {
-    store::Column amountColumn, countColumn;
-    qint64 amount;
-    int count;
-  } kinds[] = {{claim::hariSum, claim::hariTimes, a.hari, t.hari},
-               {claim::kyuSum, claim::kyuTimes, a.kyu, t.kyu},
-               {claim::hariKyuSum, claim::hariKyuTimes, a.hariKyu, t.hariKyu},
-               {claim::hariElectricSum, claim::hariElectricTimes, a.electric, t.electric},
-               {claim::massageSum, claim::massageTimes, a.area, t.massageDays},
-               {claim::limbSum, claim::limbTimes, a.limb, t.limbDays},
-               {claim::warmSum, claim::warmTimes, a.warm, t.warm},
-               {claim::warmLightSum, claim::warmLightTimes, a.warmLight, t.warmLight}};
-  for (const auto& kind : kinds) {
-    writer.fill(kind.amountColumn, kind.amount);
-    writer.fill(kind.countColumn, kind.count);
+/// The columns that keep each item.
+void writeItems(const ClaimAmounts& a, const ClaimCounts& counts, Writer& writer) {
+  for (size_t i = 0; i < a.items().size(); ++i) {
+    const AmountColumns& columns = a.items()[i].columns;
+    const AmountLine& line = a.lines[static_cast<qsizetype>(i)];
+    if (columns.amount) writer.fill(*columns.amount, line.amount);
+    if (columns.count)
+      writer.fill(*columns.count, columns.counter != nullptr ? columns.counter(counts).count : line.count);
   }
-  writer.fill(claim::firstFee, a.first);
-  if (t.first != 0) writer.fill(claim::first, QString(QChar(t.first)));
-  writer.fill(claim::visitDistance, distanceText(t, writer));
-  writer.fill(claim::visitTimes, t.nearVisits + t.farVisits);
-  writer.fill(claim::visitSum1, a.visit1);
-  writer.fill(claim::visitSum2, a.visit2);
+}
+
+void writeTwoBand(const TwoBandTally& tally, Writer& writer) {
+  if (tally.first != 0) writer.fill(claim::first, QString(QChar(tally.first)));
+  writer.fill(claim::visitDistance, distanceText(tally, writer));
+  writer.fill(claim::visitTimes, tally.nearVisits + tally.farVisits);
 }
 
 /// 施術科目, blank but never NULL: NULL says that the claim was never stored.
@@ -127,8 +119,9 @@ void writeSubject(const QString& subject, Writer& writer) {
   writer.set(claim::subject, subject.isNull() ? QString(QLatin1String("")) : subject);
 }
 
-void writeAmounts(const ClaimAmounts& a, const AreaBoxes& boxes, Writer& writer) {
-  if (a.regime == Regime::TwoBand) writeOld(a, writer);
+void writeAmounts(const ClaimAmounts& a, const ClaimCounts& counts, const AreaBoxes& boxes, Writer& writer) {
+  writeItems(a, counts, writer);
+  if (a.regime == Regime::TwoBand) writeTwoBand(a.twoBand, writer);
   writer.fill(claim::treatmentDays, a.treatmentDays);
   writeSubject(a.subject, writer);
   const bool massage = a.kind == Kind::Massage;
@@ -142,8 +135,7 @@ void writeAmounts(const ClaimAmounts& a, const AreaBoxes& boxes, Writer& writer)
     writer.fill(sum.column, sum.yen);
     if (a.kind != Kind::None) writer.fill(sum.own, sum.yen);
   }
-  if (a.regime == Regime::Visits)
-    writer.fill(massage ? claim::massageRecord : claim::hariRecord, amountRecord(a, boxes));
+  if (a.version != nullptr) writer.fill(recordColumn(a.kind), amountRecord(a, boxes));
 }
 
 AreaBoxes boxesFor(const ClaimRecord& claim, const std::optional<AreaBoxes>& given) {
@@ -171,10 +163,10 @@ StoredClaim storeClaim(const ClaimRecord& claim, const StoreContext& context,
   if (flags.month) {
     writer.clear(kCalculated);
     writer.clear(kCalculatedSecond);
-    const auto computed = amounts(claim, flags, Path::Store, context.files, context.fees);
+    const auto computed = amounts(claim, flags, Path::Store, context.files, context.fees, context.eraTable);
     if (computed) {
       stored.amounts = computed.value();
-      writeAmounts(stored.amounts, boxes, writer);
+      writeAmounts(stored.amounts, stored.amounts.counts(claim), boxes, writer);
     } else {
       stored.calculation = computed.fault();
       writeSubject(writer.get(claim::subject), writer);

@@ -16,6 +16,7 @@ struct StoreContext {
   const frame::EraDates& era;
   const FeeFiles& files;
   FeeSource& fees;
+  EraTable eraTable = eras();
 };
 
 /// A claim as 登録 writes it.

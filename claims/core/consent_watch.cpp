@@ -30,9 +30,12 @@ struct Ends {
   QHash<Consent, QDate> later;
 };
 
-Ends endsOf(store::Cursor& claims, QDate from, QDate to, const frame::EraDates& dates) {
+text::Result<Ends> endsOf(store::Cursor& claims, QDate from, QDate to, const frame::EraDates& dates) {
   Ends ends;
-  for (; !claims.eof(); claims.moveNext()) {
+  for (;;) {
+    const text::Result<bool> row = claims.next();
+    if (!row) return row.fault();
+    if (!*row) return ends;
     const QString text = claims.value(claim::consentUntil);
     if (text.trimmed().isEmpty()) continue;
     const std::optional<QDate> end = dates.anyDate(text);
@@ -42,23 +45,24 @@ Ends endsOf(store::Cursor& claims, QDate from, QDate to, const frame::EraDates& 
     else if (QDate& latest = ends.later[consentOf(claims)]; !latest.isValid() || *end > latest)
       latest = *end;
   }
-  return ends;
 }
 
 /// Of each name the first claim with an end within the days.
-QList<ConsentEnd> rowsOf(store::Cursor& claims, const Ends& ends) {
+text::Result<QList<ConsentEnd>> rowsOf(store::Cursor& claims, const Ends& ends) {
   QList<ConsentEnd> rows;
   QSet<QString> listed;
-  for (; !claims.eof(); claims.moveNext()) {
+  for (;;) {
+    const text::Result<bool> row = claims.next();
+    if (!row) return row.fault();
+    if (!*row) return rows;
     const auto end = ends.within.constFind(claims.value(claim::id));
     if (end == ends.within.cend()) continue;
     const QString name = claims.value(claim::name);
     if (listed.contains(name)) continue;
     listed.insert(name);
-    rows.append({name, claims.value(claim::insuranceKind), *end, claims.value(claim::treatmentKind),
-                 ends.later.value(consentOf(claims))});
+    rows.append({name, claims.value(claim::insuranceKind), *end,
+                 claims.value(claim::treatmentKind), ends.later.value(consentOf(claims))});
   }
-  return rows;
 }
 
 }  // namespace
@@ -77,8 +81,10 @@ text::Result<QList<ConsentEnd>> consentsRunningOut(const QString& claimsPath, co
   if (!newestFirst) return newestFirst.fault();
 
   const QDate today = dates.clock().today();
-  QList<ConsentEnd> rows = rowsOf(*newestFirst, endsOf(*byConsent, today, today.addMonths(1), dates));
-  std::ranges::stable_sort(rows, {}, &ConsentEnd::end);
+  const text::Result<Ends> ends = endsOf(*byConsent, today, today.addMonths(1), dates);
+  if (!ends) return ends.fault();
+  text::Result<QList<ConsentEnd>> rows = rowsOf(*newestFirst, *ends);
+  if (rows) std::ranges::stable_sort(*rows, {}, &ConsentEnd::end);
   return rows;
 }
 

@@ -3,52 +3,10 @@
 #include <QString>
 #include <array>
 #include <optional>
-#include <span>
+
+#include "claims/core/fee.h"
 
 namespace claims {
-
-/// Columns of table 料金設定 in the order of the table. The 訪問施術 columns stand at the end, by form (①,
-/// ②, ③ of 3 to 9, ③ of 10 and more) and by arts or areas, so that visitFee() can reckon them.
-enum class Fee {
-  Hari,
-  HariFirst,
-  HariElectric,
-  HariElectricFirst,
-  Kyu,
-  KyuFirst,
-  KyuElectric,
-  KyuElectricFirst,
-  HariKyu,
-  HariKyuFirst,
-  HariKyuElectric,
-  HariKyuElectricFirst,
-  MassageArea,
-  Warm,
-  WarmLight,
-  Limb,
-  Sudden,
-  Add2K,
-  Add4K,
-  SpecialArea,
-  Add6K,
-  Add8K,
-  Add10K,
-  Add12K,
-  Add16K,
-  Base2K,
-  Add14K,
-  Report,
-  HariVisit,
-  MassageVisit = HariVisit + 8,
-  Count = MassageVisit + 20
-};
-
-/// Column name of a fee.
-const QString& feeColumn(Fee fee);
-/// はり訪問施術 by form 0 to 3 and arts 1 or 2.
-Fee hariVisitFee(int form, int arts);
-/// マ訪問施術 by form 0 to 3 and areas 1 to 5.
-Fee massageVisitFee(int form, int areas);
 
 /// FeeEdition: the ruling row of one fee file, whole yen. An empty column has no value and counts as 0.
 class FeeEdition {
@@ -62,7 +20,7 @@ class FeeEdition {
 
  private:
   static size_t index(Fee fee) { return static_cast<size_t>(fee); }
-  std::array<std::optional<int>, static_cast<size_t>(Fee::Count)> m_values;
+  std::array<std::optional<int>, kFees.size()> m_values;
 };
 
 }  // namespace claims

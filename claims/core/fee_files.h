@@ -2,8 +2,9 @@
 
 #include <QDate>
 #include <QString>
-#include <optional>
+#include <span>
 
+#include "claims/core/rule_dates.h"
 #include "frame/core/data_folders.h"
 
 namespace claims {
@@ -11,6 +12,17 @@ namespace claims {
 /// The national fees, and the set of one association in Osaka.
 enum class FeeSet { National, Osaka };
 
+/// A fee file and the first claim month that it holds for.
+struct FeeFileRow {
+  rule::Date from;
+  const char16_t* file;
+};
+
+/// The fee files of a set, newest first; the last row holds for all earlier months too.
+std::span<const FeeFileRow> feeFileRows(FeeSet set = FeeSet::National);
+
+/// The file of a claim month among the given rows.
+QString pickFeeFile(QDate claimMonth, std::span<const FeeFileRow> rows);
 /// pickFeeFile: the file name whose edition a claim month is computed with (料金設定2024.mdb). The name's
 /// year is the year in which the edition ended. 料金設定2019.mdb is never picked: it was tested with the
 /// same date as 2018 and so never stayed chosen; kept.
@@ -19,7 +31,8 @@ QString pickFeeFile(QDate claimMonth, FeeSet set = FeeSet::National);
 /// Where fee files lie: the current national edition at its data-folder path, all others beside the program.
 struct FeeFiles {
   QString programFolder;
-  QString current;  ///< path of the current national edition
+  QString current;                                       ///< path of the current national edition
+  std::span<const FeeFileRow> national = feeFileRows();  ///< the national editions
 
   FeeFiles(QString folder, const frame::DataFolders& folders);
   FeeFiles(QString folder, QString currentPath)

@@ -14,10 +14,9 @@ constexpr qint64 kLookAgainMilliseconds = 1000;
 /// The row at the cursor. A fraction is dropped; a column that the file lacks is empty.
 FeeEdition editionAt(const store::Cursor& row) {
   FeeEdition edition;
-  for (int i = 0; i < static_cast<int>(Fee::Count); ++i) {
-    const auto fee = static_cast<Fee>(i);
-    const QString value = row.value(feeColumn(fee));
-    if (text::isNumeric(value)) edition.set(fee, static_cast<int>(text::intOf(value)));
+  for (const FeeRow& fee : kFees) {
+    const QString value = row.value(feeColumn(fee.fee));
+    if (text::isNumeric(value)) edition.set(fee.fee, static_cast<int>(text::intOf(value)));
   }
   edition.id = row.value(QStringLiteral("ID")).toLongLong();
   return edition;
@@ -28,8 +27,11 @@ text::Result<FeeEdition> readEdition(const QString& path) {
   if (const auto opened = connection.open(store::connectionString(path)); !opened) return opened.fault();
   auto rows = store::Cursor::open(connection, QString::fromUtf16(store::source::kFeesNewestFirst));
   if (!rows) return rows.fault();
-  if (rows->eof()) return text::Fault{path + QStringLiteral(": 料金設定 のデータがありません。")};
+  const text::Result<bool> row = rows->next();
+  if (!row) return row.fault();
+  if (!*row) return text::Fault{path + QStringLiteral(": 料金設定 のデータがありません。")};
   FeeEdition edition = editionAt(*rows);
+  if (const text::Done read = rows->check(); !read) return read.fault();
   edition.path = path;
   return edition;
 }

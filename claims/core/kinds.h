@@ -1,43 +1,11 @@
 #pragma once
 
 #include <QString>
-#include <span>
 
 namespace claims {
 
 /// Kind of treatment, column 施術内容: 鍼灸, 鍼 and 灸 are acupuncture claims, あマ a massage claim.
 enum class Kind { None, Acupuncture, Massage };
 Kind kindOf(const QString& treatment);
-
-/// One kind of insurance as the claim keeps it in 保険の種類.
-struct InsuranceRow {
-  const char16_t* name;
-  int order;                      ///< 保険順位, the first key of every claim list
-  const char16_t* codeOfInsured;  ///< code for the summary sheets where 続柄 is 本人 (nullptr: none)
-  const char16_t* codeOfFamily;   ///< the same for everybody else
-  const char16_t* addressee;      ///< 官職宛名 that a blank c6 is set to (nullptr: none)
-};
-
-/// All kinds, 老人 (before the law of 2008) among them.
-std::span<const InsuranceRow> insuranceRows();
-/// The row of a kind's name, nullptr where it is none of them.
-const InsuranceRow* insuranceRow(const QString& kind);
-
-/// 保険順位 as stored text; null where the kind is unknown.
-QString insuranceOrder(const QString& kind);
-/// The derived code of the summary sheets: "111"/"222", "11"/"22", "1"/"2"; null where the kind has none.
-QString summaryCode(const QString& kind, const QString& relation);
-/// 官職宛名 that the form sets where c6 is blank; null: none.
-QString defaultAddressee(const QString& kind);
-
-/// Column that keeps the summary code. The sheets' code never had a column name of its own; the number
-/// column numdummy16 of the second half is taken for it, which nothing else uses.
-inline constexpr char16_t kSummaryCodeColumn[] = u"numdummy16";
-
-/// The seven kinds that a new claim is made with, in the order of レセプト選択.
-std::span<const char16_t* const> newClaimInsurance();
-
-/// Rate of the patient's share by 一部負担金; 0 for any other text: no share.
-double shareRate(const QString& share);
 
 }  // namespace claims

@@ -16,8 +16,11 @@ text::Result<bool> holdsMonth(const QString& claimsPath, const QString& month) {
   claims->setFilter(store::equalCriterion(claim::month, month));
   const auto alike = claims->openRecordset();
   if (!alike) return alike.fault();
-  for (int row = 0; row < alike->recordCount(); ++row)
-    if (alike->valueAt(row, claim::month) == month) return true;
+  for (int row = 0; row < alike->recordCount(); ++row) {
+    const text::Result<QString> value = alike->readAt(row, claim::month);
+    if (!value) return value.fault();
+    if (*value == month) return true;
+  }
   return false;
 }
 

@@ -1,5 +1,6 @@
 #include "claims/core/new_claim.h"
 
+#include "claims/core/insurance.h"
 #include "claims/core/print_settings.h"
 #include "platform/store/tables/claims.h"
 #include "platform/text/utf16.h"
@@ -47,10 +48,8 @@ void setDefaults(ClaimRecord& claim) {
   claim.set(claim::workRelated, u"その他"_s);
   claim.set(claim::thirdParty, u"いいえ"_s);
   claim.set(claim::hospitalised, u"入院外"_s);
-  for (const PrintSetting& setting : printSettings())
+  for (const PrintSetting& setting : kPrintSettings)
     if (setting.newClaim) claim.set(setting.column, text::utf16(setting.newClaim));
-  for (const NewClaimDefault& hidden : hiddenPrintDefaults())
-    claim.set(hidden.column, text::utf16(hidden.value));
 }
 
 void setPersons(ClaimRecord& claim, const frame::Patient& patient, bool insuredToo) {
@@ -77,7 +76,7 @@ ClaimRecord newClaim(const frame::Patient& patient, const NewClaimChoice& choice
   claim.set(claim::insuranceOrder, insuranceOrder(choice.insurance));
   claim.set(claim::summaryCode, summaryCode(choice.insurance, claim.get(claim::relation)));
   for (const frame::ProfileField& field : frame::profileFields())
-    if (field.claimColumn) claim.set(field.claimColumn, profile[field.slot]);
+    if (field.claimColumn) claim.set(*field.claimColumn, profile[field.slot]);
   claim.set(claim::registrationHari, profile[frame::profile::kElderlyHari]);
   claim.set(claim::registrationMassage, profile[frame::profile::kElderlyMassage]);
   setDefaults(claim);

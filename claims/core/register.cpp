@@ -27,11 +27,15 @@ text::Result<RegisterRows> readRegister(const Register& list, const frame::DataF
   auto cursor = store::Cursor::open(connection, text::utf16(list.statement));
   if (!cursor) return cursor.fault();
   RegisterRows rows;
-  for (; rows.size() < kMaxRows && !cursor->eof(); cursor->moveNext()) {
+  while (rows.size() < kMaxRows) {
+    const text::Result<bool> row = cursor->next();
+    if (!row) return row.fault();
+    if (!*row) return rows;
     QStringList values;
     for (const RegisterField& field : list.fields) values << cursor->value(field.column);
     rows << values;
   }
+  if (const text::Done last = cursor->check(); !last) return last.fault();
   return rows;
 }
 

@@ -1,18 +1,24 @@
 #include "claims/core/rule_dates.h"
 
 namespace claims {
+namespace {
+
+struct FlagRow {
+  bool MonthFlags::*flag;
+  rule::Date from;
+};
+constexpr FlagRow kFlags[] = {
+    {&MonthFlags::isAfter201806, rule::kTwoBandVisits},  {&MonthFlags::isAfter201810, rule::kReports},
+    {&MonthFlags::isAfter202012, rule::kStrictCodes},    {&MonthFlags::isAfter202206, rule::kForms2022},
+    {&MonthFlags::isAfter202410, rule::kVisitTreatment}, {&MonthFlags::isAfter202510, rule::kForms2025}};
+
+}  // namespace
 
 MonthFlags monthFlags(std::optional<QDate> month) {
   MonthFlags flags;
   if (!month) return flags;
-  const auto reached = [&](const rule::Date& rule) { return *month >= rule.date(); };
   flags.month = month;
-  flags.isAfter201806 = reached(rule::kTwoBandVisits);
-  flags.isAfter201810 = reached(rule::kReports);
-  flags.isAfter202012 = reached(rule::kStrictCodes);
-  flags.isAfter202206 = reached(rule::kForms2022);
-  flags.isAfter202410 = reached(rule::kVisitTreatment);
-  flags.isAfter202510 = reached(rule::kForms2025);
+  for (const FlagRow& row : kFlags) flags.*row.flag = row.from.holdsIn(*month);
   return flags;
 }
 

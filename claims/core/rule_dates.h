@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QString>
+#include <compare>
 #include <optional>
 
 #include "frame/core/era_date.h"
@@ -13,18 +14,21 @@ namespace rule {
 struct Date {
   int year, month;
   QDate date() const { return QDate(year, month, 1); }
+  /// Whether a rule that begins with this month holds for a claim month.
+  bool holdsIn(QDate claimMonth) const { return claimMonth >= date(); }
+  friend constexpr auto operator<=>(const Date&, const Date&) = default;
 };
+inline constexpr Date kAlways{1, 1};
 inline constexpr Date kTwoBandVisits{2018, 6};  ///< visits up to and beyond 4 km; before it 2 km steps
 inline constexpr Date kReports{2018, 10};  ///< 施術報告書 and 往療内訳 open; the report fee counts
-inline constexpr Date kReiwa{2019, 5};
 inline constexpr Date kStrictCodes{2020, 12};     ///< the code grammar is tightened
 inline constexpr Date kForms2022{2022, 6};        ///< print forms of 2022
 inline constexpr Date kVisitTreatment{2024, 10};  ///< 訪問施術 fees, row 往療人数
 inline constexpr Date kForms2025{2025, 10};       ///< later layout of the monthly print
 }  // namespace rule
 
-/// The claim's month as a date and the flags that the form keeps of it. A blank or unreadable month has
-/// no date and no flag set.
+/// The claim's month as a date and the flags that the form keeps of it: each is set from the month of its
+/// name on. A blank or unreadable month has no date and no flag set.
 struct MonthFlags {
   std::optional<QDate> month;
   bool isAfter201806 = false;

@@ -1,6 +1,7 @@
 #include "claims/screens/claim_choice_screen.h"
 
 #include "claims/core/claim_file.h"
+#include "claims/core/insurance.h"
 #include "frame/core/routes.h"
 #include "platform/screen/declare.h"
 #include "platform/text/utf16.h"

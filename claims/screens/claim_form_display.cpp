@@ -5,8 +5,7 @@
 namespace claims {
 
 ClaimRecord ClaimFormDisplay::record() const { return m_form.record(); }
-QSet<QString> ClaimFormDisplay::checks() const { return m_form.checks(); }
-void ClaimFormDisplay::trimForPrint() { m_form.trimTexts(); }
+FormTicks ClaimFormDisplay::checks() const { return m_form.checks(); }
 quintptr ClaimFormDisplay::window() const { return m_form.winId(); }
 void ClaimFormDisplay::put(const store::Column& column, const QString& text) { m_form.put(column, text); }
 

@@ -12,8 +12,7 @@ class ClaimFormDisplay final : public ClaimOnDisplay {
   explicit ClaimFormDisplay(ClaimFormScreen& form) : m_form(form) {}
 
   ClaimRecord record() const override;
-  QSet<QString> checks() const override;
-  void trimForPrint() override;
+  FormTicks checks() const override;
   quintptr window() const override;
   void put(const store::Column& column, const QString& text) override;
 

@@ -23,8 +23,8 @@ void ClaimFormScreen::previewFees() {
   applyMonth();
   if (!mayLeave()) return;
   closePreview();
-  const QString name = previewScreen(kindOf(m_read.get(claim::treatmentKind)), m_flags);
-  if (!name.isNull()) navigator().show(name);
+  const Preview preview = previewOf(kindOf(m_read.get(claim::treatmentKind)), m_flags.month);
+  if (preview != Preview::None) navigator().show(previewScreen(preview));
 }
 
 void ClaimFormScreen::carryForward() {
@@ -43,10 +43,10 @@ void ClaimFormScreen::carryForward() {
   if (showClaim(added.value())) announce();
 }
 
-void ClaimFormScreen::printAcupuncture() { print(1); }
-void ClaimFormScreen::printMassage() { print(2); }
+void ClaimFormScreen::printAcupuncture() { print(PrintKind::Acupuncture); }
+void ClaimFormScreen::printMassage() { print(PrintKind::Massage); }
 
-void ClaimFormScreen::print(int kind) {
+void ClaimFormScreen::print(PrintKind kind) {
   if (m_id == 0) return;
   applyMonth();
   if (!mayLeave()) return;
@@ -56,7 +56,8 @@ void ClaimFormScreen::print(int kind) {
     trimTexts();
   }
   m_state.printKind = kind;
-  const QString name = m_state.choosePrintScreen ? m_state.choosePrintScreen(record(), checks()) : QString();
+  const QString name =
+      m_state.printing != nullptr ? m_state.printing->screenOf(record(), checks()) : QString();
   if (name.isEmpty()) return messages().tell(utf16(says::kNoPrintScreen));
   navigator().show(name);
 }
@@ -70,7 +71,7 @@ void ClaimFormScreen::printRecord() {
 }
 
 void ClaimFormScreen::printerOptions() {
-  if (m_state.printerSetup) m_state.printerSetup(winId());
+  if (m_state.printing != nullptr) m_state.printing->setUpPrinter(winId());
 }
 
 }  // namespace claims

@@ -17,7 +17,7 @@ namespace {
 
 constexpr auto kRows =
     screen::joined(form::kHead, form::kInsurance, form::kConsent, form::kTreatment, form::kVisitTable,
-                   form::kPrints, form::kPrintSettings, form::kHistory, form::kReserve, form::kApplicant);
+                   form::kPrints, form::kPrintPage, form::kHistory, form::kReserve, form::kApplicant);
 
 }  // namespace
 

@@ -79,16 +79,21 @@ void ClaimFormScreen::removeRow() {
     return leaveTo(m_opener);
   }
   rows.setAbsolutePosition(std::min(position, rows.recordCount() - 1));
-  showPair();
+  if (!showPair()) return showNothing();
   announce();
 }
 
 // The rows alone are moved: at the end of the list the pair, and what was typed, stays as it is.
 void ClaimFormScreen::moveRow(const screen::RowMove& move) {
   store::RecordSet& rows = source(1).rows();
-  (rows.*move.byRows)();
-  if (rows.bof()) rows.moveFirst();
-  if (rows.eof()) rows.moveLast();
+  const text::Done read = rows.moveAndRead([&move](store::RecordSet& set) {
+    (set.*move.byRows)();
+    if (set.bof()) set.moveFirst();
+    if (set.eof()) set.moveLast();
+  });
+  if (!read) messages().tellDataFault(read.fault().message);
+  // The same claim: at its end already, the pair stays as it is. One that cannot be read: so does the form.
+  if (rows.bookmark() != m_id && !showPair()) rows.setBookmark(m_id);
 }
 
 QStringList ClaimFormScreen::rowInWords() const {

@@ -39,8 +39,8 @@ class ClaimFormScreen : public screen::RecordScreen {
   // What the form shows: claim_form_show.cpp.
   /// The claim as the form shows it, columns of both halves.
   ClaimRecord record() const;
-  /// Names of the unbound ticks that are set.
-  QSet<QString> checks() const;
+  /// The ticks for printing.
+  FormTicks checks() const;
   /// Puts a text into the field of a column, as the helper windows do; a column without a field is left out.
   void put(const store::Column& column, const QString& text);
   const MonthFlags& flags() const { return m_flags; }
@@ -114,8 +114,10 @@ class ClaimFormScreen : public screen::RecordScreen {
   bool openSources();
   void fillLists();
   bool showClaim(qint64 id);
-  bool showSecond();
-  void showPair();
+  /// The second half of the claim, made where it is missing. None: a fault was reported.
+  std::optional<store::RecordSet> secondHalf(qint64 id);
+  /// Shows the claim of source 1. False: it cannot be read, which is reported; the form is as it was.
+  bool showPair();
   void applyDefaultsOnShow();
   void applyKind();
   void applyMonth();
@@ -140,7 +142,7 @@ class ClaimFormScreen : public screen::RecordScreen {
   void markCut(const QStringList& cut);
 
   void announce() { voice().speakHeading(rowInWords()); }
-  void print(int kind);
+  void print(PrintKind kind);
   void closePreview();
   /// Shows the warning on differing numbers of areas if they differ; spoken when an edit brings it up.
   void applyAreaWarning(bool spoken);

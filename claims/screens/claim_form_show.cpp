@@ -2,6 +2,7 @@
 
 #include "claims/core/carry_forward.h"
 #include "claims/core/form_lists.h"
+#include "claims/core/insurance.h"
 #include "claims/core/kinds.h"
 #include "claims/core/print_settings.h"
 #include "claims/core/share_ticks.h"
@@ -39,7 +40,7 @@ constexpr screen::ControlRef kShowTable = on(form::kVisitTable, claim::showVisit
 constexpr screen::ControlRef kAddressee = on(form::kInsurance, claim::addressee);
 constexpr screen::ControlRef kFreeVisits = ref(form::kTreatment, u"Check8");
 constexpr screen::ControlRef kClosedNote = ref(form::kTreatment, u"LabelClosed");
-constexpr screen::ControlRef kDelegated = on(form::kPrintSettings, claim::delegated);
+constexpr screen::ControlRef kDelegated = on(form::kPrintPage, claim::delegated);
 
 /// Shown and hidden by the kind of treatment.
 constexpr screen::ControlRef kOfAcupuncture[] = {ref(form::kHead, u"Command5"),
@@ -148,20 +149,23 @@ bool ClaimFormScreen::showClaim(qint64 id) {
     messages().tell(utf16(screen::kNotFoundText), utf16(screen::kNotFoundTitle));
     return false;
   }
-  showPair();
-  return m_id == id;
+  if (showPair()) return true;
+  showNothing();
+  return false;
 }
 
-void ClaimFormScreen::showPair() {
+bool ClaimFormScreen::showPair() {
   const qint64 id = source(1).rows().bookmark();
-  if (id != m_id) markCut({});  // red captions survive a store of their own claim
-  m_id = id;
-  if (!showSecond()) return showNothing();
+  auto second = secondHalf(id);
+  if (!second) return false;
   auto read = m_file->read(id);
   if (!read) {
     messages().tellDataFault(read.fault().message);
-    return showNothing();
+    return false;
   }
+  if (id != m_id) markCut({});  // red captions stay over a store of the claim that they belong to
+  m_id = id;
+  source(2).assign(std::move(*second));
   m_read = read.value();
   source(1).show();
   screen::showValues(*this, m_read.columns(), kHalves);
@@ -171,25 +175,20 @@ void ClaimFormScreen::showPair() {
   clearCheckChanged();
   m_treatmentChanged = false;
   m_state.display = &m_display;
+  return true;
 }
 
-bool ClaimFormScreen::showSecond() {
-  m_secondAll.setFilter(u"Id = %1"_s.arg(m_id));
+std::optional<store::RecordSet> ClaimFormScreen::secondHalf(qint64 id) {
+  m_secondAll.setFilter(u"Id = %1"_s.arg(id));
   auto half = m_secondAll.openRecordset();
   if (half && half->recordCount() == 0) {  // a first half whose second half is missing
-    if (const text::Done repaired = m_file->repairSecond(m_id); !repaired) {
-      messages().tellDataFault(repaired.fault().message);
-      return false;
-    }
-    if (const text::Done done = m_secondAll.refresh(); !done) messages().tellDataFault(done.fault().message);
-    half = m_secondAll.openRecordset();
+    text::Done repaired = m_file->repairSecond(id);
+    if (repaired) repaired = m_secondAll.refresh();
+    half = repaired ? m_secondAll.openRecordset() : text::Result<store::RecordSet>(repaired.fault());
   }
-  if (!half) {
-    messages().tellDataFault(half.fault().message);
-    return false;
-  }
-  source(2).assign(std::move(half.value()));
-  return true;
+  if (half) return std::move(*half);
+  messages().tellDataFault(half.fault().message);
+  return std::nullopt;
 }
 
 void ClaimFormScreen::showNothing() {
@@ -228,14 +227,10 @@ void ClaimFormScreen::applyKind() {
 }
 
 void ClaimFormScreen::applyPrintDefaults() {
-  ClaimRecord defaults;
-  for (const NewClaimDefault& row : hiddenPrintDefaults()) defaults.set(row.column, utf16(row.value));
-  for (const PrintSetting& setting : printSettings())
-    defaults.set(setting.column, QString::number(claims::chosen(m_read, setting, m_run.profile)));
-  for (auto it = defaults.columns().cbegin(); it != defaults.columns().cend(); ++it)
-    if (screen::Control* group = screen::controlOf(*this, it.key(), kHalves);
+  for (const PrintSetting& row : kPrintSettings)
+    if (screen::Control* group = screen::controlOf(*this, row.column, kHalves);
         group && group->text().isEmpty())
-      group->putText(it.value());
+      group->putText(utf16(row.stored[claims::chosen(m_read, row.setting, m_run.profile)]));
 }
 
 void ClaimFormScreen::applyMonth() {
@@ -272,15 +267,11 @@ ClaimRecord ClaimFormScreen::record() const {
   return claim;
 }
 
-// 受領委任 is a column of the claim, but printing asks for it as for the ticks without one.
-QSet<QString> ClaimFormScreen::checks() const {
-  QSet<QString> set;
-  for (const auto& control : controls().all()) {
-    const auto* tick = dynamic_cast<const screen::CheckControl*>(control.get());
-    if (tick && tick->checked() && (!tick->isBound() || tick->name() == kDelegated.name()))
-      set.insert(tick->name());
-  }
-  return set;
+FormTicks ClaimFormScreen::checks() const {
+  FormTicks ticks;
+  for (const TickName<FormTicks>& row : kFormTicks)
+    if (onClaimForm(row)) ticks.*row.tick = checked(utf16(row.control));
+  return ticks;
 }
 
 void ClaimFormScreen::put(const store::Column& column, const QString& value) {

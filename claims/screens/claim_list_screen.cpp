@@ -95,9 +95,7 @@ void ClaimListScreen::askSort() {
   if (!emptySet()) navigator().show(routes::SortClaims{});
 }
 
-qint64 ClaimListScreen::currentId() const {
-  return holdsRows() ? source().rows().value(claim::id).toLongLong() : 0;
-}
+qint64 ClaimListScreen::currentId() const { return holdsRows() ? source().rows().bookmark() : 0; }
 
 std::optional<ClaimFile> ClaimListScreen::claimFile() {
   auto file = ClaimFile::open(m_run.folders);

@@ -102,7 +102,7 @@ void MonthScreen::printMonth(int index) {
 }
 
 void MonthScreen::printerOptions() {
-  if (m_state.printerSetup) m_state.printerSetup(winId());
+  if (m_state.printing != nullptr) m_state.printing->setUpPrinter(winId());
 }
 
 void MonthScreen::finish() { close(); }

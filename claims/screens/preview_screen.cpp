@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 #include "platform/screen/opens.h"
 #include "platform/text/number.h"
 
@@ -64,15 +65,22 @@ consteval auto allRows(std::integer_sequence<int, Index...>) {
 
 constexpr auto kRows = allRows(std::make_integer_sequence<int, kLines>());
 
+constexpr FamilyRef kLine = family(kRows, u"Text1");
+constexpr ControlRef kNote = ref(kRows, u"Label1");
+constexpr ControlRef kTotal = ref(kRows, u"Text2");
+constexpr ControlRef kShare = ref(kRows, u"Text3");
+constexpr ControlRef kClaim = ref(kRows, u"Text4");
+
 consteval ScreenRow preview(Words name) {
-  return {.name = name, .caption = u"施術料金", .rows = kRows, .heading = u"施術料金"};
+  return declare({.name = name, .caption = u"施術料金", .rows = kRows, .heading = u"施術料金"});
 }
 
-// 施術料金2108A is the screen's own name, not a slip of ours.
-constexpr ScreenRow kScreens[] = {
-    preview(u"施術料金1"),     preview(u"施術料金2"),     preview(u"施術料金2018H"),
-    preview(u"施術料金2108A"), preview(u"施術料金2024H"), preview(u"施術料金2024A"),
-};
+template <size_t... Index>
+consteval auto allScreens(std::index_sequence<Index...>) {
+  return std::to_array<ScreenRow>({preview(kPreviews[Index].screen)...});
+}
+
+constexpr auto kScreens = allScreens(std::make_index_sequence<std::size(kPreviews)>());
 
 QString yen(qint64 amount) {
   return (amount == 0 ? QStringLiteral("0") : text::thousands(amount)) + QStringLiteral("円");
@@ -83,18 +91,18 @@ QString yen(qint64 amount) {
 std::span<const ScreenRow> previewScreens() { return kScreens; }
 
 PreviewScreen::PreviewScreen(const ScreenRow& declaration, Services& services, frame::RunState& run,
-                             ClaimsState& state)
-    : Screen(declaration, services), m_run(run), m_state(state) {}
+                             ClaimsState& state, EraTable eraTable)
+    : Screen(declaration, services), m_run(run), m_state(state), m_eras(eraTable) {}
 
 void PreviewScreen::opened(const Request&) {
   ClaimAmounts money;
   QString rate;
   if (m_state.display != nullptr) {
     const ClaimRecord claim = m_state.display->record();
-    rate = claim.get(QStringLiteral("一部負担金"));
+    rate = claim.get(claim::shareRate);
     StoredFees fees;
-    auto computed = amounts(claim, monthFlags(claim.get(QStringLiteral("申請年月")), m_run.eraDates()),
-                            Path::Preview, FeeFiles(m_run.programFolder, m_run.folders), fees);
+    auto computed = amounts(claim, monthFlags(claim.get(claim::month), m_run.eraDates()), Path::Preview,
+                            FeeFiles(m_run.programFolder, m_run.folders), fees, m_eras);
     if (computed)
       money = std::move(*computed);
     else
@@ -111,9 +119,9 @@ void PreviewScreen::widen(const QString& control) {
 }
 
 void PreviewScreen::showMoney(const ClaimAmounts& money, const QString& rate) {
-  setShown(QStringLiteral("Label1"), QStringView(declaration().name.get()) == u"施術料金2024A");
+  setShown(kNote, declaration().name.get() == previewScreen(Preview::VisitsMassage));
   for (int i = 0; i < kLines; ++i) {
-    const QString control = QStringLiteral("Text1(%1)").arg(i);
+    const QString control = kLine[i];
     setShown(control, i < money.rows.size());
     if (i >= money.rows.size()) continue;
     const AmountRow& row = money.rows[i];
@@ -122,11 +130,11 @@ void PreviewScreen::showMoney(const ClaimAmounts& money, const QString& rate) {
             QStringLiteral("%1 × %2回 ＝ %3").arg(yen(row.unit)).arg(row.count).arg(yen(row.amount)));
     widen(control);
   }
-  setCaption("Text3", QStringLiteral("一部負担金") + (rate.isEmpty() ? QString() : ' ' + rate) + ':');
-  setText("Text2", yen(money.total));
-  setText("Text3", yen(money.share));
-  setText("Text4", yen(money.claim));
-  focusOn(money.rows.isEmpty() ? QStringLiteral("Text2") : QStringLiteral("Text1(0)"));
+  setCaption(kShare, QStringLiteral("一部負担金") + (rate.isEmpty() ? QString() : ' ' + rate) + ':');
+  setText(kTotal, yen(money.total));
+  setText(kShare, yen(money.share));
+  setText(kClaim, yen(money.claim));
+  focusOn(money.rows.isEmpty() ? kTotal : kLine[0]);
 }
 
 void PreviewScreen::finish() { close(); }

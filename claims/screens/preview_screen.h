@@ -13,7 +13,7 @@ namespace claims {
 class PreviewScreen : public screen::Screen {
  public:
   PreviewScreen(const screen::ScreenRow& declaration, screen::Services& services, frame::RunState& run,
-                ClaimsState& state);
+                ClaimsState& state, EraTable eraTable = eras());
 
   void opened(const screen::Request& request) override;
   void finish();
@@ -24,9 +24,10 @@ class PreviewScreen : public screen::Screen {
 
   frame::RunState& m_run;
   ClaimsState& m_state;
+  const EraTable m_eras;
 };
 
-/// The six declared screens, in the order of their previewKind 1 to 6.
+/// The declared screens in the order of kPreviews: oldest fees first, acupuncture before massage.
 std::span<const screen::ScreenRow> previewScreens();
 
 }  // namespace claims

@@ -90,7 +90,7 @@ QString RegisterScreen::count() const {
 }
 
 QStringList RegisterScreen::rowInWords() const {
-  if (!source().holdsRow()) return {count()};
+  if (!source().hasCurrentRow()) return {count()};
   return {caption(kFields[0]), text(kFields[0])};
 }
 
@@ -110,9 +110,9 @@ bool RegisterScreen::offerNew(const QStringList& texts) {
 }
 
 void RegisterScreen::startNew() {
-  if (!source().ready()) return;
+  if (!source().ensureOpen()) return;
   // Typed before 新規 into a register without rows: the new row begins with it.
-  if (!source().holdsRow() && source().pending()) {
+  if (!source().hasCurrentRow() && source().pending()) {
     m_offered.clear();
     if (source().addNewAsShown()) focusOn(kFields[0]);
     return;
@@ -138,7 +138,7 @@ std::optional<store::RecordSet> RegisterScreen::wholeRegister() {
 }
 
 void RegisterScreen::search() {
-  if (!source().ready() || !mayLeaveRow()) return;
+  if (!source().ensureOpen() || !mayLeaveRow()) return;
   auto rows = wholeRegister();
   if (!rows) return;
   if (const QString word = text(kWanted); !word.isEmpty()) {
@@ -160,11 +160,16 @@ void RegisterScreen::takeFromClaim() {
   QStringList values;
   for (const RegisterField& each : m_list.fields) values << claim.get(each.claimColumn);
   if (values[0].trimmed().isEmpty()) return;
-  if (auto whole = wholeRegister()) source().assign(std::move(*whole));  // not the hits of a search
+  auto whole = wholeRegister();
+  if (!whole) return;
+  source().assign(std::move(*whole));  // not the hits of a search
   store::RecordSet& rows = source().rows();
   for (int position = 0; position < rows.recordCount(); ++position) {
-    if (rows.valueAt(position, m_list.fields[0].column) != values[0]) continue;
-    source().moveTo(position);
+    // A register that was not read to its end offers nothing new: the row may be in it.
+    const auto name = rows.readAt(position, m_list.fields[0].column);
+    if (!name) return messages().tellDataFault(name.fault().message);
+    if (*name != values[0]) continue;
+    if (!source().moveTo(position)) return;
     if (agree(values, texts())) return;
   }
   if (offerNew(values)) voice().speakText(utf16(kOffered));

@@ -33,6 +33,7 @@ constexpr FilledFile kDictionaries[] = {{u"Keiraku2000.mdb", u"acupoints.csv"},
                                         {u"CL2moji2000.mdb", u"phrases2.csv"}};
 constexpr char16_t kFees[] = u"fees/editions.csv";
 constexpr char16_t kFeeTable[] = u"料金設定";
+constexpr QStringView kFirstDay = u"effective_from";
 
 /// Whether the user fills the file: the patients, visits, claims and the other registers. The dictionaries
 /// and the fee files are shipped filled.
@@ -64,6 +65,7 @@ class Layout {
   Done createFilled(const QString& file);
   Done fill(const QString& path, const QString& file, const QString& source);
   Done fees();
+  QStringList feePaths(const QString& file) const;
   Done settings();
   Done shippedFiles();
   Done copyAll(const QString& from, const QStringList& names, const QString& to);
@@ -82,7 +84,7 @@ Done Layout::folders() {
 }
 
 /// A folder with settings has been worked in: a register that is missing there is lost or lies elsewhere. An
-/// empty one in its place would hide that, so it stays missing and the screens tell it.
+/// empty one in its place would hide that, so it stays missing and the screens report it.
 Done Layout::databases() {
   const bool workedIn = QFileInfo::exists(settingsPath(m_program));
   for (const store::TableRow& row : store::catalogue()) {
@@ -94,7 +96,7 @@ Done Layout::databases() {
   return {};
 }
 
-/// A file takes its name when it is whole: one that was cut off while it was filled is made again.
+/// A file gets its name when it is whole: one that was interrupted while it was filled is made again.
 Done Layout::createFilled(const QString& file) {
   const QString part = beside(file + QStringLiteral(".part"));
   QFile::remove(part);
@@ -119,31 +121,57 @@ Done Layout::fill(const QString& path, const QString& file, const QString& sourc
   return store::addRows(path, QString::fromUtf16(store::tableOfFile(file)->table), rows);
 }
 
-/// Adds to each fee file the editions that it lacks: those with a higher ID than any that stands. The first
-/// columns of the shipped table tell the file, the ID and the date; a fee that the edition had not is NULL.
-/// A file that cannot be read is left alone: the screens that need it tell it by name, the others work.
+/// The shipped editions name their file, the ID and the first day, and then fees. A file or a fee that the
+/// catalogue does not know would be left out: the build, which lays out a folder, fails instead.
+Done checkEditions(const CsvTable& editions) {
+  const auto unknown = [](const QString& what) {
+    return Fault{QStringLiteral("%1: unknown to the catalogue: %2").arg(QString::fromUtf16(kFees), what)};
+  };
+  if (editions.columns.value(0) != u"file") return unknown(editions.columns.value(0));
+  for (const QStringList& row : editions.rows) {
+    const store::TableRow* file = store::tableOfFile(row.value(0) + QStringLiteral(".mdb"));
+    if (!file || QStringView(file->table) != kFeeTable) return unknown(row.value(0));
+    for (const QString& column : editions.columns.mid(1))
+      if (column != kFirstDay && !store::findColumn(*file, column)) return unknown(column);
+  }
+  return {};
+}
+
+/// The places of a fee file: beside the program, and where the settings have it.
+QStringList Layout::feePaths(const QString& file) const {
+  QStringList paths{beside(file)};
+  const int entry = store::tableOfFile(file)->folderEntry;
+  RunState run;
+  if (entry < 0 || !readRun(m_program, run)) return paths;  // settings that cannot be read name no place
+  const QString& chosen = run.folders[static_cast<size_t>(entry)];
+  if (chosen != paths.front()) paths += chosen;
+  return paths;
+}
+
+/// Adds to each fee file the editions that it lacks: those with a higher ID than any that it has. A fee that
+/// the edition had not is NULL. A file that cannot be read is left alone: the screens that need it report it
+/// by name, the others work. So is one at another place that cannot be written just now; the next layout adds
+/// to it.
 Done Layout::fees() {
   const Result<CsvTable> table = readCsvTable(shipped(QString::fromUtf16(kFees)));
   if (!table) return table.fault();
+  if (const Done known = checkEditions(*table); !known) return known;
   QMap<QString, QList<QHash<QString, QString>>> editions;
   for (const QStringList& values : table->rows) {
     QHash<QString, QString> row;
     for (int column = 1; column < values.size(); ++column)
-      if (!values[column].isEmpty() && table->columns[column] != u"effective_from")
+      if (!values[column].isEmpty() && table->columns[column] != kFirstDay)
         row.insert(table->columns[column], values[column]);
     editions[values[0] + QStringLiteral(".mdb")] += row;
   }
   const QString feeTable = QString::fromUtf16(kFeeTable);
   for (auto edition = editions.cbegin(); edition != editions.cend(); ++edition) {
-    const QString path = beside(edition.key());
-    const Result<qint64> last = store::lastId(path, feeTable);
-    if (!last) continue;
-    QList<QHash<QString, QString>> newer;
-    for (const QHash<QString, QString>& row : *edition)
-      if (row.value(QStringLiteral("ID")).toLongLong() > *last) newer += row;
-    if (newer.isEmpty()) continue;
-    if (const Done added = store::addRows(path, feeTable, newer); !added) return added;
-    if (!m_made.contains(edition.key())) m_made += edition.key();
+    for (const QString& path : feePaths(edition.key())) {
+      if (!store::Database::open(path)) continue;
+      const Result<int> added = store::addNewerRows(path, feeTable, *edition);
+      if (!added && path == beside(edition.key())) return added.fault();
+      if (added && *added > 0 && !m_made.contains(edition.key())) m_made += edition.key();
+    }
   }
   return {};
 }
@@ -177,7 +205,7 @@ Done Layout::shippedFiles() {
   files.removeIf([](const QString& name) { return name.endsWith(u".md"); });
   if (const Done done = copyAll(m_data, files, m_program); !done) return done;
   QStringList pictures = QDir(shipped(QStringLiteral("GDATA"))).entryList(QDir::Files);
-  pictures.removeIf(  // the user's own charts lie in this folder: what stands there stays
+  pictures.removeIf(  // the user's own charts lie in this folder: what is there stays
       [&](const QString& name) { return QFileInfo::exists(beside(QStringLiteral("GDATA/") + name)); });
   return copyAll(shipped(QStringLiteral("GDATA")), pictures, beside(QStringLiteral("GDATA")));
 }

@@ -16,7 +16,7 @@ constexpr std::array kEditions = {
     u"滋賀県版", u"京都府版", u"大阪府版", u"兵庫県版", u"奈良県版", u"和歌山県版", u"鳥取県版", u"島根県版",
     u"岡山県版", u"広島県版", u"山口県版", u"徳島県版", u"香川県版", u"愛媛県版",   u"高知県版", u"福岡県版",
     u"佐賀県版", u"長崎県版", u"熊本県版", u"大分県版", u"宮崎県版", u"鹿児島県版", u"沖縄県版"};
-static_assert(kEditions.size() == 47);
+static_assert(kEditions.size() == static_cast<size_t>(Prefecture::Okinawa));
 
 bool isDigits(const QString& text) {
   return std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
@@ -24,11 +24,16 @@ bool isDigits(const QString& text) {
 
 }  // namespace
 
-std::optional<QString> prefectureEdition(const QString& code) {
-  if (code.size() != 2 || !isDigits(code)) return std::nullopt;
+Prefecture prefectureOf(const QString& code) {
+  if (code.size() != 2 || !isDigits(code)) return Prefecture::None;
   const uint number = code.toUInt();
-  if (number < 1 || number > kEditions.size()) return std::nullopt;
-  return QString::fromUtf16(kEditions[number - 1]);
+  return number <= kEditions.size() ? static_cast<Prefecture>(number) : Prefecture::None;
+}
+
+std::optional<QString> prefectureEdition(const QString& code) {
+  const Prefecture prefecture = prefectureOf(code);
+  if (prefecture == Prefecture::None) return std::nullopt;
+  return QString::fromUtf16(kEditions[static_cast<size_t>(prefecture) - 1]);
 }
 
 QString readPrefectureCode(const QString& programFolder) {

@@ -59,7 +59,7 @@ struct AskEnd {
 };
 struct AskClose {
   static constexpr ScreenName screen{u"閉じる1"};
-  std::optional<ScreenName> opener;
+  std::optional<ScreenName> opener{};
 };
 
 struct Restart {
@@ -73,7 +73,7 @@ struct PrintTroubleHelp {
 
 struct PatientSearch {
   static constexpr ScreenName screen{u"選択4"};
-  std::optional<QString> name;  ///< goes into the search row
+  std::optional<QString> name{};  ///< goes into the search row
 };
 struct PatientRegister {
   static constexpr ScreenName screen{u"治療台帳4"};
@@ -86,13 +86,13 @@ struct PatientRegister {
   /// A booked person: found by name, or entered as a new patient.
   struct Booked {
     QString name;
-    QString serial;
+    QString number;  ///< 患者ID of the booking, blank for somebody who is no patient yet
   };
   struct Listed {
     qint64 id;
     QString name;  ///< goes into the search row
   };
-  std::variant<AsShown, Announced, NewPatient, BySerial, Booked, Listed> who;
+  std::variant<AsShown, Announced, NewPatient, BySerial, Booked, Listed> who{};
 };
 /// Offers a first patient where the register is empty.
 struct AskFirstPatient {
@@ -123,11 +123,11 @@ struct VisitLedger {
     QString serial;
     QString name;
     QString birth;
-    std::optional<ScreenName> opener;  ///< gets the keyboard back
+    std::optional<ScreenName> opener{};  ///< gets the keyboard back
   };
   struct AsShown {};
   struct NewVisit {};  ///< of the patient on view
-  std::variant<AsShown, Of, NewVisit> what;
+  std::variant<AsShown, Of, NewVisit> what{};
 };
 /// Offers a first visit where a patient has none.
 struct AskFirstVisit {
@@ -166,13 +166,13 @@ struct Booking {
     qint64 id;
   };
   struct Back {};  ///< as it was left
-  std::variant<NewBooking, Stored, Back> what;
-  std::optional<ScreenName> opener;  ///< shown again when it closes
+  std::variant<NewBooking, Stored, Back> what{};
+  std::optional<ScreenName> opener{};  ///< shown again when it closes
 };
 /// Asks what becomes of a booking that was not stored.
 struct AskUnfinishedBooking {
   static constexpr ScreenName screen{u"更新の確認"};
-  std::optional<ScreenName> caller;
+  std::optional<ScreenName> caller{};
 };
 struct WeekOfBookings {
   static constexpr ScreenName screen{u"予約週間表"};
@@ -195,7 +195,7 @@ struct PickDayOfWeek {
 struct Takings {
   static constexpr ScreenName screen{u"集計"};
   bool lastRow = false;  ///< begins at the last row
-  QDate day;             ///< the visits of this day, where it is valid
+  QDate day{};           ///< the visits of this day, where it is valid
 };
 struct SearchTakings {
   static constexpr ScreenName screen{u"集計抽出"};
@@ -215,8 +215,8 @@ struct Totals {
   qint64 newPatients = 0;
 };
 
-/// The same over the claims of a patient.
-struct ClaimTotals {
+/// Sums of claims.
+struct ClaimTotals : Totals {
   static constexpr ScreenName screen{u"集計レセ総合金額"};
 };
 
@@ -224,16 +224,18 @@ struct ClaimTotals {
 
 struct ClaimList {
   static constexpr ScreenName screen{u"レセプト一覧表"};
-  std::optional<QString> criteria;  ///< narrows the list
-  std::optional<QString> order;     ///< sorts it: "ID DESC"
+  std::optional<QString> criteria{};  ///< narrows the list
+  std::optional<QString> order{};     ///< sorts it: "ID DESC"
 };
 struct SortClaims {
   static constexpr ScreenName screen{u"ソート3"};
 };
 struct ClaimForm {
   static constexpr ScreenName screen{u"frmレセプトフォーム"};
+  static constexpr char16_t storeCommand[] =
+      u"cmdUpdate";  ///< the form's 登録, for an opener that goes there
   qint64 id = 0;
-  std::optional<ScreenName> opener;  ///< gets the keyboard back at 登録 and 閉じる; none: the claim list
+  std::optional<ScreenName> opener{};  ///< gets the keyboard back at 登録 and 閉じる; none: the claim list
 };
 struct NewClaim {
   static constexpr ScreenName screen{u"新規レセプト"};

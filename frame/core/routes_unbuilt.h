@@ -17,15 +17,15 @@ using screen::ScreenName;
 /// Receipts: of a day, or of a patient.
 struct ReceiptChoice {
   static constexpr ScreenName screen{u"領収証選択"};
-  QString day;  ///< era form
-  std::optional<frame::Patient> patient;
-  std::optional<ScreenName> opener;
+  QString day{};  ///< era form
+  std::optional<frame::Patient> patient{};
+  std::optional<ScreenName> opener{};
   qint64 claim = 0;  ///< ID of the claim it was opened from
 };
 struct DetailedReceipt {
   static constexpr ScreenName screen{u"明細領収"};
   frame::Patient patient;
-  std::optional<ScreenName> opener;
+  std::optional<ScreenName> opener{};
 };
 struct BlankForms {
   static constexpr ScreenName screen{u"用紙印刷"};
@@ -33,7 +33,7 @@ struct BlankForms {
 struct DetailChart {
   static constexpr ScreenName screen{u"治療台帳detail"};
   QString serial;
-  std::optional<qint64> visit;  ///< ID
+  std::optional<qint64> visit{};  ///< ID
 };
 struct PictureChart {
   static constexpr ScreenName screen{u"GEDIT"};

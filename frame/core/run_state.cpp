@@ -5,41 +5,56 @@
 #include "frame/core/prefecture.h"
 #include "frame/core/web_pages.h"
 #include "platform/text/number.h"
+#include "platform/text/utf16.h"
 #include "platform/text/whole_file.h"
 
 namespace frame {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-/// An entry of DataFolders, the slot that keeps it, and the default beside the program (nullptr: carried as
-/// it is, no screen edits it).
+/// An entry of DataFolders, the slot that stores it, and the default within the program folder (nullptr: the
+/// entry is carried as it is, no screen edits it).
 struct FolderSlot {
   int entry;
-  int slot;
+  slot::Slot slot;
   const char16_t* fallback;
 };
 
 constexpr FolderSlot kFolderSlots[] = {
-    {folder::kPatients, 3, u"/臨床QV2000N.mdb"},
-    {folder::kAppointments, 4, u"/予約2000.mdb"},
-    {folder::kClaims1, 5, u"/保険申請2000_1.mdb"},
-    {folder::kAcupoints, 6, u"/Keiraku2000.mdb"},
-    {folder::kPhrases1, 7, u"/CLmoji2000.mdb"},
-    {folder::kPhrases2, 8, u"/CL2moji2000.mdb"},
-    {folder::kVisits, 9, u"/カルテ2データ2000.mdb"},
-    {7, 10, nullptr},
-    {8, 11, nullptr},
-    {folder::kSpare9, 12, nullptr},
+    {folder::kPatients, slot::kPatientsPath, u"/臨床QV2000N.mdb"},
+    {folder::kAppointments, slot::kAppointmentsPath, u"/予約2000.mdb"},
+    {folder::kClaims1, slot::kClaims1Path, u"/保険申請2000_1.mdb"},
+    {folder::kAcupoints, slot::kAcupointsPath, u"/Keiraku2000.mdb"},
+    {folder::kPhrases1, slot::kPhrases1Path, u"/CLmoji2000.mdb"},
+    {folder::kPhrases2, slot::kPhrases2Path, u"/CL2moji2000.mdb"},
+    {folder::kVisits, slot::kVisitsPath, u"/カルテ2データ2000.mdb"},
+    {folder::kSpare7, slot::kSpareFolder7, nullptr},
+    {folder::kSpare8, slot::kSpareFolder8, nullptr},
+    {folder::kSpare9, slot::kSpareFolder9, nullptr},
     {folder::kUpdatePage, slot::kUpdatePage, nullptr},
-    {folder::kDoctors, 53, u"/同意医師2000.mdb"},
-    {folder::kInsurers, 54, u"/保険者2000.mdb"},
-    {folder::kFees, 55, u"/料金設定2000.mdb"},
-    {folder::kClaims2, 73, u"/保険申請2000_2.mdb"},
-    {folder::kPictures, 14, u"/GDATA"},
+    {folder::kDoctors, slot::kDoctorsPath, u"/同意医師2000.mdb"},
+    {folder::kInsurers, slot::kInsurersPath, u"/保険者2000.mdb"},
+    {folder::kFees, slot::kFeesPath, u"/料金設定2000.mdb"},
+    {folder::kClaims2, slot::kClaims2Path, u"/保険申請2000_2.mdb"},
+    {folder::kPictures, slot::kPicturesPath, u"/GDATA"},
 };
+
+consteval bool eachFolderOnce() {
+  int entries = 0;
+  for (const FolderSlot& row : kFolderSlots) {
+    entries |= 1 << row.entry;
+    for (const FolderSlot& other : kFolderSlots)
+      if (&row != &other && row.slot == other.slot) return false;
+  }
+  return entries == (1 << folder::kCount) - 1;
+}
+static_assert(std::size(kFolderSlots) == folder::kCount && eachFolderOnce());
 
 /// Labels of the sections of the file. They look like file names, but no such file exists.
 struct FixedSlot {
-  int slot;
+  slot::Slot slot;
   const char16_t* text;
 };
 
@@ -61,22 +76,22 @@ QString blank() { return QString(QLatin1String("")); }
 
 void raiseCounter(RunState& run) {
   QString& counter = run.settings[slot::kRunCounter];
-  counter = counter.isEmpty() ? QStringLiteral("0") : QString::number(text::intOf(counter) + 1);
+  counter = counter.isEmpty() ? u"0"_s : QString::number(text::intOf(counter) + 1);
   run.runCounter = static_cast<int>(text::intOf(counter));
 }
 
-/// Keeps a settings file that could not be read whole under a name that is still free.
-text::Done keepBeside(const QString& path) {
+/// Copies a settings file that could not be read whole to a name that is still free.
+text::Done copyAside(const QString& path) {
   if (!QFile::exists(path)) return {};
-  QString kept = path + QStringLiteral(".old");
-  for (int n = 2; QFile::exists(kept); ++n) kept = path + QStringLiteral(".old") + QString::number(n);
+  QString copy = path + u".old"_s;
+  for (int n = 2; QFile::exists(copy); ++n) copy = path + u".old"_s + QString::number(n);
   const auto bytes = text::readWholeFile(path);
-  return bytes ? text::writeWholeFile(kept, *bytes) : text::Done(bytes.fault());
+  return bytes ? text::writeWholeFile(copy, *bytes) : text::Done(bytes.fault());
 }
 
 }  // namespace
 
-QString settingsPath(const QString& programFolder) { return programFolder + QStringLiteral("/qv.dat"); }
+QString settingsPath(const QString& programFolder) { return programFolder + u"/qv.dat"_s; }
 
 void loadRun(const SettingsSlots& settings, const QString& programFolder, RunState& run) {
   run.programFolder = programFolder;
@@ -85,14 +100,14 @@ void loadRun(const SettingsSlots& settings, const QString& programFolder, RunSta
   for (const FolderSlot& row : kFolderSlots) {
     QString& path = run.folders[static_cast<size_t>(row.entry)];
     path = run.settings[row.slot];
-    if (path.isEmpty() && row.fallback) path = programFolder + QString::fromUtf16(row.fallback);
+    if (path.isEmpty() && row.fallback) path = programFolder + text::utf16(row.fallback);
   }
   for (const ProfileField& field : profileFields()) run.profile[field.slot] = run.settings[field.slot];
   if (run.settings[slot::kLicenceHari] == kStaleHari) run.settings[slot::kLicenceHari] = blank();
   if (run.settings[slot::kLicenceKyu] == kStaleKyu) run.settings[slot::kLicenceKyu] = blank();
   run.aichiSubmission = run.settings[slot::kAichi];
   run.tokyoSubmission = run.settings[slot::kTokyo];
-  if (run.tokyoSubmission.isEmpty()) run.tokyoSubmission = QString::fromUtf16(kTokyoDefault);
+  if (run.tokyoSubmission.isEmpty()) run.tokyoSubmission = text::utf16(kTokyoDefault);
 }
 
 text::Done readRun(const QString& programFolder, RunState& run) {
@@ -107,7 +122,7 @@ SettingsSlots rebuildSettings(const RunState& run, SettingsWriter writer) {
   SettingsSlots rebuilt = run.settings;
   for (const FolderSlot& row : kFolderSlots) rebuilt[row.slot] = run.folders[static_cast<size_t>(row.entry)];
   for (const ProfileField& field : profileFields()) rebuilt[field.slot] = run.profile[field.slot];
-  for (const FixedSlot& row : kFixedSlots) rebuilt[row.slot] = QString::fromUtf16(row.text);
+  for (const FixedSlot& row : kFixedSlots) rebuilt[row.slot] = text::utf16(row.text);
   rebuilt[slot::kRunCounter] = QString::number(run.runCounter);
   rebuilt[slot::kAichi] = run.aichiSubmission;
   rebuilt[slot::kTokyo] = run.tokyoSubmission;
@@ -122,7 +137,7 @@ text::Done saveRun(RunState& run, SettingsWriter writer) {
   const QString path = settingsPath(run.programFolder);
   if (!run.settings.readWhole) {
     if (writer == SettingsWriter::ProgramEnd) return {};
-    if (const auto kept = keepBeside(path); !kept) return kept;
+    if (const auto copied = copyAside(path); !copied) return copied;
   }
   SettingsSlots rebuilt = rebuildSettings(run, writer);
   if (const auto written = writeSettingsFile(path, rebuilt); !written) return written;
@@ -134,16 +149,15 @@ text::Done saveRun(RunState& run, SettingsWriter writer) {
 
 SettingsSlots freshSettings() {
   SettingsSlots fresh;
-  for (const FixedSlot& row : kFixedSlots) fresh[row.slot] = QString::fromUtf16(row.text);
-  fresh[slot::kRunCounter] = QStringLiteral("0");
-  fresh[12] =
-      QStringLiteral("治療台帳");  // an entry of the folders that must not be blank, else no menu opens
+  for (const FixedSlot& row : kFixedSlots) fresh[row.slot] = text::utf16(row.text);
+  fresh[slot::kRunCounter] = u"0"_s;
+  fresh[slot::kSpareFolder9] = u"治療台帳"_s;  // must not be blank, otherwise no main menu opens
   fresh[slot::kUpdatePage] = webAddress(WebPage::Update);
-  for (const int flag : {slot::kPrintLicence, slot::kPrintApplicantName, profile::kRelationPrinted,
-                         profile::kElderlyNamePrinted, slot::kTopics})
-    fresh[flag] = QStringLiteral("0");
-  fresh[slot::kAichi] = QStringLiteral("4");
-  fresh[slot::kTokyo] = QString::fromUtf16(kTokyoDefault);
+  for (const int flag : {slot::kPrintLicence, slot::kPrintApplicantName, slot::kRelationPrinted,
+                         slot::kElderlyNamePrinted, slot::kTopics})
+    fresh[flag] = u"0"_s;
+  fresh[slot::kAichi] = u"4"_s;
+  fresh[slot::kTokyo] = text::utf16(kTokyoDefault);
   fresh.readWhole = true;
   return fresh;
 }

@@ -2,6 +2,7 @@
 
 #include "frame/core/routes.h"
 #include "frame/screens/settings_writer.h"
+#include "platform/screen/declare.h"
 
 namespace frame {
 
@@ -29,37 +30,36 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{.name = u"txtbox", .caption = u"項目テキストの変更", .rows = kRows};
+constexpr ScreenRow kDeclaration =
+    declare({.name = routes::OwnCaptions::screen, .caption = u"項目テキストの変更", .rows = kRows});
 
-struct CaptionSlot {
-  const char16_t* control;
-  int slot;
+struct CaptionField {
+  ControlRef control;
+  slot::Slot slot;
 };
-constexpr CaptionSlot kSlots[] = {{u"Text1", slot::kCaptionText1},
-                                  {u"Text2", slot::kCaptionText2},
-                                  {u"Text3", slot::kCaptionText3},
-                                  {u"Text4", slot::kCaptionSymptom},
-                                  {u"Text5", slot::kCaptionTreatment}};
+constexpr CaptionField kFields[] = {{ref(kRows, u"Text1"), slot::kCaptionText1},
+                                    {ref(kRows, u"Text2"), slot::kCaptionText2},
+                                    {ref(kRows, u"Text3"), slot::kCaptionText3},
+                                    {ref(kRows, u"Text4"), slot::kCaptionSymptom},
+                                    {ref(kRows, u"Text5"), slot::kCaptionTreatment}};
 
 }  // namespace
 
 CaptionsScreen::CaptionsScreen(Services& services, RunState& run)
     : Screen(kDeclaration, services), m_run(run) {}
 
-// The fields show the captions as the other screens have them now: the own one, else the built-in one.
+// The fields show the captions that the other screens have now: the practice's own, otherwise the built-in.
 void CaptionsScreen::onLoad() {
-  for (const CaptionSlot& row : kSlots) {
-    const QString control = QString::fromUtf16(row.control);
-    const QString own = m_run.settings[row.slot];
-    setText(control, own.isEmpty() ? caption(control) : own);
+  for (const CaptionField& field : kFields) {
+    const QString own = m_run.settings[field.slot];
+    setText(field.control, own.isEmpty() ? caption(field.control) : own);
   }
 }
 
-// Kept: the settings take the texts before the question, so that they stay for the run after a キャンセル.
+// Kept: the settings take the texts before the question, so that the run has them after a キャンセル too.
 void CaptionsScreen::save() {
-  for (const CaptionSlot& row : kSlots) m_run.settings[row.slot] = text(QString::fromUtf16(row.control));
+  for (const CaptionField& field : kFields) m_run.settings[field.slot] = text(field.control);
   const bool yes = messages().ask(u"治療台帳を再起動して下さい。ここで一旦、治療台帳を終了します。"_s);
-  m_run.lastAnswer = yes ? 1 : 0;
   if (yes && writeSettings(*this, m_run, SettingsWriter::Other)) navigator().quit();
 }
 

@@ -1,6 +1,7 @@
 #include "frame/screens/folders_screen.h"
 
 #include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 #include "platform/shell/desktop.h"
 
 namespace frame {
@@ -12,72 +13,45 @@ namespace {
 
 constexpr Unbound kPath{u"a path of the settings"};
 
-/// The entry of DataFolders behind each field, in the order of the screen.
+/// The entry of DataFolders that each field shows, in the order of the screen.
 constexpr int kEntries[] = {folder::kPatients, folder::kAppointments, folder::kClaims1, folder::kAcupoints,
                             folder::kPhrases1, folder::kPhrases2,     folder::kVisits,  folder::kDoctors,
                             folder::kInsurers, folder::kFees,         folder::kClaims2, folder::kPictures};
 
+consteval TextField pathField(int index, const char16_t* caption) {
+  return TextField{.name = {u"Text1", index}, .caption = caption, .bind = kPath, .width = 64};
+}
+consteval Command browseButton(int index, const char16_t* caption) {
+  return Command{.name = {u"Command3", index}, .caption = caption, .run = run<&FoldersScreen::browse>};
+}
+
 constexpr Row kRows[] = {
     Note{.name = {u"Label1"}, .caption = u"各データのある場所を変更できます。", .spoken = true},
     Group{.name = {u"Frame1"}, .caption = u"データファイルの指定", .columns = 2},
-    TextField{.name = {u"Text1", 0},
-              .caption = u"臨床QV2000N.mdb ファイルの場所を指定",
-              .bind = kPath,
-              .width = 64},
-    Command{.name = {u"Command3", 0}, .caption = u"参照 臨床QV2000N.mdb", .run = run<&FoldersScreen::browse>},
-    TextField{
-        .name = {u"Text1", 1}, .caption = u"予約2000.mdb ファイルの場所を指定", .bind = kPath, .width = 64},
-    Command{.name = {u"Command3", 1}, .caption = u"参照 予約2000.mdb", .run = run<&FoldersScreen::browse>},
-    TextField{.name = {u"Text1", 2},
-              .caption = u"保険申請2000_1.mdb ファイルの場所を指定",
-              .bind = kPath,
-              .width = 64},
-    Command{
-        .name = {u"Command3", 2}, .caption = u"参照 保険申請2000_1.mdb", .run = run<&FoldersScreen::browse>},
-    TextField{.name = {u"Text1", 3},
-              .caption = u"Keiraku2000.mdb ファイルの場所を指定",
-              .bind = kPath,
-              .width = 64},
-    Command{.name = {u"Command3", 3}, .caption = u"参照 Keiraku2000.mdb", .run = run<&FoldersScreen::browse>},
-    TextField{
-        .name = {u"Text1", 4}, .caption = u"CLmoji2000.mdb ファイルの場所を指定", .bind = kPath, .width = 64},
-    Command{.name = {u"Command3", 4}, .caption = u"参照 CLmoji2000.mdb", .run = run<&FoldersScreen::browse>},
-    TextField{.name = {u"Text1", 5},
-              .caption = u"CL2moji2000.mdb ファイルの場所を指定",
-              .bind = kPath,
-              .width = 64},
-    Command{.name = {u"Command3", 5}, .caption = u"参照 CL2moji2000.mdb", .run = run<&FoldersScreen::browse>},
-    TextField{.name = {u"Text1", 6},
-              .caption = u"カルテ2データ2000.mdb ファイルの場所を指定",
-              .bind = kPath,
-              .width = 64},
-    Command{.name = {u"Command3", 6},
-            .caption = u"参照 カルテ2データ2000.mdb",
-            .run = run<&FoldersScreen::browse>},
-    TextField{.name = {u"Text1", 7},
-              .caption = u"同意医師2000.mdb ファイルの場所を指定",
-              .bind = kPath,
-              .width = 64},
-    Command{
-        .name = {u"Command3", 7}, .caption = u"参照 同意医師2000.mdb", .run = run<&FoldersScreen::browse>},
-    TextField{
-        .name = {u"Text1", 8}, .caption = u"保険者2000.mdb ファイルの場所を指定", .bind = kPath, .width = 64},
-    Command{.name = {u"Command3", 8}, .caption = u"参照 保険者2000.mdb", .run = run<&FoldersScreen::browse>},
-    TextField{.name = {u"Text1", 9},
-              .caption = u"料金設定2000.mdb ファイルの場所を指定",
-              .bind = kPath,
-              .width = 64},
-    Command{
-        .name = {u"Command3", 9}, .caption = u"参照 料金設定2000.mdb", .run = run<&FoldersScreen::browse>},
-    TextField{.name = {u"Text1", 10},
-              .caption = u"保険申請2000_2.mdb ファイルの場所を指定",
-              .bind = kPath,
-              .width = 64},
-    Command{
-        .name = {u"Command3", 10}, .caption = u"参照 保険申請2000_2.mdb", .run = run<&FoldersScreen::browse>},
-    TextField{.name = {u"Text1", 11}, .caption = u"人体図のフォルダの場所を指定", .bind = kPath, .width = 64},
-    Command{
-        .name = {u"Command3", 11}, .caption = u"参照 人体図のフォルダ", .run = run<&FoldersScreen::browse>},
+    pathField(0, u"臨床QV2000N.mdb ファイルの場所を指定"),
+    browseButton(0, u"参照 臨床QV2000N.mdb"),
+    pathField(1, u"予約2000.mdb ファイルの場所を指定"),
+    browseButton(1, u"参照 予約2000.mdb"),
+    pathField(2, u"保険申請2000_1.mdb ファイルの場所を指定"),
+    browseButton(2, u"参照 保険申請2000_1.mdb"),
+    pathField(3, u"Keiraku2000.mdb ファイルの場所を指定"),
+    browseButton(3, u"参照 Keiraku2000.mdb"),
+    pathField(4, u"CLmoji2000.mdb ファイルの場所を指定"),
+    browseButton(4, u"参照 CLmoji2000.mdb"),
+    pathField(5, u"CL2moji2000.mdb ファイルの場所を指定"),
+    browseButton(5, u"参照 CL2moji2000.mdb"),
+    pathField(6, u"カルテ2データ2000.mdb ファイルの場所を指定"),
+    browseButton(6, u"参照 カルテ2データ2000.mdb"),
+    pathField(7, u"同意医師2000.mdb ファイルの場所を指定"),
+    browseButton(7, u"参照 同意医師2000.mdb"),
+    pathField(8, u"保険者2000.mdb ファイルの場所を指定"),
+    browseButton(8, u"参照 保険者2000.mdb"),
+    pathField(9, u"料金設定2000.mdb ファイルの場所を指定"),
+    browseButton(9, u"参照 料金設定2000.mdb"),
+    pathField(10, u"保険申請2000_2.mdb ファイルの場所を指定"),
+    browseButton(10, u"参照 保険申請2000_2.mdb"),
+    pathField(11, u"人体図のフォルダの場所を指定"),
+    browseButton(11, u"参照 人体図のフォルダ"),
     EndGroup{},
     Bar{},
     Command{.name = {u"Command1"}, .caption = u"変更", .run = run<&FoldersScreen::change>},
@@ -85,10 +59,10 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{
-    .name = u"LANフォルダ指定", .caption = u"ＬＡＮおよびデータのフォルダ指定", .rows = kRows};
+constexpr ScreenRow kDeclaration =
+    declare({.name = routes::Folders::screen, .caption = u"ＬＡＮおよびデータのフォルダ指定", .rows = kRows});
 
-QString field(int index) { return u"Text1(%1)"_s.arg(index); }
+constexpr FamilyRef kFields = family(kRows, u"Text1");
 
 }  // namespace
 
@@ -97,21 +71,22 @@ FoldersScreen::FoldersScreen(Services& services, RunState& run)
 
 void FoldersScreen::onLoad() {
   for (int i = 0; i < static_cast<int>(std::size(kEntries)); ++i)
-    setText(field(i), m_run.folders[static_cast<size_t>(kEntries[i])]);
+    setText(kFields[i], m_run.folders[static_cast<size_t>(kEntries[i])]);
 }
 
 void FoldersScreen::browse(int index) {
   const bool isFolder = kEntries[index] == folder::kPictures;
-  const QString chosen = isFolder ? services().desktop->pickFolder(u"フォルダの選択"_s, text(field(index)))
-                                  : services().desktop->pickFile(u"Data(*.mdb)|*.mdb"_s, text(field(index)));
-  if (!chosen.isEmpty()) setText(field(index), chosen);
-  focusOn(field(index));
+  const QString chosen = isFolder
+                             ? services().desktop->pickFolder(u"フォルダの選択"_s, text(kFields[index]))
+                             : services().desktop->pickFile(u"Data(*.mdb)|*.mdb"_s, text(kFields[index]));
+  if (!chosen.isEmpty()) setText(kFields[index], chosen);
+  focusOn(kFields[index]);
 }
 
 void FoldersScreen::change() {
   DataFolders typed = m_run.folders;
   for (int i = 0; i < static_cast<int>(std::size(kEntries)); ++i) {
-    const QString path = text(field(i));
+    const QString path = text(kFields[i]);
     if (path.isEmpty()) {
       messages().tell(u"フォルダの指定が空白です。変更出来ません。キャンセルを押せば変更せずに閉じます。"_s);
       return;

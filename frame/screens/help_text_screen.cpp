@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 
 namespace frame {
 
@@ -27,11 +28,14 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{
-    .name = u"テキストヘルプ",
-    .caption = u"テキストヘルプ",
-    .rows = kRows,
-    .heading = u"テキストヘルプ。上下の矢印キーで章を選び、タブキーで説明を聞きます。"};
+constexpr ScreenRow kDeclaration =
+    declare({.name = routes::TextHelp::screen,
+             .caption = u"テキストヘルプ",
+             .rows = kRows,
+             .heading = u"テキストヘルプ。上下の矢印キーで章を選び、タブキーで説明を聞きます。"});
+
+constexpr ControlRef kChapter = ref(kRows, u"Combo1");
+constexpr ControlRef kExplanation = ref(kRows, u"Text1");
 
 /// A chapter begins with a line of its own: 第１章 ...
 bool isHeading(const QString& line) { return line.startsWith(u'第') && line.left(5).contains(u'章'); }
@@ -58,14 +62,14 @@ void HelpTextScreen::onLoad() {
   m_chapters = readChapters(QDir(m_run.programFolder).filePath(u"help.txt"_s));
   QStringList headings;
   for (const QString& chapter : m_chapters) headings += chapter.section(u'\n', 0, 0);
-  setItems(u"Combo1"_s, headings);
-  setText(u"Combo1"_s, headings.value(0));
-  setText(u"Text1"_s, m_chapters.value(0));
+  setItems(kChapter, headings);
+  setText(kChapter, headings.value(0));
+  setText(kExplanation, m_chapters.value(0));
 }
 
 void HelpTextScreen::showChapter() {
   for (const QString& chapter : m_chapters)
-    if (chapter.section(u'\n', 0, 0) == text(u"Combo1"_s)) setText(u"Text1"_s, chapter);
+    if (chapter.section(u'\n', 0, 0) == text(kChapter)) setText(kExplanation, chapter);
 }
 
 void HelpTextScreen::finish() { navigator().unload(routes::TextHelp::screen); }

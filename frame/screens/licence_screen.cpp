@@ -2,6 +2,7 @@
 
 #include "frame/core/routes.h"
 #include "frame/screens/settings_writer.h"
+#include "platform/screen/declare.h"
 
 namespace frame {
 
@@ -28,8 +29,17 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{
-    .name = u"登録4", .caption = u"免許番号", .rows = kRows, .heading = u"免許番号"};
+constexpr ScreenRow kDeclaration = declare(
+    {.name = routes::Licences::screen, .caption = u"免許番号", .rows = kRows, .heading = u"免許番号"});
+
+struct LicenceField {
+  ControlRef control;
+  slot::Slot slot;
+};
+constexpr LicenceField kNumbers[] = {{ref(kRows, u"Text1"), slot::kLicenceHari},
+                                     {ref(kRows, u"Text2"), slot::kLicenceKyu},
+                                     {ref(kRows, u"Text3"), slot::kLicenceMassage}};
+constexpr ControlRef kPrinted = ref(kRows, u"Check1");
 
 }  // namespace
 
@@ -37,17 +47,13 @@ LicenceScreen::LicenceScreen(Services& services, RunState& run)
     : Screen(kDeclaration, services), m_run(run) {}
 
 void LicenceScreen::onLoad() {
-  setText(u"Text1"_s, m_run.settings[slot::kLicenceHari]);
-  setText(u"Text2"_s, m_run.settings[slot::kLicenceKyu]);
-  setText(u"Text3"_s, m_run.settings[slot::kLicenceMassage]);
-  setChecked(u"Check1"_s, m_run.settings[slot::kPrintLicence] == u"2");
+  for (const LicenceField& number : kNumbers) setText(number.control, m_run.settings[number.slot]);
+  setChecked(kPrinted, m_run.settings[slot::kPrintLicence] == u"2");
 }
 
 void LicenceScreen::save() {
-  m_run.settings[slot::kLicenceHari] = text(u"Text1"_s);
-  m_run.settings[slot::kLicenceKyu] = text(u"Text2"_s);
-  m_run.settings[slot::kLicenceMassage] = text(u"Text3"_s);
-  m_run.settings[slot::kPrintLicence] = checked(u"Check1"_s) ? u"2"_s : u"0"_s;
+  for (const LicenceField& number : kNumbers) m_run.settings[number.slot] = text(number.control);
+  m_run.settings[slot::kPrintLicence] = checked(kPrinted) ? u"2"_s : u"0"_s;
   if (writeSettings(*this, m_run, SettingsWriter::Other)) navigator().unload(routes::Licences::screen);
 }
 

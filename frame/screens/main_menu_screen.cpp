@@ -7,10 +7,13 @@
 #include "frame/core/backup_generations.h"
 #include "frame/core/prefecture.h"
 #include "frame/core/routes.h"
+#include "frame/core/routes_unbuilt.h"
 #include "frame/screens/backup_progress.h"
 #include "frame/screens/main_menu_rows.h"
 #include "frame/screens/settings_writer.h"
 #include "platform/shell/desktop.h"
+#include "platform/store/tables/claims.h"
+#include "platform/text/utf16.h"
 
 namespace frame {
 
@@ -19,7 +22,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// One association's two answers: the stored value, and the text when the tick is set or the menu shows
-/// again. Kept: the activated menu writes マツサージ with a large ツ where the tick writes マッサージ.
+/// again. Kept: the activated menu writes マツサージ with a large ツ, the tick writes マッサージ.
 struct Submission {
   const char16_t* value;
   const char16_t* whenTicked;
@@ -30,12 +33,10 @@ constexpr Submission kAichiOff{u"4", u"愛知県鍼灸マッサージ師会", u"
 constexpr Submission kTokyoOn{u"6", u"東京都鍼灸師会　会員外", u"東京都鍼灸師会　会員外"};
 constexpr Submission kTokyoOff{u"5", u"東京都鍼灸師会", u"東京都鍼灸師会"};
 
-QString words(const char16_t* text) { return QString::fromUtf16(text); }
-
 }  // namespace
 
 MainMenuScreen::MainMenuScreen(screen::Services& services, RunState& run)
-    : Screen(kMainMenuDeclaration, services), m_run(run) {}
+    : Screen(menu::kDeclaration, services), m_run(run) {}
 
 void MainMenuScreen::onLoad() {
   m_greets = !m_run.menuLoadedBefore;
@@ -43,8 +44,8 @@ void MainMenuScreen::onLoad() {
   // The capability of the run is what the date test answers for a date of the era that came last.
   const bool supported = m_run.eraDates().platformDate(u"令和1年5月5日"_s).has_value();
   m_run.eraCapability = supported ? EraCapability::Supported : EraCapability::Unsupported;
-  setShown(u"Label2"_s, supported);
-  setShown(u"Label3"_s, !supported);
+  setShown(menu::kEraSupported, supported);
+  setShown(menu::kEraUnsupported, !supported);
   showSubmissions();
   QDir::setCurrent(m_run.programFolder);
 }
@@ -52,59 +53,56 @@ void MainMenuScreen::onLoad() {
 QStringList MainMenuScreen::openingTexts() const {
   if (!m_greets) return {};
   const bool supported = m_run.eraCapability == EraCapability::Supported;
-  return {u"治療台帳を起動しました"_s, caption(u"Label1"_s), caption(supported ? u"Label2"_s : u"Label3"_s)};
+  return {u"治療台帳を起動しました"_s, caption(menu::kVersion),
+          caption(supported ? menu::kEraSupported : menu::kEraUnsupported)};
 }
 
 void MainMenuScreen::onActivate() { showSubmissions(); }
 
 void MainMenuScreen::showSubmissions() {
-  setText(u"Text2"_s, m_run.prefectureCode);
+  setText(menu::kPrefecture, m_run.prefectureCode);
   const Submission& aichi = m_run.aichiSubmission == u"3" ? kAichiOn : kAichiOff;
-  setChecked(u"Check1"_s, &aichi == &kAichiOn);
-  setText(u"Text3"_s, words(aichi.whenShown));
+  setChecked(menu::kAichiTick, &aichi == &kAichiOn);
+  setText(menu::kAichiText, text::utf16(aichi.whenShown));
   const Submission& tokyo = m_run.tokyoSubmission == u"5" ? kTokyoOff : kTokyoOn;
-  setChecked(u"Check2"_s, &tokyo == &kTokyoOn);
-  setText(u"Text4"_s, words(tokyo.whenShown));
+  setChecked(menu::kTokyoTick, &tokyo == &kTokyoOn);
+  setText(menu::kTokyoText, text::utf16(tokyo.whenShown));
 }
 
 void MainMenuScreen::changePrefecture() {
-  const QString typed = text(u"Text2"_s);
+  const QString typed = text(menu::kPrefecture);
   if (!typed.isEmpty()) {
     m_run.prefectureCode = twoDigitPrefecture(typed);
-    setText(u"Text2"_s, m_run.prefectureCode);
+    setText(menu::kPrefecture, m_run.prefectureCode);
   }
-  // What holds now, also where a blank field changed nothing.
-  voice().speakText(caption(u"Text2"_s) + voice::kSpeechSeparator + m_run.prefectureCode);
+  // Says the current prefecture, also if a blank field changed nothing.
+  voice().speakText(caption(menu::kPrefecture) + voice::kSpeechSeparator + m_run.prefectureCode);
 }
 
 void MainMenuScreen::chooseAichi() {
-  const Submission& chosen = checked(u"Check1"_s) ? kAichiOn : kAichiOff;
-  m_run.aichiSubmission = words(chosen.value);
-  setText(u"Text3"_s, words(chosen.whenTicked));
+  const Submission& chosen = checked(menu::kAichiTick) ? kAichiOn : kAichiOff;
+  m_run.aichiSubmission = text::utf16(chosen.value);
+  setText(menu::kAichiText, text::utf16(chosen.whenTicked));
 }
 
 void MainMenuScreen::chooseTokyo() {
-  const Submission& chosen = checked(u"Check2"_s) ? kTokyoOn : kTokyoOff;
-  m_run.tokyoSubmission = words(chosen.value);
-  setText(u"Text4"_s, words(chosen.whenTicked));
+  const Submission& chosen = checked(menu::kTokyoTick) ? kTokyoOn : kTokyoOff;
+  m_run.tokyoSubmission = text::utf16(chosen.value);
+  setText(menu::kTokyoText, text::utf16(chosen.whenTicked));
 }
 
-void MainMenuScreen::openClaims() {
-  m_run.lastScreenMode = 2;
-  navigator().show(u"レセプト一覧表"_s, {{u"sort"_s, u"ID DESC"_s}});
-}
+void MainMenuScreen::openClaims() { navigator().show(routes::ClaimList{.order = claim::id + u" DESC"_s}); }
 
 void MainMenuScreen::openReceipts() {
-  m_run.lastScreenMode = 1;
-  navigator().show(u"領収証選択"_s, {{u"日付"_s, todayForReceipt()}});
+  navigator().show(routes::unbuilt::ReceiptChoice{.day = todayForReceipt()});
 }
 
 void MainMenuScreen::openBookings() {
-  m_run.callerMark = caller::kMainMenu;
-  navigator().show(u"今日の予約"_s, {{u"最終行"_s, true}});
+  m_run.bookingsCaller = routes::MainMenu::screen;
+  navigator().show(routes::TodaysBookings{.lastRow = true});
 }
 
-void MainMenuScreen::openTakings() { navigator().show(u"集計"_s, {{u"最終行"_s, true}}); }
+void MainMenuScreen::openTakings() { navigator().show(routes::Takings{.lastRow = true}); }
 
 QString MainMenuScreen::todayForReceipt() const {
   const EraDates dates = m_run.eraDates();
@@ -137,7 +135,7 @@ void MainMenuScreen::openBeside(const QString& fileName) {
 
 void MainMenuScreen::openManual() { openBeside(u"help.PDF"_s); }
 
-// Where the desktop has no viewer for text files the program reads the help out itself.
+// If the system has no viewer for text files the program reads the help out itself.
 void MainMenuScreen::openTextHelp() {
   const QString path = QDir(m_run.programFolder).filePath(u"help.txt"_s);
   const text::Done done = services().desktop->openFile(path);
@@ -155,7 +153,7 @@ void MainMenuScreen::openUpdatePage() { openPage(WebPage::Update); }
 void MainMenuScreen::openTroublePage() { openPage(WebPage::Trouble); }
 
 void MainMenuScreen::endProgram() {
-  // A fault is told by then; ending goes on, and the file keeps the settings of the last run.
+  // writeSettings has already reported any fault; quit regardless, with the settings of the last run.
   (void)writeSettings(*this, m_run, SettingsWriter::ProgramEnd);
   if (endsWithBackup(m_run)) backUpGenerations(m_run);
   navigator().quit();

@@ -47,21 +47,27 @@ constexpr PromptButton kNoPrintButtons[] = {
     {.name = {u"Command1"}, .caption = u"ＯＫ", .action = kClosePrompt}};
 
 constexpr ConfirmRow kPrompts[] = {
-    {.name = u"LANフォルダ指定の実行",
+    {.name = routes::AskFolders::screen,
      .caption = u"LANフォルダ指定の実行",
      .lines = kFoldersLines,
      .buttons = kFoldersButtons},
-    {.name = u"登録の実行", .caption = u"登録の実行", .lines = kProfileLines, .buttons = kProfileButtons},
-    {.name = u"終了1", .caption = u"終了", .lines = kEndLines, .buttons = kEndButtons},
-    {.name = u"閉じる1", .caption = u"閉じる", .lines = kCloseLines, .buttons = kCloseButtons},
-    {.name = u"qvchkbox2", .caption = u"再起動", .lines = kRestartLines, .buttons = kRestartButtons},
-    {.name = u"印刷出来ない場合の処置",
+    {.name = routes::AskProfile::screen,
+     .caption = u"登録の実行",
+     .lines = kProfileLines,
+     .buttons = kProfileButtons},
+    {.name = routes::AskEnd::screen, .caption = u"終了", .lines = kEndLines, .buttons = kEndButtons},
+    {.name = routes::AskClose::screen, .caption = u"閉じる", .lines = kCloseLines, .buttons = kCloseButtons},
+    {.name = routes::Restart::screen,
+     .caption = u"再起動",
+     .lines = kRestartLines,
+     .buttons = kRestartButtons},
+    {.name = routes::PrintTroubleHelp::screen,
      .caption = u"印刷出来ない場合の処置",
      .lines = kNoPrintLines,
      .buttons = kNoPrintButtons},
 };
 
-/// Takes the folders as typed; they hold from the next start on. A fault leaves the old ones in force.
+/// Takes the folders as typed; they apply from the next start on. A fault leaves the old ones in force.
 void storeFolders(ConfirmPrompt& prompt, RunState& run) {
   const DataFolders before = std::exchange(run.folders, run.pendingFolders);
   if (writeSettings(prompt, run, SettingsWriter::Folders)) {
@@ -74,7 +80,7 @@ void storeFolders(ConfirmPrompt& prompt, RunState& run) {
 
 void storeProfile(ConfirmPrompt& prompt, RunState& run) {
   const bool written = writeSettings(prompt, run, SettingsWriter::Profile);
-  prompt.navigator().show(written ? u"終了1"_s : u"登録"_s);
+  prompt.navigator().show(written ? routes::AskEnd::screen : routes::Profile::screen);
 }
 
 }  // namespace
@@ -91,8 +97,8 @@ PromptActions promptActions(RunState& run) {
       {u"endProgram"_s, [](ConfirmPrompt& prompt) { prompt.navigator().quit(); }},
       {u"backToOpener"_s,
        [](ConfirmPrompt& prompt) {
-         const QString opener = prompt.request().value(u"opener"_s).toString();
-         if (!opener.isEmpty()) prompt.navigator().show(opener);
+         const auto* asked = prompt.request().as<routes::AskClose>();
+         if (asked && asked->opener) prompt.navigator().show(*asked->opener);
        }},
   };
 }

@@ -1,6 +1,8 @@
 #include "frame/screens/splash_screen.h"
 
+#include "frame/core/routes.h"
 #include "frame/screens/start.h"
+#include "platform/screen/declare.h"
 
 namespace frame {
 
@@ -16,7 +18,8 @@ constexpr Row kRows[] = {
     EndGroup{},
 };
 
-constexpr ScreenRow kDeclaration{.name = u"frmSplash", .caption = u"治療台帳", .rows = kRows};
+constexpr ScreenRow kDeclaration =
+    declare({.name = routes::Splash::screen, .caption = u"治療台帳", .rows = kRows});
 
 }  // namespace
 

@@ -10,11 +10,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString kSplash = u"frmSplash"_s;
 constexpr int kSplashCount = 1'000'000;
 constexpr int kTopicsShownUpTo = 14;
 
-/// Keeps the splash screen in view for a moment.
+/// Leaves the splash screen in view for a moment.
 void countOnSplash() {
   volatile int counted = 0;
   while (counted < kSplashCount) counted = counted + 1;
@@ -22,7 +21,7 @@ void countOnSplash() {
 
 Started tellMissing(screen::Services& services, const text::Done& read) {
   services.messages.tell(read.fault().message, QString(), screen::Icon::Stop);
-  services.navigator.unload(kSplash);
+  services.navigator.unload(routes::Splash::screen);
   services.navigator.quit();
   return Started::SettingsMissing;
 }
@@ -30,13 +29,13 @@ Started tellMissing(screen::Services& services, const text::Done& read) {
 Started showMenu(RunState& run, screen::Services& services) {
   // Kept: without this entry of the folders the start ends with no window.
   if (run.folders[folder::kSpare9].isEmpty()) {
-    services.navigator.unload(kSplash);
+    services.navigator.unload(routes::Splash::screen);
     services.navigator.quit();
     return Started::NothingToShow;
   }
   services.navigator.show(routes::MainMenu{});
   if (topicsWanted(run.settings[slot::kTopics])) services.navigator.show(routes::Topics{});
-  services.navigator.unload(kSplash);
+  services.navigator.unload(routes::Splash::screen);
   return Started::Menu;
 }
 
@@ -51,7 +50,7 @@ bool topicsWanted(const QString& counter) {
 
 Started startProgram(RunState& run, screen::Services& services, const StartNeeds& needs) {
   QDir::setCurrent(run.programFolder);
-  if (screen::Screen* splash = services.navigator.show(kSplash)) splash->repaint();
+  if (screen::Screen* splash = services.navigator.show(routes::Splash{})) splash->repaint();
   countOnSplash();
   if (const text::Done read = readRun(run.programFolder, run); !read) return tellMissing(services, read);
   if (!needs.fontInstalled())

@@ -1,6 +1,7 @@
 #include "frame/screens/topics_screen.h"
 
 #include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 
 namespace frame {
 
@@ -9,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr char16_t kSilenced[] = u"15";
+constexpr QStringView kSilenced = u"15";
 
 // All nine are spoken in order when the screen opens, and again by the button.
 constexpr Row kRows[] = {
@@ -54,16 +55,19 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{.name = u"topics", .caption = u"トピックス", .rows = kRows};
+constexpr ScreenRow kDeclaration =
+    declare({.name = routes::Topics::screen, .caption = u"トピックス", .rows = kRows});
+
+constexpr ControlRef kSilence = ref(kRows, u"Check1");
 
 }  // namespace
 
 TopicsScreen::TopicsScreen(Services& services, RunState& run) : Screen(kDeclaration, services), m_run(run) {}
 
-void TopicsScreen::onLoad() { setChecked(u"Check1"_s, m_run.settings[slot::kTopics] == kSilenced); }
+void TopicsScreen::onLoad() { setChecked(kSilence, m_run.settings[slot::kTopics] == kSilenced); }
 
 void TopicsScreen::rememberTick() {
-  m_run.settings[slot::kTopics] = checked(u"Check1"_s) ? QString::fromUtf16(kSilenced) : u"0"_s;
+  m_run.settings[slot::kTopics] = checked(kSilence) ? kSilenced.toString() : u"0"_s;
 }
 
 void TopicsScreen::speakAll() { voice().speakHeading(openingTexts()); }

@@ -1,5 +1,6 @@
 #include "office/screens/booking_list.h"
 
+#include "frame/core/routes.h"
 #include "office/core/booking_book.h"
 #include "platform/screen/hourglass.h"
 
@@ -7,15 +8,15 @@ namespace office {
 
 using namespace Qt::Literals::StringLiterals;
 
-QString callerOf(const frame::RunState& run) {
-  if (run.callerMark == frame::caller::kMainMenu && !run.folders[frame::folder::kPatients].isEmpty())
-    return u"選択3"_s;
-  return run.callerMark == frame::caller::kPatients ? u"治療台帳4"_s : QString();
+std::optional<screen::ScreenName> callerOf(const frame::RunState& run) {
+  const bool noWayBack =
+      run.bookingsCaller == routes::MainMenu::screen && run.folders[frame::folder::kPatients].isEmpty();
+  return noWayBack ? std::nullopt : run.bookingsCaller;
 }
 
-BookingList::BookingList(const screen::ScreenRow& declaration, screen::Services& services,
-                         frame::RunState& run)
-    : ListScreen(declaration, services), m_run(run) {}
+BookingList::BookingList(const screen::ScreenRow& declaration, screen::ControlRef list,
+                         screen::Services& services, frame::RunState& run)
+    : ListScreen(declaration, services), m_run(run), m_list(list) {}
 
 void BookingList::onActivate() { m_onceActive.run(*this); }
 
@@ -32,9 +33,8 @@ QString BookingList::noRowsText() const {
 
 QStringList BookingList::rowOnView() const {
   if (!holdsRows()) return countOnView();
-  const store::RecordSet& rows = source().rows();
-  return {rows.value(u"予約月"_s) + u"月"_s + rows.value(u"予約日"_s) + u"日"_s, rows.value(u"予約時間"_s),
-          rows.value(u"予約患者"_s)};
+  const Booking shown = booking();
+  return {dayInWords(shown), shown.time, shown.patientName};
 }
 
 std::optional<store::RecordSet> BookingList::bookingsOfDay(const frame::DayAsked& day) {
@@ -60,21 +60,21 @@ void BookingList::sayWithCount(const QStringList& parts) {
 
 void BookingList::sayRows(const QStringList& parts) {
   sayWithCount(parts);
-  if (focused() == u"DBGrid1" && holdsRows())
+  if (focused() == m_list.name() && holdsRows())
     return voice().speakText(rowOnView().join(voice::kSpeechSeparator));
-  focusOn(u"DBGrid1"_s);
+  focusOn(m_list);
 }
 
 void BookingList::handOver() {
   if (!holdsRows()) return messages().tell(u"代入するデータがありません。"_s);
-  const store::RecordSet& rows = source().rows();
-  navigator().show(u"治療台帳4"_s,
-                   {{u"代入"_s, rows.value(u"予約患者"_s)}, {u"患者NO"_s, rows.value(u"患者NO"_s)}});
+  if (!source().ensureRead()) return;
+  const Booking shown = booking();
+  navigator().show(
+      routes::PatientRegister{routes::PatientRegister::Booked{shown.patientName, shown.patientNumber}});
 }
 
 void BookingList::finish() {
-  const QString caller = callerOf(m_run);
-  if (!caller.isEmpty()) navigator().show(caller);
+  if (const auto caller = callerOf(m_run)) navigator().show(*caller);
   closeNow();
 }
 

@@ -2,12 +2,13 @@
 
 #include <array>
 
-#include "platform/screen/rows.h"
+#include "office/screens/day_lists.h"
+#include "platform/screen/declare.h"
 #include "platform/store/tables/bookings.h"
 
 namespace office {
 
-// What the screens of the appointment book are declared with.
+// Rows that the screens of the appointment book share.
 
 /// A list of years, as texts.
 template <int First, int Last>
@@ -30,13 +31,6 @@ struct Years {
 inline constexpr Years<2000, 2020> kBookYears;
 inline constexpr Years<2015, 2035> kListYears;
 
-inline constexpr const char16_t* kMonths[] = {u"1", u"2", u"3", u"4",  u"5",  u"6",
-                                              u"7", u"8", u"9", u"10", u"11", u"12"};
-inline constexpr const char16_t* kDays[] = {u"1",  u"2",  u"3",  u"4",  u"5",  u"6",  u"7",  u"8",
-                                            u"9",  u"10", u"11", u"12", u"13", u"14", u"15", u"16",
-                                            u"17", u"18", u"19", u"20", u"21", u"22", u"23", u"24",
-                                            u"25", u"26", u"27", u"28", u"29", u"30", u"31"};
-
 /// A list for a part of a date; every text may be typed as well.
 consteval screen::Combo dateList(const char16_t* name, const char16_t* caption, screen::Binding bind,
                                  std::span<const char16_t* const> items, screen::Handler onEnter = nullptr) {
@@ -49,13 +43,10 @@ consteval screen::Combo dateList(const char16_t* name, const char16_t* caption, 
                        .onEnter = onEnter};
 }
 
-/// A booking as the lists show it: what a listener wants first stands first.
-inline constexpr screen::GridColumn kBookingColumns[] = {
-    {bookings::time, u"予約時間"},        {bookings::patientName, u"予約患者"},
-    {bookings::year, u"予約年"},          {bookings::month, u"予約月"},
-    {bookings::day, u"予約日"},           {bookings::weekday, u"予約曜日"},
-    {bookings::patientSerial, u"患者NO"}, {bookings::number, u"予約NO"},
-    {bookings::memo, u"メモ1"},           {bookings::entered, u"登録日時"}};
+/// A booking as the lists show it: what is wanted first when listening comes first.
+inline constexpr auto kBookingColumns = screen::gridOf(
+    bookings::time, bookings::patientName, bookings::year, bookings::month, bookings::day, bookings::weekday,
+    bookings::patientNumber, bookings::number, bookings::memo, bookings::stamp);
 
 inline constexpr char16_t kHandOverTip[] = u"選択した会員を会員名簿の検索欄に代入します。";
 

@@ -3,8 +3,10 @@
 #include "office/core/booking_book.h"
 #include "office/core/booking_date.h"
 #include "office/core/booking_time.h"
+#include "office/screens/booking_form_rows.h"
 #include "office/screens/booking_list.h"
 #include "platform/screen/find_row.h"
+#include "platform/text/utf16.h"
 
 namespace office {
 
@@ -12,19 +14,23 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString kPatientId = u"txtFields(1)"_s, kName = u"txtFields(2)"_s, kTime = u"txtFields(6)"_s,
-              kStamp = u"txtFields(7)"_s, kYear = u"Combo1"_s, kMonth = u"Combo2"_s, kDay = u"Combo3"_s,
-              kWeekday = u"Combo4"_s, kShadow = u"Text2"_s, kSerial = u"Text3"_s;
+using namespace booking_form;
 
-/// The columns of the day once more: hidden, each beside its list.
-const std::pair<QString, QString> kDayFields[] = {
-    {u"txtFields(3)"_s, kYear}, {u"txtFields(4)"_s, kMonth}, {u"txtFields(5)"_s, kDay}};
+constexpr screen::RecordWords kWords{
+    .dropped = u"中止しました",
+    .deleteQuestion = u"　現在の該当患者を削除しますか？",
+    .discardQuestion = u"登録していない内容があります。捨ててもよろしいですか？"};
+
+/// The columns of the day once more: hidden, each next to its list.
+constexpr std::pair<screen::ControlRef, screen::ControlRef> kDayFields[] = {
+    {ref(kRows, u"txtFields", 3), kDay.year},
+    {ref(kRows, u"txtFields", 4), kDay.month},
+    {ref(kRows, u"txtFields", 5), kDay.day}};
 
 /// Everything that is stored but the row's key.
-const QStringList kFields{u"txtFields(0)"_s, kPatientId, kName,  kYear, kMonth, kDay, kWeekday, kTime, kStamp,
-                          u"txtFields(8)"_s, kShadow,    kSerial};
+constexpr screen::ControlRef kFields[] = {kNumber,  kPatientNumber, kName,  kDay.year, kDay.month, kDay.day,
+                                          kWeekday, kTime,          kStamp, kMemo,     kShadow,    kSerial};
 
-const QString kKeptFromDropping = u"登録していない内容があります。捨ててもよろしいですか？"_s;
 const QString kCannotStore = u"登録出来ませんでした。入力した内容を捨てて、閉じますか？"_s;
 const QString kNoTime = u"予約時間を時刻として読めません。9:30 または 14時30分 のように入力して下さい。"_s;
 const QString kNoStamp =
@@ -33,22 +39,22 @@ const QString kNoStamp =
 }  // namespace
 
 BookingScreen::BookingScreen(screen::Services& services, frame::RunState& run)
-    : Screen(kBooking, services), m_run(run) {
-  source().writesOnMove = false;
-}
+    : RecordScreen(kDeclaration, services, kWords), m_run(run) {}
 
 void BookingScreen::onLoad() {
-  for (const QString& hidden : {u"Text1"_s, kShadow, kSerial}) setShown(hidden, false);
+  for (const screen::ControlRef& hidden : {kId, kShadow, kSerial}) setShown(hidden, false);
   for (const auto& [hidden, list] : kDayFields) setShown(hidden, false);
 }
 
 void BookingScreen::opened(const screen::Request& request) {
-  if (request.contains(u"戻る"_s) || !mayDrop()) return;
-  m_opener = request.value(u"opener"_s).toString();
-  if (request.contains(u"ID"_s))
-    showBooking(request[u"ID"_s].toLongLong());
+  const auto* handed = request.as<routes::Booking>();
+  const routes::Booking booking = handed ? *handed : routes::Booking{};
+  if (std::holds_alternative<routes::Booking::Back>(booking.what) || !mayDrop()) return;
+  m_opener = booking.opener;
+  if (const auto* stored = std::get_if<routes::Booking::Stored>(&booking.what))
+    showBooking(stored->id);
   else
-    begin(request);
+    begin(std::get<routes::Booking::NewBooking>(booking.what).patient);
   // Another booking in the open window: what came on view is said as at its opening.
   if (isVisible()) sayResult(openingTexts());
   focusOnField();
@@ -68,26 +74,28 @@ void BookingScreen::rowShown(int) { m_shown = fields(); }
 
 // ---- Which booking is on view
 
-void BookingScreen::begin(const screen::Request& patient) {
-  // Read afresh, so that a list narrowed to one booking does not stay.
+void BookingScreen::begin(const std::optional<frame::Patient>& patient) {
+  // Read afresh, so that a set narrowed to one booking does not remain.
   if (!openTable() || !source().addNew()) return;
   putDay(m_run.clock->today());
   setText(kTime, timeText(m_run.clock->now().time()));
-  setText(kPatientId, patient.value(u"患者ID"_s).toString());
-  setText(kName, patient.value(u"氏名"_s).toString());
-  setText(kSerial, patient.value(u"テキスト5"_s).toString());
+  if (patient) {
+    setText(kPatientNumber, patient->number);
+    setText(kName, patient->name);
+    setText(kSerial, patient->serial);
+  }
   m_shown = fields();
 }
 
 void BookingScreen::focusOnField() {
   const bool adding = source().isOpen() && source().rows().adding();
-  focusOn(!adding ? kFields.first() : text(kName).isEmpty() ? kName : kYear);
+  focusOn(!adding ? kNumber : text(kName).isEmpty() ? kName : kDay.year);
 }
 
 void BookingScreen::showBooking(qint64 id) {
   if (!openTable()) return;
   store::RecordSet& rows = source().rows();
-  rows.setFilter(u"ID = %1 "_s.arg(id));
+  rows.setFilter(u"%1 = %2 "_s.arg(bookings::id.text()).arg(id));
   auto hit = rows.openRecordset();
   rows.setFilter(QString());
   if (!hit) return messages().tellDataFault(hit.fault().message);
@@ -95,21 +103,25 @@ void BookingScreen::showBooking(qint64 id) {
   source().assign(std::move(*hit));
 }
 
-bool BookingScreen::hasBooking() const { return source().holdsRow(); }
-
 QStringList BookingScreen::fields() const {
   QStringList texts;
-  for (const QString& field : kFields) texts += text(field);
+  for (const screen::ControlRef& field : kFields) texts += text(field);
   return texts;
 }
 
 void BookingScreen::putFields(const QStringList& texts) {
-  for (qsizetype i = 0; i < kFields.size(); ++i) setText(kFields[i], texts[i]);
+  for (qsizetype i = 0; i < texts.size(); ++i) setText(kFields[i], texts[i]);
 }
 
 bool BookingScreen::mayDrop() {
   if (!source().isOpen() || fields() == m_shown) return true;
-  return messages().askToDrop(kKeptFromDropping);
+  return messages().askToDrop(text::utf16(kWords.discardQuestion));
+}
+
+bool BookingScreen::mayLeaveRow() {
+  if (!mayDrop()) return false;
+  source().drop();
+  return true;
 }
 
 void BookingScreen::addBooking() {
@@ -119,26 +131,23 @@ void BookingScreen::addBooking() {
   focusOnField();
 }
 
-void BookingScreen::step(void (screen::DataSource::*move)()) {
-  if (!source().ready() || !mayDrop()) return;
-  source().drop();
-  (source().*move)();
-  if (!hasBooking()) return voice().speakHeading({u"予約 0 件"_s});
-  voice().speakHeading(
-      {source().positionText(), text(kMonth) + u"月"_s + text(kDay) + u"日"_s, text(kTime), text(kName)});
+QStringList BookingScreen::rowInWords() const {
+  if (!source().hasCurrentRow()) return {u"予約 0 件"_s};
+  return {source().positionText(), text(kDay.month) + u"月"_s + text(kDay.day) + u"日"_s, text(kTime),
+          text(kName)};
 }
 
-void BookingScreen::goFirst() { step(&screen::DataSource::moveFirst); }
-void BookingScreen::goPrevious() { step(&screen::DataSource::movePrevious); }
-void BookingScreen::goNext() { step(&screen::DataSource::moveNext); }
-void BookingScreen::goLast() { step(&screen::DataSource::moveLast); }
+void BookingScreen::sayDone(const QString& done) {
+  sayBooking(source().hasCurrentRow() ? done + voice::kSpeechSeparator + u"表示中の予約"_s : done);
+}
 
 void BookingScreen::sayBooking(const QString& done) { sayResult(QStringList{done} + bookingOnView()); }
 
 QStringList BookingScreen::bookingOnView() const {
-  if (!hasBooking()) return {};
+  if (!source().hasCurrentRow()) return {};
   QString day;
-  const std::pair<QString, QChar> numbers[] = {{kYear, u'年'}, {kMonth, u'月'}, {kDay, u'日'}};
+  const std::pair<screen::ControlRef, QChar> numbers[] = {
+      {kDay.year, u'年'}, {kDay.month, u'月'}, {kDay.day, u'日'}};
   for (const auto& [list, unit] : numbers)
     if (!text(list).isEmpty()) day += text(list) + unit;
   QStringList parts{day, text(kWeekday), text(kTime), text(kName)};
@@ -154,7 +163,7 @@ void BookingScreen::putDay(QDate date) {
 }
 
 void BookingScreen::putNumbers(const frame::DayAsked& day) {
-  putDayLists(*this, day);
+  putDayLists(*this, kDay, day);
   for (const auto& [hidden, list] : kDayFields) setText(hidden, text(list));
 }
 
@@ -192,7 +201,7 @@ void BookingScreen::rewriteTimes() {
 }
 
 void BookingScreen::showWeekday() {
-  const auto day = askedDay(*this);
+  const auto day = askedDay(*this, kDay);
   if (!day) return;
   setText(kWeekday, weekday(day->date));
   voice().speakHeading({dayText(m_run.eraDates(), day->date)});
@@ -211,70 +220,51 @@ bool BookingScreen::putSerial() {
   return serial.ok();
 }
 
-bool BookingScreen::write() {
-  if (!hasBooking()) return source().addNewAsShown() && source().write();
-  return source().write();
-}
-
-void BookingScreen::storeBooking() {
+void BookingScreen::storeRow() {
   const QStringList typed = fields();
   if (!source().isOpen()) {
-    // A file that could not be opened before is tried again; what was typed becomes a booking of its own.
+    // A file that could not be opened before is tried again; what was typed becomes a new booking.
     if (!openTable() || !source().addNew()) return;
     putFields(typed);
   }
-  const auto day = askedDay(*this);
+  const auto day = askedDay(*this, kDay);
   if (!day) return;
   setText(kStamp, stampText(m_run.eraDates(), m_run.clock->now()));
   putDerived(*day);
   // A booking that was refused must not look like a stored one.
-  if (!putSerial() || !write()) return putFields(typed);
+  if (!putSerial() || !writeOnView()) return putFields(typed);
   messages().tell(u"更新しました。一旦、閉じるを押してください。"_s);
-}
-
-void BookingScreen::deleteBooking() {
-  if (!hasBooking()) return messages().tell(u"削除するデータがありません。"_s);
-  const bool yes = messages().ask(u"　現在の該当患者を削除しますか？"_s);
-  m_run.lastAnswer = yes ? 1 : 0;
-  if (!yes) return;
-  // A new booking only leaves the screen: the row before it must not go instead.
-  const bool added = source().rows().adding();
-  if (added)
-    source().drop();
-  else if (!source().remove())
-    return;
-  const QString done = added ? u"中止しました"_s : u"削除しました"_s;
-  sayBooking(hasBooking() ? done + voice::kSpeechSeparator + u"表示中の予約"_s : done);
 }
 
 // ---- Leaving
 
-QString BookingScreen::caller() const { return m_opener.isEmpty() ? callerOf(m_run) : m_opener; }
+std::optional<screen::ScreenName> BookingScreen::caller() const {
+  return m_opener ? m_opener : callerOf(m_run);
+}
 
-void BookingScreen::openList() { navigator().show(u"今日の予約"_s, {{u"opener"_s, objectName()}}); }
+void BookingScreen::openList() { navigator().show(routes::TodaysBookings{}); }
 
 void BookingScreen::finish() {
-  if (!hasBooking()) return leave();
+  if (!source().hasCurrentRow()) return leave();
   if (text(kName).isEmpty() || text(kStamp).isEmpty()) {
-    navigator().show(u"更新の確認"_s, {{u"caller"_s, caller()}});
+    navigator().show(routes::AskUnfinishedBooking{.caller = caller()});
     return;
   }
-  const auto day = dayOfLists(*this);
+  const auto day = dayOfLists(*this, kDay);
   if (!day) {
-    // A stored row without a date is left as it is; one that was changed is put right first.
+    // A stored row without a date is left as it is; one that was changed has to be corrected first.
     if (fields() != m_shown)
-      askedDay(*this);
+      askedDay(*this, kDay);
     else
       leave();
     return;
   }
   putDerived(*day);
-  if (write() || messages().askToDrop(kCannotStore)) leave();
+  if (writeOnView() || messages().askToDrop(kCannotStore)) leave();
 }
 
 void BookingScreen::leave() {
-  const QString back = caller();
-  if (!back.isEmpty()) navigator().show(back, {{u"opener"_s, objectName()}});
+  if (const auto back = caller()) navigator().show(*back);
   navigator().unload(objectName());
 }
 

@@ -1,6 +1,8 @@
 #include "office/screens/calendar_screen.h"
 
+#include "frame/core/routes.h"
 #include "office/core/booking_date.h"
+#include "platform/screen/declare.h"
 
 namespace office {
 
@@ -21,9 +23,11 @@ constexpr Row kRows[] = {
 };
 
 constexpr ScreenRow kScreens[] = {
-    {.name = u"予約カレンダー", .caption = u"予約カレンダー", .rows = kRows},
-    {.name = u"集計カレンダー", .caption = u"集計カレンダー", .rows = kRows},
+    declare({.name = routes::BookingCalendar::screen, .caption = u"予約カレンダー", .rows = kRows}),
+    declare({.name = routes::TakingsCalendar::screen, .caption = u"集計カレンダー", .rows = kRows}),
 };
+
+constexpr ControlRef kCalendar = ref(kRows, u"Calendar1");
 
 }  // namespace
 
@@ -32,17 +36,17 @@ std::span<const ScreenRow> calendarScreens() { return kScreens; }
 CalendarScreen::CalendarScreen(const ScreenRow& declaration, Services& services, frame::RunState& run)
     : Screen(declaration, services), m_run(run) {}
 
-void CalendarScreen::opened(const Request&) { setDay(u"Calendar1"_s, m_run.clock->today()); }
+void CalendarScreen::opened(const Request&) { setDay(kCalendar, m_run.clock->today()); }
 
 QString CalendarScreen::dayText(const QDate& day) const { return office::dayText(m_run.eraDates(), day); }
 
 void CalendarScreen::extract() {
-  const QDate chosen = day(u"Calendar1"_s);
-  if (m_run.calendarMode == frame::calendar::kBookings) {
+  const QDate chosen = day(kCalendar);
+  if (m_run.calendarUse == frame::CalendarUse::Bookings) {
     m_run.dayAsked = numbersOf(chosen);
-    navigator().show(u"今日の予約"_s, {{u"指定日"_s, true}});
+    navigator().show(routes::TodaysBookings{.showsDay = true});
   } else {
-    navigator().show(u"集計"_s, {{u"日付"_s, chosen.toString(Qt::ISODate)}});
+    navigator().show(routes::Takings{.day = chosen});
   }
   finish();
 }

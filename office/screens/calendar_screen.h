@@ -6,7 +6,7 @@
 namespace office {
 
 /// 予約カレンダー and 集計カレンダー: a date cursor, and the list that shows the day. Whether the bookings or
-/// the takings of the day are shown is the run's calendar mode.
+/// the takings of the day are shown is the run's CalendarUse.
 class CalendarScreen : public screen::Screen {
  public:
   CalendarScreen(const screen::ScreenRow& declaration, screen::Services& services, frame::RunState& run);

@@ -1,5 +1,6 @@
 #include "office/screens/day_pick_screen.h"
 
+#include "frame/core/routes.h"
 #include "office/core/booking_date.h"
 #include "office/screens/booking_rows.h"
 #include "office/screens/day_lists.h"
@@ -29,9 +30,11 @@ constexpr Row kRows[] = {
 };
 
 constexpr ScreenRow kScreens[] = {
-    {.name = u"抽出4", .caption = u"予約表示の確認", .rows = kRows},
-    {.name = u"抽出5", .caption = u"予約表示の確認", .rows = kRows},
+    declare({.name = routes::PickDayOfBookings::screen, .caption = u"予約表示の確認", .rows = kRows}),
+    declare({.name = routes::PickDayOfWeek::screen, .caption = u"予約表示の確認", .rows = kRows}),
 };
+
+constexpr DayLists kDay = dayLists(kRows);
 
 }  // namespace
 
@@ -40,13 +43,13 @@ std::span<const ScreenRow> dayPickScreens() { return kScreens; }
 DayPickScreen::DayPickScreen(const ScreenRow& declaration, Services& services, frame::RunState& run)
     : Screen(declaration, services), m_run(run) {}
 
-void DayPickScreen::opened(const Request&) { putDayLists(*this, offeredDay(m_run)); }
+void DayPickScreen::opened(const Request&) { putDayLists(*this, kDay, offeredDay(m_run)); }
 
 void DayPickScreen::pick() {
-  const auto day = askedDay(*this);
+  const auto day = askedDay(*this, kDay);
   if (!day) return;
   m_run.dayAsked = day->numbers;
-  navigator().show(u"今日の予約"_s, {{u"指定日"_s, true}});
+  navigator().show(routes::TodaysBookings{.showsDay = true});
   close();
 }
 

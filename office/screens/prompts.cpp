@@ -37,11 +37,11 @@ constexpr PromptButton kCalendarButtons[] = {
     {.name = {u"Command3"}, .caption = u"キャンセル", .action = kClosePrompt}};
 
 constexpr ConfirmRow kPrompts[] = {
-    {.name = u"更新の確認",
+    {.name = routes::AskUnfinishedBooking::screen,
      .caption = u"更新の確認",
      .lines = kUnfinishedLines,
      .buttons = kUnfinishedButtons},
-    {.name = u"カレンダーのチェック",
+    {.name = routes::AskCalendar::screen,
      .caption = u"カレンダーのチェック",
      .lines = kCalendarLines,
      .buttons = kCalendarButtons},
@@ -49,8 +49,8 @@ constexpr ConfirmRow kPrompts[] = {
 
 /// 予約2 closes without its unfinished booking and goes back to where it was opened from.
 void dropBooking(ConfirmPrompt& prompt) {
-  const QString caller = prompt.request().value(u"caller"_s).toString();
-  if (!caller.isEmpty()) prompt.navigator().show(caller, {{u"opener"_s, u"予約2"_s}});
+  const auto* asked = prompt.request().as<routes::AskUnfinishedBooking>();
+  if (asked && asked->caller) prompt.navigator().show(*asked->caller);
   prompt.navigator().unload(routes::Booking::screen);
 }
 
@@ -67,7 +67,7 @@ PromptActions promptActions() {
       {u"dropBooking"_s, dropBooking},
       {u"backToBooking"_s,
        [](ConfirmPrompt& prompt) {
-         prompt.navigator().show(u"予約2"_s, {{u"戻る"_s, true}});
+         prompt.navigator().show(routes::Booking{.what = routes::Booking::Back{}});
        }},
       {u"refuseCalendar"_s, refuseCalendar},
       {u"openCalendar"_s, [](ConfirmPrompt& prompt) { prompt.navigator().show(routes::BookingCalendar{}); }},

@@ -1,5 +1,6 @@
 #include "office/screens/takings_dialogs.h"
 
+#include "frame/core/routes.h"
 #include "platform/store/tables/visits.h"
 
 namespace office {
@@ -14,9 +15,9 @@ constexpr ColumnChoice kSearched[] = {
 constexpr Note kNotes[] = {{.name = {u"Label1"},
                             .caption = u"※領収証チェックと新患は、Yes か No を入力して下さい。",
                             .spoken = true}};
-constexpr ExtractRow kExtracts[] = {{.name = u"集計抽出",
+constexpr ExtractRow kExtracts[] = {{.name = routes::SearchTakings::screen,
                                      .caption = u"集計抽出",
-                                     .list = u"集計",
+                                     .list = routes::Takings::screen,
                                      .columns = kSearched,
                                      .wordCaption = u"抽出する文字:",
                                      .go = u"抽出",
@@ -28,7 +29,8 @@ constexpr ColumnChoice kSorted[] = {
     visits::summary, visits::insurerPays, visits::share,
     visits::fee,     visits::receiptDone, visits::isNew,
 };
-constexpr SortRow kSorts[] = {{.name = u"ソート2", .list = u"集計", .columns = kSorted}};
+constexpr SortRow kSorts[] = {
+    {.name = routes::SortTakings::screen, .list = routes::Takings::screen, .columns = kSorted}};
 
 }  // namespace
 

@@ -16,33 +16,33 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+using namespace takings_rows;
+
 // Kept: asked for a day, an empty list speaks of a button of another screen.
 const QString kNoRowsOfDay = u"検索データが０件です。「全表示に戻す」をクリックして下さい。"_s;
 const QString kDeleteQuestion = u"　現在の表示の患者のカルテを削除しますか？"_s;
 const QString kNothingToDelete = u"削除するデータがありません。"_s;
 
-const QString kVisitDate = u"治療日時"_s;
-const QString kCount = u"Label4"_s;
-
 }  // namespace
 
 TakingsScreen::TakingsScreen(screen::Services& services, frame::RunState& run)
-    : ListScreen(kTakingsDeclaration, services), m_run(run) {}
+    : ListScreen(kDeclaration, services), m_run(run) {}
 
 void TakingsScreen::onLoad() {
-  setShown(u"Text2"_s, false);
+  setShown(kSerial, false);
   const QDate today = m_run.clock->today();
-  setItems(u"Combo1"_s, takingsYears(today));
-  putDayLists(*this, numbersOf(today));
-  setText(u"Text1"_s, records::presentMonthText(m_run.eraDates()));
+  setItems(kDay.year, takingsYears(today));
+  putDayLists(*this, kDay, numbersOf(today));
+  setText(kMonth, records::presentMonthText(m_run.eraDates()));
   openWhole();
 }
 
 void TakingsScreen::opened(const screen::Request& request) {
-  if (request.value(u"最終行"_s).toBool()) source().moveLast();
-  const QDate day = QDate::fromString(request.value(u"日付"_s).toString(), Qt::ISODate);
-  if (!day.isValid()) return;
-  putDayLists(*this, numbersOf(day));
+  const auto* asked = request.as<routes::Takings>();
+  if (!asked) return;
+  if (asked->lastRow) source().moveLast();
+  if (!asked->day.isValid()) return;
+  putDayLists(*this, kDay, numbersOf(asked->day));
   m_onceActive.set([this] { showDay(); });
 }
 
@@ -61,27 +61,27 @@ QStringList TakingsScreen::countOnView() const { return {caption(kCount), text(k
 QStringList TakingsScreen::rowOnView() const {
   if (!holdsRows()) return countOnView();
   const store::RecordSet& rows = source().rows();
-  return {source().positionText(), rows.value(kVisitDate), rows.value(u"氏名"_s)};
+  return {source().positionText(), rows.value(visits::date), rows.value(visits::name)};
 }
 
 // ---- What is on view ----
 
 // Texts are compared: a visit whose date was typed in western form is not found.
 void TakingsScreen::showDay() {
-  const auto day = askedDay(*this);
+  const auto day = askedDay(*this, kDay);
   if (!day || emptySet(kNoRowsOfDay)) return;
   const QString date = takingsDay(m_run.eraDates(), day->date);
-  narrow(store::equalCriterion(kVisitDate, date), date);
+  narrow(store::equalCriterion(visits::date, date), date);
 }
 
 void TakingsScreen::showMonth() {
-  const QString month = text(u"Text1"_s);
-  if (month.isEmpty()) return askFor(u"Text1"_s);
-  narrow(store::prefixCriterion(kVisitDate, month), month);
+  const QString month = text(kMonth);
+  if (month.isEmpty()) return askFor(kMonth);
+  narrow(store::prefixCriterion(visits::date, month), month);
 }
 
 void TakingsScreen::openCalendar() {
-  m_run.calendarMode = frame::calendar::kTakings;
+  m_run.calendarUse = frame::CalendarUse::Takings;
   navigator().show(routes::TakingsCalendar{});
 }
 
@@ -97,23 +97,21 @@ void TakingsScreen::showTotals() {
   if (!source().isOpen() && !openWhole()) return;
   const auto totals = records::totalsOf(source().rows());
   if (!totals) return messages().tellDataFault(totals.fault().message);
-  navigator().show(u"集計総合金額"_s, records::totalsRequest(*totals, objectName()));
+  navigator().show(records::totalsRoute(*totals, false));
 }
 
 // ---- The row ----
 
-// A visit without its link would show whoever stands first in the register.
+// A visit without its link would show the first patient of the register.
 void TakingsScreen::openPatient() {
-  if (emptySet()) return;
-  const QString serial = source().rows().value(u"ETC1"_s);
+  if (emptySet() || !source().ensureRead()) return;
+  const QString serial = source().rows().value(visits::patientSerial);
   if (serial.isEmpty()) return screen::tellNotFound(*this);
-  navigator().show(u"治療台帳4"_s, {{u"テキスト5"_s, serial}});
+  navigator().show(routes::PatientRegister{routes::PatientRegister::BySerial{serial}});
 }
 
 void TakingsScreen::removeVisit() {
-  const bool yes = messages().ask(kDeleteQuestion);
-  m_run.lastAnswer = yes ? 1 : 0;
-  if (!yes) return;
+  if (!messages().ask(kDeleteQuestion)) return;
   if (!holdsRows()) return messages().tell(kNothingToDelete);
   if (source().remove()) tellResult(u"削除しました"_s);
 }

@@ -8,9 +8,6 @@ namespace office {
 
 /// 集計: the visits of all patients, narrowed to a day, a month or any text, and added up. Takings are no
 /// table of their own: a deleted row is a deleted visit.
-///
-/// Request keys: "最終行" (the main menu: the last visit is on view), "日付" (the calendar: this day,
-/// yyyy-MM-dd, is asked for as by 日付で抽出).
 class TakingsScreen : public screen::ListScreen {
  public:
   TakingsScreen(screen::Services& services, frame::RunState& run);

@@ -3,6 +3,7 @@
 #include "frame/core/routes.h"
 #include "office/core/booking_date.h"
 #include "office/screens/day_lists.h"
+#include "office/screens/todays_bookings_rows.h"
 #include "platform/screen/find_row.h"
 #include "platform/store/criteria_text.h"
 
@@ -12,30 +13,33 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Of the settings' platform value: where the calendar ends the program.
+using namespace todays_rows;
+
+/// The platform value of the settings with which the calendar ends the program.
 constexpr QStringView kCalendarFails = u"Xp";
 
 }  // namespace
 
 TodaysBookingsScreen::TodaysBookingsScreen(screen::Services& services, frame::RunState& run)
-    : BookingList(kTodaysBookings, services, run) {}
+    : BookingList(kDeclaration, kList, services, run) {}
 
 void TodaysBookingsScreen::onLoad() {
-  setText(u"Combo4"_s, items(u"Combo4"_s).value(0));
+  setText(kColumn, items(kColumn).value(0));
   openWhole();
 }
 
 void TodaysBookingsScreen::opened(const screen::Request& request) {
   const bool calendar = m_run.platformValue != kCalendarFails;
-  setShown(u"Command4"_s, calendar);
-  setShown(u"Men_YC"_s, calendar);
+  setShown(kCalendarButton, calendar);
+  setShown(kCalendarEntry, calendar);
   const bool again = std::exchange(m_loaded, true);
   if (again) readAgain();
-  putDayLists(*this, offeredDay(m_run));
-  if (request.value(u"最終行"_s).toBool() && holdsRows()) source().moveLast();
-  m_showsDay = request.value(u"指定日"_s).toBool();
+  putDayLists(*this, kDay, offeredDay(m_run));
+  const auto* asked = request.as<routes::TodaysBookings>();
+  if (asked && asked->lastRow && holdsRows()) source().moveLast();
+  m_showsDay = asked && asked->showsDay;
   if (m_showsDay) return whenActive([this] { showDay(); });
-  // Coming back, the listener has to know whether all bookings are on view.
+  // Coming back, the user has to hear whether all bookings are on view.
   if (again) sayWithCount(headingTexts());
 }
 
@@ -68,16 +72,16 @@ void TodaysBookingsScreen::setChanged(const QString& done) {
 }
 
 void TodaysBookingsScreen::rowShown(int) {
-  setCaption(u"Data1"_s, source().isOpen() ? source().positionText() : u"ﾚｺｰﾄﾞ: "_s);
+  setCaption(kPosition, source().isOpen() ? source().positionText() : u"ﾚｺｰﾄﾞ: "_s);
 }
 
 // ---- A chosen day
 
 std::optional<QDate> TodaysBookingsScreen::readLists() {
-  const auto day = askedDay(*this);
+  const auto day = askedDay(*this, kDay);
   if (!day) return std::nullopt;
   m_run.dayAsked = day->numbers;
-  setText(u"Text1"_s, weekday(day->date));
+  setText(kWeekday, weekday(day->date));
   return day->date;
 }
 
@@ -89,7 +93,7 @@ void TodaysBookingsScreen::showDay() {
   if (hits->recordCount() == 0) {
     screen::tellNotFound(*this);
     QStringList texts{dayText(m_run.eraDates(), *date) + u"の予約はありません。"_s};
-    // A day is sought among the rows on view: whoever hears "no match" has to know that.
+    // The day is searched among the rows on view: who hears "no match" has to know that.
     if (m_narrowed) texts += u"表示中の予約の中から探しました。全表示に戻すと、すべての予約から探せます。"_s;
     return sayWithCount(texts << u"表示中"_s);
   }
@@ -105,9 +109,9 @@ void TodaysBookingsScreen::showWeekday() {
 // ---- The list
 
 void TodaysBookingsScreen::extract() {
-  const QString word = text(u"txtFields(0)"_s);
-  if (word.isEmpty()) return askFor(u"txtFields(0)"_s);
-  narrowBy(store::likeCriterion(text(u"Combo4"_s), word));
+  const QString word = text(kWord);
+  if (word.isEmpty()) return askFor(kWord);
+  narrowBy(store::likeCriterion(text(kColumn), word));
 }
 
 void TodaysBookingsScreen::showAll() {
@@ -115,9 +119,7 @@ void TodaysBookingsScreen::showAll() {
 }
 
 void TodaysBookingsScreen::removeBooking() {
-  const bool yes = messages().ask(u"　現在の該当患者を削除しますか？"_s);
-  m_run.lastAnswer = yes ? 1 : 0;
-  if (!yes) return;
+  if (!messages().ask(u"　現在の該当患者を削除しますか？"_s)) return;
   if (!holdsRows()) return messages().tell(u"削除するデータがありません。"_s);
   if (!source().remove()) return;
   source().moveLast();
@@ -126,21 +128,26 @@ void TodaysBookingsScreen::removeBooking() {
 
 // ---- Other screens
 
-void TodaysBookingsScreen::openCalendar() { showForBookings(u"予約カレンダー"_s); }
-void TodaysBookingsScreen::askCalendar() { showForBookings(u"カレンダーのチェック"_s); }
+void TodaysBookingsScreen::openCalendar() {
+  m_run.calendarUse = frame::CalendarUse::Bookings;
+  navigator().show(routes::BookingCalendar{});
+}
 
-void TodaysBookingsScreen::showForBookings(const QString& calendar) {
-  m_run.calendarMode = frame::calendar::kBookings;
-  navigator().show(calendar);
+void TodaysBookingsScreen::askCalendar() {
+  m_run.calendarUse = frame::CalendarUse::Bookings;
+  navigator().show(routes::AskCalendar{});
 }
 
 void TodaysBookingsScreen::openWeek() { navigator().show(routes::WeekOfBookings{}); }
-void TodaysBookingsScreen::newBooking() { navigator().show(u"予約2"_s, {{u"opener"_s, objectName()}}); }
+void TodaysBookingsScreen::newBooking() {
+  navigator().show(routes::Booking{.opener = routes::TodaysBookings::screen});
+}
 
 void TodaysBookingsScreen::editBooking() {
   if (emptySet(u"編集データがありません。「全患者表示及び再表示」をクリックして下さい。"_s)) return;
-  navigator().show(u"予約2"_s,
-                   {{u"ID"_s, source().rows().value(u"ID"_s).toLongLong()}, {u"opener"_s, objectName()}});
+  navigator().show(
+      routes::Booking{.what = routes::Booking::Stored{source().rows().bookmark()},
+                      .opener = routes::TodaysBookings::screen});
 }
 
 }  // namespace office

@@ -1,6 +1,9 @@
 #include "office/screens/totals_screen.h"
 
+#include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 #include "platform/text/number.h"
+#include "platform/text/utf16.h"
 
 namespace office {
 
@@ -9,11 +12,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 using namespace screen;
-
-/// The boxes in their order and the numbers that fill them.
-constexpr const char16_t* kSums[] = {u"rows",      u"insurer",  u"share",
-                                     u"treatment", u"receipts", u"newPatients"};
-constexpr int kFirst = 0, kNewPatients = 5;
 
 constexpr Unbound kSum{u"a sum handed over by the opener"};
 
@@ -49,43 +47,62 @@ constexpr Row kRows[] = {
 };
 
 constexpr ScreenRow kTotals[] = {
-    {.name = u"集計総合金額", .caption = u"集計総合金額", .rows = kRows},
-    {.name = u"集計レセ総合金額", .caption = u"集計レセ総合金額", .rows = kRows},
+    declare({.name = routes::Totals::screen, .caption = u"集計総合金額", .rows = kRows}),
+    declare({.name = routes::ClaimTotals::screen, .caption = u"集計レセ総合金額", .rows = kRows}),
 };
 
-QString boxName(int index) { return u"txtFields(%1)"_s.arg(index); }
-QString unitName(int index) { return u"unit(%1)"_s.arg(index); }
+constexpr ControlRef kNote = ref(kRows, u"Label1");
+
+/// A box, its unit, and the sum that fills it.
+struct SumBox {
+  ControlRef box;
+  ControlRef unit;
+  qint64 routes::Totals::*sum;
+};
+consteval SumBox sumBox(int index, qint64 routes::Totals::*sum) {
+  return {ref(kRows, u"txtFields", index), ref(kRows, u"unit", index), sum};
+}
+constexpr SumBox kSums[] = {
+    sumBox(0, &routes::Totals::rows),     sumBox(1, &routes::Totals::insurer),
+    sumBox(2, &routes::Totals::share),    sumBox(3, &routes::Totals::treatment),
+    sumBox(4, &routes::Totals::receipts), sumBox(5, &routes::Totals::newPatients),
+};
+constexpr SumBox kRowCount = kSums[0], kNewPatients = kSums[5];
+
+routes::Totals totalsOf(const Request& request) {
+  if (const auto* visits = request.as<routes::Totals>()) return *visits;
+  if (const auto* claims = request.as<routes::ClaimTotals>()) return *claims;
+  return {};
+}
 
 }  // namespace
 
 void TotalsScreen::opened(const Request& request) {
-  const bool onePatient = request.value(u"opener"_s).toString() == u"治療台帳3";
-  setCaption(boxName(kFirst), onePatient ? u"治療回数:"_s : u"総患者数:"_s);
-  setCaption(unitName(kFirst), onePatient ? u"回"_s : u"人"_s);
-  for (const QString& control : {boxName(kNewPatients), unitName(kNewPatients), u"Label1"_s})
+  const routes::Totals totals = totalsOf(request);
+  const bool onePatient = totals.ofOnePatient;
+  setCaption(kRowCount.box, onePatient ? u"治療回数:"_s : u"総患者数:"_s);
+  setCaption(kRowCount.unit, onePatient ? u"回"_s : u"人"_s);
+  for (const ControlRef& control : {kNewPatients.box, kNewPatients.unit, kNote})
     setShown(control, !onePatient);
-  int index = 0;
-  for (const char16_t* sum : kSums)
-    setText(boxName(index++), text::thousands(request.value(QString::fromUtf16(sum)).toLongLong()));
-  // Shown again while it is open, it has no opening of its own.
+  for (const SumBox& sum : kSums) setText(sum.box, text::thousands(totals.*sum.sum));
+  // Shown again while it is open it does not say its opening by itself.
   if (isVisible()) sayResult(openingTexts());
 }
 
 QStringList TotalsScreen::openingTexts() const {
   QStringList texts{windowTitle()};
-  if (isControlShown(u"Label1"_s)) texts += caption(u"Label1"_s);
-  for (int index = kFirst; index <= kNewPatients; ++index) {
-    if (!isControlShown(boxName(index))) continue;
-    const QString sum = text(boxName(index));
-    texts << caption(boxName(index))
-          << (sum.isEmpty() ? u"なし"_s : sum + caption(unitName(index)).trimmed());
+  if (isControlShown(kNote)) texts += caption(kNote);
+  for (const SumBox& sum : kSums) {
+    if (!isControlShown(sum.box)) continue;
+    const QString amount = text(sum.box);
+    texts << caption(sum.box) << (amount.isEmpty() ? u"なし"_s : amount + caption(sum.unit).trimmed());
   }
   return texts;
 }
 
 void addTotalsScreens(ScreenRegistry& registry) {
   for (const ScreenRow& row : kTotals)
-    registry.add(QString::fromUtf16(row.name.get()),
+    registry.add(text::utf16(row.name.get()),
                  [&row](Services& services) { return std::make_unique<TotalsScreen>(row, services); });
 }
 

@@ -5,12 +5,9 @@
 
 namespace office {
 
-/// 集計総合金額 and its twin of the claim side, 集計レセ総合金額: six sums, heard when they come up and read
-/// again by Tab. A sum of nothing leaves its box empty.
-///
-/// Request keys: "rows", "insurer", "share", "treatment", "receipts", "newPatients" (numbers) and "opener".
-/// The visit ledger, 治療台帳3, sums one patient: there the first box counts treatments, and there is no
-/// sixth.
+/// 集計総合金額 and its twin of the claim side, 集計レセ総合金額: six sums, said when it opens and read
+/// again by Tab. A sum of nothing leaves its box empty. Where the visits of one patient are summed the first
+/// box counts treatments, and there is no sixth.
 class TotalsScreen : public screen::Screen {
  public:
   using Screen::Screen;

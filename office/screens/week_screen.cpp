@@ -3,9 +3,11 @@
 #include "frame/core/routes.h"
 #include "office/core/booking_date.h"
 #include "office/screens/booking_rows.h"
+#include "platform/screen/declare.h"
 #include "platform/screen/find_row.h"
 #include "platform/screen/opens.h"
 #include "platform/store/tables/bookings.h"
+#include "platform/text/utf16.h"
 
 namespace office {
 
@@ -44,19 +46,26 @@ constexpr Row kRows[] = {
           .run = opens<routes::PickDayOfWeek>},
 };
 
+constexpr ScreenRow kDeclaration = declare({.name = routes::WeekOfBookings::screen,
+                                            .caption = u"予約週間表",
+                                            .rows = kRows,
+                                            .sources = bookings::table,
+                                            .functionKeys = true});
+
+constexpr ControlRef kDayOnView = ref(kRows, u"Text1");
+constexpr ControlRef kWeekdays = ref(kRows, u"SSTab1");
+constexpr ControlRef kList = ref(kRows, u"DBGrid1");
+constexpr ControlRef kThisWeek = ref(kRows, u"Command2");
+constexpr ControlRef kNextWeek = ref(kRows, u"Command3");
+constexpr ControlRef kLastWeek = ref(kRows, u"Command4");
+
 }  // namespace
 
-constinit const ScreenRow kWeek{.name = u"予約週間表",
-                                .caption = u"予約週間表",
-                                .rows = kRows,
-                                .sources = bookings::table,
-                                .functionKeys = true};
-
 WeekScreen::WeekScreen(screen::Services& services, frame::RunState& run)
-    : BookingList(kWeek, services, run) {}
+    : BookingList(kDeclaration, kList, services, run) {}
 
 void WeekScreen::opened(const screen::Request&) {
-  standOn(0);
+  chooseWeek(0);
   whenActive([this] { showDay(); });
 }
 
@@ -65,28 +74,28 @@ void WeekScreen::showNextWeek() { showWeek(kDaysOfWeek); }
 void WeekScreen::showLastWeek() { showWeek(-kDaysOfWeek); }
 
 void WeekScreen::showWeek(int days) {
-  standOn(days);
+  chooseWeek(days);
   showDay();
 }
 
-void WeekScreen::standOn(int days) {
+void WeekScreen::chooseWeek(int days) {
   m_reference = m_run.clock->today().addDays(days);
-  setText(u"SSTab1"_s, QString::fromUtf16(kTabs[tabOf(m_reference) - 1]));
-  // Before the button under the focus goes out, the focus goes to the days.
-  focusOn(u"SSTab1"_s);
-  // One week to either side is all that the view reaches.
-  setEnabledControl(u"Command2"_s, days != 0);
-  setEnabledControl(u"Command3"_s, days == 0);
-  setEnabledControl(u"Command4"_s, days == 0);
+  setText(kWeekdays, text::utf16(kTabs[tabOf(m_reference) - 1]));
+  // The focus moves to the days before the button under it is disabled.
+  focusOn(kWeekdays);
+  // The view reaches one week to either side.
+  setEnabledControl(kThisWeek, days != 0);
+  setEnabledControl(kNextWeek, days == 0);
+  setEnabledControl(kLastWeek, days == 0);
 }
 
 void WeekScreen::showDay() {
-  const QDate date = dayOfTab(m_reference, chosenItem(u"SSTab1"_s) + 1);
+  const QDate date = dayOfTab(m_reference, chosenItem(kWeekdays) + 1);
   const QString spelled = dayText(m_run.eraDates(), date);
-  setText(u"Text1"_s, spelled);
+  setText(kDayOnView, spelled);
   m_run.dayAsked = numbersOf(date);
   auto hits = openWhole() ? bookingsOfDay(m_run.dayAsked) : std::nullopt;
-  // Told by then: no other day's rows are left under this date.
+  // Already reported: no other day's rows are left under this date.
   if (!hits) return source().assign({});
   const bool none = hits->recordCount() == 0;
   source().assign(std::move(*hits));

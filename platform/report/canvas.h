@@ -23,7 +23,7 @@ class Canvas {
   virtual void stroke(double width) = 0;
   /// An RGB24 image surface, stretched to the rectangle.
   virtual void picture(cairo_surface_t* image, double x, double y, double w, double h) = 0;
-  /// What is drawn in between is one paragraph of the document; told by its number on the page.
+  /// What is drawn in between is one paragraph of the document, identified by its number on the page.
   virtual void openParagraph(int number) = 0;
   virtual void closeParagraph() = 0;
 };

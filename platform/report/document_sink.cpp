@@ -1,5 +1,6 @@
 #include "platform/report/document_sink.h"
 
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include "platform/report/file_printer.h"
@@ -9,7 +10,7 @@ namespace report {
 
 namespace {
 
-/// The spooler, and the file printer behind it for a document that it does not take.
+/// The spooler, and the file printer as fallback for a document that the spooler refuses.
 class SpoolerOrFile final : public DocumentSink {
  public:
   SpoolerOrFile(const PrinterChoice& choice, const QString& folder) : m_spooler(choice), m_file(folder) {}
@@ -18,9 +19,11 @@ class SpoolerOrFile final : public DocumentSink {
     m_title = title;
     return m_spooler.open(title) || m_file.open(title);
   }
-  bool take(const QByteArray& pdf) override {
-    if (m_spooler.take(pdf)) return true;
-    return m_file.open(m_title) && m_file.take(pdf);
+  text::Done take(const QByteArray& pdf) override {
+    const text::Done spooled = m_spooler.take(pdf);
+    // Both refuse: the printer that was chosen is what the user can look after.
+    if (spooled || !m_file.open(m_title) || !m_file.take(pdf)) return spooled;
+    return {};
   }
 
  private:
@@ -45,9 +48,10 @@ bool FileSink::open(const QString&) {
   return file.open(QIODevice::WriteOnly);
 }
 
-bool FileSink::take(const QByteArray& pdf) {
+text::Done FileSink::take(const QByteArray& pdf) {
   QSaveFile file(m_path);
-  return file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.commit();
+  if (file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.commit()) return {};
+  return text::Fault{QStringLiteral("「%1」に書き込めません。").arg(QFileInfo(m_path).fileName())};
 }
 
 }  // namespace report

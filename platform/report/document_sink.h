@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "platform/report/printer_choice.h"
+#include "platform/text/result.h"
 
 namespace report {
 
@@ -13,9 +14,9 @@ class DocumentSink {
  public:
   virtual ~DocumentSink() = default;
   /// Called before the first page. False: this target can take no document now.
-  virtual bool open(const QString& title) = 0;
-  /// The whole document as PDF. False: it was not taken.
-  virtual bool take(const QByteArray& pdf) = 0;
+  [[nodiscard]] virtual bool open(const QString& title) = 0;
+  /// The whole document as PDF. A fault says in words for the user why it was not taken.
+  [[nodiscard]] virtual text::Done take(const QByteArray& pdf) = 0;
 };
 
 using OpenSink = std::function<std::unique_ptr<DocumentSink>(const PrinterChoice&)>;
@@ -29,7 +30,7 @@ class FileSink final : public DocumentSink {
  public:
   explicit FileSink(const QString& path) : m_path(path) {}
   bool open(const QString& title) override;
-  bool take(const QByteArray& pdf) override;
+  text::Done take(const QByteArray& pdf) override;
 
  private:
   QString m_path;
@@ -47,9 +48,9 @@ class MemorySink final : public DocumentSink {
     m_title = title;
     return true;
   }
-  bool take(const QByteArray& pdf) override {
+  text::Done take(const QByteArray& pdf) override {
     m_documents.push_back({m_title, pdf});
-    return true;
+    return {};
   }
 
  private:

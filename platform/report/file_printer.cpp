@@ -6,7 +6,12 @@ namespace report {
 
 namespace {
 
-constexpr int kMostOfOneSecond = 100000;
+constexpr int kMaxFilesPerSecond = 100000;
+
+text::Fault cannotWrite() {
+  return {QStringLiteral(
+      "フォルダ「印刷」に書き込めません。ディスクの空き容量とフォルダの書き込みの権限を確認してください。")};
+}
 
 }  // namespace
 
@@ -31,20 +36,20 @@ bool FilePrinter::open(const QString& title) {
   return m_file->open();
 }
 
-bool FilePrinter::take(const QByteArray& pdf) {
-  if (!m_file || m_file->write(pdf) != pdf.size() || !m_file->flush()) return false;
+text::Done FilePrinter::take(const QByteArray& pdf) {
+  if (!m_file || m_file->write(pdf) != pdf.size() || !m_file->flush()) return cannotWrite();
   m_file->setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
   const QString stem = QDir(m_folder).filePath(QStringLiteral("%1_%2").arg(
       fileStem(m_title), m_clock->now().toString(QStringLiteral("yyyyMMdd_HHmmss"))));
-  for (int n = 1; n <= kMostOfOneSecond; ++n) {
+  for (int n = 1; n <= kMaxFilesPerSecond; ++n) {
     const QString name = n == 1 ? stem : QStringLiteral("%1_%2").arg(stem).arg(n);
     if (!QFile::exists(name + QStringLiteral(".pdf")) && m_file->rename(name + QStringLiteral(".pdf"))) {
       m_file->setAutoRemove(false);
       m_file.reset();
-      return true;
+      return {};
     }
   }
-  return false;
+  return cannotWrite();
 }
 
 }  // namespace report

@@ -8,13 +8,13 @@
 namespace report {
 
 /// The printer of a machine without printers: each document becomes 印刷/<title>_<yyyymmdd_hhmmss>.pdf in
-/// the program folder, with _2, _3, ... where that file stands already. Nothing is ever overwritten.
+/// the program folder, with _2, _3, ... where that file exists already. Nothing is ever overwritten.
 class FilePrinter final : public DocumentSink {
  public:
   explicit FilePrinter(const QString& programFolder, std::shared_ptr<const text::Clock> clock = nullptr);
 
   bool open(const QString& title) override;
-  bool take(const QByteArray& pdf) override;
+  text::Done take(const QByteArray& pdf) override;
 
   /// Title made fit for a file name.
   static QString fileStem(const QString& title);

@@ -12,7 +12,7 @@ namespace report {
 
 namespace {
 
-constexpr size_t kMostGlyphs = 65000;  // documents tell glyphs by two bytes
+constexpr size_t kMaxGlyphs = 65000;  // documents number glyphs in two bytes
 
 /// The drawing library keeps fonts for a while after we let them go: the file goes with them.
 FontFace faceOf(const std::shared_ptr<FT_FaceRec_>& file) {
@@ -68,7 +68,7 @@ unsigned Font::number(unsigned original, const QString& text) {
 }
 
 unsigned Font::add(unsigned original, const QString& text) {
-  if (m_glyphs.size() > kMostGlyphs) return 0;
+  if (m_glyphs.size() > kMaxGlyphs) return 0;
   SlimGlyph glyph{original, text, kSlimEm, {}};
   FT_Face face = m_file.get();
   if (FT_Load_Glyph(face, original, FT_LOAD_NO_SCALE | FT_LOAD_NO_BITMAP) == 0) {

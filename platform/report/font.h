@@ -18,7 +18,7 @@ using FontLibrary = std::shared_ptr<FT_LibraryRec_>;
 /// A glyph as documents embed it.
 struct SlimGlyph {
   unsigned original = 0;  ///< its number in the font file
-  QString text;           ///< what it stands for
+  QString text;           ///< the characters that the glyph draws
   int advance = 0;        ///< in units of kSlimEm
   QByteArray outline;     ///< see slimOutline
 };
@@ -28,7 +28,7 @@ struct SlimGlyph {
 /// numbers for it does the text of a document come back as it was typed.
 class Font {
  public:
-  /// nullptr if the file is no font that can be read. The id tells the fonts of a run apart.
+  /// nullptr if the file is no readable font. The id is unique among the fonts of a run.
   static std::unique_ptr<Font> open(const FontLibrary& library, const QString& path, int faceNumber, int id);
   ~Font();
   Font(const Font&) = delete;

@@ -7,7 +7,7 @@ namespace report {
 
 namespace {
 
-constexpr int kMostOfBlock = 100;  // entries that one block of a text table may have
+constexpr int kMaxBlockEntries = 100;  // entries that one block of a text table may have
 
 QByteArray hex4(unsigned number) { return QByteArray::number(number, 16).rightJustified(4, '0'); }
 
@@ -19,7 +19,7 @@ QByteArray codesOf(const QString& text) {
 
 /// A range of numbers may not reach beyond a multiple of 256, nor may it be longer than 100.
 bool follows(unsigned first, unsigned number, qsizetype distance) {
-  return number == first + unsigned(distance) && number / 256 == first / 256 && distance < kMostOfBlock;
+  return number == first + unsigned(distance) && number / 256 == first / 256 && distance < kMaxBlockEntries;
 }
 
 QByteArray textTable(const Font& font, const std::set<unsigned>& numbers) {
@@ -36,8 +36,8 @@ QByteArray textTable(const Font& font, const std::set<unsigned>& numbers) {
     ranges.push_back('<' + hex4(*first) + "><" + hex4(*last) + ">[" + texts + "]\n");
     first = std::next(last);
   }
-  for (size_t i = 0; i < ranges.size(); i += kMostOfBlock) {
-    const size_t end = std::min(ranges.size(), i + kMostOfBlock);
+  for (size_t i = 0; i < ranges.size(); i += kMaxBlockEntries) {
+    const size_t end = std::min(ranges.size(), i + kMaxBlockEntries);
     table += QByteArray::number(qlonglong(end - i)) + " beginbfrange\n";
     for (size_t k = i; k < end; ++k) table += ranges[k];
     table += "endbfrange\n";

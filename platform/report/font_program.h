@@ -9,7 +9,7 @@ namespace report {
 struct FontProgram {
   QByteArray name;  ///< with the mark of a subset
   PackedStream file;
-  PackedStream texts;  ///< which number stands for which text
+  PackedStream texts;  ///< the text of each glyph number
   QByteArray widths;
 
   /// The number of the font's object in the document.

@@ -15,7 +15,7 @@ class FontStore {
   /// Never nullptr on a machine with any font at all; without the forms' font the nearest one serves.
   Font* font(Typeface face);
   /// A font that has the character: the face itself, its sister, or any font of the machine.
-  /// The face itself where none has it (its empty box is drawn, the text stays in the document).
+  /// The face itself if none has it: its empty box is drawn, the text remains in the document.
   Font* fontFor(Typeface face, char32_t character);
 
  private:

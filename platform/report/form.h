@@ -43,7 +43,7 @@ struct Item {
   QString text;
   std::vector<Placement> placements;
   int block = 0;
-  QString file;  ///< where the item stands, for faults
+  QString file;  ///< file that defines the item, for faults
   int sourceLine = 0;
 };
 

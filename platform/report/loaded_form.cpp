@@ -9,7 +9,7 @@ namespace report {
 
 namespace {
 
-constexpr size_t kMostParts = 64;  // of one template; labels with data in them could make any number
+constexpr size_t kMaxParts = 64;  // of one template; labels with data in them could make any number
 
 bool isFrame(const Item& item) {
   return item.kind == Kind::Label || item.kind == Kind::Box || item.kind == Kind::Line;
@@ -61,7 +61,7 @@ std::shared_ptr<const FramePart> FrameStore::part(const std::vector<ItemState>& 
                                                   PagePainter& painter) {
   const QByteArray key = asStored ? QByteArray() : signature(states);
   if (const auto known = m_parts.find(key); known != m_parts.end()) return known->second;
-  if (m_parts.size() >= kMostParts) m_parts.clear();
+  if (m_parts.size() >= kMaxParts) m_parts.clear();
   std::shared_ptr<const FramePart>& made = m_parts[key];
   const bool any =
       std::any_of(m_frame.begin(), m_frame.end(), [&](const auto& items) { return anyShown(items, states); });
@@ -78,7 +78,7 @@ std::shared_ptr<const FramePart> FrameStore::part(const std::vector<ItemState>& 
 
 std::shared_ptr<const FrameFonts> FrameStore::fonts(PagePainter& painter) {
   if (m_fonts) return m_fonts;
-  painter.acquaint(*m_form);
+  painter.registerCaptionGlyphs(*m_form);
   const std::vector<ItemState> states = storedStates(*m_form);
   PdfCanvas canvas(m_form->height() * kPointsPerMm, nullptr);
   paintFrame(canvas, *this, states, painter);

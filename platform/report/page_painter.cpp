@@ -45,7 +45,7 @@ void PagePainter::paint(Canvas& canvas, const Item& item, const ItemState& state
   }
 }
 
-void PagePainter::acquaint(const Form& form) {
+void PagePainter::registerCaptionGlyphs(const Form& form) {
   std::map<Typeface, std::set<char32_t>> characters;
   for (const Item& item : form.items)
     if (item.kind == Kind::Label && !item.hidden)

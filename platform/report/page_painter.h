@@ -24,7 +24,7 @@ class PagePainter {
   void paint(Canvas& canvas, const Item& item, const ItemState& state);
   /// Numbers the glyphs of a form's captions in the order of the characters: kanji with the same parts come
   /// to stand together, and the font compresses better.
-  void acquaint(const Form& form);
+  void registerCaptionGlyphs(const Form& form);
 
  private:
   void paintText(Canvas& canvas, const Item& item, const ItemState& state);

@@ -6,7 +6,7 @@ namespace report {
 
 namespace {
 
-// Places are told to a tenth of a point, less than a printer's dot: short numbers make small files.
+// Coordinates are written to a tenth of a point, less than a printer's dot: short numbers make small files.
 double shortened(double place) { return std::round(place * 10) / 10; }
 
 }  // namespace
@@ -97,7 +97,7 @@ void PdfCanvas::openText() {
   if (m_inText) return;
   m_out += "BT\n";
   m_inText = true;
-  // Lines are told from the lower left corner of the paper at first.
+  // Text lines start from the lower left corner of the paper.
   m_lineX = 0, m_lineY = m_height;
   m_penX = m_penY = -1e6;
 }

@@ -56,9 +56,9 @@ class PdfCanvas final : public Canvas {
   QByteArray m_out;
   bool m_inText = false;
   bool m_inString = false;
-  double m_penX = 0;  // where the next glyph would stand, from the upper left corner
+  double m_penX = 0;  // position of the next glyph, from the upper left corner
   double m_penY = 0;
-  double m_lineX = 0;  // start of the line, which the next one is told from
+  double m_lineX = 0;  // start of the line, from which the next one is measured
   double m_lineY = 0;
   char m_kind = 0;
   Font* m_font = nullptr;

@@ -31,8 +31,9 @@ bool readHeader(const QByteArray& bytes, Header& header) {
   const quint32 compression = qFromLittleEndian<quint32>(b + 30);
   header.topDown = header.height < 0;
   header.height = std::abs(header.height);
-  constexpr int kMost = 20000;
-  if (header.width < 1 || header.width > kMost || header.height < 1 || header.height > kMost) return false;
+  constexpr int kMaxPixels = 20000;
+  if (header.width < 1 || header.width > kMaxPixels || header.height < 1 || header.height > kMaxPixels)
+    return false;
   const bool known =
       header.bits == 1 || header.bits == 4 || header.bits == 8 || header.bits == 24 || header.bits == 32;
   if (!known || (compression != 0 && !(compression == 3 && header.bits == 32))) return false;

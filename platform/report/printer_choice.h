@@ -36,7 +36,7 @@ struct PrinterEntry {
 
 /// The printers of the print service, the file printer last. Never empty.
 std::vector<PrinterEntry> listPrinters();
-/// The sizes that the printer takes; for the file printer and for a printer that tells none, those
+/// The sizes that the printer takes; for the file printer and for a printer that reports none, those
 /// that the forms know.
 std::vector<MediaSize> listMedia(const QString& printer);
 /// The printer that an empty choice means: the system's default one, or the file printer.

@@ -6,7 +6,7 @@ namespace report {
 
 namespace {
 
-constexpr double kMostLength = 2000;  // mm; no paper is larger
+constexpr double kMaxLength = 2000;  // mm; no paper is larger
 
 }  // namespace
 
@@ -58,7 +58,7 @@ QString PrpLine::text(const char* what) {
 double PrpLine::number(const char* what) {
   bool ok = false;
   const double value = empty() || nextIsText() ? 0 : m_words[m_at].text.toDouble(&ok);
-  if (!ok || !(std::abs(value) <= kMostLength)) fail(QString::fromUtf8(what));
+  if (!ok || !(std::abs(value) <= kMaxLength)) fail(QString::fromUtf8(what));
   ++m_at;
   return value;
 }

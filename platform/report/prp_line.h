@@ -13,7 +13,7 @@ struct PrpWord {
   bool quoted = false;
 };
 
-/// A fault of a template, told to whoever writes it: file, line, and what was expected there.
+/// A fault of a template, for its author: file, line, and what was expected there.
 struct PrpFault {
   QString file;
   int line = 0;

@@ -71,7 +71,7 @@ class Loader {
     line.end();
     if (derived || !form.items.empty()) line.fail(QStringLiteral("one base, before the first item"));
     if (chain.contains(base)) line.fail(QStringLiteral("a base that does not lead back to %1").arg(base));
-    if (chain.size() > kMostBases) line.fail(QStringLiteral("at most %1 bases").arg(kMostBases));
+    if (chain.size() > kMaxBases) line.fail(QStringLiteral("at most %1 bases").arg(kMaxBases));
     const QString name = form.name;
     const QString title = form.title;
     form = load(base, chain);
@@ -130,7 +130,7 @@ class Loader {
     form.reindex();
   }
 
-  // A family moves as a whole: its first item goes to the place told, the others keep their distance.
+  // A family moves as a whole: its first item goes to the given place, the others keep their distance.
   static void move(PrpLine& line, Form& form, const QStringList& names) {
     const Rect first = form.items[form.find(names.first())].rect;
     const double dx = line.number("the new left edge in mm") - first.x;

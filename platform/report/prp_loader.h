@@ -8,7 +8,7 @@
 namespace report {
 
 /// Deepest chain of bases: a form, its base, and two more.
-inline constexpr int kMostBases = 3;
+inline constexpr int kMaxBases = 3;
 
 /// Content of a template by file name; the fault says that there is none.
 using ReadTemplate = std::function<text::Result<QString>(const QString& fileName)>;

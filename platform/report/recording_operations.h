@@ -39,6 +39,7 @@ class RecordingOperations final : public ReportOperations {
 
   int startResult = 1;
   int loadResult = 0;
+  text::Done documentResult;
 
   qint64 PR_GetPrinterDC() override;
   int PR_StartDC(quintptr window, qint64 device, const QString& title, int flags) override;
@@ -58,6 +59,7 @@ class RecordingOperations final : public ReportOperations {
   void PR_SetPen(int width) override;
   void PR_Line(float x1, float y1, float x2, float y2) override;
   void PR_EndPage() override;
+  text::Done lastDocument() const override { return m_engine ? m_engine->lastDocument() : documentResult; }
 
  private:
   template <class... Parameters, class... Arguments>

@@ -17,6 +17,7 @@ int ReportEngine::PR_StartDC(quintptr, qint64, const QString& title, int) {
   auto sink = m_sinks(m_choice);
   if (!sink || !sink->open(title)) return kCannotStart;
   m_sink = std::move(sink);
+  m_lastDocument = text::Done();
   m_document = std::make_unique<PdfDocument>(title, text::SystemClock().now());
   m_hand = HandPage();
   return kStarted;
@@ -52,9 +53,8 @@ void ReportEngine::PR_PlayReport() {
 void ReportEngine::PR_EndDoc() {
   if (!m_document) return;
   if (m_document->page()) PR_EndPage();
-  if (m_document->pages() > 0) {
-    m_sink->take(m_document->finish());
-  }
+  // A document without a page is not given to the printer, and nobody waits for it.
+  m_lastDocument = m_document->pages() > 0 ? m_sink->take(m_document->finish()) : text::Done();
   PR_AbortDoc();
 }
 

@@ -51,6 +51,7 @@ class ReportEngine final : public ReportOperations {
   void PR_SetPen(int width) override { m_hand.setPen(width); }
   void PR_Line(float x1, float y1, float x2, float y2) override;
   void PR_EndPage() override;
+  text::Done lastDocument() const override { return m_lastDocument; }
 
  private:
   Canvas* handPage();
@@ -68,6 +69,7 @@ class ReportEngine final : public ReportOperations {
   std::optional<LoadedForm> m_loaded;
   HandPage m_hand;
   QString m_loadFault;
+  text::Done m_lastDocument;
 };
 
 }  // namespace report

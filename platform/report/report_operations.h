@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "platform/text/result.h"
+
 namespace report {
 
 /// Flags of every PR_StartDC.
@@ -38,6 +40,10 @@ class ReportOperations {
   virtual void PR_SetPen(int width) = 0;
   virtual void PR_Line(float x1, float y1, float x2, float y2) = 0;
   virtual void PR_EndPage() = 0;
+
+  /// Not one of the engine's operations, which answer nothing here: what became of the document that the last
+  /// PR_EndDoc ended. A fault, in words for the user, where the printer did not take it.
+  [[nodiscard]] virtual text::Done lastDocument() const = 0;
 };
 
 }  // namespace report

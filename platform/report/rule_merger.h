@@ -13,7 +13,7 @@ namespace report {
 class RuleMerger {
  public:
   void addBox(const Rect& rect, double rule);
-  /// A slanting line is kept as it is.
+  /// A slanting line is passed on unchanged.
   void addLine(const Rect& ends, double rule);
   void draw(Canvas& canvas) const;
 

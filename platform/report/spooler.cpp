@@ -29,7 +29,7 @@ class Destinations {
 using Destination = std::unique_ptr<cups_dest_t, decltype([](cups_dest_t* dest) { cupsFreeDests(1, dest); })>;
 
 /// One printer by name, the default one for an empty name: asking for one is much faster than listing what
-/// stands in the network.
+/// is in the network.
 Destination find(const QString& name) {
   const QByteArray bytes = name.toUtf8();
   return Destination(
@@ -54,6 +54,11 @@ class Options {
   int m_count = 0;
 };
 
+text::Fault notTaken(const QString& printer) {
+  return {QStringLiteral("プリンタ「%1」が印刷を受け付けませんでした。プリンタを確認してください。")
+              .arg(printer)};
+}
+
 void addChoice(Options& options, const PrinterChoice& choice) {
   if (choice.copies > 1) options.add(CUPS_COPIES, QString::number(choice.copies));
   if (!choice.media.isEmpty()) options.add(CUPS_MEDIA, choice.media);
@@ -74,7 +79,7 @@ std::vector<PrinterEntry> listPrinters() {
   std::vector<PrinterEntry> printers;
   const Destinations destinations;
   for (const cups_dest_t& dest : destinations.all()) {
-    // A queue that is called like the file printer cannot be told from it, and writes PDF files, too.
+    // A queue with the name of the file printer cannot be distinguished from it, and writes PDF files, too.
     if (dest.instance || QString::fromUtf8(dest.name) == kFilePrinter) continue;
     const char* info = cupsGetOption("printer-info", dest.num_options, dest.options);
     printers.push_back(
@@ -123,19 +128,19 @@ bool Spooler::open(const QString& title) {
   return find(m_choice.printer) != nullptr;
 }
 
-bool Spooler::take(const QByteArray& pdf) {
+text::Done Spooler::take(const QByteArray& pdf) {
   const Destination found = find(m_choice.printer);
   cups_dest_t* dest = found.get();
-  if (!dest) return false;
+  if (!dest) return notTaken(m_choice.printer);
   const DestInfo info = infoOf(dest);
-  if (!info) return false;
+  if (!info) return notTaken(m_choice.printer);
   Options options;
   addChoice(options, m_choice);
   const QByteArray title = m_title.toUtf8();
   int job = 0;
   if (cupsCreateDestJob(CUPS_HTTP_DEFAULT, dest, info.get(), &job, title.constData(), options.count(),
                         options.all()) > IPP_STATUS_OK_EVENTS_COMPLETE)
-    return false;
+    return notTaken(m_choice.printer);
   const auto started = cupsStartDestDocument(CUPS_HTTP_DEFAULT, dest, info.get(), job, title.constData(),
                                              CUPS_FORMAT_PDF, options.count(), options.all(), 1);
   bool sent =
@@ -144,8 +149,9 @@ bool Spooler::take(const QByteArray& pdf) {
   if (started == HTTP_STATUS_CONTINUE)
     sent =
         cupsFinishDestDocument(CUPS_HTTP_DEFAULT, dest, info.get()) <= IPP_STATUS_OK_EVENTS_COMPLETE && sent;
-  if (!sent) cupsCancelDestJob(CUPS_HTTP_DEFAULT, dest, job);
-  return sent;
+  if (sent) return {};
+  cupsCancelDestJob(CUPS_HTTP_DEFAULT, dest, job);
+  return notTaken(m_choice.printer);
 }
 
 }  // namespace report

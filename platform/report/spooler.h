@@ -12,7 +12,7 @@ class Spooler final : public DocumentSink {
 
   /// False if the print service does not know the printer (any more).
   bool open(const QString& title) override;
-  bool take(const QByteArray& pdf) override;
+  text::Done take(const QByteArray& pdf) override;
 
  private:
   PrinterChoice m_choice;

@@ -7,7 +7,7 @@
 
 namespace report {
 
-/// Templates of the program folder, read once and kept as long as their files stay as they are.
+/// Templates of the program folder, read once and cached until their files change.
 class TemplateStore {
  public:
   explicit TemplateStore(const QString& folder) : m_folder(folder) {}

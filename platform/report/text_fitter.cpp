@@ -111,7 +111,7 @@ class Fitter {
     std::vector<PlacedLine> placed;
     const double step = lines.size() == 1 ? pt : std::min(pt * kLeading, m_height / double(lines.size()));
     double middle = upper() + m_height / 2 - step * double(lines.size() - 1) / 2;
-    // Notes start at the top of their box and go on downwards; a short line stands in the middle.
+    // Notes start at the top of their box and go on downwards; a short line is centred.
     if (m_item.lines > 2) middle = upper() + step / 2;
     for (const QString& line : lines) {
       ShapedTextPtr shaped = m_shaper.shape(m_item.face, line);

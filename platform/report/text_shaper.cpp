@@ -8,11 +8,11 @@ namespace report {
 
 namespace {
 
-constexpr int kMostKnown = 20000;
+constexpr int kMaxCachedTexts = 20000;
 
 bool isBlank(char32_t c) { return c == U' ' || c == 0xA0 || c == 0x3000; }
 
-/// Characters that stand for themselves, one glyph each, in every text of the forms.
+/// Characters that always have a glyph of their own in the texts of the forms.
 bool isPlain(char32_t c) {
   if (c == 0x3099 || c == 0x309A) return false;  // combining voice marks
   return (c >= 0x20 && c < 0x300) || (c >= 0x2010 && c <= 0x2027) || (c >= 0x2030 && c <= 0x205E) ||
@@ -134,7 +134,7 @@ ShapedTextPtr TextShaper::shape(Typeface face, const QString& text, bool vertica
   const QString key = QChar(u'0' + int(face) * 2 + int(vertical)) + text;
   const auto known = m_known.constFind(key);
   if (known != m_known.constEnd()) return *known;
-  if (m_known.size() >= kMostKnown) m_known.clear();
+  if (m_known.size() >= kMaxCachedTexts) m_known.clear();
   const ShapedTextPtr shaped = shapeNow(m_fonts, face, text.toStdU32String(), vertical);
   m_known.insert(key, shaped);
   return shaped;

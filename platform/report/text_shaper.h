@@ -12,7 +12,7 @@ struct PlacedGlyph {
   double y = 0;         ///< in em, downwards
 };
 
-/// Glyphs whose text is told as a whole, because it is not just the sum of theirs.
+/// Glyphs whose text is written as a whole, because it is not just the sum of theirs.
 struct TextSpan {
   size_t first = 0;
   size_t count = 0;

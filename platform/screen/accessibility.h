@@ -8,8 +8,8 @@ namespace screen {
 /// that starts later than the program would otherwise never see it.
 void enableAccessibility();
 
-/// While it lives, nothing is told to screen readers: for changes to parts that only the eye and the mouse
-/// use.
+/// While it lives, nothing is reported to screen readers: for changes to parts that only the eye and the
+/// mouse use.
 class UntoldChange {
  public:
   UntoldChange();

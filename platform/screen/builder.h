@@ -46,7 +46,7 @@ class Builder {
 
  private:
   struct Place;
-  /// A control and the captions around it, to tell controls of one caption apart.
+  /// A control and the captions around it, to distinguish controls of one caption.
   struct Spot {
     Control* control;
     QString group, page;

@@ -144,7 +144,7 @@ void Builder::make(const EndPages&) { closeToBase(); }
 void Builder::make(const Group& row) {
   auto& group = add(std::make_unique<GroupControl>(m_screen, row, host()));
   if (row.columns == 1)
-    m_places.back()->addSingle(group.widget());  // narrow groups stand beside each other
+    m_places.back()->addSingle(group.widget());  // narrow groups are placed side by side
   else
     m_places.back()->addWide(group.widget(), false);
   open(std::make_unique<Place>(Shelf(group.widget(), row.columns)));

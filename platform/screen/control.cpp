@@ -75,7 +75,7 @@ void Control::setRed(bool red) {
   QWidget* marked = m_label ? static_cast<QWidget*>(m_label) : widget();
   if (!marked) return;
   if (!red) return marked->setPalette(QPalette());
-  // Readable on a light and on a dark desk (contrast above 5:1 on both).
+  // Readable on a light and on a dark desktop theme (contrast above 5:1 on both).
   const bool dark = marked->palette().color(QPalette::Window).lightness() < 128;
   const QColor color = dark ? QColor(0xFF, 0x9A, 0x9A) : QColor(0xB4, 0x00, 0x00);
   QPalette palette = marked->palette();

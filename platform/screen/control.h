@@ -42,9 +42,9 @@ class Control {
 
   /// What the focus on the control says.
   virtual void speak(voice::VoiceGuide& voice, QWidget* focus) const;
-  /// Enter was pressed in it: true where the control took the key.
+  /// Enter was pressed in it: true if the control took the key.
   virtual bool enter() { return fire(m_onEnter); }
-  /// Another key was pressed in it: true where the control took it.
+  /// Another key was pressed in it: true if the control took it.
   virtual bool key(int) { return false; }
   /// Enter belongs to the text (a memo's new line).
   virtual bool keepsEnter() const { return false; }
@@ -74,7 +74,7 @@ class Control {
   virtual QStringList partCaptions() const { return {}; }
   /// Parts whose caption no other name of the window has: they need no word of their group before it.
   virtual void namePartsAlone(const QSet<QString>& /*captions*/) {}
-  /// A number behind the accessible name where no word around the control tells it apart.
+  /// A number after the accessible name if no word around the control distinguishes it.
   void setNumber(int number);
   virtual QString accessibleName() const;
 

@@ -26,7 +26,7 @@ class ControlBook {
   void addName(const QString& name, Control& control);
   void addWidgets(Control& control);
 
-  /// nullptr where the screen has no such control: a mistake of the program, reported as critical, which is
+  /// nullptr if the screen has no such control: a mistake of the program, reported as critical, which is
   /// fatal in tests.
   Control* find(const QString& name) const;
   template <class T>

@@ -9,7 +9,7 @@
 namespace screen {
 namespace {
 
-/// Where a key leads to; an invalid day where it leads nowhere.
+/// Where a key leads to; an invalid day if it leads nowhere.
 QDate dayOfKey(int key, const QDate& day) {
   constexpr int kWeek = 7;
   switch (key) {
@@ -89,7 +89,7 @@ void CalendarControl::setDay(const QDate& day) {
   m_day = within;
   m_field->setText(m_dayText(m_screen, within));
   m_field->setCursorPosition(0);
-  // Its cell would be told as the new focus, and screen readers would leave the field.
+  // Its cell would be reported as the new focus, and screen readers would leave the field.
   const UntoldChange untold;
   quietly([&] { m_sheet->setSelectedDate(within); });
 }

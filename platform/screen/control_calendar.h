@@ -10,7 +10,7 @@ class QLineEdit;
 namespace screen {
 
 /// A date cursor: a field that holds the day as a text, which a screen reader follows like any field, above a
-/// month sheet for the eye and the mouse. Its text is the day as the row's dayText tells it.
+/// month sheet for the eye and the mouse. Its text is the day as the row's dayText words it.
 class CalendarControl : public Control {
  public:
   CalendarControl(Screen& screen, const Calendar& row, QWidget* parent, voice::VoiceGuide& voice);

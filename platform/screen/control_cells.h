@@ -22,9 +22,9 @@ class CellsControl : public Control {
   CellsControl(Screen& screen, const ControlName& name, const Words& caption, QWidget* parent,
                voice::VoiceGuide& voice);
   void show(CellModel& model);
-  /// Another row was reached: false where the view has to go back to its own.
+  /// Another row was reached: false if the view has to go back to its own.
   virtual bool rowReached(int /*row*/) { return true; }
-  /// The row that the view has to stand on.
+  /// The row that the view has to show as current.
   virtual void follow() = 0;
   /// Makes the row current without telling anybody; the column stays.
   void standOn(int row);

@@ -30,7 +30,7 @@ class ComboControl : public Control {
   void speakChoice(const QString& item);
   QComboBox* m_combo;
   voice::VoiceGuide& m_voice;
-  int m_editedItem = -1;   ///< item that the last edit was told of
+  int m_editedItem = -1;   ///< item that the last edit was reported for
   bool m_foreign = false;  ///< the last item is a stored value that the list lacks
 };
 

@@ -14,7 +14,7 @@ class CommandControl : public Control {
   CommandControl(Screen& screen, const ControlName& name, const QString& caption, Handler action);
 
   void makeButton(QWidget* parent);
-  /// `caption` is the entry's own where it differs from the button's.
+  /// `caption` is the entry's own if it differs from the button's.
   void setAction(QAction* action, const char16_t* caption);
   void setKey(const QString& key);
 

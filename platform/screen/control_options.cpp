@@ -102,7 +102,7 @@ void OptionsControl::showText(const QString& text) {
 }
 
 void OptionsControl::chooseTabStop() {
-  // Tab stops once at a group: at the chosen button, or at the first where none is chosen.
+  // Tab stops once at a group: at the chosen button, or at the first if none is chosen.
   const QList<QAbstractButton*> buttons = m_buttons->buttons();
   const QAbstractButton* stop = m_buttons->checkedButton() ? m_buttons->checkedButton() : buttons.value(0);
   for (QAbstractButton* button : buttons)

@@ -7,7 +7,7 @@
 
 namespace screen {
 
-/// Rows kept as they were given.
+/// Rows as they were given.
 class TableModel : public CellModel {
  public:
   TableModel(std::span<const char16_t* const> captions, QObject* parent)

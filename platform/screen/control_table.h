@@ -13,7 +13,7 @@ class TableControl : public CellsControl {
 
   /// Replaces the rows, texts in the order of the columns; the first becomes current.
   void setRows(const QList<QStringList>& rows) override;
-  /// The current row, -1 where there is none.
+  /// The current row, -1 if there is none.
   int chosenItem() const override;
 
  protected:

@@ -7,6 +7,16 @@
 #include "platform/store/database.h"
 
 namespace screen {
+namespace {
+
+/// After a move or a deletion: the set goes back from before its first and from after its last row.
+void stayInside(store::RecordSet& rows) {
+  if (rows.recordCount() == 0) return;
+  if (rows.eof()) rows.moveLast();
+  if (rows.bof()) rows.moveFirst();
+}
+
+}  // namespace
 
 bool DataSource::open(const QString& path) {
   auto database = store::Database::open(path);
@@ -14,20 +24,22 @@ bool DataSource::open(const QString& path) {
                        : store::Result<store::RecordSet>(database.fault());
   if (!rows) {
     m_openFault = rows.fault().message;
-    return told(rows.fault());
+    return reportIfFailed(rows.fault());
   }
   assign(std::move(rows.value()));
   return true;
 }
 
-bool DataSource::holdsRow() const {
+bool DataSource::hasCurrentRow() const {
   return m_rows.isOpen() && (m_rows.adding() || m_rows.absolutePosition() >= 0);
 }
 
-bool DataSource::ready() {
+bool DataSource::ensureOpen() {
   if (!isOpen()) m_screen.messages().tellDataFault(m_openFault);
   return isOpen();
 }
+
+bool DataSource::ensureRead() { return reportIfFailed(m_rows.readRow()); }
 
 void DataSource::assign(store::RecordSet rows) {
   m_rows = std::move(rows);
@@ -35,11 +47,13 @@ void DataSource::assign(store::RecordSet rows) {
 }
 
 void DataSource::show() {
-  const bool hasRow = holdsRow();
+  const store::Done read = m_rows.readRow();
+  const bool hasRow = read && hasCurrentRow();
   for (Control* control : m_screen.m_parts->book.boundTo(m_number))
     control->load(hasRow ? m_rows.value(control->column()) : store::Value());
   for (GridControl* grid : m_screen.m_parts->book.gridsOf(m_number)) grid->follow();
   m_screen.rowShown(m_number);
+  reportIfFailed(read);
 }
 
 bool DataSource::pending() const {
@@ -61,13 +75,13 @@ store::Done DataSource::setChangedColumns() {
 bool DataSource::write() {
   if (!pending()) return true;
   const bool adding = m_rows.adding();
-  if (!adding && !m_rows.editing() && !told(m_rows.edit())) return false;
+  if (!adding && !m_rows.editing() && !reportIfFailed(m_rows.edit())) return false;
   auto done = setChangedColumns();
   if (done) done = m_rows.update();
   if (!done) {
     // What was typed stays on the screen; the next write reads the row afresh. A new row is kept open.
     if (!adding) m_rows.cancelUpdate();
-    return told(done);
+    return reportIfFailed(done);
   }
   for (Control* control : m_screen.m_parts->book.boundTo(m_number)) control->settle();
   if (adding) m_rows.setBookmark(m_rows.lastModified());
@@ -76,7 +90,7 @@ bool DataSource::write() {
 }
 
 bool DataSource::addNew() {
-  if (!m_rows.isOpen() || !leaveRow() || !told(m_rows.addNew())) return false;
+  if (!m_rows.isOpen() || !leaveRow() || !reportIfFailed(m_rows.addNew())) return false;
   show();
   return true;
 }
@@ -87,7 +101,7 @@ bool DataSource::addNewAsShown() {
   QStringList shown;
   for (const Control* control : controls) shown << control->text();
   if (m_rows.editing() || m_rows.adding()) m_rows.cancelUpdate();
-  if (!told(m_rows.addNew())) return false;
+  if (!reportIfFailed(m_rows.addNew())) return false;
   show();
   for (qsizetype i = 0; i < shown.size(); ++i) controls[size_t(i)]->putText(shown[i]);
   return true;
@@ -96,8 +110,8 @@ bool DataSource::addNewAsShown() {
 bool DataSource::remove() {
   if (!m_rows.isOpen()) return false;
   if (m_rows.editing() || m_rows.adding()) m_rows.cancelUpdate();
-  if (!told(m_rows.remove())) return false;
-  stayInside();
+  if (!reportIfFailed(m_rows.remove())) return false;
+  stayInside(m_rows);
   show();
   return true;
 }
@@ -115,16 +129,21 @@ void DataSource::moveLast() { move(&store::RecordSet::moveLast); }
 
 void DataSource::move(void (store::RecordSet::*step)()) {
   if (!m_rows.isOpen() || !leaveRow()) return;
-  if (m_rows.recordCount() > 0) (m_rows.*step)();
-  stayInside();
+  moveAndShow([step](store::RecordSet& rows) {
+    if (rows.recordCount() > 0) (rows.*step)();
+    stayInside(rows);
+  });
+}
+
+bool DataSource::moveAndShow(const std::function<void(store::RecordSet&)>& move) {
+  if (!reportIfFailed(m_rows.moveAndRead(move))) return false;
   show();
+  return true;
 }
 
 bool DataSource::moveTo(int position) {
   if (!m_rows.isOpen() || !leaveRow()) return false;
-  m_rows.setAbsolutePosition(position);
-  show();
-  return true;
+  return moveAndShow([position](store::RecordSet& rows) { rows.setAbsolutePosition(position); });
 }
 
 bool DataSource::leaveRow() {
@@ -134,13 +153,7 @@ bool DataSource::leaveRow() {
   return true;
 }
 
-void DataSource::stayInside() {
-  if (m_rows.recordCount() == 0) return;
-  if (m_rows.eof()) m_rows.moveLast();
-  if (m_rows.bof()) m_rows.moveFirst();
-}
-
-bool DataSource::told(const store::Done& done) {
+bool DataSource::reportIfFailed(const store::Done& done) {
   if (!done) m_screen.messages().tellDataFault(done.fault().message);
   return done.ok();
 }

@@ -75,18 +75,12 @@ constexpr bool strayBinding(const Row& row, const Sources& sources) {
 
 }  // namespace detail
 
-/// What is wrong with a declaration; nullptr: nothing.
-constexpr const char* faultOf(const ScreenRow& screen) {
-  if (detail::doubledName(screen.rows)) return "two controls of one name";
-  for (const Row& row : screen.rows)
-    if (detail::strayBinding(row, screen.sources)) return "a column of none of the screen's sources";
-  return nullptr;
-}
-
 /// A declaration without a fault: one with a doubled control, or with a column that the screen's tables lack,
 /// does not compile.
 consteval ScreenRow declare(ScreenRow screen) {
-  if (const char* fault = faultOf(screen)) throw fault;
+  if (detail::doubledName(screen.rows)) throw "two controls of one name";
+  for (const Row& row : screen.rows)
+    if (detail::strayBinding(row, screen.sources)) throw "a column of none of the screen's sources";
   return screen;
 }
 
@@ -152,6 +146,12 @@ consteval auto joined(const Row (&... tables)[Sizes]) {
     return std::array<Row, sizeof...(At)>{rows[At]...};
   }
   (std::make_index_sequence<(Sizes + ...)>());
+}
+
+/// Grid columns that are captioned by their own names.
+template <class... Columns>
+consteval std::array<GridColumn, sizeof...(Columns)> gridOf(const Columns&... columns) {
+  return {GridColumn{columns, columns.name()}...};
 }
 
 }  // namespace screen

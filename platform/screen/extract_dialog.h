@@ -16,7 +16,7 @@ struct ExtractRow {
   std::span<const ColumnChoice> columns;
   Words wordCaption;                 ///< label of the text
   Words go;                          ///< caption of the button that searches
-  std::span<const Note> notes = {};  ///< beside the text
+  std::span<const Note> notes = {};  ///< next to the text
   bool blankDoesNothing = true;      ///< a blank text asks for one; otherwise it fits every text
 };
 
@@ -29,7 +29,7 @@ struct ExtractDeclaration {
 };
 }  // namespace detail
 
-/// Made from one ExtractRow. Where the list refuses, which it tells, the dialog stays with what was typed.
+/// Made from one ExtractRow. If the list refuses, which it reports, the dialog stays with what was typed.
 class ExtractDialog : private detail::ExtractDeclaration, public Screen {
  public:
   ExtractDialog(const ExtractRow& row, Services& services);

@@ -4,7 +4,7 @@
 
 namespace screen {
 
-bool settleRow(DataSource& source) {
+bool commitOrDiscardRow(DataSource& source) {
   if (source.rows().adding()) {
     source.drop();
     return true;
@@ -18,14 +18,18 @@ void tellNotFound(Screen& screen) {
 }
 
 text::Result<bool> seekRow(DataSource& source, const QString& criteria) {
-  store::RecordSet& rows = source.rows();
-  const store::Bookmark seen = rows.bookmark();
-  text::Done found = rows.findNext(criteria);
-  if (found && rows.noMatch()) found = rows.findFirst(criteria);
-  const bool hit = found && !rows.noMatch();
-  if (!hit) rows.setBookmark(seen);
+  text::Done found;
+  bool hit = false;
+  const text::Done read = source.rows().moveAndRead([&](store::RecordSet& rows) {
+    const store::Bookmark seen = rows.bookmark();
+    found = rows.findNext(criteria);
+    if (found && rows.noMatch()) found = rows.findFirst(criteria);
+    hit = found && !rows.noMatch();
+    if (!hit) rows.setBookmark(seen);
+  });
   source.show();
   if (!found) return found.fault();
+  if (!read) return read.fault();
   return hit;
 }
 

@@ -13,9 +13,10 @@ QString GridModel::columnCaption(int column) const {
 QString GridModel::cell(int row, int column) const {
   if (!has(row, column)) return {};
   const store::Column& asked = m_columns[static_cast<size_t>(column)].column;
-  const QString value = m_rows.valueAt(row, asked);
-  if (!m_rows.isYesNo(asked)) return value;
-  return value == u"-1" ? QStringLiteral("Yes") : QStringLiteral("No");
+  const store::Result<store::Value> value = m_rows.readAt(row, asked);
+  if (!value) return QString::fromUtf16(kUnreadableText);
+  if (!m_rows.isYesNo(asked)) return *value;
+  return *value == u"-1" ? QStringLiteral("Yes") : QStringLiteral("No");
 }
 
 void GridModel::follow() {

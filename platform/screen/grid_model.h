@@ -8,7 +8,11 @@
 
 namespace screen {
 
-/// The rows of a record set as a grid asks for them: a row is read when it is looked at, never before.
+/// What a cell shows and says whose row cannot be read.
+inline constexpr char16_t kUnreadableText[] = u"読めません";
+
+/// The rows of a record set as a grid asks for them: a row is read when it is looked at, never before. One
+/// that cannot be read says so in its cells and is read again at the next follow().
 class GridModel : public CellModel {
  public:
   GridModel(const store::RecordSet& rows, std::span<const GridColumn> columns, QObject* parent);

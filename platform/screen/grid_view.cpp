@@ -43,7 +43,7 @@ GridView::GridView(QWidget* parent) : QTableView(parent) {
 void GridView::focusInEvent(QFocusEvent* event) {
   showKeyboard(true);
   QTableView::focusInEvent(event);
-  // Screen readers are told of the table first; its cell is what they read.
+  // Screen readers hear of the table first; its cell is what they read.
   const auto tellCell = [this] {
     if (hasFocus() && currentIndex().isValid()) QTableView::currentChanged(currentIndex(), currentIndex());
   };
@@ -55,7 +55,8 @@ void GridView::focusOutEvent(QFocusEvent* event) {
   showKeyboard(hasFocus());
 }
 
-// A table tells screen readers that the focus is on its new cell also where it is elsewhere, and they follow.
+// A table reports to screen readers that the focus is on its new cell even if it is elsewhere, and they
+// follow.
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   if (hasFocus()) return QTableView::currentChanged(current, previous);
   QAbstractItemView::currentChanged(current, previous);

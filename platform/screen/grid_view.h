@@ -11,7 +11,7 @@ class GridView : public QTableView {
   explicit GridView(QWidget* parent);
   void keyboardSearch(const QString&) override {}
   QSize sizeHint() const override;
-  /// Gives each column room for its caption and for what the first rows hold.
+  /// Gives each column room for its caption and for the texts of the first rows.
   void fitColumns();
 
  protected:
@@ -20,7 +20,7 @@ class GridView : public QTableView {
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
  private:
-  /// The current row is strong in colour where the keyboard is in the table, pale elsewhere.
+  /// The current row is strong in colour if the keyboard is in the table, pale elsewhere.
   void showKeyboard(bool here);
 };
 

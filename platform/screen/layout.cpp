@@ -6,7 +6,7 @@ namespace screen {
 namespace {
 
 constexpr int kGap = 6;
-/// Up to so many fields in a line stand behind their labels, more of them below.
+/// Up to so many fields in a line follow their labels, more of them are placed below.
 constexpr int kBesideAtMost = 3;
 
 QGridLayout* gridOf(QWidget* host, int margin) {
@@ -17,22 +17,23 @@ QGridLayout* gridOf(QWidget* host, int margin) {
   return grid;
 }
 
-/// Width of the desk that the program stands on.
-int deskWidth() {
-  const QScreen* desk = QGuiApplication::primaryScreen();
-  return desk ? desk->availableGeometry().width() : 1280;
+/// Width in pixels of the display, without the panels of the desktop.
+int displayWidth() {
+  const QScreen* display = QGuiApplication::primaryScreen();
+  return display ? display->availableGeometry().width() : 1280;
 }
 
 }  // namespace
 
-int fittingColumns(int declared, int character, int room) {
+int fittingColumns(int declared, int character, int display) {
   constexpr double kDefaultCharactersInARow = 1280.0 / 13;
-  const double share = static_cast<double>(room) / character / kDefaultCharactersInARow;
+  const double share = static_cast<double>(display) / character / kDefaultCharactersInARow;
   return std::clamp(static_cast<int>(std::ceil(declared * share - 0.5)), 1, declared);
 }
 
 int fittingColumns(int declared) {
-  return fittingColumns(declared, QFontMetrics(QApplication::font()).horizontalAdvance(u'あ'), deskWidth());
+  return fittingColumns(declared, QFontMetrics(QApplication::font()).horizontalAdvance(u'あ'),
+                        displayWidth());
 }
 
 QString wrapped(const QString& text, int charactersInALine) {
@@ -43,9 +44,9 @@ QString wrapped(const QString& text, int charactersInALine) {
 }
 
 QString wrapped(const QString& text) {
-  constexpr double kShareOfDesk = 0.85;
+  constexpr double kShareOfDisplay = 0.85;
   const int character = QFontMetrics(QApplication::font()).horizontalAdvance(u'あ');
-  return wrapped(text, static_cast<int>(kShareOfDesk * deskWidth() / character));
+  return wrapped(text, static_cast<int>(kShareOfDisplay * displayWidth() / character));
 }
 
 void fitWidth(QWidget* field, int characters) {
@@ -108,14 +109,14 @@ void Shelf::newLine() {
   m_at = 0;
 }
 
-Flow::Flow(QWidget* host) : m_host(host), m_lines(new QVBoxLayout(host)), m_room(deskWidth() - 80) {
+Flow::Flow(QWidget* host) : m_host(host), m_lines(new QVBoxLayout(host)), m_width(displayWidth() - 80) {
   m_lines->setContentsMargins(kGap, 0, kGap, 0);
   m_lines->setSpacing(kGap);
 }
 
 void Flow::add(QWidget* widget) {
   const int wanted = widget->sizeHint().width() + kGap;
-  if (!m_line || m_used + wanted > m_room) {
+  if (!m_line || m_used + wanted > m_width) {
     m_line = new QHBoxLayout;
     m_line->setSpacing(kGap);
     m_line->addStretch(1);

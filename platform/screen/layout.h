@@ -11,19 +11,19 @@ class QWidget;
 
 namespace screen {
 
-/// The caption of a tick that is longer than the desk is wide, in lines (the toolkit does not wrap it).
+/// The caption of a tick that is wider than the display, in lines (the toolkit does not wrap it).
 QString wrapped(const QString& text, int charactersInALine);
 QString wrapped(const QString& text);
 /// Width of a field for so many characters of the present font.
 void fitWidth(QWidget* field, int characters);
 void fitMemo(QWidget* field, int characters, int lines);
-/// How many of the declared columns stand beside each other: all of them at the default font on a desk 1280
-/// pixels wide; fewer where a larger font or a smaller desk leaves less room, so that nothing has to be
-/// scrolled sideways. `character` is the width of a full-width character, `room` that of the desk.
-int fittingColumns(int declared, int character, int room);
+/// How many of the declared columns fit next to each other: all of them at the default font on a display 1280
+/// pixels wide; fewer if a larger font or a smaller display leaves less space, so that nothing has to be
+/// scrolled sideways. `character` is the width of a full-width character, `display` that of the display.
+int fittingColumns(int declared, int character, int display);
 int fittingColumns(int declared);
 
-/// Fields beside each other in columns of label and field; a wide one has a line of its own. Nothing is
+/// Fields side by side in columns of label and field; a wide one has a line of its own. Nothing is
 /// placed by pixels: all sizes follow the font.
 class Shelf {
  public:
@@ -32,10 +32,10 @@ class Shelf {
   void addField(QLabel* label, QWidget* field);
   /// A control with its caption in itself (tick, button, text).
   void addSingle(QWidget* widget);
-  /// A field that takes the rest of the line beside its label.
+  /// A field that takes the rest of the line after its label.
   void addWideField(QLabel* label, QWidget* field);
   void addWide(QWidget* widget, bool grows = false);
-  /// Pushes everything up where nothing grows.
+  /// Pushes everything up if nothing grows.
   void close();
   QWidget* host() const { return m_host; }
 
@@ -49,7 +49,7 @@ class Shelf {
   bool m_grows = false;
 };
 
-/// Controls in a row that wraps where the line is full.
+/// Controls in a row that wraps when the line is full.
 class Flow {
  public:
   explicit Flow(QWidget* host);
@@ -59,13 +59,13 @@ class Flow {
  private:
   QWidget* m_host;
   QVBoxLayout* m_lines;
-  int m_room;  ///< width that one line may take
+  int m_width;  ///< width that one line may take
   QHBoxLayout* m_line = nullptr;
   int m_at = 0;
   int m_used = 0;
 };
 
-/// A family of fields, so many in a line: each under its label, or behind it where the line has room.
+/// A family of fields, so many in a line: each under its label, or after it if the line has room.
 class Family {
  public:
   Family(QWidget* host, int perLine);

@@ -1,6 +1,7 @@
 #include "platform/screen/list_screen.h"
 
 #include "platform/screen/find_row.h"
+#include "platform/screen/grid_model.h"
 
 namespace screen {
 
@@ -53,7 +54,10 @@ void ListScreen::tellResult(const QString& done) {
 
 void ListScreen::step(void (DataSource::*move)()) {
   (source().*move)();
-  if (const QStringList row = rowOnView(); !row.isEmpty()) voice().speakHeading(row);
+  QStringList row = rowOnView();
+  if (row.isEmpty()) return;
+  if (source().isOpen() && source().rows().fault()) row = {QString::fromUtf16(kUnreadableText)};
+  voice().speakHeading(row);
 }
 
 void ListScreen::goFirst() { step(&DataSource::moveFirst); }

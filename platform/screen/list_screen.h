@@ -98,6 +98,13 @@ consteval auto choicesOf(const std::array<store::Column, N>& columns) {
   }
   (std::make_index_sequence<N>());
 }
+/// Their captions, for the list of a combo box.
+template <std::size_t N>
+consteval std::array<const char16_t*, N> captionsOf(const ColumnChoice (&choices)[N]) {
+  std::array<const char16_t*, N> captions{};
+  for (std::size_t i = 0; i < N; ++i) captions[i] = choices[i].caption();
+  return captions;
+}
 /// Their names, for the list of a combo box.
 template <std::size_t N>
 consteval std::array<const char16_t*, N> namesOf(const std::array<store::Column, N>& columns) {

@@ -114,7 +114,7 @@ bool MessageDoor::show(const QString& text, Buttons buttons, const QString& titl
   // window manager has given the focus back to by then. Escape presses its button too.
   for (const QPushButton* button : {accept, refuse})
     QObject::connect(button, &QPushButton::released, &box, [this] { m_voice.stopSpeech(); });
-  // The question is heard to its end: its first focus waits behind it.
+  // The question is heard to its end: its first focus waits until then.
   m_hold->begin();
   box.exec();
   // A slow window manager can leave no window active: the keyboard would be dead until the next change.

@@ -38,21 +38,21 @@ class MessageDoor {
            Icon icon = Icon::Question);
   /// はい or いいえ to losing what was typed; it starts on いいえ, so that Enter loses nothing.
   bool askToDrop(const QString& text);
-  /// A fault of the engine behind the data-control label.
+  /// A fault of the database after the data-control label.
   void tellDataFault(const QString& engineText);
 
-  /// What is said next is heard to its end: until the user presses a key, the focus waits behind it. For a
+  /// What is said next is heard to its end: until the user presses a key, the focus waits for it. For a
   /// result that is spoken while a window closes and the focus goes back.
   void holdSpeech();
 
   /// Tests: answers for the coming questions, in order. With a queue (even an empty one after
   /// answerFromQueue()) nothing is shown; an unanswered question is refused.
   void answerFromQueue(const QList<bool>& answers = {});
-  /// Every text told or asked so far, newest last.
+  /// Every text shown or asked so far, newest last.
   const QStringList& texts() const { return m_texts; }
   const QStringList& titles() const { return m_titles; }
   void forget();
-  /// The window that messages stand before.
+  /// The window that messages belong to.
   void setParent(QWidget* window) { m_parent = window; }
 
  private:

@@ -16,6 +16,12 @@ class ScreenRegistry {
   using Factory = std::function<std::unique_ptr<Screen>(Services&)>;
 
   void add(const QString& screenName, Factory factory) { m_factories[screenName] = std::move(factory); }
+  template <class S, class... State>
+    requires(!Route<S>)
+  void add(const QString& screenName, State&... state) {
+    add(screenName,
+        Factory([&state...](Services& services) { return std::make_unique<S>(services, state...); }));
+  }
   /// The screen that a route leads to; its constructor takes the services and further references:
   /// registry.add<routes::PatientRegister, PatientScreen>(runState).
   template <Route R, class S, class... State>
@@ -23,7 +29,7 @@ class ScreenRegistry {
     add(R::screen,
         Factory([&state...](Services& services) { return std::make_unique<S>(services, state...); }));
   }
-  /// nullptr where no such screen is registered.
+  /// nullptr if no such screen is registered.
   const Factory* find(const QString& screenName) const;
   QStringList names() const;
 
@@ -39,6 +45,7 @@ class ScreenNavigator : public Navigator {
   /// The services name the navigator, so they come second.
   void setServices(Services& services) { m_services = &services; }
 
+  using Navigator::show;
   Screen* show(const QString& screenName, const Request& request = {}) override;
   Screen* load(const QString& screenName) override;
   Screen* loaded(const QString& screenName) const override;

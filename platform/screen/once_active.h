@@ -6,8 +6,8 @@
 
 namespace screen {
 
-/// What a window has to do once it has the keyboard. A message that is told while the window opens, inside
-/// opened(), gives the keyboard to the window behind, which would be heard.
+/// What a window has to do once it has the keyboard. A message that is shown while the window opens, inside
+/// opened(), gives the keyboard to the window below, which would be heard.
 class OnceActive {
  public:
   void set(std::function<void()> work) { m_work = std::move(work); }

@@ -9,7 +9,7 @@ class VoiceGuide;
 namespace screen {
 
 /// Lets the sentence that a window opens with be heard to its end: until the user presses a key or a mouse
-/// button, the texts of the focus wait behind it instead of cutting it.
+/// button, the texts of the focus wait for it instead of cutting it.
 class OpeningHold : public QObject {
  public:
   explicit OpeningHold(voice::VoiceGuide& voice) : m_voice(voice) {}

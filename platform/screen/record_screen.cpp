@@ -1,5 +1,7 @@
 #include "platform/screen/record_screen.h"
 
+#include "platform/text/utf16.h"
+
 namespace screen {
 
 RecordScreen::RecordScreen(const ScreenRow& declaration, Services& services, const RecordWords& words)
@@ -16,7 +18,7 @@ void RecordScreen::step(const RowMove& move) {
 }
 
 bool RecordScreen::mayDiscard() {
-  return !source().pending() || messages().askToDrop(QString::fromUtf16(m_words.discardQuestion));
+  return !source().pending() || messages().askToDrop(text::utf16(m_words.discardQuestion));
 }
 
 bool RecordScreen::mayLeaveRow() {
@@ -25,22 +27,27 @@ bool RecordScreen::mayLeaveRow() {
   return true;
 }
 
-bool RecordScreen::writeOnView() {
-  return (source().holdsRow() || source().addNewAsShown()) && source().write();
+bool RecordScreen::mayClose() {
+  if (!source().isOpen() || mayLeaveRow()) return true;
+  if (!messages().askToDrop(QString::fromUtf16(m_words.discardQuestion))) return false;
+  source().drop();
+  return true;
 }
 
-void RecordScreen::sayDone(const char16_t* done) {
-  say(QStringList{QString::fromUtf16(done)} + rowInWords());
+bool RecordScreen::writeOnView() {
+  return (source().hasCurrentRow() || source().addNewAsShown()) && source().write();
 }
+
+void RecordScreen::sayDone(const QString& done) { say(QStringList{done} + rowInWords()); }
 
 void RecordScreen::storeRow() {
-  if (source().ready() && readyToStore() && writeOnView()) sayDone(m_words.stored);
+  if (source().ensureOpen() && readyToStore() && writeOnView()) sayStored();
 }
 
 bool RecordScreen::confirmRemoval() {
-  const QString question = QString::fromUtf16(m_words.deleteQuestion);
+  const QString question = text::utf16(m_words.deleteQuestion);
   if (!m_words.deleteTitle) return messages().ask(question);
-  return messages().ask(question, Buttons::OkCancel, QString::fromUtf16(m_words.deleteTitle));
+  return messages().ask(question, Buttons::OkCancel, text::utf16(m_words.deleteTitle));
 }
 
 bool RecordScreen::removeOnView() {
@@ -50,9 +57,14 @@ bool RecordScreen::removeOnView() {
 }
 
 void RecordScreen::removeRow() {
-  if (!source().ready()) return;
-  if (!source().holdsRow()) return messages().tell(QString::fromUtf16(m_words.nothingToDelete));
-  if (confirmRemoval() && removeOnView()) sayDone(m_words.deleted);
+  if (!source().ensureOpen()) return;
+  if (!source().hasCurrentRow()) {
+    if (!m_words.nothingToDelete) return say(rowInWords());
+    return messages().tell(text::utf16(m_words.nothingToDelete));
+  }
+  if (!confirmRemoval()) return;
+  const bool stored = !source().rows().adding();
+  if (removeOnView()) sayDone(text::utf16(stored ? m_words.deleted : m_words.dropped));
 }
 
 }  // namespace screen

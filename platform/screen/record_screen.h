@@ -1,13 +1,16 @@
 #pragma once
 
 #include "platform/screen/screen.h"
+#include "platform/text/utf16.h"
 
 namespace screen {
 
-/// What a record screen says of its acts. Screens give their own texts where they have some.
+/// What a record screen says of its acts. A screen gives its own texts if it has some.
 struct RecordWords {
   const char16_t* stored = u"登録しました";
   const char16_t* deleted = u"削除しました";
+  const char16_t* dropped = u"削除しました";  ///< of a new row that was never stored
+  /// Message where there is no row to delete; nullptr: what is on view is said instead.
   const char16_t* nothingToDelete = u"削除するデータがありません。";
   const char16_t* deleteQuestion = nullptr;   ///< asked before a row is deleted
   const char16_t* deleteTitle = nullptr;      ///< title of that question; with one it has OK and Cancel
@@ -44,6 +47,8 @@ class RecordScreen : public Screen {
   virtual bool readyToStore() { return true; }
   /// Before another row comes on view, by any way: settles what was typed. False: reported, the row stays.
   virtual bool mayLeaveRow();
+  /// After the row was stored.
+  virtual void sayStored() { sayDone(text::utf16(m_words.stored)); }
   /// Before a move by a record key. False: reported, nothing moves.
   virtual bool readyToMove() { return true; }
   /// Makes another row current.
@@ -55,12 +60,15 @@ class RecordScreen : public Screen {
 
   /// True when nothing typed would be lost, or the user agrees to lose it.
   bool mayDiscard();
+  /// Before the screen closes: settles what was typed. What the file refuses is given up if the user agrees,
+  /// so that it never locks the user in. False: the screen stays.
+  bool mayClose();
   /// Writes the row on view, or what was typed into a table without rows as its first. False: reported.
   bool writeOnView();
   /// Asks whether the row on view is to be deleted.
   bool confirmRemoval();
   /// Says what was done and the row on view.
-  void sayDone(const char16_t* done);
+  virtual void sayDone(const QString& done);
   const RecordWords& words() const { return m_words; }
 
  private:

@@ -27,14 +27,14 @@ concept Route = requires {
   { R::screen } -> std::convertible_to<ScreenName>;
 };
 
-/// What a screen is opened with: the route that was taken, or nothing where it is only shown again.
+/// What a screen is opened with: the route that was taken, or nothing if it is only shown again.
 class Request {
  public:
   Request() = default;
   template <Route R>
   Request(R route) : m_route(std::move(route)) {}
 
-  /// The route, where it is of this kind.
+  /// The route, if it is of this kind.
   template <Route R>
   const R* as() const {
     return std::any_cast<R>(&m_route);

@@ -42,7 +42,7 @@ struct TextRun {
   Binding bind;   ///< claim::dayCode
   int limit = kNoLimit;
   int width = 4;
-  int perLine = 7;  ///< fields beside each other
+  int perLine = 7;  ///< fields side by side
   bool readOnly = false;
   int number = 1;  ///< what %1 is for the first field
   const char16_t* tip = nullptr;
@@ -76,7 +76,7 @@ struct Check {
   const char16_t* off = u"0";
   const char16_t* tip = nullptr;
   const char16_t* group =
-      nullptr;              ///< word put before the accessible name where the caption alone is not enough
+      nullptr;              ///< word put before the accessible name if the caption alone is not enough
   bool marksDirty = false;  ///< sets the screen's check flag (checkChanged) when the user changes it
   Handler onToggle = nullptr;
 };
@@ -99,14 +99,14 @@ struct Options {
   Handler onChoose = nullptr;
 };
 
-/// A button and, where `under` is given, its menu twin of the same action.
+/// A button and, if `under` is given, its menu twin of the same action.
 struct Command {
   ControlName name;
   Words caption;
   Run run;
   const char16_t* menu = nullptr;         ///< objectName of the twin: u"Men_FU"
-  const char16_t* under = nullptr;        ///< menu it stands under: u"ファイル(&F)"
-  const char16_t* menuCaption = nullptr;  ///< where it differs from the button's
+  const char16_t* under = nullptr;        ///< menu it belongs to: u"ファイル(&F)"
+  const char16_t* menuCaption = nullptr;  ///< if it differs from the button's
   const char16_t* key = nullptr;          ///< key sequence, e.g. u"F1"
   const char16_t* say = nullptr;          ///< sentence of its own on focus
   const char16_t* tip = nullptr;
@@ -133,7 +133,7 @@ struct Note {
 struct Page {
   Words caption;
 };
-/// Ends the pages: what follows stands under the tab strip.
+/// Ends the pages: what follows is placed under the tab strip.
 struct EndPages {};
 struct Group {
   ControlName name;

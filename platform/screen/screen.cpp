@@ -22,7 +22,7 @@ Screen::~Screen() { m_parts->focus.end(); }
 void Screen::showEvent(QShowEvent* event) {
   if (!m_parts->openingSaid) {
     m_parts->openingSaid = true;
-    fitToDesk();
+    fitToDisplay();
     if (m_parts->firstFocus)
       giveFocus(*m_parts->firstFocus);
     else if (!focusWidget())
@@ -88,11 +88,11 @@ void Screen::finishClosing() {
   if (navigator().loaded(objectName()) == this) navigator().unload(objectName());
 }
 
-void Screen::fitToDesk() {
-  const QScreen* desk = QGuiApplication::primaryScreen();
-  const QSize room = desk ? desk->availableGeometry().size() - QSize(0, 40) : QSize(1280, 760);
+void Screen::fitToDisplay() {
+  const QScreen* display = QGuiApplication::primaryScreen();
+  const QSize size = display ? display->availableGeometry().size() - QSize(0, 40) : QSize(1280, 760);
   ensurePolished();
-  resize(sizeHint().expandedTo(QSize(480, 240)).boundedTo(room));
+  resize(sizeHint().expandedTo(QSize(480, 240)).boundedTo(size));
 }
 
 void Screen::focusFirst() {

@@ -53,7 +53,7 @@ class Screen : public QMainWindow {
   void setText(const QString& control, const QString& text);
   bool checked(const QString& control) const;
   void setChecked(const QString& control, bool on);
-  /// The stored value of the chosen option of a group ("" where none is chosen), and choosing by value.
+  /// The stored value of the chosen option of a group ("" if none is chosen), and choosing by value.
   QString chosen(const QString& group) const;
   void choose(const QString& group, const QString& value);
   QStringList items(const QString& combo) const;
@@ -81,7 +81,7 @@ class Screen : public QMainWindow {
   void showPage(const QString& caption);
   /// Says what came of a command; blank parts are left out.
   void say(const QStringList& parts) { voice().speakParts(parts); }
-  /// The same, heard to its end: what the focus says next waits behind it.
+  /// The same, heard to its end: what the focus says next waits for it.
   void sayResult(const QStringList& parts);
   /// Sends the focus to a field that a command needs filled. Where the focus is there already the field is
   /// named all the same: a command that does nothing must not be silent.
@@ -92,7 +92,7 @@ class Screen : public QMainWindow {
   /// Moves the focus to the next control in tab order.
   void focusNext() { focusNextPrevChild(true); }
 
-  /// Does what the button or the menu entry does; nothing where it is disabled.
+  /// Does what the button or the menu entry does; nothing if it is disabled.
   void trigger(const QString& command);
   /// Runs a command's action (the builder's buttons and entries come here).
   void runCommand(const QString& name, Handler action, int index);
@@ -115,15 +115,15 @@ class Screen : public QMainWindow {
   MessageDoor& messages() { return m_services.messages; }
   Navigator& navigator() { return m_services.navigator; }
 
-  /// Speaks heading and spoken notes, once a load, at the first show; the first focus waits behind it. What
+  /// Speaks heading and spoken notes, once a load, at the first show; the first focus waits for it. What
   /// onLoad() and opened() say through the navigator is heard before it.
   void speakOpening();
   /// Before loading: the speech of the screen before is cut, what is said from now on waits its turn.
   void prepareOpening();
-  /// Shown, and no key was pressed since: the desk may still hand the keyboard to and fro before it stays
-  /// here.
+  /// Shown, and no key was pressed since: the window manager may still move the keyboard focus to and fro
+  /// before it stays here.
   bool awaitsKeyboard() const;
-  /// What speakOpening() says: the heading (where none is declared the caption) and the spoken notes.
+  /// What speakOpening() says: the heading (the caption if none is declared) and the spoken notes.
   /// Screens with their own sentence override it; an empty list says nothing.
   virtual QStringList openingTexts() const;
   /// Moves of the record buttons; screens with checks before a move override them.
@@ -142,7 +142,7 @@ class Screen : public QMainWindow {
  private:
   friend class Builder;
   friend class DataSource;
-  void fitToDesk();
+  void fitToDisplay();
   void focusFirst();
   void finishClosing();
   struct Parts;

@@ -9,7 +9,7 @@
 
 namespace screen {
 
-/// What a screen is made of, behind its header.
+/// The private parts of a screen.
 struct Screen::Parts {
   Parts(Screen& screen, Services& services) : opening(services.voice), focus(screen, book, opening) {}
 

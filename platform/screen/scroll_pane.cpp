@@ -11,7 +11,7 @@ ScrollPane::ScrollPane(QWidget* parent) : QScrollArea(parent) {
 }
 
 QSize ScrollPane::sizeHint() const {
-  // The whole content; the window is held to the desk's size when it is first shown.
+  // The whole content; the window is held to the display's size when it is first shown.
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   return widget() ? widget()->sizeHint() + QSize(bar, bar) : QScrollArea::sizeHint();
 }

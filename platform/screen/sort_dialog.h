@@ -23,8 +23,8 @@ struct SortDeclaration {
 };
 }  // namespace detail
 
-/// Made from one SortRow. 昇順 and 降順 sort the list and come back to it; where the list refuses, which it
-/// tells, the dialog stays.
+/// Made from one SortRow. 昇順 and 降順 sort the list and come back to it; if the list refuses, which it
+/// reports, the dialog stays.
 class SortDialog : private detail::SortDeclaration, public Screen {
  public:
   SortDialog(const SortRow& row, Services& services);

@@ -23,12 +23,12 @@ bool isUsable(const QString& desktopFile) {
 /// Whether this desktop has anything to open such a thing with. Its opener would start and give up without a
 /// word, and the user would wait for a window that never comes.
 bool hasViewer(const QString& mimeType) {
-  constexpr int kPatience = 2000;
+  constexpr int kReplyTimeout = 2000;
   const QString asker = QStringLiteral("xdg-mime");
-  if (!isInstalled(asker)) return true;  // nobody to ask: the opener tells by itself
+  if (!isInstalled(asker)) return true;  // nobody to ask: the opener reports a failure itself
   QProcess question;
   question.start(asker, {QStringLiteral("query"), QStringLiteral("default"), mimeType});
-  if (!question.waitForFinished(kPatience)) return true;
+  if (!question.waitForFinished(kReplyTimeout)) return true;
   const QByteArray viewer = question.readAllStandardOutput().trimmed();
   if (!viewer.isEmpty()) return isUsable(QString::fromUtf8(viewer));
   // Where no program is named for the kind, the opener falls back on a browser.

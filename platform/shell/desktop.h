@@ -25,11 +25,11 @@ class Desktop {
   /// Starts a program with arguments and does not wait for it.
   text::Done startProgram(const QString& program, const QStringList& arguments = {});
 
-  /// The chosen file, "" where the user gave up. `filter`: "Data(*.mdb)|*.mdb", pairs of words and patterns.
+  /// The chosen file, "" if the user cancelled. `filter`: "Data(*.mdb)|*.mdb", pairs of words and patterns.
   QString pickFile(const QString& filter, const QString& current = QString());
   /// The chosen file name for writing; it may be new.
   QString pickFileToWrite(const QString& filter, const QString& current = QString());
-  /// The chosen folder without a slash at the end, "" where the user gave up.
+  /// The chosen folder without a slash at the end, "" if the user cancelled.
   QString pickFolder(const QString& title, const QString& current = QString());
 
   void copyText(const QString& text);

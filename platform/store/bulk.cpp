@@ -18,6 +18,17 @@ Result<RowValues> valuesOf(const TableSchema& schema, const QHash<QString, Value
   return values;
 }
 
+/// The highest ID of the table, 0 where it is empty.
+Result<qint64> lastId(Engine& engine, const TableSchema& schema) {
+  Result<Statement*> last =
+      engine.statements().get(QStringLiteral("SELECT max(\"ID\") FROM ") + quotedName(schema.table()));
+  if (!last) return last.fault();
+  if (const Result<bool> row = (*last)->step(); !row) return row.fault();
+  const qint64 id = (*last)->number(0);
+  (*last)->rewind();
+  return id;
+}
+
 }  // namespace
 
 Done addRows(const QString& path, const QString& table, const QList<QHash<QString, Value>>& rows) {
@@ -77,13 +88,42 @@ Done addRows(const QString& path, const QString& table, const QStringList& colum
   return done;
 }
 
-Result<qint64> lastId(const QString& path, const QString& table) {
-  Result<std::shared_ptr<Database>> database = Database::open(path);
+Result<int> addNewerRows(const QString& path, const QString& table,
+                         const QList<QHash<QString, Value>>& rows) {
+  const Result<std::shared_ptr<Database>> database = Database::open(path);
   if (!database) return database.fault();
-  Result<RecordSet> set = RecordSet::open(*database, table);
-  if (!set) return set.fault();
-  set->moveLast();
-  return set->bookmark() == kNoBookmark ? 0 : set->bookmark();
+  Engine& engine = (*database)->engine();
+  const Result<std::shared_ptr<const TableSchema>> schema = engine.schema(table);
+  if (!schema) return schema.fault();
+  const TableFile file(engine.statements(), QStringLiteral("main"), *schema);
+  const auto newer = [&]() -> Result<QList<QHash<QString, Value>>> {
+    const Result<qint64> last = lastId(engine, **schema);
+    if (!last) return last.fault();
+    QList<QHash<QString, Value>> found;
+    for (const QHash<QString, Value>& row : rows)
+      if (row.value(QStringLiteral("ID")).toLongLong() > *last) found += row;
+    return found;
+  };
+  const auto before = newer();
+  if (!before) return before.fault();
+  if (before->isEmpty()) return 0;
+  int added = 0;
+  const Done done = engine.write([&]() -> Done {
+    const auto missing = newer();  // asked again under the lock
+    if (!missing) return missing.fault();
+    for (const QHash<QString, Value>& row : *missing) {
+      for (auto column = row.cbegin(); column != row.cend(); ++column)
+        if ((*schema)->find(column.key()) < 0) return unknownColumn(column.key(), table);
+      const Result<RowValues> values = valuesOf(**schema, row);
+      if (!values) return values.fault();
+      if (const Result<qint64> inserted = file.insert(*values); !inserted) return inserted.fault();
+      ++added;
+    }
+    return {};
+  });
+  engine.forget();
+  if (!done) return done.fault();
+  return added;
 }
 
 }  // namespace store

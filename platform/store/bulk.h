@@ -23,7 +23,9 @@ Done addRows(const QString& path, const QString& table, int count,
 Done addRows(const QString& path, const QString& table, const QStringList& columns, int count,
              const std::function<void(int number, QStringList& values)>& fill);
 
-/// The highest ID of a table, 0 where it is empty.
-Result<qint64> lastId(const QString& path, const QString& table);
+/// Adds those of the rows, each with its ID, whose ID is higher than every ID of the table, in one
+/// transaction: programs that do so at once add each row once. A column that the table lacks is a fault.
+/// Gives their number; nothing is written to a table that has them all.
+Result<int> addNewerRows(const QString& path, const QString& table, const QList<QHash<QString, Value>>& rows);
 
 }  // namespace store

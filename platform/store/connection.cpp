@@ -1,6 +1,7 @@
 #include "platform/store/connection.h"
 
 #include <optional>
+#include <utility>
 
 #include "platform/store/current_row.h"
 #include "platform/store/engine.h"
@@ -110,13 +111,9 @@ struct Cursor::State {
   std::optional<TableFile> file;
   QVector<int> columns;
   RowList ids;
-  int at = 0;
+  int at = -1;
   mutable CurrentRow row;
-
-  /// Goes past rows that were deleted since.
-  void skipGone() {
-    while (at < ids.size() && !row.stands(*file, ids.at(at))) ++at;
-  }
+  mutable std::optional<Fault> fault;  ///< of a value of the row at hand
 };
 
 Cursor::Cursor() = default;
@@ -154,25 +151,39 @@ Result<Cursor> Cursor::open(Connection& connection, const QString& source) {
   Result<RowList> rows = selectRows(engine, table, {&*criteria, 1});
   if (!rows) return rows.fault();
   state->ids = std::move(*rows);
-  state->skipGone();
   Cursor cursor;
   cursor.m_state = std::move(state);
   return cursor;
 }
 
-bool Cursor::eof() const { return !m_state || m_state->at >= m_state->ids.size(); }
-
-void Cursor::moveNext() {
-  if (eof()) return;
-  ++m_state->at;
-  m_state->skipGone();
+Result<bool> Cursor::next() {
+  if (!m_state) return false;
+  State& state = *m_state;
+  if (state.fault) return *std::exchange(state.fault, std::nullopt);
+  for (; state.at + 1 < state.ids.size(); ++state.at) {  // past the rows that were deleted since
+    const Result<bool> exists = state.row.exists(*state.file, state.ids.at(state.at + 1));
+    if (!exists) return exists.fault();
+    if (!*exists) continue;
+    ++state.at;
+    return true;
+  }
+  state.at = state.ids.size();
+  return false;
 }
 
 Value Cursor::value(const QString& column) const {
-  if (eof()) return {};
+  if (!m_state || m_state->at < 0 || m_state->at >= m_state->ids.size()) return {};
   const int index = m_state->file->schema().find(column);
   if (!m_state->columns.contains(index)) return {};
-  return m_state->row.value(*m_state->file, m_state->ids.at(m_state->at), index);
+  Result<Value> read = m_state->row.value(*m_state->file, m_state->ids.at(m_state->at), index);
+  if (read) return std::move(*read);
+  m_state->fault = read.fault();
+  return {};
+}
+
+Done Cursor::check() const {
+  if (m_state && m_state->fault) return *m_state->fault;
+  return {};
 }
 
 QStringList Cursor::columns() const {

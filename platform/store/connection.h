@@ -27,7 +27,8 @@ class Connection {
   std::shared_ptr<Database> m_database;
 };
 
-/// A forward row set of a SELECT of the subset on a connection.
+/// A forward row set of a SELECT of the subset on a connection. It begins before the first row:
+/// `for (auto row = cursor.next();; row = cursor.next())` ends at false (no further row) or at a fault.
 class Cursor {
  public:
   Cursor();
@@ -36,9 +37,13 @@ class Cursor {
   Cursor& operator=(Cursor&&) noexcept;
 
   static Result<Cursor> open(Connection& connection, const QString& source);
-  bool eof() const;
-  void moveNext();
+  /// Goes to the next row that still exists; false where there is none. A fault where that row, or a value
+  /// of the row before, could not be read; the call after it tries again from the same place.
+  Result<bool> next();
+  /// A value of the row at hand. Null where it cannot be read, which next() and check() then report.
   Value value(const QString& column) const;
+  /// Whether all values of the row at hand were read; for a reader that needs no further row.
+  Done check() const;
   QStringList columns() const;
   void close();
 

@@ -3,15 +3,17 @@
 namespace store {
 namespace {
 
-constexpr qsizetype kMostFirstColumns = 9;
+/// Enough for the walks of this program; a form, which asks for more, reads its row whole at once.
+constexpr qsizetype kMaxFirstColumns = 9;
 
 }  // namespace
 
 void CurrentRow::forget() {
   m_id = kNoBookmark;
-  m_first.clear();
-  m_whole.clear();
-  m_firstRead = m_wholeRead = false;
+  m_first.reset();
+  m_whole.reset();
+  m_ahead.reset();
+  m_fault.reset();
 }
 
 void CurrentRow::goTo(qint64 id) {
@@ -20,48 +22,70 @@ void CurrentRow::goTo(qint64 id) {
   m_id = id;
 }
 
-void CurrentRow::readFirst(const TableFile& file) {
-  if (m_firstRead) return;
-  m_firstRead = true;
-  if (m_firstSelect.isEmpty()) m_firstSelect = file.selectText(m_firstColumns);
-  if (Result<Row> read = file.read(m_id, m_firstColumns, m_firstSelect)) m_first = std::move(*read);
-}
-
-const Row& CurrentRow::whole(const TableFile& file, qint64 id) {
-  goTo(id);
-  if (!m_wholeRead) {
-    m_wholeRead = true;
-    if (Result<Row> read = file.read(m_id)) m_whole = std::move(*read);
-    // What was read first counts as seen: a change since then must be noticed when the row is stored.
-    if (!m_whole.isEmpty())
-      for (qsizetype i = 0; i < m_first.size(); ++i) m_whole[m_firstColumns[i]] = m_first[i];
+Done CurrentRow::readFirst(const TableFile& file) {
+  if (m_first) return {};
+  if (m_ahead) {
+    m_first.emplace();
+    if (m_ahead->isEmpty()) return {};
+    for (const int column : m_firstColumns) *m_first += (*m_ahead)[column];
+    return {};
   }
-  return m_whole;
+  if (m_firstSelect.isEmpty()) m_firstSelect = file.selectText(m_firstColumns);
+  Result<Row> read = file.read(m_id, m_firstColumns, m_firstSelect);
+  if (!read) return *(m_fault = read.fault());
+  m_first = std::move(*read);
+  return {};
 }
 
-bool CurrentRow::stands(const TableFile& file, qint64 id) {
+Done CurrentRow::readAhead(const TableFile& file, qint64 id) {
   goTo(id);
-  if (m_wholeRead) return !m_whole.isEmpty();
-  readFirst(file);
-  return !m_first.isEmpty();
+  m_fault.reset();
+  if (m_whole || m_ahead) return {};
+  Result<Row> read = file.read(id);
+  if (!read) return *(m_fault = read.fault());
+  m_ahead = std::move(*read);
+  return {};
 }
 
-Value CurrentRow::value(const TableFile& file, qint64 id, int column) {
+Result<Row> CurrentRow::whole(const TableFile& file, qint64 id) {
   goTo(id);
-  if (!m_wholeRead) {
+  if (m_whole) return *m_whole;
+  Result<Row> read = file.read(id);
+  if (!read) return *(m_fault = read.fault());
+  m_whole = std::move(*read);
+  // What was read first counts as seen: a change since then must be noticed when the row is stored.
+  if (!m_whole->isEmpty() && m_first)
+    for (qsizetype i = 0; i < m_first->size(); ++i) (*m_whole)[m_firstColumns[i]] = (*m_first)[i];
+  return *m_whole;
+}
+
+Result<bool> CurrentRow::exists(const TableFile& file, qint64 id) {
+  goTo(id);
+  if (m_whole) return !m_whole->isEmpty();
+  m_fault.reset();
+  if (const Done read = readFirst(file); !read) return read.fault();
+  return !m_first->isEmpty();
+}
+
+Result<Value> CurrentRow::value(const TableFile& file, qint64 id, int column) {
+  goTo(id);
+  if (m_fault) return *m_fault;
+  if (!m_whole) {
     const qsizetype place = m_firstColumns.indexOf(column);
     if (place >= 0) {
-      readFirst(file);
-      return m_first.isEmpty() ? Value() : m_first[place];
+      if (const Done read = readFirst(file); !read) return read.fault();
+      return place < m_first->size() ? (*m_first)[place] : Value();
     }
-    (void)whole(file, id);
-    if (m_firstColumns.size() < kMostFirstColumns) {  // learnt for the rows to come
+    if (m_ahead)
+      m_whole = m_ahead;
+    else if (const Result<Row> read = whole(file, id); !read)
+      return read.fault();
+    if (m_firstColumns.size() < kMaxFirstColumns) {  // learnt for the rows to come
       m_firstColumns += column;
       m_firstSelect.clear();
     }
   }
-  const Row& row = whole(file, id);
-  return row.isEmpty() ? Value() : row[column];
+  return m_whole->isEmpty() ? Value() : (*m_whole)[column];
 }
 
 }  // namespace store

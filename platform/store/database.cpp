@@ -9,6 +9,7 @@
 #include <QHash>
 
 #include "platform/store/engine.h"
+#include "platform/store/growth.h"
 
 namespace store {
 namespace {
@@ -17,7 +18,7 @@ constexpr int kBusyMilliseconds = 5000;
 /// Written into the header of every file that this program makes.
 constexpr qint64 kApplicationId = 0x43485444;
 
-Fault told(const QString& path, const QString& why) {
+Fault fileFault(const QString& path, const QString& why) {
   return {QStringLiteral("「%1」%2").arg(QFileInfo(path).fileName(), why)};
 }
 
@@ -74,13 +75,13 @@ Done checkContent(sqlite3* handle, const QString& path) {
   const Result<qint64> id = pragmaNumber(handle, path, "PRAGMA application_id");
   if (!id) return id.fault();
   if (*id != kApplicationId)
-    return told(path, QStringLiteral("は、この治療台帳のデータファイルではありません。"));
+    return fileFault(path, QStringLiteral("は、この治療台帳のデータファイルではありません。"));
   const Result<qint64> pages = pragmaNumber(handle, path, "PRAGMA page_count");
   const Result<qint64> size = pragmaNumber(handle, path, "PRAGMA page_size");
   if (!pages || !size) return (!pages ? pages : size).fault();
   if (QFileInfo(path).size() < *pages * *size)
-    return told(path,
-                QStringLiteral("は、壊れているため使用できません。バックアップから元に戻してください。"));
+    return fileFault(
+        path, QStringLiteral("は、壊れているため使用できません。バックアップから元に戻してください。"));
   return {};
 }
 
@@ -119,19 +120,20 @@ Done fill(sqlite3* handle, const QString& path, const QString& catalogueFile, Fr
 
 Done checkFile(const QString& path) {
   const QFileInfo facts(path);
-  if (!facts.exists()) return told(path, QStringLiteral("が見つかりません。（%1）").arg(path));
-  if (facts.isDir()) return told(path, QStringLiteral("は、ファイルではなくフォルダです。"));
+  if (!facts.exists()) return fileFault(path, QStringLiteral("が見つかりません。（%1）").arg(path));
+  if (facts.isDir()) return fileFault(path, QStringLiteral("は、ファイルではなくフォルダです。"));
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly))
-    return told(path, QStringLiteral("を開くことができません。読み取りの権限を確認してください。"));
+    return fileFault(path, QStringLiteral("を開くことができません。読み取りの権限を確認してください。"));
   const QByteArray start = file.read(32);
-  if (start.isEmpty()) return told(path, QStringLiteral("は、中身が空のファイルです。"));
+  if (start.isEmpty()) return fileFault(path, QStringLiteral("は、中身が空のファイルです。"));
   const QByteArray mark = start.mid(4);
   if (mark.startsWith("Standard Jet DB") || mark.startsWith("Standard ACE DB"))
-    return told(path, QStringLiteral("は、Accessのデータベースです。このままでは開くことができません。"));
+    return fileFault(path,
+                     QStringLiteral("は、Accessのデータベースです。このままでは開くことができません。"));
   constexpr int kWriteVersion = 18;  // 2: a write-ahead log, which no file of this program has
   if (!start.startsWith("SQLite format 3") || start.size() < 32 || start[kWriteVersion] != 1)
-    return told(path, QStringLiteral("は、この治療台帳のデータファイルではありません。"));
+    return fileFault(path, QStringLiteral("は、この治療台帳のデータファイルではありません。"));
   return {};
 }
 
@@ -147,6 +149,14 @@ QString Database::path() const { return m_path; }
 sqlite3* Database::handle() const { return m_handle; }
 
 Result<std::shared_ptr<Database>> Database::open(const QString& path) {
+  Result<std::shared_ptr<Database>> opened = openAsItIs(path);
+  if (!opened || (*opened)->m_grown) return opened;
+  if (const Done grown = growToCatalogue((*opened)->engine()); !grown) return grown.fault();
+  (*opened)->m_grown = true;
+  return opened;
+}
+
+Result<std::shared_ptr<Database>> Database::openAsItIs(const QString& path) {
   const QString place = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
   const FileIdentity identity = identityOf(place);
   const OpenFile known = openFiles().value(place);
@@ -171,7 +181,7 @@ Done createFresh(const QString& path, const QString& catalogueFile, FreshColumns
   if (!tableOfFile(catalogueFile))
     return Fault{
         QStringLiteral("「%1」は、この治療台帳のデータファイルの名前ではありません。").arg(catalogueFile)};
-  if (QFileInfo::exists(path)) return told(path, QStringLiteral("は、すでにあります。"));
+  if (QFileInfo::exists(path)) return fileFault(path, QStringLiteral("は、すでにあります。"));
   // Made beside and renamed, so that a file that stands is always whole.
   const QString beside = path + QStringLiteral(".new");
   QFile::remove(beside);
@@ -184,7 +194,8 @@ Done createFresh(const QString& path, const QString& catalogueFile, FreshColumns
     done = fill(handle, path, catalogueFile, which);
   sqlite3_close_v2(handle);
   if (done && !QFile::rename(beside, path))
-    done = told(path, QStringLiteral("を作ることができません。フォルダの書き込みの権限を確認してください。"));
+    done = fileFault(path,
+                     QStringLiteral("を作ることができません。フォルダの書き込みの権限を確認してください。"));
   if (!done) QFile::remove(beside);
   return done;
 }

@@ -13,14 +13,19 @@ class Engine;
 
 /// One database file; both claim files are joined for one transaction by PairStore.
 ///
-/// Opening never makes a file and writes nothing: a missing, empty, alien or damaged one is told by name, and
-/// so is a real file of the office database that these files replace. A file without write permission opens
-/// for reading and tells its name when something is to be written to it. Opening a path again in the same
-/// thread gives the same Database, as long as one is held.
+/// Opening never makes a file: a missing, empty, alien or damaged one is a fault with its name, and so is a
+/// real file of the office database that these files replace. A file without write permission opens for
+/// reading, and writing to it is a fault with its name. Opening a path again in the same thread gives the
+/// same Database, as long as one is held.
+///
+/// A file of an older version gets the columns that it lacks when it is opened (growToCatalogue()); nothing
+/// else is written then.
 class Database : public std::enable_shared_from_this<Database> {
  public:
   /// Opens the file at the path. The fault's text names the file.
   static Result<std::shared_ptr<Database>> open(const QString& path);
+  /// The same without adding columns, for copies of the file as it is.
+  static Result<std::shared_ptr<Database>> openAsItIs(const QString& path);
   ~Database();
 
   QString path() const;
@@ -33,6 +38,7 @@ class Database : public std::enable_shared_from_this<Database> {
   QString m_path;
   sqlite3* m_handle;
   std::unique_ptr<Engine> m_engine;
+  bool m_grown = false;  ///< has the columns of the catalogue, or may only be read
 };
 
 /// The checks of opening by the file's first bytes alone: missing, empty, alien, a real office database.

@@ -1,5 +1,7 @@
 #include "platform/store/engine.h"
 
+#include <QFileInfo>
+
 namespace store {
 
 Result<std::shared_ptr<const TableSchema>> Engine::schema(const QString& table) {
@@ -18,6 +20,21 @@ Result<std::shared_ptr<const TableSchema>> Engine::schema(const QString& table) 
   auto made = std::make_shared<const TableSchema>(std::move(*read));
   m_schemas.insert(table, made);
   return made;
+}
+
+Result<QStringList> Engine::tables() {
+  Result<Statement*> names = m_statements.get(
+      QStringLiteral("SELECT name FROM sqlite_master WHERE type='table' AND name NOT LIKE 'sqlite%'"));
+  if (!names) return names.fault();
+  QStringList tables;
+  for (;;) {
+    const Result<bool> row = (*names)->step();
+    if (!row) return row.fault();
+    if (!*row) break;
+    tables += (*names)->text(0);
+  }
+  (*names)->rewind();
+  return tables;
 }
 
 void Engine::forget() {
@@ -57,6 +74,16 @@ quint32 Engine::changeCounter() const {
   unsigned char bytes[4] = {};
   if (file->pMethods->xRead(file, bytes, sizeof bytes, kCounterOffset) != SQLITE_OK) return 0;
   return quint32(bytes[0]) << 24 | quint32(bytes[1]) << 16 | quint32(bytes[2]) << 8 | quint32(bytes[3]);
+}
+
+bool Engine::isBusy() const {
+  const int code = sqlite3_errcode(handle()) & 0xFF;
+  return code == SQLITE_BUSY || code == SQLITE_LOCKED;
+}
+
+bool Engine::mayOnlyRead() const {
+  return sqlite3_db_readonly(handle(), "main") == 1 ||
+         !QFileInfo(QFileInfo(path()).absolutePath()).isWritable();
 }
 
 bool Engine::copiesAreTrue() { return !m_copies.empty() && m_copiesCounter == changeCounter(); }

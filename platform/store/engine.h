@@ -19,6 +19,8 @@ class Engine {
   StatementCache& statements() { return m_statements; }
 
   Result<std::shared_ptr<const TableSchema>> schema(const QString& table);
+  /// The names of the tables of data.
+  Result<QStringList> tables();
 
   /// The memory copy of a table, with these columns loaded and true to the file as it is now.
   Result<TableCopy*> copy(const QString& table, const QVector<int>& columns);
@@ -46,6 +48,10 @@ class Engine {
 
   /// The file's own count of its transactions, 0 where it cannot be read.
   quint32 changeCounter() const;
+  /// Whether the last call on the handle failed because another program holds the file.
+  bool isBusy() const;
+  /// Whether the file, or the folder that its journal goes to, may not be written.
+  bool mayOnlyRead() const;
   /// Counts this program's own writes; a list that read under another number reads again.
   quint64 writes() const { return m_writes; }
   /// The number of this program's last write to a row. A row that was read before it is read again; one that

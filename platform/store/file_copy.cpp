@@ -27,6 +27,7 @@ class HeldDatabase : public HeldFile {
   HeldDatabase(const QString& path, std::shared_ptr<Database> database)
       : HeldFile(path), m_database(std::move(database)) {}
   ~HeldDatabase() override {
+    // It ends a reading transaction: nothing is lost where it fails.
     if (m_begun) (void)execute(m_database->handle(), path(), QStringLiteral("ROLLBACK"));
   }
 
@@ -86,7 +87,7 @@ int renameOver(const QString& from, const QString& to) {
 }  // namespace
 
 Result<std::unique_ptr<HeldFile>> HeldFile::database(const QString& path) {
-  Result<std::shared_ptr<Database>> database = Database::open(path);
+  Result<std::shared_ptr<Database>> database = Database::openAsItIs(path);
   if (!database) return database.fault();
   auto held = std::make_unique<HeldDatabase>(path, std::move(*database));
   if (const Done done = held->hold(); !done) return done.fault();
@@ -255,7 +256,7 @@ Result<QByteArray> sumOf(const QString& path) {
   return back.sum();
 }
 
-bool isSoundDatabase(const QString& path) {
+bool isIntactDatabase(const QString& path) {
   const QByteArray address = QUrl::fromLocalFile(path).toEncoded(QUrl::FullyEncoded) + "?immutable=1";
   sqlite3* handle = nullptr;
   sqlite3_stmt* check = nullptr;

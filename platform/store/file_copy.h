@@ -106,8 +106,8 @@ void syncDisk(const QString& folder);
 /// The sum of a whole file, BLAKE2b of 512 bits in hexadecimal digits, as b2sum writes it.
 Result<QByteArray> sumOf(const QString& path);
 
-/// Looks through the trees of a database file that nobody has open: every page in its place, once. The values
-/// of the rows are not looked at, which makes it ten times as fast as the engine's own quick check.
-bool isSoundDatabase(const QString& path);
+/// Checks every B-tree page of a database file that nobody has open: each in its place, once. The values of
+/// the rows are not looked at, which makes it ten times as fast as the engine's own quick check.
+bool isIntactDatabase(const QString& path);
 
 }  // namespace store

@@ -1,6 +1,9 @@
 #include "platform/store/growth.h"
 
 #include <QStringList>
+#include <algorithm>
+#include <functional>
+#include <vector>
 
 #include "platform/store/catalogue.h"
 #include "platform/store/database.h"
@@ -28,16 +31,75 @@ const TableRow& tableOf(GrowthRun run) {
   return *tableOfFile(QString::fromUtf16(kFiles[static_cast<size_t>(run)]));
 }
 
-/// The columns of the run that the file lacks, as it stands now.
-Result<std::vector<const ColumnRow*>> missing(Engine& engine, GrowthRun run) {
+/// A column that a table of the file lacks.
+struct Missing {
+  QString table;
+  const ColumnRow* column;
+};
+using MissingColumns = std::vector<Missing>;
+
+template <class Wanted>
+void appendMissing(MissingColumns& missing, const TableSchema& schema, const TableRow& table,
+                   const Wanted& wanted) {
+  for (const ColumnRow& column : table.columns)
+    if (wanted(column) && schema.find(QString::fromUtf16(column.name)) < 0)
+      missing.push_back({schema.table(), &column});
+}
+
+/// The columns of the run that the file lacks, as it is now.
+Result<MissingColumns> missingOfRun(Engine& engine, GrowthRun run) {
   const Result<std::shared_ptr<const TableSchema>> schema =
       engine.schema(QString::fromUtf16(tableOf(run).table));
   if (!schema) return schema.fault();
-  std::vector<const ColumnRow*> columns;
-  for (const ColumnRow& column : tableOf(run).columns)
-    if (belongs(column, run) && (*schema)->find(QString::fromUtf16(column.name)) < 0)
-      columns.push_back(&column);
-  return columns;
+  MissingColumns missing;
+  appendMissing(missing, **schema, tableOf(run),
+                [run](const ColumnRow& column) { return belongs(column, run); });
+  return missing;
+}
+
+/// The catalogue's row of a table in a file of any name: of those that are called so, the one with which it
+/// has the most columns in common. None where the catalogue has no table of the name.
+const TableRow* catalogueRowOf(const TableSchema& schema) {
+  const TableRow* best = nullptr;
+  qsizetype mostCommon = -1;
+  for (const TableRow& row : catalogue()) {
+    if (schema.table() != QStringView(row.table)) continue;
+    const qsizetype common = std::ranges::count_if(row.columns, [&](const ColumnRow& column) {
+      return schema.find(QString::fromUtf16(column.name)) >= 0;
+    });
+    if (common > mostCommon) best = &row;
+    mostCommon = std::max(mostCommon, common);
+  }
+  return best;
+}
+
+/// The columns of no run that the tables of the file lack, as it is now.
+Result<MissingColumns> missingOfNoRun(Engine& engine) {
+  const Result<QStringList> tables = engine.tables();
+  if (!tables) return tables.fault();
+  MissingColumns missing;
+  for (const QString& table : *tables) {
+    const Result<std::shared_ptr<const TableSchema>> schema = engine.schema(table);
+    if (!schema) return schema.fault();
+    if (const TableRow* row = catalogueRowOf(**schema))
+      appendMissing(missing, **schema, *row, [](const ColumnRow& column) { return !column.added; });
+  }
+  return missing;
+}
+
+/// Adds what is missing in one transaction, or nothing. Asked again under the lock: another computer may be
+/// growing the same file.
+Done addAll(Engine& engine, const std::function<Result<MissingColumns>()>& stillMissing) {
+  const Done done = engine.write([&]() -> Done {
+    const Result<MissingColumns> missing = stillMissing();
+    if (!missing) return missing.fault();
+    for (const auto& [table, column] : *missing)
+      if (const Done added = engine.addColumn(table, QString::fromUtf16(column->name), column->type); !added)
+        return added;
+    return {};
+  });
+  engine.forget();  // also of what was rolled back
+  return done;
 }
 
 }  // namespace
@@ -45,7 +107,7 @@ Result<std::vector<const ColumnRow*>> missing(Engine& engine, GrowthRun run) {
 Result<bool> needsGrowth(const QString& path, GrowthRun run) {
   const Result<std::shared_ptr<Database>> database = Database::open(path);
   if (!database) return database.fault();
-  const Result<std::vector<const ColumnRow*>> lacks = missing((*database)->engine(), run);
+  const Result<MissingColumns> lacks = missingOfRun((*database)->engine(), run);
   if (!lacks) return lacks.fault();
   return !lacks->empty();
 }
@@ -57,19 +119,15 @@ Done grow(const QString& path, GrowthRun run) {
   const Result<std::shared_ptr<Database>> database = Database::open(path);
   if (!database) return database.fault();
   Engine& engine = (*database)->engine();
-  const Done done = engine.write([&]() -> Done {
-    // Asked again under the lock: another computer may be growing the same file.
-    const Result<std::vector<const ColumnRow*>> lacks = missing(engine, run);
-    if (!lacks) return lacks.fault();
-    for (const ColumnRow* column : *lacks) {
-      const Done added = engine.addColumn(QString::fromUtf16(tableOf(run).table),
-                                          QString::fromUtf16(column->name), column->type);
-      if (!added) return added;
-    }
-    return {};
-  });
-  engine.forget();  // also of what was rolled back
-  return done;
+  return addAll(engine, [&] { return missingOfRun(engine, run); });
+}
+
+Done growToCatalogue(Engine& engine) {
+  const Result<MissingColumns> missing = missingOfNoRun(engine);
+  if (!missing) return missing.fault();
+  // A file that may only be read is read without them; a store is refused by the file's name.
+  if (missing->empty() || engine.mayOnlyRead()) return {};
+  return addAll(engine, [&] { return missingOfNoRun(engine); });
 }
 
 }  // namespace store

@@ -6,7 +6,7 @@
 namespace store {
 
 Done checkIntegrity(const QString& path) {
-  const Result<std::shared_ptr<Database>> database = Database::open(path);
+  const Result<std::shared_ptr<Database>> database = Database::openAsItIs(path);
   if (!database) return database.fault();
   Result<Statement> check =
       Statement::prepare((*database)->handle(), path, QStringLiteral("PRAGMA integrity_check(1)"));

@@ -51,6 +51,29 @@ void RecordSet::movePrevious() {
   if (!bof()) m_state->moveTo(m_state->position - 1);
 }
 
+Done RecordSet::moveAndRead(const std::function<void(RecordSet&)>& move) {
+  if (!isOpen()) return noCurrentRow();
+  const int position = m_state->position;
+  const CurrentRow row = m_state->row();
+  move(*this);
+  const Done read = readRow();
+  if (read) return {};
+  m_state->moveTo(position);
+  m_state->current = row;
+  return read;
+}
+
+Done RecordSet::readRow() const {
+  if (!isOpen() || m_state->buffer != Buffer::None || !m_state->onRow()) return {};
+  m_state->fault.reset();
+  const Done read = m_state->row().readAhead(*m_state->file, m_state->id());
+  if (read)
+    m_state->shown.tryAgain();
+  else if (m_state->engine().isBusy())
+    m_state->shown.giveUp(read.fault());  // the lists need not wait once more
+  return read;
+}
+
 Bookmark RecordSet::bookmark() const { return m_state->id(); }
 
 void RecordSet::setBookmark(Bookmark bookmark) {
@@ -69,7 +92,8 @@ Value RecordSet::value(const QString& column) const {
   if (m_state->buffer == Buffer::Adding)
     return m_state->schema().type(index) == ColumnType::YesNo ? QStringLiteral("0") : Value();
   if (m_state->buffer == Buffer::Editing) return m_state->seen[index];
-  return m_state->onRow() ? m_state->row().value(*m_state->file, m_state->id(), index) : Value();
+  if (!m_state->onRow()) return {};
+  return m_state->valueOrFault(m_state->row().value(*m_state->file, m_state->id(), index));
 }
 
 QString RecordSet::own(const Column& column) const {
@@ -87,11 +111,16 @@ bool RecordSet::isYesNo(const QString& column) const {
 }
 
 Value RecordSet::valueAt(int position, const QString& column) const {
-  if (!isOpen() || position < 0 || position >= m_state->count()) return {};
-  const int index = m_state->schema().find(column);
-  if (index < 0) return {};
-  return m_state->shown.value(m_state->engine(), *m_state->file, m_state->ids.at(position), index);
+  return isOpen() ? m_state->valueOrFault(readAt(position, column)) : Value();
 }
+
+Result<Value> RecordSet::readAt(int position, const QString& column) const {
+  if (!isOpen() || position < 0 || position >= m_state->count()) return Value();
+  const int index = m_state->schema().find(column);
+  return index < 0 ? Value() : m_state->valueAt(position, index);
+}
+
+const std::optional<Fault>& RecordSet::fault() const { return m_state->fault; }
 
 Done RecordSet::addNew() {
   if (!isOpen()) return noCurrentRow();
@@ -103,12 +132,10 @@ Done RecordSet::addNew() {
 Done RecordSet::edit() {
   if (!isOpen() || !m_state->onRow()) return noCurrentRow();
   m_state->endEditing();
-  const Row& row = m_state->row().whole(*m_state->file, m_state->id());
-  if (row.isEmpty()) {
-    const Result<Row> again = m_state->file->read(m_state->id());
-    return again ? rowIsGone() : again.fault();
-  }
-  m_state->seen = row;
+  const Result<Row> row = m_state->row().whole(*m_state->file, m_state->id());
+  if (!row) return row.fault();
+  if (row->isEmpty()) return rowIsGone();
+  m_state->seen = *row;
   m_state->buffer = Buffer::Editing;
   return {};
 }

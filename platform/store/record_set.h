@@ -64,22 +64,36 @@ class RecordSet {
   void moveLast();
   void moveNext();
   void movePrevious();
+  /// Runs a move (moveNext(), setBookmark(), ...) and reads the row that it leads to. Where that row cannot
+  /// be read, the set stays on the present one, whose values need not be read again. What is being entered is
+  /// dropped, as by every move.
+  Done moveAndRead(const std::function<void(RecordSet& set)>& move);
+  /// Reads the current row whole, so that value() answers without the file until the set moves or the row is
+  /// written. A row that is gone is no fault: its values are null.
+  Done readRow() const;
 
   Bookmark bookmark() const;
   void setBookmark(Bookmark bookmark);
   /// The row that the last update() wrote.
   Bookmark lastModified() const;
 
-  /// The current row's value (of the row buffer while editing). A column that the table lacks reads null.
+  /// The current row's value (of the row buffer while editing). A column that the table lacks reads null, and
+  /// so does one that cannot be read: fault() says so then. After readRow() or moveAndRead() all can be read.
   Value value(const QString& column) const;
   /// The same of a column of the catalogue. One of another table is a mistake of the program: critical.
   Value value(const Column& column) const;
   /// Whether the column holds marks, "-1" and "0".
   bool isYesNo(const QString& column) const;
   bool isYesNo(const Column& column) const { return isYesNo(own(column)); }
-  /// The value of any row of the set by position, for lists; the current row does not move.
+  /// The value of any row of the set by position, for lists; the current row does not move. What cannot be
+  /// read is null, and fault() says so.
   Value valueAt(int position, const QString& column) const;
   Value valueAt(int position, const Column& column) const { return valueAt(position, own(column)); }
+  /// The same, with the fault in the value's place.
+  Result<Value> readAt(int position, const QString& column) const;
+  Result<Value> readAt(int position, const Column& column) const { return readAt(position, own(column)); }
+  /// Why value() or valueAt() gave null since the last move, readRow() or refresh(); none where all was read.
+  const std::optional<Fault>& fault() const;
 
   Done addNew();
   Done edit();
@@ -95,9 +109,10 @@ class RecordSet {
   /// Deletes the current row; the set then stands before the next one, as after movePrevious().
   Done remove();
 
-  /// Tells the columns of every row of the set in one pass, as the file holds them at one moment: for sums
-  /// and counts over many rows. Goes in ID order whatever the order of the set, does not move the current row
-  /// and passes over rows that are gone. The function must not write to the file. Refuses an unknown column.
+  /// Calls `each` with the columns of every row of the set in one pass, as the file holds them at one moment:
+  /// for sums and counts over many rows. Goes in ID order whatever the order of the set, does not move the
+  /// current row and passes over rows that are gone. The function must not write to the file. Refuses an
+  /// unknown column.
   Done forEach(const QStringList& columns, const std::function<void(RowViews values)>& each) const;
   /// Writes one column of every row of the set in one transaction, all or none. `newValue` makes it from the
   /// columns `reads` as they stand in the file at that moment, under the write lock: what another computer

@@ -13,6 +13,16 @@ CurrentRow& RecordSet::State::row() const {
   return current;
 }
 
+Value RecordSet::State::valueOrFault(Result<Value> read) const {
+  if (read) return std::move(*read);
+  fault = read.fault();
+  return {};
+}
+
+Result<Value> RecordSet::State::valueAt(int place, int column) const {
+  return shown.value(engine(), *file, ids.at(place), column);
+}
+
 void RecordSet::State::endEditing() {
   buffer = Buffer::None;
   changes.clear();
@@ -21,6 +31,7 @@ void RecordSet::State::endEditing() {
 
 void RecordSet::State::moveTo(int place) {
   endEditing();
+  fault.reset();
   position = place;
 }
 
@@ -33,6 +44,7 @@ Done RecordSet::State::load() {
   ids = std::move(*found);
   shown.clear();
   current.forget();
+  fault.reset();
   position = ids.empty() ? -1 : 0;
   return {};
 }
@@ -48,7 +60,7 @@ Done RecordSet::State::find(const QString& criteria, int from) {
   const std::vector<qint64> hits = rows->ids();
   for (int place = from; place < count(); ++place) {
     if (!std::binary_search(hits.begin(), hits.end(), ids.at(place))) continue;
-    position = place;
+    moveTo(place);
     noMatch = false;
     break;
   }

@@ -30,6 +30,7 @@ struct RecordSet::State {
   mutable RowCache shown;
   mutable CurrentRow current;
   mutable quint64 currentWrites = 0;
+  mutable std::optional<Fault> fault;  ///< of the last value that could not be read since the last move
 
   Buffer buffer = Buffer::None;
   Row seen;  ///< the row as it stood when editing began
@@ -42,6 +43,9 @@ struct RecordSet::State {
   qint64 id() const { return onRow() ? ids.at(position) : kNoBookmark; }
 
   CurrentRow& row() const;
+  /// The value, or null with its fault remembered.
+  Value valueOrFault(Result<Value> read) const;
+  Result<Value> valueAt(int place, int column) const;
   void endEditing();
   void moveTo(int place);
   Done load();

@@ -5,11 +5,12 @@ namespace store {
 void RowCache::clear() {
   m_rows.clear();
   m_columns.clear();
+  tryAgain();
 }
 
-Value RowCache::value(Engine& engine, const TableFile& file, qint64 id, int column) {
-  constexpr int kMostRows = 8192;
-  if (m_writes != engine.writes() || m_rows.size() > kMostRows) {
+Result<Value> RowCache::value(Engine& engine, const TableFile& file, qint64 id, int column) {
+  constexpr int kMaxRows = 8192;
+  if (m_writes != engine.writes() || m_rows.size() > kMaxRows) {
     m_rows.clear();
     m_writes = engine.writes();
   }
@@ -21,8 +22,11 @@ Value RowCache::value(Engine& engine, const TableFile& file, qint64 id, int colu
   }
   auto row = m_rows.find(id);
   if (row == m_rows.end() || row->size() <= place) {
+    if (m_busy) return *m_busy;
     Result<Row> read = file.read(id, m_columns, m_select);
-    if (!read || read->isEmpty()) return {};
+    if (!read && engine.isBusy()) m_busy = read.fault();
+    if (!read) return read.fault();
+    if (read->isEmpty()) return Value();
     row = m_rows.insert(id, std::move(*read));
   }
   return (*row)[place];

@@ -19,8 +19,8 @@ Order orderOf(std::span<const Criteria> all, const Order& order) {
 
 /// So few rows are read from the file one by one rather than a whole column for their sake.
 bool few(size_t rows, size_t all) {
-  constexpr size_t kMostRows = 4096;
-  return rows <= kMostRows && rows * 16 <= all;
+  constexpr size_t kMaxRows = 4096;
+  return rows <= kMaxRows && rows * 16 <= all;
 }
 
 /// A table of so many rows is read once for all steps rather than once for each.

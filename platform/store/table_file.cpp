@@ -6,8 +6,8 @@
 namespace store {
 
 Result<Statement*> StatementCache::get(const QString& sql) {
-  constexpr int kMostKept = 64;
-  if (m_statements.size() > kMostKept && !m_statements.contains(sql)) m_statements.clear();
+  constexpr int kMaxStatements = 64;
+  if (m_statements.size() > kMaxStatements && !m_statements.contains(sql)) m_statements.clear();
   std::shared_ptr<Statement>& kept = m_statements[sql];
   if (!kept) {
     Result<Statement> made = Statement::prepare(m_handle, m_path, sql);

@@ -17,7 +17,7 @@ class SystemClock final : public Clock {
   QDateTime now() const override { return QDateTime::currentDateTime(); }
 };
 
-/// A clock that stands where it was set, for tests and for `rulecheck`.
+/// A clock that always shows the time it was set to, for tests and for `rulecheck`.
 class FixedClock final : public Clock {
  public:
   explicit FixedClock(QDate date, QTime time = QTime(9, 0)) : m_now(date, time) {}

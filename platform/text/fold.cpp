@@ -41,7 +41,7 @@ const Table& foldTable() {
   return table;
 }
 
-/// The letter with its voiced mark, 0 where the two do not join.
+/// The letter with its voiced mark, 0 if the two do not combine.
 char16_t joined(char16_t letter, char16_t mark) {
   static const icu::Normalizer2* composer = [] {
     UErrorCode status = U_ZERO_ERROR;

@@ -16,7 +16,7 @@ QString writeQuotedList(const QStringList& fields);
 /// quoted field may hold commas and line ends. A line without any character is no record.
 QList<QStringList> readQuotedRecords(const QString& text);
 
-/// All fields of a text one behind another; the end of a line ends a field like a comma does.
+/// All fields of a text in order; the end of a line ends a field like a comma does.
 QStringList readQuotedList(const QString& text);
 
 }  // namespace text

@@ -7,7 +7,7 @@
 
 namespace text {
 
-/// What went wrong, in the words that the user is told (the engine's own text where an engine speaks).
+/// What went wrong, in the words for the user (the database's own text for its faults).
 struct Fault {
   QString message;
 };

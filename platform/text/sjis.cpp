@@ -51,7 +51,7 @@ QString decode(const QByteArray& bytes) {
   return result;
 }
 
-/// The bytes, or nothing where a character is lacking. Reading back is part of it: the library drops
+/// The bytes, or nothing if the code page lacks a character. Reading back is part of it: the library drops
 /// invisible characters without a word and knows a few one-way neighbours.
 std::optional<QByteArray> encode(QStringView text) {
   QByteArray bytes(2 * text.size() + 4, Qt::Uninitialized);
@@ -79,7 +79,7 @@ char32_t codePoint(QStringView character) {
   return character.size() == 2 ? QChar::surrogateToUcs4(character[0], character[1]) : character[0].unicode();
 }
 
-/// The character that a reference beginning at `at` stands for, and where it ends.
+/// The character of the reference that begins at `at`, and the end of the reference.
 std::optional<std::pair<QString, qsizetype>> referenceAt(const QString& text, qsizetype at) {
   if (!QStringView(text).mid(at).startsWith(u"&#x")) return std::nullopt;
   const qsizetype end = text.indexOf(u';', at);

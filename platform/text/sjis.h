@@ -7,7 +7,7 @@
 
 namespace text {
 
-/// Shift-JIS as the desk computers of this trade have always written it: code page 932 with the NEC and
+/// Shift-JIS as the desktop computers of this trade have always written it: code page 932 with the NEC and
 /// IBM characters (①, ～ as U+FF5E, 髙, 﨑). Bytes and text map to each other one to one.
 
 /// The bytes of a text. A character that the code page lacks makes a fault that names it; nothing is

@@ -8,7 +8,7 @@
 namespace text {
 
 /// Small files that are read and written whole (settings, word history, one-record files). Faults name the
-/// file and tell the system's own reason.
+/// file and give the system's own reason.
 
 Result<QByteArray> readWholeFile(const QString& path);
 

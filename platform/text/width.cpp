@@ -22,7 +22,7 @@ constexpr QStringView kHalfVoiceable = u"ハヒフヘホ";
 constexpr QStringView kHalfVoicedForms = u"パピプペポ";
 static_assert(kVoiceable.size() == kVoicedForms.size() && kHalfVoiceable.size() == kHalfVoicedForms.size());
 
-/// The kana with the mark that follows it, or 0 where the two do not go together.
+/// The kana with the mark that follows it, or 0 if the two do not combine.
 char16_t withMark(char16_t kana, char16_t mark) {
   if (mark == kVoiced && kana == u'ウ') return u'ヴ';
   const QStringView plain = mark == kVoiced ? kVoiceable : kHalfVoiceable;

@@ -14,8 +14,8 @@ namespace {
 /// Where the system keeps the dictionary in UTF-8; the second is the system's choice of several.
 constexpr const char* kDictionaries[] = {"/var/lib/mecab/dic/ipadic-utf8", "/var/lib/mecab/dic/debian"};
 
-/// Columns of a word's entry. The reading is taken and not the pronunciation behind it: its long vowels are
-/// written out (キュウ), which the voice says better than a stroke.
+/// Columns of a word's entry. The reading is used and not the pronunciation that follows it: its long vowels
+/// are written out (キュウ), which the voice says better than a stroke.
 constexpr int kReadingColumn = 7, kColumns = 9;
 
 /// Said for a kanji that no dictionary knows.

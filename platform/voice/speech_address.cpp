@@ -18,7 +18,7 @@
 namespace voice {
 namespace {
 
-constexpr int kPatience = 2000;  // ms
+constexpr int kReplyTimeout = 2000;  // ms
 
 struct AddressCloser {
   void operator()(SPDConnectionAddress* address) const { SPDConnectionAddress__free(address); }
@@ -33,7 +33,7 @@ int connected(int family, const sockaddr* address, socklen_t length) {
     pollfd wait{socket, POLLOUT, 0};
     int fault = 0;
     socklen_t size = sizeof fault;
-    done = ::poll(&wait, 1, kPatience) == 1 &&
+    done = ::poll(&wait, 1, kReplyTimeout) == 1 &&
            ::getsockopt(socket, SOL_SOCKET, SO_ERROR, &fault, &size) == 0 && fault == 0;
   }
   if (done) return socket;

@@ -13,7 +13,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::milliseconds kPatience{2000};
+constexpr std::chrono::milliseconds kReplyTimeout{2000};
 
 /// Waits until the socket is ready for `event`; false when the time is up.
 bool ready(int socket, short event, Clock::time_point until) {
@@ -23,7 +23,7 @@ bool ready(int socket, short event, Clock::time_point until) {
 }
 
 bool send(int socket, const QByteArray& bytes) {
-  const auto until = Clock::now() + kPatience;
+  const auto until = Clock::now() + kReplyTimeout;
   for (qsizetype done = 0; done < bytes.size();) {
     if (!ready(socket, POLLOUT, until)) return false;
     // No signal: a service that goes away must not take the program with it.
@@ -69,7 +69,7 @@ bool SpeechConnection::greet() {
   const auto module = ask("GET OUTPUT_MODULE");
   m_readsKanji = module && moduleReadsKanji(module->trimmed());
   // Priority "message", because texts of priority "text" cut each other off: a screen's heading would be
-  // lost to the field that is spoken behind it. What is to be cut is cut by cancel().
+  // lost to the field that is spoken after it. What is to be cut is cut by cancel().
   ask("SET SELF LANGUAGE ja");  // a service without that language still says something
   return ask("SET SELF PRIORITY MESSAGE").has_value();
 }
@@ -88,7 +88,7 @@ std::optional<QByteArray> SpeechConnection::ask(const QByteArray& line) {
 
 /// Lines "251-..." are the answer's contents, the line "251 ..." ends it. Codes from 300 on are refusals.
 std::optional<QByteArray> SpeechConnection::answer() {
-  const auto until = Clock::now() + kPatience;
+  const auto until = Clock::now() + kReplyTimeout;
   QByteArray contents;
   for (;;) {
     for (qsizetype end; (end = m_received.indexOf("\r\n")) >= 0;) {

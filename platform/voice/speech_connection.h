@@ -11,12 +11,12 @@ namespace voice {
 /// service's answer, but never longer than two seconds; false means that the connection is lost. Only the
 /// worker of the speech channel holds one.
 ///
-/// The service's client library finds the address and nothing more: its calls wait for ever where a service
-/// hangs, and crash where one goes away between a question and its answer.
+/// The service's client library finds the address and nothing more: its calls wait forever when a service
+/// hangs, and crash when one goes away between a question and its answer.
 class SpeechConnection {
  public:
-  /// Connects for Japanese texts; nothing where no service answers. `startService`: has the service of this
-  /// user started where none listens.
+  /// Connects for Japanese texts; nothing if no service answers. `startService`: has the service of this
+  /// user started if none is running.
   static std::unique_ptr<SpeechConnection> open(bool startService);
   ~SpeechConnection();
   SpeechConnection(const SpeechConnection&) = delete;

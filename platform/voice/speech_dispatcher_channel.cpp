@@ -27,7 +27,7 @@ struct Task {
   std::optional<QString> text;
 };
 
-/// Opens connections, and has the service started now and then where that is ours to do.
+/// Opens connections, and has the service started from time to time if that is up to the program.
 class ServiceDoor {
  public:
   std::unique_ptr<SpeechConnection> open() {

@@ -9,7 +9,7 @@ namespace voice {
 
 /// The voice control on the system's speech service.
 ///
-/// Every call returns at once: a worker thread behind a queue speaks with the service, starts it where none
+/// Every call returns at once: a worker thread reads a queue and speaks with the service, starts it if none
 /// runs, and finds it again after it went away. The queue holds what is still to be said since the last
 /// stop, so that after a silence the newest text is heard and not a backlog. Voices that cannot read kanji
 /// are given the kana reading.
@@ -29,7 +29,7 @@ class SpeechDispatcherChannel final : public VoiceControl {
 
  private:
   struct Shared;
-  std::shared_ptr<Shared> m_shared;  ///< outlives this where the worker hangs in the service
+  std::shared_ptr<Shared> m_shared;  ///< outlives this if the worker hangs in the service
   std::thread m_worker;
 };
 

@@ -126,7 +126,7 @@ class Speaker {
     }
   }
 
-  /// A number and the character behind it that it counts.
+  /// A number and the counter character that follows it.
   bool counted(const QString& digits) {
     if (digits.size() > 4) return false;
     const int value = digits.toInt();

@@ -250,7 +250,7 @@ QList<Word> wordsByLength() {
 bool isHalfKana(QChar c) { return c >= QChar(0xFF61) && c <= QChar(0xFF9F); }
 bool isFullAscii(QChar c) { return c > QChar(0xFF00) && c < QChar(0xFF5F); }
 
-/// Whether the × at the place stands in a product, "1,610円 × 2回", and is no cross of a form.
+/// Whether the × at the place belongs to a product, "1,610円 × 2回", and is no cross of a form.
 bool multiplies(const QString& text, qsizetype at) {
   qsizetype before = at - 1, behind = at + 1;
   while (before >= 0 && text[before] == u' ') --before;

@@ -6,7 +6,7 @@ namespace voice {
 
 /// The mode that every call of the two library channels carries.
 inline constexpr int kSpeechMode = 2;
-/// SpeechSeparator: stands between the parts of a spoken text (character code 254).
+/// SpeechSeparator: separates the parts of a spoken text (character code 254).
 inline constexpr QChar kSpeechSeparator{0x00FE};
 
 /// The voice control: speech that is stopped, said and started.

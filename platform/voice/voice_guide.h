@@ -28,7 +28,7 @@ class VoiceGuide {
   /// The same after a stop: a screen's heading and notes.
   void speakHeading(const QStringList& parts);
 
-  /// Until the next call of release(), speakField and speakFocus queue behind what is being said instead
+  /// Until the next call of release(), speakField and speakFocus queue after what is being said instead
   /// of cutting it: the first focus of a new window must not cut the sentence the window opens with.
   void holdForOpening();
   /// Ends one holdForOpening(): when all have ended the next focus cuts again. Two windows that open one

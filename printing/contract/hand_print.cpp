@@ -12,7 +12,7 @@ RunEnd runHandPrint(report::ReportOperations& engine, const HandJob& job) {
     engine.PR_EndPage();
   }
   engine.PR_EndDoc();
-  return RunEnd::Printed;
+  return engine.lastDocument() ? RunEnd::Printed : RunEnd::NotTaken;
 }
 
 }  // namespace printing

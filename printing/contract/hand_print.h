@@ -14,7 +14,7 @@ struct HandJob {
   std::function<void(report::ReportOperations&, int page)> draw;
 };
 
-/// One job: question, start, pages, end. Cancelled, NotStarted or Printed.
-RunEnd runHandPrint(report::ReportOperations& engine, const HandJob& job);
+/// One job: question, start, pages, end. Cancelled, NotStarted, NotTaken or Printed.
+[[nodiscard]] RunEnd runHandPrint(report::ReportOperations& engine, const HandJob& job);
 
 }  // namespace printing

@@ -33,6 +33,7 @@ RunEnd runPrint(report::ReportOperations& engine, const PrintJob& job) {
     return RunEnd::NotLoaded;
   }
   engine.PR_EndDoc();
+  if (!engine.lastDocument()) return RunEnd::NotTaken;
   if (job.cleanUp) job.cleanUp();
   return RunEnd::Printed;
 }

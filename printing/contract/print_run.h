@@ -20,19 +20,20 @@ struct PrintJob {
   bool itemsOnly = false;                                   ///< data alone, for paper printed already
   std::function<void(ReportFields&, int page)> afterFrame;  ///< further hides of this form, optional
   std::function<void(ReportFields&, int page)> fill;
-  std::function<void()> cleanUp;  ///< after the document went out, optional
+  std::function<void()> cleanUp;  ///< after the document went out, optional; not after NotTaken
 };
 
-/// How a run ended. None of these is told to the user: printing has no error dialogs of its own.
+/// How a run ended. The run itself shows nothing of it: printing has no error dialogs of its own.
 enum class RunEnd {
   Cancelled,   ///< the prompt was refused; the printing screen stays open
   Broken,      ///< the claim is not printable; the engine was not called
   NotStarted,  ///< the printer refused the document
   NotLoaded,   ///< the template could not be loaded; the document was dropped
+  NotTaken,    ///< the document is finished, and the printer did not take it: lastDocument() says why
   Printed,
 };
 
 /// PrintRun: performs the ten steps of one job in their fixed order.
-RunEnd runPrint(report::ReportOperations& engine, const PrintJob& job);
+[[nodiscard]] RunEnd runPrint(report::ReportOperations& engine, const PrintJob& job);
 
 }  // namespace printing

@@ -1,30 +1,56 @@
 #include "printing/core/amount_boxes.h"
 
+#include "platform/text/number.h"
+
 namespace printing {
 
 namespace {
 
-constexpr AmountCell kHariCells[] = {{4, 7, 51}, {10, 13, 54}, {16, 19, 57}, {22, 25, 60}, {28, 31, 63}};
-constexpr AmountTriple kHariTriples[] = {34, 37, 40};
-constexpr int kHariSingles[] = {1, 2, 3, 45, 46, 47, 48};
-// Kept: the unit fees of the first visit line have always been crossed in their names.
-constexpr AmountBox kHariCrossed[] = {{10, 13}, {13, 10}};
+using claims::AmountItem;
 
-constexpr AmountCell kMassageCells[] = {{10, 13, 71}, {16, 19, 74}, {22, 25, 77}, {28, 31, 80}, {34, 37, 83}};
-constexpr AmountTriple kMassageTriples[] = {40, 43, 46, 49, 52};
-constexpr int kMassageSingles[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 57, 58, 59, 60};
+void showBox(ReportFields& fields, int box, const QString& text) {
+  if (box != 0) fields.show(QStringLiteral("dain") + QString::number(box), text);
+}
 
-constexpr AmountLayout kHari = {u"h1", kHariCells, kHariTriples, kHariSingles, kHariCrossed, 47};
-constexpr AmountLayout kMassage = {u"m1", kMassageCells, kMassageTriples, kMassageSingles, {}, 59};
+/// Puts the fields of an item into the boxes.
+void putItem(ReportFields& fields, const claims::AmountRecord& record, const AmountItem& item,
+             const claims::AmountBoxes& boxes) {
+  using Parts = claims::RecordFields::Parts;
+  const Parts parts = item.field.parts;
+  const int first = item.field.first;
+  const int amount = parts == Parts::Line ? first + 2 : first;
+  const int count = parts == Parts::Line ? first + 1 : first;
+  showBox(fields, boxes.unit, text::thousands(record.number(first)));
+  showBox(fields, boxes.count, text::thousands(record.number(count)));
+  showBox(fields, boxes.amount, text::thousands(record.number(amount)));
+}
+
+/// Whether the other item of the item's cell has no count, so that this one goes to the middle.
+bool aloneInCell(const claims::AmountRecord& record, const AmountItem& item) {
+  if (item.boxes.alone == 0) return false;
+  return std::ranges::none_of(record.rules->items, [&](const AmountItem& other) {
+    return &other != &item && other.boxes.alone == item.boxes.alone && record.counted(other);
+  });
+}
 
 }  // namespace
 
-const AmountLayout& amountLayout(PrintKind kind) { return kind == PrintKind::Acupuncture ? kHari : kMassage; }
+claims::Kind recordKind(PrintKind kind) {
+  return kind == PrintKind::Massage ? claims::Kind::Massage : claims::Kind::Acupuncture;
+}
 
-int boxOf(const AmountLayout& layout, int field) {
-  for (const AmountBox& crossed : layout.crossed)
-    if (crossed.field == field) return crossed.box;
-  return field;
+void printRecord(ReportFields& fields, const claims::AmountRecord& record) {
+  for (const AmountItem& item : record.rules->items) {
+    if (!record.version->records(item)) continue;
+    if (item.boxes.wholeLine() && !record.counted(item)) continue;
+    const bool alone = aloneInCell(record, item);
+    putItem(fields, record, item, alone ? claims::lineBoxes(item.boxes.alone) : item.boxes);
+  }
+}
+
+void showShare(ReportFields& fields, const claims::KindRules& rules, const QString& text) {
+  for (const AmountItem& item : rules.items)
+    if (item.figure == claims::Figure::Share) showBox(fields, item.boxes.amount, text);
 }
 
 }  // namespace printing

@@ -1,4 +1,4 @@
-#include "claims/core/kinds.h"
+#include "claims/core/insurance.h"
 #include "claims/core/print_fields.h"
 #include "printing/core/claim_blocks.h"
 
@@ -6,48 +6,48 @@ namespace printing {
 
 namespace {
 
-constexpr Variant kApplicant[] = {{13, u"Name5_3"}, {kAnyLength, u"Name5_5"}};
-constexpr Variant kMandator[] = {{13, u"Name5_6"}, {kAnyLength, u"Name5_7"}};
-constexpr Variant kInsurer[] = {{12, u"Name48"}, {16, u"Name48_1"}, {kAnyLength, u"Name48_2"}};
+constexpr ItemSize kApplicant[] = {{13, u"Name5_3"}, {kAnyLength, u"Name5_5"}};
+constexpr ItemSize kMandator[] = {{13, u"Name5_6"}, {kAnyLength, u"Name5_7"}};
+constexpr ItemSize kInsurer[] = {{12, u"Name48"}, {16, u"Name48_1"}, {kAnyLength, u"Name48_2"}};
 
 /// The insured, or for a late-elderly claim, where the practice has chosen so, the person treated.
 QString applicantName(const Sheet& sheet) {
   const QString flag = sheet.source.profile[frame::profile::kElderlyNamePrinted];
   const bool treated = sheet.lateElderly() && (flag == u"1" || flag == u"11" || flag == u"111");
-  return sheet.value(treated ? u"療養を受ける者の氏名" : u"被保険者の氏名");
+  return sheet.value(treated ? claim::treatedName : claim::insuredName);
 }
 
 /// c6, the word behind the insurer's name; where it was never chosen, the one of the kind of insurance.
 QString addressee(const Sheet& sheet) {
-  const QString chosen = sheet.value(u"c6");
-  return chosen.isEmpty() ? claims::defaultAddressee(sheet.value(u"保険の種類")) : chosen.trimmed();
+  const QString chosen = sheet.value(claim::addressee);
+  return chosen.isEmpty() ? claims::defaultAddressee(sheet.value(claim::insuranceKind)) : chosen.trimmed();
 }
 
 }  // namespace
 
-void insuredBlock(Sheet& sheet) {
-  const QString name = applicantName(sheet), address = sheet.value(u"被保険者の住所");
-  const QString zip = claims::printFields(sheet.claim).value(QStringLiteral("被保険者の郵便番号"));
-  sheet.fields.variant(kApplicant, name);
-  sheet.fields.show(u"Name12", address);
-  if (!zip.isEmpty()) sheet.fields.show(u"yuubin1", u'〒' + zip);
-  sheet.show(u"HHokenTel", u"被保険者の電話番号");
-  sheet.fields.show(u"HHokenAdd", address);
+void fillInsured(Sheet& sheet) {
+  const QString name = applicantName(sheet), address = sheet.value(claim::insuredAddress);
+  const QString zip = claims::printFields(sheet.claim).value(claim::insuredZip);
+  sheet.fit(kApplicant, name);
+  sheet.print(u"Name12", address);
+  if (!zip.isEmpty()) sheet.print(u"yuubin1", u'〒' + zip);
+  sheet.copy(u"HHokenTel", claim::insuredTelephone);
+  sheet.print(u"HHokenAdd", address);
   if (!sheet.settings.on(Setting::Mandate)) return;
-  sheet.fields.show(u"Name13", address);
-  if (sheet.settings.on(Setting::MandateName)) sheet.fields.variant(kMandator, name);
+  sheet.print(u"Name13", address);
+  if (sheet.settings.on(Setting::MandateName)) sheet.fit(kMandator, name);
 }
 
-void insurerName(Sheet& sheet) {
-  const QString name = sheet.value(u"区市町村名称"), word = addressee(sheet);
+void fillInsurerName(Sheet& sheet) {
+  const QString name = sheet.value(claim::municipalityName), word = addressee(sheet);
   if (sheet.insuranceIs({u"全国健康保険協会"}) && word == u"全国健康保険協会支部長")
-    return sheet.fields.show(u"Name48_1", QStringLiteral("全国健康保険協会%1支部長").arg(name));
-  if (!name.isEmpty()) sheet.fields.variant(kInsurer, name + word);
+    return sheet.print(u"Name48_1", QStringLiteral("全国健康保険協会%1支部長").arg(name));
+  if (!name.isEmpty()) sheet.fit(kInsurer, name + word);
 }
 
-void workplace(Sheet& sheet) {
-  sheet.show(u"JigyouName", u"事業所の名称");
-  sheet.show(u"JigyouAdd", u"事業所の所在地");
+void fillWorkplace(Sheet& sheet) {
+  sheet.copy(u"JigyouName", claim::employerName);
+  sheet.copy(u"JigyouAdd", claim::employerAddress);
 }
 
 }  // namespace printing

@@ -4,36 +4,46 @@ namespace printing {
 
 namespace {
 
-constexpr Variant kBranch[] = {{8, u"Name47"}, {kAnyLength, u"Name471"}};
-constexpr Variant kHolder[] = {{36, u"kouza3"}, {kAnyLength, u"kouza4"}};
-constexpr int kAccountBoxes = 8;
+constexpr ItemSize kBranch[] = {{8, u"Name47"}, {kAnyLength, u"Name471"}};
+constexpr ItemSize kHolder[] = {{36, u"kouza3"}, {kAnyLength, u"kouza4"}};
 
-/// An item that circles one of the printed words, and the column that names it.
-struct ChoiceRow {
-  const char16_t* item;
-  const char16_t* column;
+/// Columns of whoever the account belongs to: the practitioner or the representative.
+struct Account {
+  store::Column bank, postOffice, branch, deposit, bankKind, branchKind, number, holder, holderKana;
 };
-constexpr ChoiceRow kChoices[] = {
-    {u"yokin2", u"預金の種類"}, {u"kinyuu3", u"金融機関名種類"}, {u"kinyuu6", u"本店支店名種類"}};
+constexpr Account kPractitioner = {claim::bank,    claim::postOffice,    claim::branch,
+                                   claim::deposit, claim::bankKind,      claim::branchKind,
+                                   claim::account, claim::accountHolder, claim::accountHolderKana};
+constexpr Account kRepresentative = {
+    claim::agentBank,    claim::agentPostOffice,    claim::agentBranch,
+    claim::agentDeposit, claim::agentBankKind,      claim::agentBranchKind,
+    claim::agentAccount, claim::agentAccountHolder, claim::agentAccountHolderKana};
+
+/// The column's text, or that of the second where it is blank.
+QString either(const Sheet& sheet, const store::Column& column, const store::Column& other) {
+  const QString text = sheet.value(column);
+  return text.isEmpty() ? sheet.value(other) : text;
+}
 
 }  // namespace
 
-void bankBlock(Sheet& sheet) {
-  sheet.show(u"siharai_kbn", u"支払い機関区分");
+void fillBank(Sheet& sheet) {
+  sheet.copy(u"siharai_kbn", claim::payment);
   const Switch whose = sheet.settings.of(Setting::Bank);
   if (whose == Switch::Empty) return;
-  const QString owner = whose == Switch::On ? QString() : QStringLiteral("代表者");
-  const auto value = [&](QStringView column) { return sheet.value(owner + column.toString()); };
+  const Account& account = whose == Switch::On ? kPractitioner : kRepresentative;
 
   // A payment through the post office names no bank.
-  sheet.fields.show(u"Name14", value(u"金融機関名").isEmpty() ? value(u"郵便局名") : value(u"金融機関名"));
-  sheet.fields.variant(kBranch, value(u"本店支店名"));
-  for (const ChoiceRow& row : kChoices) sheet.fields.show(row.item, value(row.column));
-  sheet.fields.show(u"kouza2", value(u"口座番号"));
-  sheet.fields.digits(u"kouza_num", value(u"口座番号"), kAccountBoxes);
+  sheet.print(u"Name14", either(sheet, account.bank, account.postOffice));
+  sheet.fit(kBranch, sheet.value(account.branch));
+  // The three items circle one of the printed words.
+  sheet.copy(u"yokin2", account.deposit);
+  sheet.copy(u"kinyuu3", account.bankKind);
+  sheet.copy(u"kinyuu6", account.branchKind);
+  sheet.copy(u"kouza2", account.number);
+  sheet.digits(u"kouza_num", sheet.value(account.number));
   // The box asks for katakana.
-  const QString kana = value(u"口座名義カタカナ");
-  sheet.fields.variant(kHolder, kana.isEmpty() ? value(u"口座名義") : kana);
+  sheet.fit(kHolder, either(sheet, account.holderKana, account.holder));
 }
 
 }  // namespace printing

@@ -4,20 +4,23 @@ namespace printing {
 
 namespace {
 
-constexpr Variant kDoctor[] = {{8, u"Name17"}, {kAnyLength, u"Name17_2"}};
-constexpr Variant kDoctorAddress[] = {{17, u"Name18_1"}, {35, u"Name18_2"}, {kAnyLength, u"Name18_3"}};
-constexpr Variant kConsented[] = {{10, u"Name20"}, {kAnyLength, u"Text369"}};
+constexpr ItemSize kDoctor[] = {{8, u"Name17"}, {kAnyLength, u"Name17_2"}};
+constexpr ItemSize kDoctorAddress[] = {{17, u"Name18_1"}, {35, u"Name18_2"}, {kAnyLength, u"Name18_3"}};
+constexpr ItemSize kConsented[] = {{10, u"Name20"}, {kAnyLength, u"Text369"}};
+
+constexpr DateItems kConsentDate = {u"GG14", u"YY14", u"MM14", u"DD14"};
+constexpr DateItems kCareFrom = {u"GG15", u"YY15", u"MM15", u"DD15"};
 
 }  // namespace
 
-void doctorBlock(Sheet& sheet) {
+void fillDoctor(Sheet& sheet) {
   if (!sheet.settings.on(Setting::Doctor)) return;
-  sheet.fields.variant(kDoctor, sheet.value(u"同意医師氏名"));
-  sheet.fields.variant(kDoctorAddress, sheet.value(u"同意医師住所"));
-  sheet.fields.variant(kConsented, sheet.value(u"同意の傷病名"));
-  showDate(sheet, QStringLiteral("14"), sheet.value(u"実際の同意の年月日"));
-  showDate(sheet, QStringLiteral("15"), sheet.value(u"要加療期間1"));
-  sheet.show(u"Name19", u"要加療期間2");
+  sheet.fit(kDoctor, sheet.value(claim::doctorName));
+  sheet.fit(kDoctorAddress, sheet.value(claim::doctorAddress));
+  sheet.fit(kConsented, sheet.value(claim::consentDisease));
+  printDate(sheet, kConsentDate, sheet.value(claim::consentDate));
+  printDate(sheet, kCareFrom, sheet.value(claim::consentFrom));
+  sheet.copy(u"Name19", claim::consentUntil);
 }
 
 }  // namespace printing

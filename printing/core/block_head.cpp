@@ -21,20 +21,20 @@ QString behind39(const QString& typed) {
 
 void lateElderlyNumber(Sheet& sheet, const QString& number) {
   if (!hasDigit(number)) return;
-  sheet.fields.show(u"HokenNo_1", QStringLiteral("3"));
-  sheet.fields.show(u"HokenNo_2", QStringLiteral("9"));
-  sheet.fields.digits(u"HokenNo_", number, kNumberBoxes, 3);
+  sheet.print(u"HokenNo_1", QStringLiteral("3"));
+  sheet.print(u"HokenNo_2", QStringLiteral("9"));
+  sheet.digits(u"HokenNo_", number, 3);
 }
 
 /// The claim's registration number: c14 of acupuncture, c15 of massage, which falls back to c14.
 QString registrationNumber(const Sheet& sheet) {
-  const QString massage = sheet.source.acupuncture() ? QString() : sheet.value(u"c15");
-  return massage.isEmpty() ? sheet.value(u"c14") : massage;
+  const QString massage = sheet.source.acupuncture() ? QString() : sheet.value(claim::registrationMassage);
+  return massage.isEmpty() ? sheet.value(claim::registrationHari) : massage;
 }
 
 /// The claim's own institution number, or the practice's number of this kind of treatment.
 QString associationNumber(const Sheet& sheet) {
-  const QString own = sheet.value(u"師会等の機関番号");
+  const QString own = sheet.value(claim::institutionNumber);
   if (!own.isEmpty()) return own;
   return sheet.source.profile[sheet.source.acupuncture() ? frame::profile::kInstitutionHari
                                                          : frame::profile::kInstitutionMassage];
@@ -43,79 +43,78 @@ QString associationNumber(const Sheet& sheet) {
 /// Mie chooses the institution items again: a late-elderly claim prints the late-elderly number.
 void institutionCodeOfMie(Sheet& sheet, bool registered) {
   if (registered) {
-    sheet.fields.hide(u"KikanCode1");
-    sheet.fields.hide(u"KoukiCode");
+    sheet.hide(u"KikanCode1");
+    sheet.hide(u"KoukiCode");
   } else if (sheet.lateElderly()) {
-    sheet.fields.hide(u"KikanCode");
-    sheet.fields.hide(u"KikanCode1");
-    sheet.fields.show(u"KoukiCode",
-                      sheet.source.profile[sheet.source.acupuncture() ? frame::profile::kElderlyHari
-                                                                      : frame::profile::kElderlyMassage]);
+    sheet.hide(u"KikanCode");
+    sheet.hide(u"KikanCode1");
+    sheet.print(u"KoukiCode",
+                sheet.source.profile[sheet.source.acupuncture() ? frame::profile::kElderlyHari
+                                                                : frame::profile::kElderlyMassage]);
   }
 }
 
 }  // namespace
 
-void printDate(Sheet& sheet) {
-  sheet.fields.show(u"Date", sheet.dates.clock().today().toString(QStringLiteral("yyyy/MM/dd")));
+void fillPrintDate(Sheet& sheet) {
+  sheet.print(u"Date", sheet.dates.clock().today().toString(QStringLiteral("yyyy/MM/dd")));
 }
 
-void claimMonth(Sheet& sheet) {
-  const DateWords words = dateWords(sheet.value(u"申請年月"), sheet.dates);
+void fillClaimMonth(Sheet& sheet) {
+  const DateWords words = dateWords(sheet.value(claim::month), sheet.dates);
   // On paper that is printed already the era word stands there.
-  if (!sheet.source.itemsOnly) sheet.fields.show(u"GG4", words.era);
-  sheet.fields.show(u"YY4", words.year);
-  sheet.fields.show(u"MM4", words.month);
-  sheet.fields.show(u"MM5", words.month);
+  if (!sheet.source.form.itemsOnly) sheet.print(u"GG4", words.era);
+  sheet.print(u"YY4", words.year);
+  sheet.print(u"MM4", words.month);
+  sheet.print(u"MM5", words.month);
 }
 
-void insurerNumber(Sheet& sheet) {
-  const QString typed = sheet.value(u"保険者番号");
+void fillInsurerNumber(Sheet& sheet) {
+  const QString typed = sheet.value(claim::insurerNumber);
   if (sheet.lateElderly()) return lateElderlyNumber(sheet, behind39(typed));
   const QString number = typed.trimmed();
-  sheet.fields.digits(u"Name0_", number, kNumberBoxes, number.size() == kShortNumber ? 3 : 1);
+  sheet.digits(u"Name0_", number, number.size() == kShortNumber ? 3 : 1);
 }
 
-void institutionCode(Sheet& sheet) {
+void fillInstitutionCode(Sheet& sheet) {
   const QString registered = registrationNumber(sheet);
   if (!registered.isEmpty())
-    sheet.fields.show(u"KikanCode", text::toFullWidth(registered));
+    sheet.print(u"KikanCode", text::toFullWidth(registered));
   else
-    sheet.fields.show(u"KikanCode1", associationNumber(sheet));
-  if (sheet.source.prefecture == u"24") institutionCodeOfMie(sheet, !registered.isEmpty());
+    sheet.print(u"KikanCode1", associationNumber(sheet));
+  if (sheet.source.prefecture == frame::Prefecture::Mie) institutionCodeOfMie(sheet, !registered.isEmpty());
 }
 
-void publicExpenseNumbers(Sheet& sheet) {
+void fillPublicExpenseNumbers(Sheet& sheet) {
   if (sheet.settings.on(Setting::PublicExpense)) {
-    sheet.fields.digits(u"KouhiFutan_", sheet.value(u"公費負担番号"), kNumberBoxes);
-    sheet.fields.digits(u"KouhiJyu_", sheet.value(u"公費受給者番号"), kNumberBoxes);
+    sheet.digits(u"KouhiFutan_", sheet.value(claim::publicAidNumber));
+    sheet.digits(u"KouhiJyu_", sheet.value(claim::publicAidRecipient));
   }
-  sheet.fields.digits(u"Kushi_", sheet.value(u"区市町村番号"), kNumberBoxes);
-  sheet.fields.digits(u"Jyukyu_", sheet.value(u"受給者番号"), kNumberBoxes);
+  sheet.digits(u"Kushi_", sheet.value(claim::municipalityNumber));
+  sheet.digits(u"Jyukyu_", sheet.value(claim::recipientNumber));
 }
 
-void kindOfInsurance(Sheet& sheet) {
-  if (sheet.value(u"保険の種類3") == u"公費負担")
-    sheet.fields.mark(u"H_M_Circle2");
+void markKindOfInsurance(Sheet& sheet) {
+  if (sheet.value(claim::printedInsurance) == u"公費負担")
+    sheet.mark(u"H_M_Circle2");
   else if (sheet.insuranceIs({u"後期高齢", u"老人"}))
-    sheet.fields.mark(u"H_M_Circle3");
-  else if (!sheet.value(u"保険の種類").isEmpty())
-    sheet.fields.mark(u"H_M_Circle1");
+    sheet.mark(u"H_M_Circle3");
+  else if (!sheet.value(claim::insuranceKind).isEmpty())
+    sheet.mark(u"H_M_Circle1");
 }
 
-void leftMargin(Sheet& sheet) {
+void fillLeftMargin(Sheet& sheet) {
   if (!sheet.settings.on(Setting::LeftMargin)) return;
   if (sheet.insuranceIs({u"国保", u"退職国保", u"特別国保"}))
-    sheet.fields.show(u"HokenTypeT", QStringLiteral("国民健康保険"));
+    sheet.print(u"HokenTypeT", QStringLiteral("国民健康保険"));
   else if (sheet.insuranceIs({u"共済"}))
-    sheet.fields.show(u"HokenTypeT", QStringLiteral("共済組合"));
+    sheet.print(u"HokenTypeT", QStringLiteral("共済組合"));
   else if (sheet.insuranceIs({u"組合"}))
-    sheet.fields.show(u"HokenTypeT", QStringLiteral("健康保険組合"));
-  sheet.fields.markIf(sheet.insuranceIs({u"共済", u"特別国保", u"後期高齢", u"退職国保"}), u"HokenType_4");
-  const QString association = sheet.value(u"師会名");
+    sheet.print(u"HokenTypeT", QStringLiteral("健康保険組合"));
+  sheet.markIf(sheet.insuranceIs({u"共済", u"特別国保", u"後期高齢", u"退職国保"}), u"HokenType_4");
+  const QString association = sheet.value(claim::associationName);
   // Written downwards: the long-vowel mark becomes an upright stroke.
-  if (!association.isEmpty())
-    sheet.fields.show(u"Shikai", u'　' + QString(association).replace(u'ー', u'｜'));
+  if (!association.isEmpty()) sheet.print(u"Shikai", u'　' + QString(association).replace(u'ー', u'｜'));
 }
 
 }  // namespace printing

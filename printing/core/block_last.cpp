@@ -7,68 +7,67 @@ namespace printing {
 namespace {
 
 struct LabelRow {
-  const char16_t* item;
+  Item item;
   const char16_t* text;
 };
 constexpr LabelRow kElderlyLabels[] = {
     {u"Text432", u"4 六外"}, {u"Text430", u"8 高外-"}, {u"Text433", u"0 高外7"}};
-constexpr const char16_t* kSeals[] = {u"Line500", u"Text104", u"Line501", u"Text106", u"Line504", u"Text427"};
+constexpr Item kSeals[] = {u"Line500", u"Text104", u"Line501", u"Text106", u"Line504", u"Text427"};
 
-void showDay(Sheet& sheet, const char16_t* item, int day) {
-  if (day > 0) sheet.fields.show(item, QString::number(day));
+void printDay(Sheet& sheet, Item item, int day) {
+  if (day > 0) sheet.print(item, QString::number(day));
 }
 
 }  // namespace
 
-void optionHides(Sheet& sheet) {
+void applySettings(Sheet& sheet) {
   if (sheet.settings.off(Setting::ApplicantName))
-    for (const auto* item : {u"Name5_3", u"Name5_5"}) sheet.fields.hide(item);
+    for (const Item item : {Item(u"Name5_3"), Item(u"Name5_5")}) sheet.hide(item);
   if (sheet.settings.off(Setting::ShareCircles))
-    for (const auto* item : {u"Kyuufu_1", u"Kyuufu_2", u"Kyuufu_3"}) sheet.fields.hide(item);
+    for (const Item item : {Item(u"Kyuufu_1"), Item(u"Kyuufu_2"), Item(u"Kyuufu_3")}) sheet.hide(item);
   if (sheet.settings.on(Setting::ProxyWords))
-    for (const auto* item : {u"JUININ1", u"JUININ2", u"JUININ3"}) sheet.fields.mark(item);
+    for (const Item item : {Item(u"JUININ1"), Item(u"JUININ2"), Item(u"JUININ3")}) sheet.mark(item);
   if (sheet.settings.off(Setting::ShareAsComputed) && sheet.settings.on(Setting::Amounts))
-    sheet.fields.show(QStringLiteral("dain") + QString::number(amountLayout(sheet.source.kind).shareBox),
-                      QStringLiteral("0"));
+    showShare(sheet.fields, sheet.eras.back().of(recordKind(sheet.source.kind)), QStringLiteral("0"));
 }
 
-void chibaPeriod(Sheet& sheet) {
-  if (sheet.source.prefecture != u"12") return;
-  const QString from = sheet.value(u"要加療期間1"), to = sheet.value(u"要加療期間2");
-  if (!from.isEmpty()) sheet.fields.show(u"youkaryuki1", u'自' + from);
-  if (!to.isEmpty()) sheet.fields.show(u"youkaryuki2", u'至' + to);
+void fillPeriodOfChiba(Sheet& sheet) {
+  if (sheet.source.prefecture != frame::Prefecture::Chiba) return;
+  const QString from = sheet.value(claim::consentFrom), to = sheet.value(claim::consentUntil);
+  if (!from.isEmpty()) sheet.print(u"youkaryuki1", u'自' + from);
+  if (!to.isEmpty()) sheet.print(u"youkaryuki2", u'至' + to);
 }
 
-void saitamaPeriod(Sheet& sheet) {
-  if (sheet.source.prefecture != u"11") return;
+void fillPeriodOfSaitama(Sheet& sheet) {
+  if (sheet.source.prefecture != frame::Prefecture::Saitama) return;
   const claims::TreatmentPeriod period = claims::treatmentPeriod(sheet.claim, sheet.month);
-  showDay(sheet, u"DD9", period.firstTreated);
-  showDay(sheet, u"DD10", period.lastTreated);
-  showDay(sheet, u"DD10_2", period.lastTreated);
+  printDay(sheet, u"DD9", period.firstTreated);
+  printDay(sheet, u"DD10", period.lastTreated);
+  printDay(sheet, u"DD10_2", period.lastTreated);
 }
 
-void aichiVisitingPractice(Sheet& sheet) {
-  if (sheet.source.prefecture != u"23" ||
+void relabelVisitingPracticeOfAichi(Sheet& sheet) {
+  if (sheet.source.prefecture != frame::Prefecture::Aichi ||
       sheet.source.profile[frame::profile::kHealthOffice] != u"出張専門施術者住所地")
     return;
-  sheet.fields.mark(u"Text66");
-  sheet.fields.show(u"Text67", QStringLiteral("住　所"));
-  sheet.fields.hide(u"Text573");
-  sheet.fields.hide(u"semeisyou1");
+  sheet.mark(u"Text66");
+  sheet.print(u"Text67", QStringLiteral("住　所"));
+  sheet.hide(u"Text573");
+  sheet.hide(u"semeisyou1");
 }
 
-void attachmentNote(Sheet& sheet) { sheet.fields.markIf(sheet.settings.on(Setting::Attachment), u"betten1"); }
+void markAttachment(Sheet& sheet) { sheet.markIf(sheet.settings.on(Setting::Attachment), u"betten1"); }
 
-void labelsOnPreprinted(Sheet& sheet) {
-  if (!sheet.source.itemsOnly || !sheet.screenCheck(u"Check2")) return;
-  for (const LabelRow& row : kElderlyLabels) sheet.fields.show(row.item, QString::fromUtf16(row.text));
-  if (sheet.source.option == u"Option6")
-    sheet.fields.show(u"Text382", QStringLiteral("登録記号番号（申し出た施術者登録番号）"));
+void fillLabelsOnPreprinted(Sheet& sheet) {
+  if (!sheet.source.form.itemsOnly || !sheet.source.ticks.newElderlyLabels) return;
+  for (const LabelRow& row : kElderlyLabels) sheet.print(row.item, QString::fromUtf16(row.text));
+  if (sheet.source.edition == Edition::From201901Reiwa)
+    sheet.print(u"Text382", QStringLiteral("登録記号番号（申し出た施術者登録番号）"));
 }
 
-void sealsRemoved(Sheet& sheet) {
-  if (sheet.source.option != u"Option6" || !sheet.screenCheck(u"Check5")) return;
-  for (const char16_t* item : kSeals) sheet.fields.hide(item);
+void hideSeals(Sheet& sheet) {
+  if (sheet.source.edition != Edition::From201901Reiwa || !sheet.source.ticks.sealsHidden) return;
+  for (const Item item : kSeals) sheet.hide(item);
 }
 
 }  // namespace printing

@@ -1,31 +1,26 @@
-#include "claims/core/generic_columns.h"
 #include "printing/core/claim_blocks.h"
 
 namespace printing {
 
 namespace {
 
-constexpr int kFirstItem = 21, kLines = 6;
+constexpr ItemRow kLines[] = {{u"Name21", claim::remark[1]}, {u"Name22", claim::remark[2]},
+                              {u"Name23", claim::remark[3]}, {u"Name24", claim::remark[4]},
+                              {u"Name25", claim::remark[5]}, {u"Name26", claim::remark[6]}};
 /// The tick 印刷する of 新摘要欄 (Text25). Where it was never set, remarks that were typed are meant to
 /// print.
-constexpr char16_t kNewRemarksPrinted[] = u"txtdummy25";
 
 bool printsNewRemarks(const Sheet& sheet) {
-  return !sheet.value(claims::column::kNewRemarks).isEmpty() && sheet.value(kNewRemarksPrinted) != u"0";
+  return !sheet.value(claim::newRemarks).isEmpty() && sheet.value(claim::printNewRemarks) != u"0";
 }
 
 }  // namespace
 
-void noteLines(Sheet& sheet) {
+void fillNoteLines(Sheet& sheet) {
   const bool newRemarks = printsNewRemarks(sheet);
-  if (newRemarks) sheet.show(u"Name700", claims::column::kNewRemarks);
-  for (int line = 1; line <= kLines; ++line) {
-    const QString item = QStringLiteral("Name") + QString::number(kFirstItem + line - 1);
-    if (newRemarks)
-      sheet.fields.hide(item);
-    else
-      sheet.fields.show(item, sheet.claim.get(QStringLiteral("摘要") + QString::number(line)));
-  }
+  if (!newRemarks) return sheet.copy(kLines);
+  sheet.copy(u"Name700", claim::newRemarks);
+  for (const ItemRow& line : kLines) sheet.hide(line.item);
 }
 
 }  // namespace printing

@@ -1,4 +1,3 @@
-#include "claims/core/generic_columns.h"
 #include "frame/core/settings_slots.h"
 #include "printing/core/claim_blocks.h"
 
@@ -6,16 +5,21 @@ namespace printing {
 
 namespace {
 
-constexpr Variant kAddress[] = {{26, u"Name57_3"}, {kAnyLength, u"Name57"}};
-constexpr Variant kProxyName[] = {{20, u"Name11_2"}, {kAnyLength, u"Name11_3"}};
+constexpr ItemSize kAddress[] = {{26, u"Name57_3"}, {kAnyLength, u"Name57"}};
+constexpr ItemSize kProxyName[] = {{20, u"Name11_2"}, {kAnyLength, u"Name11_3"}};
+constexpr DateItems kReceived = {u"GG11", u"YY11", u"MM11", u"DD11"};
+constexpr DateItems kClaimed = {u"GG12", u"YY12", u"MM12", u"DD12"};
+constexpr DateItems kMandated = {u"GG13", u"YY13", u"MM13", u"DD13"};
 constexpr char16_t kLicencePrinted[] = u"2";  ///< 免許番号 in the place of 登録記号番号
 
 /// Columns of whoever stands on the paper: the practitioner or the representative.
 struct Signer {
-  const char16_t *name, *zip, *address, *telephone;
+  store::Column name, zip, address, telephone;
 };
-constexpr Signer kPractitioner = {u"施術者氏名", u"施術所の郵便番号", u"施術所の所在地", u"施術所電話番号"};
-constexpr Signer kRepresentative = {u"代表者氏名", u"代表者郵便番号", u"代表者住所", u"代表者電話番号"};
+constexpr Signer kPractitioner = {claim::practitionerName, claim::clinicZip, claim::clinicAddress,
+                                  claim::clinicTelephone};
+constexpr Signer kRepresentative = {claim::agentName, claim::agentZip, claim::agentAddress,
+                                    claim::agentTelephone};
 
 const Signer* signer(Switch choice) {
   if (choice == Switch::Empty) return nullptr;
@@ -29,9 +33,7 @@ QString licenceNumbers(const Sheet& sheet) {
   return hari.isEmpty() || kyu.isEmpty() ? hari + kyu : hari + u'　' + kyu;
 }
 
-bool delegated(const Sheet& sheet) {
-  return sheet.claimCheck(u"Check50") || sheet.ticked(claims::column::kDelegated);
-}
+bool delegated(const Sheet& sheet) { return sheet.source.form.delegated || sheet.ticked(claim::delegated); }
 
 QString numberOfPractitioner(const Sheet& sheet) {
   const frame::ClinicProfile& profile = sheet.source.profile;
@@ -44,39 +46,39 @@ QString numberOfPractitioner(const Sheet& sheet) {
 
 }  // namespace
 
-void practitionerNumber(Sheet& sheet) { sheet.fields.show(u"sejutuNO", numberOfPractitioner(sheet)); }
+void fillPractitionerNumber(Sheet& sheet) { sheet.print(u"sejutuNO", numberOfPractitioner(sheet)); }
 
-void healthOffice(Sheet& sheet) {
+void markHealthOffice(Sheet& sheet) {
   const QString kind = sheet.source.profile[frame::profile::kHealthOffice];
-  sheet.fields.markIf(kind == u"施術所所在地", u"tkkubun1");
-  sheet.fields.markIf(kind == u"出張専門施術者住所地", u"tkkubun2");
+  sheet.markIf(kind == u"施術所所在地", u"tkkubun1");
+  sheet.markIf(kind == u"出張専門施術者住所地", u"tkkubun2");
 }
 
-void practitionerBlock(Sheet& sheet) {
-  sheet.show(u"semeisyou1", u"施術所の名称");
+void fillPractitioner(Sheet& sheet) {
+  sheet.copy(u"semeisyou1", claim::clinicName);
   const Signer* who = signer(sheet.settings.of(Setting::Proof));
   if (who == nullptr) return;
   const QString zip = sheet.value(who->zip);
-  if (!zip.isEmpty()) sheet.fields.show(u"yuubin2", u'〒' + zip);
-  sheet.fields.variant(kAddress, sheet.value(who->address));
-  sheet.show(u"Name58", who->telephone);
-  sheet.show(u"Name11", who->name);
+  if (!zip.isEmpty()) sheet.print(u"yuubin2", u'〒' + zip);
+  sheet.fit(kAddress, sheet.value(who->address));
+  sheet.copy(u"Name58", who->telephone);
+  sheet.copy(u"Name11", who->name);
 }
 
-void proxy(Sheet& sheet) {
+void fillProxy(Sheet& sheet) {
   // The proxy is whose account is named in 支払機関欄.
   const Signer* who = signer(sheet.settings.of(Setting::Bank));
   if (who == nullptr || !sheet.settings.on(Setting::ApplicantName) || !sheet.settings.on(Setting::Mandate))
     return;
-  sheet.show(u"Name56", who->address);
-  sheet.fields.variant(kProxyName, sheet.value(who->name));
+  sheet.copy(u"Name56", who->address);
+  sheet.fit(kProxyName, sheet.value(who->name));
 }
 
-void datesOfSigning(Sheet& sheet) {
+void fillDatesOfSigning(Sheet& sheet) {
   if (!sheet.settings.on(Setting::Dates)) return;
-  showDate(sheet, QStringLiteral("11"), sheet.value(u"領収年月日"));
-  showDate(sheet, QStringLiteral("12"), sheet.value(u"請求年月日"));
-  if (sheet.settings.on(Setting::Mandate)) showDate(sheet, QStringLiteral("13"), sheet.value(u"請求年月日"));
+  printDate(sheet, kReceived, sheet.value(claim::receiptDate));
+  printDate(sheet, kClaimed, sheet.value(claim::requestDate));
+  if (sheet.settings.on(Setting::Mandate)) printDate(sheet, kMandated, sheet.value(claim::requestDate));
 }
 
 }  // namespace printing

@@ -1,4 +1,3 @@
-#include "claims/core/generic_columns.h"
 #include "claims/core/treatment_period.h"
 #include "printing/core/claim_blocks.h"
 
@@ -6,10 +5,26 @@ namespace printing {
 
 namespace {
 
-constexpr Variant kOtherDisease[] = {{7, u"Name49"}, {10, u"Name49_2"}, {kAnyLength, u"Name49_3"}};
-constexpr Variant kSymptoms[] = {
+constexpr ItemSize kOtherDisease[] = {{7, u"Name49"}, {10, u"Name49_2"}, {kAnyLength, u"Name49_3"}};
+constexpr ItemSize kSymptoms[] = {
     {32, u"Syoujyou"}, {40, u"Syoujyou1"}, {50, u"Syoujyou3"}, {kAnyLength, u"Syoujyou4"}};
-constexpr int kNamedDiseases = 6;
+constexpr DateItems kFirstDate = {u"GG7", u"YY7", u"MM7", u"DD7"};
+constexpr DateItems kPeriodFrom = {u"GG9", u"YY9", u"MM9", u"DD9"};
+constexpr DateItems kPeriodTo = {u"GG10", u"YY10", u"MM10", u"DD10"};
+/// Marks and the ticks that set them.
+constexpr ItemRow kDiseases[] = {
+    {u"syoubyou1", claim::diseaseTick[1]}, {u"syoubyou2", claim::diseaseTick[2]},
+    {u"syoubyou3", claim::diseaseTick[3]}, {u"syoubyou4", claim::diseaseTick[4]},
+    {u"syoubyou5", claim::diseaseTick[5]}, {u"syoubyou6", claim::diseaseTick[6]}};
+constexpr ItemRow kDevices[] = {{u"denryou1", claim::electricNeedle},
+                                {u"denryou2", claim::electricMoxa},
+                                {u"denryou3", claim::electricLight}};
+/// 局所 of マッサージ: trunk and four limbs; 変形徒手矯正術: four limbs.
+constexpr ItemRow kBodyParts[] = {{u"kaisu1_1", claim::areaDays[3]}, {u"kaisu1_2", claim::areaDays[4]},
+                                  {u"kaisu1_3", claim::areaDays[5]}, {u"kaisu1_4", claim::areaDays[6]},
+                                  {u"kaisu1_5", claim::areaDays[7]}, {u"kaisu2_1", claim::limbDays[8]},
+                                  {u"kaisu2_2", claim::limbDays[9]}, {u"kaisu2_3", claim::limbDays[10]},
+                                  {u"kaisu2_4", claim::limbDays[11]}};
 
 QDate dayOfMonth(const Sheet& sheet, int day) {
   if (!sheet.month.month || day <= 0) return QDate();
@@ -38,77 +53,64 @@ bool oneOf(const QString& word, std::initializer_list<const char16_t*> words) {
 
 }  // namespace
 
-void firstTreatment(Sheet& sheet) { showDate(sheet, QStringLiteral("7"), sheet.value(u"初療年月日")); }
+void fillFirstTreatment(Sheet& sheet) { printDate(sheet, kFirstDate, sheet.value(claim::firstTreatment)); }
 
-void treatmentPeriod(Sheet& sheet) {
+void fillTreatmentPeriod(Sheet& sheet) {
   const claims::TreatmentPeriod period = claims::treatmentPeriod(sheet.claim, sheet.month);
   const bool fromFirstDay = sheet.settings.on(Setting::PeriodFrom) && period.firstTreated > 0;
   if (!fromFirstDay && !period.startText.isEmpty())
-    showDate(sheet, QStringLiteral("9"), period.startText);
+    printDate(sheet, kPeriodFrom, period.startText);
   else
-    showDate(sheet, QStringLiteral("9"),
-             dayOfMonth(sheet, fromFirstDay ? period.firstTreated : period.startDay));
+    printDate(sheet, kPeriodFrom, dayOfMonth(sheet, fromFirstDay ? period.firstTreated : period.startDay));
 
   const bool toLastDay = sheet.settings.off(Setting::PeriodTo) && period.lastTreated > 0;
-  showDate(sheet, QStringLiteral("10"), dayOfMonth(sheet, toLastDay ? period.lastTreated : period.endDay));
+  printDate(sheet, kPeriodTo, dayOfMonth(sheet, toLastDay ? period.lastTreated : period.endDay));
 }
 
-void requestAndOutcome(Sheet& sheet) {
-  const QString request = sheet.value(u"請求区分");
-  if (oneOf(request, {u"新規", u"継続"})) sheet.fields.show(u"seikyu2", request);
-  const QString outcome = sheet.value(u"転帰");
-  if (oneOf(outcome, {u"継続", u"治癒", u"中止", u"転医"})) sheet.fields.show(u"tenki4", outcome);
-  const QString hospital = sheet.value(u"入院入院外の別");
-  if (oneOf(hospital, {u"入院外", u"入院"})) sheet.fields.show(u"nyuuin2", hospital);
+void markRequestAndOutcome(Sheet& sheet) {
+  const QString request = sheet.value(claim::requestKind);
+  if (oneOf(request, {u"新規", u"継続"})) sheet.print(u"seikyu2", request);
+  const QString outcome = sheet.value(claim::outcome);
+  if (oneOf(outcome, {u"継続", u"治癒", u"中止", u"転医"})) sheet.print(u"tenki4", outcome);
+  const QString hospital = sheet.value(claim::hospitalised);
+  if (oneOf(hospital, {u"入院外", u"入院"})) sheet.print(u"nyuuin2", hospital);
 }
 
-void diseases(Sheet& sheet) {
+void fillDiseases(Sheet& sheet) {
   if (!sheet.source.acupuncture()) return;
-  for (int n = 1; n <= kNamedDiseases; ++n)
-    sheet.fields.markIf(sheet.claim.ticked(QStringLiteral("傷病名") + QString::number(n)),
-                        QStringLiteral("syoubyou") + QString::number(n));
-  if (sheet.fields.variant(kOtherDisease, sheet.value(u"傷病名7"))) sheet.fields.mark(u"syoubyou7");
-  const QString note = sheet.value(u"傷病名8");
-  if (!note.isEmpty()) sheet.fields.show(u"Name50", u'(' + note + u')');
+  sheet.markTicked(kDiseases);
+  if (sheet.fit(kOtherDisease, sheet.value(claim::diseaseOther))) sheet.mark(u"syoubyou7");
+  const QString note = sheet.value(claim::diseaseNote);
+  if (!note.isEmpty()) sheet.print(u"Name50", u'(' + note + u')');
 }
 
-void symptoms(Sheet& sheet) {
-  if (!sheet.source.acupuncture()) sheet.fields.variant(kSymptoms, sheet.value(u"同意症状"));
+void fillSymptoms(Sheet& sheet) {
+  if (!sheet.source.acupuncture()) sheet.fit(kSymptoms, sheet.value(claim::consentSymptom));
 }
 
-void electricDevices(Sheet& sheet) {
-  if (!sheet.source.acupuncture()) return;
-  const QStringView columns[] = {claims::column::kElectricNeedle, claims::column::kElectricMoxa,
-                                 claims::column::kElectricLight};
-  for (int n = 1; n <= 3; ++n)
-    sheet.fields.markIf(sheet.ticked(columns[n - 1]), QStringLiteral("denryou") + QString::number(n));
+void markElectricDevices(Sheet& sheet) {
+  if (sheet.source.acupuncture()) sheet.markTicked(kDevices);
 }
 
-void firstTreatmentKind(Sheet& sheet) {
-  if (!sheet.ticked(u"初回有無")) return;
+void markFirstTreatmentKind(Sheet& sheet) {
+  if (!sheet.ticked(claim::hasFirst)) return;
   for (int day = 1; day <= 31; ++day) {
     const QString code = sheet.claim.code(day);
     const QString word = code.size() == 1 ? firstDayWord(code.at(0).unicode()) : QString();
-    if (!word.isEmpty()) return sheet.fields.show(u"syokaijutu3", word);
+    if (!word.isEmpty()) return sheet.print(u"syokaijutu3", word);
   }
 }
 
-void bodyPartCounts(Sheet& sheet) {
-  if (sheet.source.acupuncture()) return;
-  for (int part = 1; part <= 5; ++part)
-    sheet.fields.show(QStringLiteral("kaisu1_") + QString::number(part),
-                      sheet.claim.get(QStringLiteral("d") + QString::number(part + 2)));
-  for (int limb = 1; limb <= 4; ++limb)
-    sheet.fields.show(QStringLiteral("kaisu2_") + QString::number(limb),
-                      sheet.claim.get(QStringLiteral("d") + QString::number(limb + 7)));
+void fillBodyPartCounts(Sheet& sheet) {
+  if (!sheet.source.acupuncture()) sheet.copy(kBodyParts);
 }
 
-void previousReport(Sheet& sheet) {
-  const DateWords words = dateWords(sheet.value(u"txtdummy28"), sheet.dates);
+void fillPreviousReport(Sheet& sheet) {
+  const DateWords words = dateWords(sheet.value(claim::lastReportMonth), sheet.dates);
   if (words.year.isEmpty()) return;
-  const bool withLetter = sheet.claimCheck(u"Check17");
-  sheet.fields.show(u"YY3", withLetter ? u'R' + words.year : words.year);
-  sheet.fields.show(u"MM3", words.month);
+  const bool withLetter = sheet.source.form.eraLetter;
+  sheet.print(u"YY3", withLetter ? u'R' + words.year : words.year);
+  sheet.print(u"MM3", words.month);
 }
 
 }  // namespace printing

@@ -8,58 +8,58 @@
 namespace printing {
 
 // Title and upper part.
-void printDate(Sheet& sheet);
-void claimMonth(Sheet& sheet);
-void insurerNumber(Sheet& sheet);
-void institutionCode(Sheet& sheet);
-void publicExpenseNumbers(Sheet& sheet);
-void kindOfInsurance(Sheet& sheet);
-void leftMargin(Sheet& sheet);
+void fillPrintDate(Sheet& sheet);
+void fillClaimMonth(Sheet& sheet);
+void fillInsurerNumber(Sheet& sheet);
+void fillInstitutionCode(Sheet& sheet);
+void fillPublicExpenseNumbers(Sheet& sheet);
+void markKindOfInsurance(Sheet& sheet);
+void fillLeftMargin(Sheet& sheet);
 
 // 被保険者欄.
-void cardLine(Sheet& sheet);
-void relation(Sheet& sheet);
-void treatedPerson(Sheet& sheet);
-void onset(Sheet& sheet);
-void consentedIllness(Sheet& sheet);
-void cause(Sheet& sheet);
-void placeOfTreatment(Sheet& sheet);
+void fillCardLine(Sheet& sheet);
+void fillRelation(Sheet& sheet);
+void fillTreatedPerson(Sheet& sheet);
+void fillOnset(Sheet& sheet);
+void fillConsentedIllness(Sheet& sheet);
+void fillCause(Sheet& sheet);
+void fillPlaceOfTreatment(Sheet& sheet);
 
 // 施術内容欄.
-void firstTreatment(Sheet& sheet);
-void treatmentPeriod(Sheet& sheet);
-void requestAndOutcome(Sheet& sheet);
-void diseases(Sheet& sheet);
-void symptoms(Sheet& sheet);
-void electricDevices(Sheet& sheet);
-void firstTreatmentKind(Sheet& sheet);
-void bodyPartCounts(Sheet& sheet);
-void previousReport(Sheet& sheet);
-void amountBoxes(Sheet& sheet);
-void share(Sheet& sheet);
-void noteLines(Sheet& sheet);
-void dayGrid(Sheet& sheet);
-void visitReason(Sheet& sheet);
+void fillFirstTreatment(Sheet& sheet);
+void fillTreatmentPeriod(Sheet& sheet);
+void markRequestAndOutcome(Sheet& sheet);
+void fillDiseases(Sheet& sheet);
+void fillSymptoms(Sheet& sheet);
+void markElectricDevices(Sheet& sheet);
+void markFirstTreatmentKind(Sheet& sheet);
+void fillBodyPartCounts(Sheet& sheet);
+void fillPreviousReport(Sheet& sheet);
+void fillAmountBoxes(Sheet& sheet);
+void fillShare(Sheet& sheet);
+void fillNoteLines(Sheet& sheet);
+void fillDayGrid(Sheet& sheet);
+void fillVisitReason(Sheet& sheet);
 
 // 施術証明欄, 申請欄, 支払機関欄, 同意記録, the mandate.
-void practitionerNumber(Sheet& sheet);
-void healthOffice(Sheet& sheet);
-void practitionerBlock(Sheet& sheet);
-void proxy(Sheet& sheet);
-void datesOfSigning(Sheet& sheet);
-void bankBlock(Sheet& sheet);
-void insuredBlock(Sheet& sheet);
-void insurerName(Sheet& sheet);
-void workplace(Sheet& sheet);
-void doctorBlock(Sheet& sheet);
+void fillPractitionerNumber(Sheet& sheet);
+void markHealthOffice(Sheet& sheet);
+void fillPractitioner(Sheet& sheet);
+void fillProxy(Sheet& sheet);
+void fillDatesOfSigning(Sheet& sheet);
+void fillBank(Sheet& sheet);
+void fillInsured(Sheet& sheet);
+void fillInsurerName(Sheet& sheet);
+void fillWorkplace(Sheet& sheet);
+void fillDoctor(Sheet& sheet);
 
 // What overrides the blocks, at the end.
-void optionHides(Sheet& sheet);
-void chibaPeriod(Sheet& sheet);
-void saitamaPeriod(Sheet& sheet);
-void aichiVisitingPractice(Sheet& sheet);
-void attachmentNote(Sheet& sheet);
-void labelsOnPreprinted(Sheet& sheet);
-void sealsRemoved(Sheet& sheet);
+void applySettings(Sheet& sheet);
+void fillPeriodOfChiba(Sheet& sheet);
+void fillPeriodOfSaitama(Sheet& sheet);
+void relabelVisitingPracticeOfAichi(Sheet& sheet);
+void markAttachment(Sheet& sheet);
+void fillLabelsOnPreprinted(Sheet& sheet);
+void hideSeals(Sheet& sheet);
 
 }  // namespace printing

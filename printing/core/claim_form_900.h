@@ -1,5 +1,6 @@
 #pragma once
 
+#include "claims/core/era.h"
 #include "frame/core/era_date.h"
 #include "printing/contract/report_fields.h"
 #include "printing/core/print_source.h"
@@ -11,6 +12,7 @@ void hideClaim900(ReportFields& fields, const PrintSource& source);
 
 /// Fills the claim form of the editions from 2024/10, acupuncture and massage, from the source. Amounts are
 /// those of the stored record; nothing is computed here.
-void fillClaim900(ReportFields& fields, const PrintSource& source, const frame::EraDates& dates);
+void fillClaim900(ReportFields& fields, const PrintSource& source, const frame::EraDates& dates,
+                  claims::EraTable eras = claims::eras());
 
 }  // namespace printing

@@ -2,6 +2,7 @@
 
 #include "frame/core/run_state.h"
 #include "printing/contract/print_run.h"
+#include "printing/core/print_screens.h"
 #include "printing/core/print_source.h"
 
 namespace printing {
@@ -9,11 +10,11 @@ namespace printing {
 /// Title of a single claim's document: 申請書鍼, 申請書マ.
 QString claimTitle(PrintKind kind);
 
-/// Fills in what the practice and this run give: profile, licence numbers, prefecture, submissions.
-void takePractice(PrintSource& source, const frame::RunState& run);
+/// Adds the clinic's data of this run: profile, licence numbers, prefecture, submissions.
+void addClinicData(PrintSource& source, const frame::RunState& run);
 
 /// The print job of one claim on an edition from 2024/10: title, template, hides and mapping. The caller
 /// adds prompt, checks, window and cleaning up. `source` and `dates` must outlive the run.
-PrintJob claimJob(const PrintSource& source, const QString& screen, const frame::EraDates& dates);
+PrintJob claimJob(const PrintSource& source, PrintScreen screen, const frame::EraDates& dates);
 
 }  // namespace printing

@@ -1,16 +1,30 @@
 #pragma once
 
-#include "claims/core/print_chooser.h"
+#include <optional>
+
+#include "claims/core/claim_printing.h"
 #include "frame/core/run_state.h"
+#include "platform/report/report_operations.h"
+#include "printing/core/print_screens.h"
 
 namespace printing {
 
-/// The rule behind 鍼灸印刷 and あマ印刷: the printing screen of a claim by its month, the prefecture, the
-/// association and the tick 公費の印刷. Blank for a claim whose month cannot be read.
-QString printScreenOf(const claims::ClaimRecord& claim, const QSet<QString>& checks,
-                      const frame::RunState& run);
+/// The printing screen of a claim by its month, the prefecture, the association and the tick 公費の印刷.
+/// Nothing for a claim whose month cannot be read.
+std::optional<PrintScreen> printScreenOf(const claims::ClaimRecord& claim, const claims::FormTicks& ticks,
+                                         const frame::RunState& run);
 
-/// The same for the claim form, which knows no printing. `run` must outlive it.
-claims::PrintScreenChooser printScreenChooser(const frame::RunState& run);
+/// The print buttons of the claim screens. Run and engine must outlive it.
+class PrintButtons final : public claims::ClaimPrinting {
+ public:
+  PrintButtons(const frame::RunState& run, report::ReportOperations& engine) : m_run(run), m_engine(engine) {}
+
+  QString screenOf(const claims::ClaimRecord& claim, const claims::FormTicks& ticks) const override;
+  void setUpPrinter(quintptr window) override { m_engine.PR_PrinterSetupDlg(window); }
+
+ private:
+  const frame::RunState& m_run;
+  report::ReportOperations& m_engine;
+};
 
 }  // namespace printing

@@ -1,81 +1,81 @@
 #include "printing/core/screen_choice.h"
 
-#include <QStringList>
+#include <iterator>
 
 namespace printing {
 
 namespace {
 
-enum class Aichi { Any, NotThree };
-enum class PublicAid { Any, Set };
+using frame::AichiSubmission;
+using frame::Prefecture;
+
+/// What a row asks for besides the month.
+enum class If { Always, AichiAssociation, TokyoAid, IshikawaAid };
 
 /// One row of the choice; the first that fits wins.
-struct ScreenRow {
-  int from, before;            ///< claim months yyyymm: from <= month < before
-  const char16_t* prefecture;  ///< nullptr: any
-  Aichi aichi;
-  PublicAid publicAid;
-  const char16_t* screen;
+struct ChoiceRow {
+  int from;  ///< first claim month as yyyymm
+  If condition;
+  PrintScreen screen;
 };
 
-constexpr int kFirst = 0, kEnd = 999912;
-
-constexpr ScreenRow kScreens[] = {
-    {202410, kEnd, u"23", Aichi::NotThree, PublicAid::Any, u"レセプト印刷2024aimakai"},
-    {202410, kEnd, u"13", Aichi::Any, PublicAid::Set, u"東京助成レセプト印刷2024"},
-    {202410, kEnd, u"17", Aichi::Any, PublicAid::Set, u"石川県の公費レセプト印刷2024"},
-    {202410, kEnd, nullptr, Aichi::Any, PublicAid::Any, u"レセプト印刷2024"},
-    {kFirst, 201806, nullptr, Aichi::Any, PublicAid::Any, u"レセプト印刷"},
-    {kFirst, 202410, u"23", Aichi::NotThree, PublicAid::Any, u"レセプト印刷2018aimakai"},
-    {kFirst, 202410, u"13", Aichi::Any, PublicAid::Set, u"東京助成レセプト印刷"},
-    {kFirst, 202410, u"17", Aichi::Any, PublicAid::Set, u"石川県の公費レセプト印刷"},
-    {kFirst, 202410, nullptr, Aichi::Any, PublicAid::Any, u"レセプト印刷2018"},
+constexpr ChoiceRow kChoice[] = {
+    {202410, If::AichiAssociation, PrintScreen::AichiAssociation2024},
+    {202410, If::TokyoAid, PrintScreen::TokyoAid2024},
+    {202410, If::IshikawaAid, PrintScreen::IshikawaAid2024},
+    {202410, If::Always, PrintScreen::General2024},
+    {201806, If::AichiAssociation, PrintScreen::AichiAssociation2018},
+    {201806, If::TokyoAid, PrintScreen::TokyoAid2018},
+    {201806, If::IshikawaAid, PrintScreen::IshikawaAid2018},
+    {201806, If::Always, PrintScreen::General2018},
+    {0, If::Always, PrintScreen::Oldest},
 };
+constexpr const ChoiceRow& kLast = kChoice[std::size(kChoice) - 1];
+static_assert(kLast.from == 0 && kLast.condition == If::Always, "every claim has a printing screen");
 
-bool fits(const ScreenRow& row, const ScreenQuery& query) {
-  const int month = query.month.year() * 100 + query.month.month();
-  if (month < row.from || month >= row.before) return false;
-  if (row.prefecture != nullptr && query.prefecture != QString::fromUtf16(row.prefecture)) return false;
-  if (row.aichi == Aichi::NotThree && query.aichi == u"3") return false;
-  return row.publicAid == PublicAid::Any || query.publicAid;
+bool holds(If condition, const ScreenQuery& query) {
+  switch (condition) {
+    case If::Always:
+      return true;
+    case If::AichiAssociation:
+      return query.prefecture == Prefecture::Aichi && query.aichi != AichiSubmission::AcupunctureAssociation;
+    case If::TokyoAid:
+      return query.prefecture == Prefecture::Tokyo && query.publicAid;
+    case If::IshikawaAid:
+      return query.prefecture == Prefecture::Ishikawa && query.publicAid;
+  }
+  return false;
 }
 
-bool onOrAfter(const frame::EraDates& dates, const QString& claimMonth, QDate first) {
-  const auto month = dates.claimMonthToDate(claimMonth);
-  return month && *month >= first;
+Edition presetOf2018(const frame::EraDates& dates, const QString& claimMonth, const QString& summaryKind) {
+  const bool ordinary = summaryKind == u"0";
+  if (claimMonth.startsWith(u"令和")) {
+    const auto month = dates.claimMonthToDate(claimMonth);
+    const bool from202012 = month && *month >= QDate(2020, 12, 1);
+    return ordinary || from202012 ? Edition::From202104 : Edition::From201901Reiwa;
+  }
+  if (claimMonth.startsWith(u"平成")) return ordinary ? Edition::From201810Heisei : Edition::From201901Heisei;
+  return Edition::None;
 }
 
 }  // namespace
 
-QString printScreen(const ScreenQuery& query) {
-  for (const ScreenRow& row : kScreens)
-    if (fits(row, query)) return QString::fromUtf16(row.screen);
-  return QString();
+PrintScreen choosePrintScreen(const ScreenQuery& query) {
+  const int month = query.month.year() * 100 + query.month.month();
+  for (const ChoiceRow& row : kChoice)
+    if (month >= row.from && holds(row.condition, query)) return row.screen;
+  return kLast.screen;
 }
 
-bool isMonth2024(const frame::EraDates& dates, const QString& claimMonth) {
-  return onOrAfter(dates, claimMonth, QDate(2024, 10, 1));
+Edition presetEdition(PrintScreen screen, const frame::EraDates& dates, const QString& claimMonth,
+                      const QString& summaryKind) {
+  return screen == PrintScreen::General2018 ? presetOf2018(dates, claimMonth, summaryKind)
+                                            : rowOf(screen).preset;
 }
 
-bool isMonth2020Dec(const frame::EraDates& dates, const QString& claimMonth) {
-  return onOrAfter(dates, claimMonth, QDate(2020, 12, 1));
-}
-
-QString presetOption(const QString& screen, const frame::EraDates& dates, const QString& claimMonth,
-                     const QString& summaryKind) {
-  if (screen.endsWith(u"2024") || screen.endsWith(u"aimakai")) return QStringLiteral("Option9");
-  if (screen != u"レセプト印刷2018") return QString();
-  const bool ordinary = summaryKind == u"0";
-  if (claimMonth.startsWith(u"令和"))
-    return ordinary || isMonth2020Dec(dates, claimMonth) ? QStringLiteral("Option8")
-                                                         : QStringLiteral("Option6");
-  if (claimMonth.startsWith(u"平成")) return ordinary ? QStringLiteral("Option3") : QStringLiteral("Option4");
-  return QString();
-}
-
-QStringList presetChecks(const QString& prefecture) {
-  // One prefecture asks for the era word in the claim month of every form.
-  if (prefecture == u"22") return {QStringLiteral("Check4"), QStringLiteral("Check6")};
+PrintTicks presetTicks(Prefecture prefecture) {
+  // Shizuoka asks for the era word in the claim month of every form.
+  if (prefecture == Prefecture::Shizuoka) return {.eraOn202104 = true, .eraOn202410 = true};
   return {};
 }
 

@@ -2,33 +2,33 @@
 
 #include <QDate>
 #include <QString>
-#include <QStringList>
 
 #include "frame/core/era_date.h"
+#include "frame/core/prefecture.h"
+#include "frame/core/submission.h"
+#include "printing/core/print_screens.h"
+#include "printing/core/print_ticks.h"
 
 namespace printing {
 
 /// What picks the printing screen of a claim.
 struct ScreenQuery {
   QDate month;  ///< first day of the claim month
-  QString prefecture;
-  QString aichi;           ///< AichiSubmission
-  bool publicAid = false;  ///< 公費の印刷 (Check7)
+  frame::Prefecture prefecture;
+  frame::AichiSubmission aichi;
+  bool publicAid = false;  ///< 公費の印刷
 };
 
-/// Name of the printing screen.
-QString printScreen(const ScreenQuery& query);
+/// The printing screen of a claim.
+PrintScreen choosePrintScreen(const ScreenQuery& query);
 
-/// IsMonth2024 and IsMonth2020Dec: whether an era month lies on or after the first month of an edition.
-bool isMonth2024(const frame::EraDates& dates, const QString& claimMonth);
-bool isMonth2020Dec(const frame::EraDates& dates, const QString& claimMonth);
-
-/// The option that a printing screen presets for a claim: its newest edition, on レセプト印刷2018 by the era
-/// words of 申請年月 and the summary kind (column c12). Blank for a screen without a preset.
-QString presetOption(const QString& screen, const frame::EraDates& dates, const QString& claimMonth,
-                     const QString& summaryKind);
+/// The edition that a printing screen presets for a claim: its newest one, on レセプト印刷2018 by the era
+/// words of 申請年月, by whether the month lies before 2020/12, and by the summary kind (column c12). None
+/// for a screen without a preset.
+Edition presetEdition(PrintScreen screen, const frame::EraDates& dates, const QString& claimMonth,
+                      const QString& summaryKind);
 
 /// Ticks that a printing screen presets when it loads.
-QStringList presetChecks(const QString& prefecture);
+PrintTicks presetTicks(frame::Prefecture prefecture);
 
 }  // namespace printing

@@ -8,11 +8,11 @@ namespace {
 
 constexpr const char16_t* kEras[] = {u"明治", u"大正", u"昭和", u"平成", u"令和"};
 
-void showWords(Sheet& sheet, const QString& number, const DateWords& words) {
-  sheet.fields.show(QStringLiteral("GG") + number, words.era);
-  sheet.fields.show(QStringLiteral("YY") + number, words.year);
-  sheet.fields.show(QStringLiteral("MM") + number, words.month);
-  sheet.fields.show(QStringLiteral("DD") + number, words.day);
+void printWords(Sheet& sheet, const DateItems& items, const DateWords& words) {
+  sheet.print(items.era, words.era);
+  sheet.print(items.year, words.year);
+  sheet.print(items.month, words.month);
+  sheet.print(items.day, words.day);
 }
 
 DateWords wordsOf(const frame::EraParts& parts) {
@@ -21,10 +21,26 @@ DateWords wordsOf(const frame::EraParts& parts) {
 
 }  // namespace
 
+void Sheet::copy(std::span<const ItemRow> rows) {
+  for (const ItemRow& row : rows) copy(row.item, row.column);
+}
+
+void Sheet::markTicked(std::span<const ItemRow> rows) {
+  for (const ItemRow& row : rows) markIf(ticked(row.column), row.item);
+}
+
+bool Sheet::fit(std::span<const ItemSize> sizes, const QString& text) {
+  for (const ItemSize& size : sizes) {
+    const Variant variant{size.upTo, size.item.name()};
+    if (fields.variant({&variant, 1}, text)) return true;
+  }
+  return false;
+}
+
 bool Sheet::lateElderly() const { return insuranceIs({u"後期高齢"}); }
 
 bool Sheet::insuranceIs(std::initializer_list<const char16_t*> kinds) const {
-  const QString kind = value(u"保険の種類");
+  const QString kind = value(claim::insuranceKind);
   for (const char16_t* name : kinds)
     if (kind == QString::fromUtf16(name)) return true;
   return false;
@@ -41,12 +57,12 @@ DateWords dateWords(const QString& text, const frame::EraDates& dates) {
   return {match.captured(1), year, match.captured(3), match.captured(4)};
 }
 
-void showDate(Sheet& sheet, const QString& number, const QString& text) {
-  showWords(sheet, number, dateWords(text, sheet.dates));
+void printDate(Sheet& sheet, const DateItems& items, const QString& text) {
+  printWords(sheet, items, dateWords(text, sheet.dates));
 }
 
-void showDate(Sheet& sheet, const QString& number, QDate date) {
-  if (date.isValid()) showWords(sheet, number, wordsOf(frame::EraDates::partsOf(date)));
+void printDate(Sheet& sheet, const DateItems& items, QDate date) {
+  if (date.isValid()) printWords(sheet, items, wordsOf(frame::EraDates::partsOf(date)));
 }
 
 int eraNumber(const QString& era) {

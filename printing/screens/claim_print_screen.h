@@ -1,19 +1,22 @@
 #pragma once
 
+#include <vector>
+
 #include "claims/core/claims_state.h"
 #include "frame/core/run_state.h"
 #include "platform/report/report_operations.h"
 #include "platform/screen/screen.h"
 #include "printing/core/print_source.h"
+#include "printing/screens/print_forms.h"
 
 namespace printing {
 
-/// レセプト印刷2024: prints the claim on display on the forms from 2024/10. The user tells which paper is in
-/// the printer; the question before the job is the only pause.
+/// Prints the claim on display on the edition that the user chooses: the paper that is in the printer. The
+/// question before the job is the only pause.
 class ClaimPrintScreen : public screen::Screen {
  public:
-  ClaimPrintScreen(screen::Services& services, frame::RunState& run, claims::ClaimsState& state,
-                   report::ReportOperations& engine);
+  ClaimPrintScreen(screen::Services& services, const PrintForm& form, frame::RunState& run,
+                   claims::ClaimsState& state, report::ReportOperations& engine);
 
   void onLoad() override;
 
@@ -23,10 +26,12 @@ class ClaimPrintScreen : public screen::Screen {
 
  private:
   PrintSource source() const;
-  QSet<QString> ticks() const;
-  bool claimStands(const claims::ClaimRecord& claim);
+  PrintTicks ticks() const;
+  bool claimPassesChecks(const claims::ClaimRecord& claim);
   void leave();
 
+  const PrintScreen m_screen;
+  const std::vector<claims::TickName<PrintTicks>> m_ticks;  ///< those that the screen offers
   frame::RunState& m_run;
   claims::ClaimsState& m_state;
   report::ReportOperations& m_engine;

@@ -74,11 +74,7 @@ QStringList ConsentWatchScreen::openingTexts() const {
 void ConsentWatchScreen::print() {
   if (m_rows.isEmpty()) return messages().tell(QString::fromUtf16(kNothingToPrint));
   HandJob job;
-  job.prompt = [this] {
-    const bool go = messages().ask(promptOf(objectName()));
-    m_run.lastAnswer = go ? 1 : 2;
-    return go;
-  };
+  job.prompt = [this] { return messages().ask(promptOf(objectName())); };
   job.window = winId();
   job.title = u"同意期限一ヶ月以内"_s;
   job.pages = consentPages(m_rows.size());
@@ -86,6 +82,7 @@ void ConsentWatchScreen::print() {
     drawConsentPage(engine, m_rows, m_run.clock->today(), page);
   };
   const RunEnd end = runHandPrint(m_engine, job);
+  if (end == RunEnd::NotTaken) return messages().tell(m_engine.lastDocument().fault().message);
   if (end != RunEnd::Cancelled)
     voice().speakText(QString::fromUtf16(end == RunEnd::Printed ? kSent : kNotSent));
 }

@@ -5,6 +5,7 @@
 #include "platform/report/printer_choice.h"
 #include "platform/report/report_operations.h"
 #include "platform/screen/navigator_impl.h"
+#include "printing/core/print_button.h"
 
 namespace printing {
 
@@ -14,11 +15,11 @@ struct PrintingRoom {
   claims::ClaimsState& claims;
   report::ReportOperations& engine;
   report::PrinterChoice& choice;  ///< of the engine
+  PrintButtons buttons{run, engine};
 };
 
-/// Lists the printing screens, and hands the claim form the choice of its printing screen and the printer's
-/// dialog. The engine's own dialog is the screen プリンターオプション (printerDialog). `room` must outlive
-/// the registry.
+/// Lists the printing screens, and hands the claim screens their print buttons. The engine's own dialog is
+/// the screen プリンターオプション (printerDialog). `room` must outlive the registry and stay in its place.
 void registerScreens(screen::ScreenRegistry& registry, PrintingRoom& room);
 
 /// Name of the screen that PR_PrinterSetupDlg shows.

@@ -5,11 +5,13 @@
 
 namespace records {
 
+using namespace Qt::Literals::StringLiterals;
+
 std::optional<QDate> gridMonth(const QString& claimMonth, const frame::EraDates& era) {
   if (claimMonth.isEmpty()) return std::nullopt;
   QString month = claimMonth;
   if (month.startsWith(u"令和元年")) month[2] = u'1';
-  const std::optional<QDate> day = era.anyDate(month + QStringLiteral("1日"));
+  const std::optional<QDate> day = era.anyDate(month + u"1日"_s);
   return day ? day : era.claimMonthToDate(month);
 }
 
@@ -20,18 +22,18 @@ int visibleDays(std::optional<QDate> month) {
 QString gridCodeMessage(const QString& cell, const QString& treatment) {
   if (cell.isEmpty()) return {};
   const QChar first = cell.front();
-  bool stands = false;
+  bool valid = false;
   switch (claims::kindOf(treatment)) {
     case claims::Kind::Acupuncture:
-      stands = first >= u'a' && first <= u'f';
+      valid = first >= u'a' && first <= u'f';
       break;
     case claims::Kind::Massage:
-      stands = first >= u'g' && first <= u'j';
+      valid = first >= u'g' && first <= u'j';
       break;
     case claims::Kind::None:
       break;
   }
-  return stands ? QString() : QStringLiteral("治療内容が正しくありません。");
+  return valid ? QString() : u"治療内容が正しくありません。"_s;
 }
 
 }  // namespace records

@@ -2,6 +2,8 @@
 
 #include "platform/store/criteria_text.h"
 #include "platform/store/database.h"
+#include "platform/store/tables/claims.h"
+#include "platform/text/utf16.h"
 
 namespace records {
 
@@ -9,12 +11,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString kInOrder = u"order by ID"_s;
+QString inOrder() { return u"order by "_s + claim::id.text(); }
 
-text::Result<store::RecordSet> tableOf(const QString& path) {
+text::Result<store::RecordSet> openTable(const QString& path, const store::Table& table) {
   auto database = store::Database::open(path);
   if (!database) return database.fault();
-  return store::RecordSet::open(*database, u"保険申請"_s);
+  return store::RecordSet::open(*database, text::utf16(table.name()));
 }
 
 }  // namespace
@@ -22,20 +24,21 @@ text::Result<store::RecordSet> tableOf(const QString& path) {
 text::Result<GridClaim> GridClaim::open(const frame::DataFolders& folders) {
   auto file = claims::ClaimFile::open(folders);
   if (!file) return file.fault();
-  auto firsts = tableOf(folders[frame::folder::kClaims1]);
+  auto firsts = openTable(folders[frame::folder::kClaims1], claim::firstHalf);
   if (!firsts) return firsts.fault();
-  auto seconds = tableOf(folders[frame::folder::kClaims2]);
+  auto seconds = openTable(folders[frame::folder::kClaims2], claim::secondHalf);
   if (!seconds) return seconds.fault();
   return GridClaim(std::move(*file), std::move(*firsts), std::move(*seconds));
 }
 
 // The contained-in pattern of a blank serial would find everybody's claims.
 text::Result<store::RecordSet> GridClaim::of(const QString& patient, const QString& month) {
-  m_firsts.setFilter((patient.isEmpty() ? u"ID = 0 "_s : store::likeCriterion(u"番号1"_s, patient)) +
-                     kInOrder);
+  const QString ofPatient =
+      patient.isEmpty() ? claim::id.text() + u" = 0 "_s : store::likeCriterion(claim::patientSerial, patient);
+  m_firsts.setFilter(ofPatient + inOrder());
   auto claims = m_firsts.openRecordset();
   if (!claims || month.isEmpty()) return claims;
-  claims->setFilter(store::likeCriterion(u"申請年月"_s, month) + kInOrder);
+  claims->setFilter(store::likeCriterion(claim::month, month) + inOrder());
   return claims->openRecordset();
 }
 
@@ -52,10 +55,12 @@ text::Result<store::RecordSet> GridClaim::take(qint64 id) {
 }
 
 text::Result<store::RecordSet> GridClaim::secondHalf(qint64 id) {
-  m_seconds.setFilter(u"Id = %1"_s.arg(id));
+  m_seconds.setFilter(u"%1 = %2"_s.arg(claim::secondId.text()).arg(id));
   auto half = m_seconds.openRecordset();
-  if (!half || half->recordCount() > 0 || !m_seconds.refresh()) return half;
-  return m_seconds.openRecordset();  // it may have been made meanwhile
+  if (!half || half->recordCount() > 0) return half;
+  // It may have been made meanwhile.
+  if (const text::Done read = m_seconds.refresh(); !read) return read.fault();
+  return m_seconds.openRecordset();
 }
 
 claims::ClaimRecord GridClaim::with(const claims::ClaimRecord& typed) const {
@@ -71,6 +76,7 @@ text::Done GridClaim::write(const claims::ClaimRecord& typed) {
       if (const text::Done made = m_file.repairSecond(m_id); !made) return made;
     return m_file.store(m_id, m_seen, typed);
   });
+  // Where this fails too, the next store compares with what was read before and is refused at worst.
   if (!done)
     if (auto now = m_file.read(m_id)) m_seen = *now;
   return done;

@@ -13,19 +13,18 @@ class GridClaim {
   static text::Result<GridClaim> open(const frame::DataFolders& folders);
 
   /// The first halves of the patient's claims in the order of their IDs, of them those of the month
-  /// ("令和6年" is any of that year) where one is given. A patient without a serial has none.
+  /// ("令和6年" is any of that year) if one is given. A patient without a serial has none.
   text::Result<store::RecordSet> of(const QString& patient, const QString& month);
 
-  /// Takes the claim into the grid; 0 and a fault take none. Its second half, a set without rows where the
-  /// file lacks it.
+  /// Takes the claim into the grid; with 0 or after a fault the grid has none. Returns its second half, a set
+  /// without rows if the file lacks it.
   text::Result<store::RecordSet> take(qint64 id);
-  /// The claim in the grid, 0 where there is none.
+  /// ID of the claim in the grid, 0 if there is none.
   qint64 id() const { return m_id; }
-  /// The claim in the grid as it was read, with the typed columns over it.
+  /// The claim in the grid as it was read, with the typed columns in place of its own.
   claims::ClaimRecord with(const claims::ClaimRecord& typed) const;
-  /// Writes what was typed, both halves in one transaction; a second half that is missing is made. Refused
-  /// where another computer changed the claim meanwhile; the next write then goes over the claim as it
-  /// stands.
+  /// Writes what was typed, both halves in one transaction; a missing second half is added. Refused if
+  /// another computer changed the claim meanwhile; the next write then compares with the changed claim.
   text::Done write(const claims::ClaimRecord& typed);
 
  private:

@@ -5,12 +5,14 @@
 
 namespace records {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr double kInnerWidth = label::kWidth - 2 * label::kMarginX;
 constexpr double kInnerHeight = label::kHeight - 2 * label::kMarginY;
 constexpr double kShrinkStep = 0.95;
-constexpr double kSmallest = 0.2;  // of the sizes: holds three lines of 255 characters and a name of 255
+constexpr double kMinScale = 0.2;  // fits three lines of 255 characters and a name of 255
 
 /// A text of the label and the height of its characters.
 struct Block {
@@ -21,14 +23,14 @@ struct Block {
 bool isBlank(const QString& text) { return text.trimmed().isEmpty(); }
 
 std::vector<Block> blocksOf(const LabelAddress& address) {
-  const QString mark = QStringLiteral("〒");
+  const QString mark = u"〒"_s;
   std::vector<Block> blocks;
   if (!isBlank(address.postcode))
     blocks.push_back(
         {address.postcode.startsWith(mark) ? address.postcode : mark + address.postcode, label::kTextSize});
   for (const QString& line : address.lines)
     if (!isBlank(line)) blocks.push_back({line, label::kTextSize});
-  if (!isBlank(address.name)) blocks.push_back({address.name + QStringLiteral("  様"), label::kNameSize});
+  if (!isBlank(address.name)) blocks.push_back({address.name + u"  様"_s, label::kNameSize});
   return blocks;
 }
 
@@ -91,7 +93,7 @@ std::vector<LabelLine> labelLines(const LabelAddress& address, int place) {
   const std::vector<Block> blocks = blocksOf(address);
   double scale = 1;
   std::vector<LabelLine> lines = set(blocks, scale);
-  while (!lines.empty() && lines.back().y + lines.back().size > kInnerHeight && scale > kSmallest)
+  while (!lines.empty() && lines.back().y + lines.back().size > kInnerHeight && scale > kMinScale)
     lines = set(blocks, scale *= kShrinkStep);
   const double x = label::kLeft + (place % label::kColumns) * label::kWidth + label::kMarginX;
   const double y = label::kTop + (place / label::kColumns) * label::kHeight + label::kMarginY;

@@ -15,7 +15,7 @@ inline constexpr double kLeft = 18.6;
 inline constexpr double kTop = 21.6;
 inline constexpr double kWidth = 86.4;
 inline constexpr double kHeight = 42.3;
-inline constexpr double kMarginX = 6.0;  ///< kept free inside each label: sheets feed a little askew
+inline constexpr double kMarginX = 6.0;  ///< left free inside each label: sheets feed a little askew
 inline constexpr double kMarginY = 4.0;
 inline constexpr double kTextSize = 3.6;  ///< twenty full-width characters, an address line, fit side by side
 inline constexpr double kNameSize = 5.0;
@@ -23,7 +23,7 @@ inline constexpr double kLinePitch = 1.35;  ///< from line to line, in sizes of 
 inline constexpr char16_t kFont[] = u"ＭＳ 明朝";
 }  // namespace label
 
-/// What a label says, as the patient table holds it.
+/// What a label says, as it is in the patient table.
 struct LabelAddress {
   QString postcode;
   QString lines[3];
@@ -44,7 +44,7 @@ int labelSheets(int labels);
 /// The lines of the label at a place of the sheet: 0 upper left, 1 upper right, 2 the next row's left.
 ///
 /// "〒" and the postcode, the address lines, the name and "  様", each only when not blank. What is too wide
-/// goes on in a further line; where the lines then do not fit, all are set smaller, so that no text leaves
+/// goes on in a further line; if the lines then do not fit, all are set smaller, so that no text leaves
 /// its label.
 std::vector<LabelLine> labelLines(const LabelAddress& address, int place);
 

@@ -2,17 +2,21 @@
 
 namespace records {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
+
 constexpr int kDateDigits = 8;
 constexpr int kClaimAddressLimit = 39;  // the address field of a new claim
+
 }  // namespace
 
 QString nextSerial(const QString& last, QDate today) {
-  const QString date = today.toString(QStringLiteral("yyyyMMdd"));
+  const QString date = today.toString(u"yyyyMMdd"_s);
   bool numeric = false;
   const qlonglong value = last.toLongLong(&numeric);
   if (numeric && last.left(kDateDigits) == date) return QString::number(value + 1);
-  return date + QStringLiteral("001");
+  return date + u"001"_s;
 }
 
 QString joinedAddress(const QString& line1, const QString& line2, const QString& line3) {

@@ -1,34 +1,48 @@
 #include "records/core/previous_visit.h"
 
+#include <iterator>
+
+#include "platform/store/tables/visits.h"
+
 namespace records {
 namespace {
 
+using visits::detailMemo;
+using visits::detailText;
+
 /// In the order of the slots.
-constexpr const char16_t* kColumns[] = {
-    u"氏名",     u"生年月日",    u"治療概略",    u"保険者負担金", u"保険の一部負担金",
-    u"治療金額", u"ETC1",        u"d1",          u"d4",           u"d7",
-    u"d2",       u"d5",          u"d8",          u"d3",           u"d6",
-    u"d9",       u"memodummy21", u"memodummy22", u"d11",          u"d12",
-    u"d13",      u"d14",         u"d15",         u"d16",          u"d17",
-    u"d18",      u"d19",         u"memodummy23", u"memodummy24",  u"d20",
-    u"d21",      u"d22",         u"d23",         u"d24",          u"d25",
-    u"d26",      u"d27",         u"d10",
+constexpr store::Column kColumns[] = {
+    visits::name,   visits::birth,         visits::summary, visits::insurerPays, visits::share,
+    visits::fee,    visits::patientSerial, detailText[1],   detailText[4],       detailText[7],
+    detailText[2],  detailText[5],         detailText[8],   detailText[3],       detailText[6],
+    detailText[9],  detailMemo[21],        detailMemo[22],  detailText[11],      detailText[12],
+    detailText[13], detailText[14],        detailText[15],  detailText[16],      detailText[17],
+    detailText[18], detailText[19],        detailMemo[23],  detailMemo[24],      detailText[20],
+    detailText[21], detailText[22],        detailText[23],  detailText[24],      detailText[25],
+    detailText[26], detailText[27],        detailText[10],
 };
-static_assert(std::size(kColumns) == 38);
+constexpr int kFilledSlots = static_cast<int>(std::size(kColumns));
+static_assert(kFilledSlots == 38);
+static_assert(kColumns[PreviousVisit::Name - 1] == visits::name);
+static_assert(kColumns[PreviousVisit::Birth - 1] == visits::birth);
+static_assert(kColumns[PreviousVisit::Summary - 1] == visits::summary);
+static_assert(kColumns[PreviousVisit::Insurer - 1] == visits::insurerPays);
+static_assert(kColumns[PreviousVisit::Share - 1] == visits::share);
+static_assert(kColumns[PreviousVisit::Amount - 1] == visits::fee);
+static_assert(kColumns[PreviousVisit::Patient - 1] == visits::patientSerial);
 
 constexpr int kCarried[] = {1, 2, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18};
 
 }  // namespace
 
-void PreviousVisit::take(const std::function<QString(const QString&)>& valueOf) {
+void PreviousVisit::take(const std::function<QString(const store::Column&)>& valueOf) {
   clear();
-  for (int slot = 1; slot <= static_cast<int>(std::size(kColumns)); ++slot)
-    m_values[static_cast<size_t>(slot - 1)] = valueOf(column(slot));
+  for (size_t slot = 0; slot < std::size(kColumns); ++slot) m_values[slot] = valueOf(kColumns[slot]);
 }
 
 QString PreviousVisit::column(int slot) {
-  if (slot < 1 || slot > static_cast<int>(std::size(kColumns))) return {};
-  return QString::fromUtf16(kColumns[slot - 1]);
+  if (slot < 1 || slot > kFilledSlots) return {};
+  return kColumns[slot - 1].text();
 }
 
 std::span<const int> PreviousVisit::carriedAtOnce() { return kCarried; }

@@ -3,14 +3,15 @@
 #include <QString>
 #include <array>
 #include <functional>
-#include <iterator>
 #include <span>
+
+#include "platform/store/column.h"
 
 namespace records {
 
 /// The previous-visit store: the values of the visit that was on view when 新規追加 was pressed, which is
 /// whichever row was selected then and not the latest by date. The 前回同様 buttons of the ledger and of the
-/// detail chart copy from it. Slots count from 1; the last two hold nothing yet.
+/// detail chart copy from it. Slots count from 1; the last two are never filled.
 class PreviousVisit {
  public:
   static constexpr int kSlots = 40;
@@ -19,11 +20,11 @@ class PreviousVisit {
   /// Blanks every slot.
   void clear() { m_values = {}; }
   /// Blanks every slot, then reads the visit: `valueOf` gives the value of a column.
-  void take(const std::function<QString(const QString&)>& valueOf);
+  void take(const std::function<QString(const store::Column&)>& valueOf);
   /// A slot that was never filled is blank.
   QString value(int slot) const { return m_values.at(static_cast<size_t>(slot - 1)); }
 
-  /// Column of a slot; null for a slot that holds nothing.
+  /// Name of the column of a slot; null for a slot that has none.
   static QString column(int slot);
   /// The slots that a new visit takes over at once: patient, classification of diseases, past history and
   /// chief complaint. All others wait for 前回同様.

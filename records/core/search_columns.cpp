@@ -1,27 +1,28 @@
 #include "records/core/search_columns.h"
 
+#include <vector>
+
 #include "platform/store/tables/patients.h"
+#include "records/core/patient_columns.h"
 
 namespace records {
 
-namespace {
-constexpr SearchColumn kColumns[] = {
-    patients::id,         patients::patientNumber, patients::chartNumber,  {u"フリガナ", patients::kana},
-    patients::name,       patients::sex,           patients::birth,        patients::age,
-    patients::occupation, patients::company,       patients::zip,          patients::address[1],
-    patients::address[2], patients::address[3],    patients::telephone[1], patients::telephone[2],
-    patients::mobile,     patients::fax,           patients::keyword[1],   patients::keyword[2],
-    patients::group,      patients::referredBy,    patients::referred,     patients::practitioner,
-    patients::allotted,   patients::history,       patients::date1,        patients::ownText[1],
-    patients::ownText[2], patients::ownText[3],    patients::symptoms,     patients::treatment,
-    patients::memo,
-};
-}  // namespace
+using namespace Qt::Literals::StringLiterals;
 
-std::span<const SearchColumn> searchColumns() { return kColumns; }
+std::span<const SearchColumn> searchColumns() {
+  static const std::vector<SearchColumn> columns = [] {
+    std::vector<SearchColumn> all{{patients::id.text(), patients::id}};
+    for (const store::Column& column : kPatientColumns)
+      all.push_back({column == patients::kana ? u"フリガナ"_s : column.text(), column});
+    for (const store::Column& column : {patients::treatment, patients::memo})
+      all.push_back({column.text(), column});
+    return all;
+  }();
+  return columns;
+}
 
 QString columnOfCaption(const QString& caption) {
-  for (const SearchColumn& row : kColumns)
+  for (const SearchColumn& row : searchColumns())
     if (caption == row.caption) return row.column.text();
   return {};
 }

@@ -1,25 +1,22 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
 #include <span>
 
 #include "platform/store/column.h"
 
 namespace records {
 
-/// A column that the patient table can be searched by: the caption in the list and the column's name.
+/// A column that the patient table can be searched by: the caption in the list and the column.
 struct SearchColumn {
-  QStringView caption;
+  QString caption;
   store::Column column;
-  /// Under its own name.
-  constexpr SearchColumn(const store::Column& own) : caption(own.name()), column(own) {}
-  constexpr SearchColumn(const char16_t* text, const store::Column& of) : caption(text), column(of) {}
 };
 
-/// The columns in the order of the list on the patient screen.
+/// What the search row of the patient screen offers, in the order of its list: the columns of the patient
+/// list, with ID before and the columns 治療 and メモ1 after them. The kana have a caption of their own.
 std::span<const SearchColumn> searchColumns();
-/// The column behind a caption of the list; blank where the list has no such caption.
+/// The name of the column that has the caption in the list; null if the list has no such caption.
 QString columnOfCaption(const QString& caption);
 
 }  // namespace records

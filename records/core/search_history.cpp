@@ -2,14 +2,16 @@
 
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 
 #include "platform/text/sjis.h"
+#include "platform/text/whole_file.h"
 
 namespace records {
 
+using namespace Qt::Literals::StringLiterals;
+
 SearchHistory::SearchHistory(const QString& programFolder)
-    : m_path(QDir(programFolder).filePath(QStringLiteral("word.txt"))) {}
+    : m_path(QDir(programFolder).filePath(u"word.txt"_s)) {}
 
 QStringList SearchHistory::words() const {
   QFile file(m_path);
@@ -18,26 +20,21 @@ QStringList SearchHistory::words() const {
   for (QString& line : lines)
     if (line.endsWith(QLatin1Char('\r'))) line.chop(1);
   lines.removeAll(QString());
-  return lines.mid(0, kMostLines);
+  return lines.mid(0, kMaxLines);
 }
 
-QStringList SearchHistory::remembered(const QStringList& lines, const QString& word, int olderKept) {
+QStringList SearchHistory::remembered(const QStringList& lines, const QString& word, int maxOlder) {
   if (word.isEmpty() || lines.contains(word)) return lines;
-  return QStringList{word} + lines.mid(0, olderKept);
+  return QStringList{word} + lines.mid(0, maxOlder);
 }
 
-text::Done SearchHistory::remember(const QString& word, int olderKept) const {
+text::Done SearchHistory::remember(const QString& word, int maxOlder) const {
   const QStringList before = words();
-  const QStringList after = remembered(before, word, olderKept);
+  const QStringList after = remembered(before, word, maxOlder);
   if (after == before) return {};
-  // Written beside and renamed: a fault leaves the old history whole.
-  QSaveFile file(m_path);
-  if (!file.open(QIODevice::WriteOnly)) return text::Fault{file.errorString()};
   QString content;
-  for (const QString& line : after) content += line + QStringLiteral("\r\n");
-  file.write(text::toSjisKeepingAll(content));
-  if (!file.commit()) return text::Fault{file.errorString()};
-  return {};
+  for (const QString& line : after) content += line + u"\r\n"_s;
+  return text::writeWholeFile(m_path, text::toSjisKeepingAll(content));
 }
 
 }  // namespace records

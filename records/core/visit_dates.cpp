@@ -1,14 +1,10 @@
 #include "records/core/visit_dates.h"
 
+#include "platform/store/tables/visits.h"
+
 namespace records {
-namespace {
 
 using namespace Qt::Literals::StringLiterals;
-
-const QString kDate = u"治療日時"_s;
-const QString kShadow = u"治療日チェック"_s;
-
-}  // namespace
 
 std::optional<QString> visitDateShadow(const QString& typed, const frame::EraDates& era) {
   if (typed.isEmpty()) return std::nullopt;
@@ -19,9 +15,10 @@ std::optional<QString> visitDateShadow(const QString& typed, const frame::EraDat
 
 text::Done passVisitDates(store::RecordSet& view, const frame::EraDates& era) {
   if (view.recordCount() == 0) return {};
-  return view.updateAll({kDate}, kShadow, [&era](store::RowViews row) -> std::optional<store::Value> {
-    return visitDateShadow(row[0].toString(), era);
-  });
+  return view.updateAll({visits::date}, visits::dateShadow,
+                        [&era](store::RowViews row) -> std::optional<store::Value> {
+                          return visitDateShadow(row[0].toString(), era);
+                        });
 }
 
 QString todayText(const frame::EraDates& era) {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QVariantMap>
-
+#include "frame/core/routes.h"
 #include "platform/store/record_set.h"
 
 namespace records {
 
-/// The sums over a set of visits, of the ledger of one patient as of the takings of all. Amounts in yen.
+/// The sums over a set of visits, of one patient in the ledger or of all patients in the takings. Amounts in
+/// yen.
 struct VisitTotals {
   qint64 rows = 0;
   qint64 insurer = 0;      ///< 保険者負担金
@@ -18,14 +18,14 @@ struct VisitTotals {
   bool operator==(const VisitTotals&) const = default;
 };
 
-/// The whole yen of an amount as a user types it: "1,200", "１２００", "¥1,200" and "1200円" are 1200. A text
-/// that begins with no number, and a blank one, adds nothing.
+/// The whole yen of an amount as a user types it: "1,200", "１２００", "¥1,200" and "1200円" are 1200. A
+/// blank text, or one that does not begin with a number, adds nothing.
 qint64 yenOf(QStringView amount);
 
-/// Adds up every row of a set of カルテ as the file holds it now. The current row stays.
-store::Result<VisitTotals> totalsOf(const store::RecordSet& visits);
+/// Adds up every row of a set of visits as the file has it now. The current row stays.
+store::Result<VisitTotals> totalsOf(const store::RecordSet& rows);
 
-/// The sums as 集計総合金額 is handed them, with the name of the screen that opens it.
-QVariantMap totalsRequest(const VisitTotals& totals, const QString& opener);
+/// The route to 集計総合金額 with the sums.
+routes::Totals totalsRoute(const VisitTotals& totals, bool ofOnePatient);
 
 }  // namespace records

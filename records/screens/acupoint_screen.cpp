@@ -1,17 +1,19 @@
 #include "records/screens/acupoint_screen.h"
 
+#include <algorithm>
+
 #include "platform/screen/find_row.h"
 #include "platform/store/criteria_text.h"
 #include "records/screens/acupoint_rows.h"
 
 namespace records {
 
-using namespace Qt::Literals::StringLiterals;
+using namespace acupoint_rows;
 
 namespace {
 
-const DictionaryRow kAcupoints{kAcupointScreen, frame::folder::kAcupoints, u"経穴",
-                               u"新しい経穴を書き込んでから、更新ボタンを押してください"};
+constexpr DictionaryRow kAcupoints{kDeclaration, kName, frame::folder::kAcupoints,
+                                   u"新しい経穴を書き込んでから、更新ボタンを押してください"};
 
 }  // namespace
 
@@ -19,24 +21,25 @@ AcupointScreen::AcupointScreen(screen::Services& services, frame::RunState& run)
     : DictionaryScreen(kAcupoints, services, run) {}
 
 void AcupointScreen::onLoad() {
-  setText(u"Combo1"_s, QString::fromUtf16(kAcupointKeys.front()));
+  setText(kKey, kKeys.front());
   DictionaryScreen::onLoad();
 }
 
-QStringList AcupointScreen::onView() const { return {entry(), text(u"txtFields(1)"_s)}; }
+QStringList AcupointScreen::rowInWords() const { return {entry(), text(kKana)}; }
 
 void AcupointScreen::add() {
-  if (source().ready() && source().addNew()) askForEntry();
+  if (source().ensureOpen() && source().addNew()) askForEntry();
 }
 
 void AcupointScreen::search() {
-  const QString word = text(u"Text1"_s), column = text(u"Combo1"_s);
-  if (word.isEmpty()) return askFor(u"Text1"_s);
-  if (!source().ready() || !leaveRow()) return;
-  if (!screen::findRow(*this, store::likeCriterion(column, word))) return;
-  QStringList found = onView();
-  // Named points are heard by their names; of another column the place that matched is heard too.
-  if (!column.startsWith(u"経穴名")) found << column << source().rows().value(column);
+  const QString word = text(kWord);
+  if (word.isEmpty()) return askFor(kWord);
+  if (!source().ensureOpen() || !mayLeaveRow()) return;
+  const store::Column& key = kKeys.at(static_cast<size_t>(std::max(0, chosenItem(kKey))));
+  if (!screen::findRow(*this, store::likeCriterion(key, word))) return;
+  QStringList found = rowInWords();
+  // The names of a point are heard anyway; the text that matched in another column is heard too.
+  if (key != acupoints::name && key != acupoints::kana) found << key << source().rows().value(key);
   voice().speakHeading(found);
 }
 

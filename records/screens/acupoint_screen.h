@@ -12,11 +12,11 @@ class AcupointScreen final : public DictionaryScreen {
 
   void onLoad() override;
   void add();
-  /// To the next point that holds the text in the chosen column, round the end.
+  /// Goes to the next point with the text in the chosen column, after the last from the first.
   void search();
 
  protected:
-  QStringList onView() const override;
+  QStringList rowInWords() const override;
 };
 
 }  // namespace records

@@ -1,42 +1,48 @@
 #include "records/screens/chart1_screen.h"
 
+#include "frame/core/routes.h"
 #include "platform/screen/find_row.h"
 #include "platform/shell/desktop.h"
 #include "platform/store/criteria_text.h"
+#include "platform/text/utf16.h"
 #include "records/core/visit_dates.h"
 #include "records/screens/chart1_rows.h"
-#include "records/screens/patient_parts.h"
+#include "records/screens/date_fields.h"
 
 namespace records {
 
 using namespace Qt::Literals::StringLiterals;
+using namespace chart1_rows;
 
 namespace {
 
-const QString kMaster = u"治療台帳4"_s;
-const QString kName = u"txtFields(4)"_s;
-const QString kDictionaries[] = {u"frmCLmoji"_s, u"frmCl2moji"_s, u"frm経穴"_s};
+constexpr screen::ScreenName kDictionaryWindows[] = {routes::Phrases::screen, routes::PhrasePairs::screen,
+                                                     routes::Acupoints::screen};
 
-const QString kUpdateQuestion = u"       　　    更新しますか？"_s;
-const QString kUpdateWarning =
-    u"但し、一旦書き込んであったデータを消すと更新しません。この場合は、スペースで１文字の空白を作って下さい。"_s;
-const QString kCloseQuestion = u"　　　この方のカルテを閉じますか？"_s;
-const QString kDropQuestion = u"登録出来ませんでした。入力した内容を捨てて、閉じますか？"_s;
+constexpr char16_t kUpdateQuestion[] = u"       　　    更新しますか？";
+constexpr char16_t kUpdateWarning[] =
+    u"但し、一旦書き込んであったデータを消すと更新しません。この場合は、スペースで１文字の空白を作って下さい。";
+constexpr char16_t kCloseQuestion[] = u"　　　この方のカルテを閉じますか？";
+
+constexpr screen::RecordWords kWords{
+    .stored = u"更新しました",
+    .discardQuestion = u"登録出来ませんでした。入力した内容を捨てて、閉じますか？"};
 
 }  // namespace
 
 Chart1Screen::Chart1Screen(screen::Services& services, frame::RunState& run)
-    : Screen(kChart1Declaration, services), m_run(run) {}
+    : RecordScreen(kDeclaration, services, kWords), m_run(run) {}
 
 void Chart1Screen::onLoad() {
-  applyOwnCaptions(*this, m_run.settings);
+  applyOwnCaptions(*this, m_run.settings, kOwnCaptions);
   source().open(m_run.folders[frame::folder::kPatients]);
 }
 
 void Chart1Screen::opened(const screen::Request& request) {
-  m_called = request.value(u"氏名"_s).toString();
-  find(request.value(u"テキスト5"_s).toString());
-  // Called for another patient while it is open, it has no opening of its own.
+  const auto* route = request.as<routes::PatientTexts>();
+  m_called = route ? route->name : QString();
+  if (route) find(route->serial);
+  // An open window has no opening of its own when it is asked for another patient.
   if (isVisible()) sayResult(openingTexts());
 }
 
@@ -48,14 +54,15 @@ QStringList Chart1Screen::openingTexts() const {
   return texts;
 }
 
-// From the row on view to the end, then from the first row. What another window stored since is read first.
+// Searches from the row on view to the end, then from the first row. What another window stored meanwhile is
+// read first.
 void Chart1Screen::find(const QString& serial) {
-  if (serial.isEmpty() || !source().isOpen() || !screen::settleRow(source())) return;
+  if (serial.isEmpty() || !source().isOpen() || !screen::commitOrDiscardRow(source())) return;
   text::Result<bool> found = false;
   if (const text::Done read = source().rows().refresh(); !read)
     found = read.fault();
   else
-    found = screen::seekRow(source(), store::likeCriterion(u"テキスト5"_s, serial));
+    found = screen::seekRow(source(), store::likeCriterion(patients::serial, serial));
   if (found && *found) return;
   m_onceActive.set([this, found] {
     if (found) return screen::tellNotFound(*this);
@@ -63,43 +70,38 @@ void Chart1Screen::find(const QString& serial) {
   });
 }
 
-void Chart1Screen::step(void (screen::DataSource::*move)()) {
-  (source().*move)();
-  if (source().isOpen()) voice().speakHeading({source().positionText(), text(kName)});
+QStringList Chart1Screen::rowInWords() const {
+  if (!source().isOpen()) return {};
+  return {source().positionText(), text(kName)};
 }
 
 // ---- The row ----
 
-bool Chart1Screen::ask(const QString& question) {
-  const bool yes = messages().ask(question);
-  m_run.lastAnswer = yes ? 1 : 0;
-  return yes;
-}
-
 void Chart1Screen::update() {
-  if (ask(kUpdateQuestion)) store();
+  if (messages().ask(text::utf16(kUpdateQuestion))) store();
 }
 
 void Chart1Screen::updateAfterWarning() {
-  if (ask(kUpdateQuestion) && ask(kUpdateWarning)) store();
+  if (messages().ask(text::utf16(kUpdateQuestion)) && messages().ask(text::utf16(kUpdateWarning))) store();
 }
 
 void Chart1Screen::store() {
-  if (!source().ready() || !source().write()) return;
-  // The master stands on the same table: it shows what is stored now, unless something is being typed there.
-  Screen* master = navigator().loaded(kMaster);
+  if (!source().ensureOpen() || !source().write()) return;
+  // The patient master reads the same table: it shows what is stored now, unless something is being typed
+  // there.
+  Screen* master = navigator().loaded(routes::PatientRegister::screen);
   if (master && master->source().isOpen() && !master->source().pending()) master->source().show();
-  voice().speakText(u"更新しました"_s + voice::kSpeechSeparator + text(kName));
+  voice().speakText(text::utf16(words().stored) + voice::kSpeechSeparator + text(kName));
 }
 
 void Chart1Screen::toSeireki() {
-  convertDates(*this, m_run.eraDates(), kToSeireki);
-  sayDates(*this, kToSeireki);
+  convertDates(*this, kDates, m_run.eraDates(), kToSeireki);
+  sayDates(*this, kDates, kToSeireki);
 }
 
 void Chart1Screen::toWareki() {
-  convertDates(*this, m_run.eraDates(), kToWareki);
-  sayDates(*this, kToWareki);
+  convertDates(*this, kDates, m_run.eraDates(), kToWareki);
+  sayDates(*this, kDates, kToWareki);
 }
 
 void Chart1Screen::copyNow() {
@@ -108,12 +110,12 @@ void Chart1Screen::copyNow() {
   voice().speakText(now + u"をコピーしました"_s);
 }
 
-// Said last, and held: a window that goes must not let the focus cut it.
+// Said last, and to its end: the focus that moves from a closing window must not interrupt it.
 void Chart1Screen::closeDictionaries() {
-  for (const QString& window : kDictionaries)
+  for (const screen::ScreenName& window : kDictionaryWindows)
     if (Screen* dictionary = navigator().loaded(window)) dictionary->close();
-  for (const QString& window : kDictionaries)
-    if (navigator().isShown(window)) {  // it holds a text that its file refuses
+  for (const screen::ScreenName& window : kDictionaryWindows)
+    if (navigator().isShown(window)) {  // its file refused what was typed
       navigator().show(window);
       return;
     }
@@ -122,11 +124,12 @@ void Chart1Screen::closeDictionaries() {
 
 // ---- Leaving ----
 
-// What was typed is stored before the question. A row that the file keeps refusing must not lock the user in.
+// What was typed is stored before the question. A row that the file refuses every time must not lock
+// the user in.
 void Chart1Screen::finish() {
   if (!source().isOpen() || source().write()) {
-    if (ask(kCloseQuestion)) closeNow();
-  } else if (messages().askToDrop(kDropQuestion)) {
+    if (messages().ask(text::utf16(kCloseQuestion))) closeNow();
+  } else if (messages().askToDrop(text::utf16(words().discardQuestion))) {
     closeNow();
   }
 }

@@ -2,14 +2,13 @@
 
 #include "frame/core/run_state.h"
 #include "platform/screen/once_active.h"
-#include "platform/screen/screen.h"
+#include "platform/screen/record_screen.h"
 
 namespace records {
 
-/// 治療台帳2 (カルテ１): the long texts of the patient master, on one patient. It holds no data of its own.
-///
-/// Request keys: "テキスト5" (the serial of the patient), "氏名" (announced).
-class Chart1Screen : public screen::Screen {
+/// 治療台帳2 (カルテ１): the long texts of a patient. It has no table of its own but shows the patient
+/// master. How it is entered: routes::PatientTexts.
+class Chart1Screen : public screen::RecordScreen {
  public:
   Chart1Screen(screen::Services& services, frame::RunState& run);
 
@@ -18,10 +17,6 @@ class Chart1Screen : public screen::Screen {
   void onActivate() override;
   bool onCloseBox() override;
   QStringList openingTexts() const override;
-  void goFirst() override { step(&screen::DataSource::moveFirst); }
-  void goPrevious() override { step(&screen::DataSource::movePrevious); }
-  void goNext() override { step(&screen::DataSource::moveNext); }
-  void goLast() override { step(&screen::DataSource::moveLast); }
 
   void update();
   void updateAfterWarning();
@@ -31,13 +26,16 @@ class Chart1Screen : public screen::Screen {
   void closeDictionaries();
   void finish();
 
+ protected:
+  QStringList rowInWords() const override;
+  /// What was typed is stored.
+  bool mayLeaveRow() override { return source().write(); }
+
  private:
-  bool ask(const QString& question);
   void find(const QString& serial);
-  void step(void (screen::DataSource::*move)());
   void store();
   frame::RunState& m_run;
-  QString m_called;  ///< name of the patient whose chart was called for
+  QString m_called;  ///< name of the patient whose chart was asked for
   screen::OnceActive m_onceActive;
 };
 

@@ -4,6 +4,7 @@
 
 #include "platform/screen/control_book.h"
 #include "platform/shell/desktop.h"
+#include "platform/text/utf16.h"
 
 namespace records {
 
@@ -11,39 +12,30 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString kEntry = u"txtFields(0)"_s;
-
-constexpr char16_t kDeleteTitle[] = u"削除";
-constexpr char16_t kDeleteQuestion[] = u"表示のデ－タの削除をしてもいいですか？";
-constexpr char16_t kNothingToDelete[] = u"削除するデータがありません。";
-constexpr char16_t kDiscardQuestion[] = u"更新出来ませんでした。入力した内容を捨てて、閉じますか？";
-
-/// Results, spoken when the work is done.
-constexpr char16_t kStored[] = u"更新しました";
-constexpr char16_t kDeleted[] = u"削除しました";
-constexpr char16_t kCopied[] = u"クリップボードにコピーしました";
-constexpr char16_t kNothingToCopy[] = u"コピーする文字がありません";
+constexpr screen::RecordWords kWords{
+    .stored = u"更新しました",
+    .deleteQuestion = u"表示のデ－タの削除をしてもいいですか？",
+    .deleteTitle = u"削除",
+    .discardQuestion = u"更新出来ませんでした。入力した内容を捨てて、閉じますか？"};
 
 }  // namespace
 
 DictionaryScreen::DictionaryScreen(const DictionaryRow& row, screen::Services& services, frame::RunState& run)
-    : Screen(row.screen, services), m_row(row), m_run(run) {
-  source().onLeaveRow = [this] { return leaveRow(); };
-}
+    : RecordScreen(row.screen, services, kWords), m_row(row), m_run(run) {}
 
 void DictionaryScreen::onLoad() { source().open(m_run.folders[m_row.folder]); }
 
-QString DictionaryScreen::entry() const { return text(kEntry); }
+QString DictionaryScreen::entry() const { return text(m_row.entry); }
 
 void DictionaryScreen::askForEntry() {
-  focusOn(kEntry);
-  say({QString::fromUtf16(m_row.newRow)});
+  focusOn(m_row.entry);
+  say({text::utf16(m_row.newRow)});
 }
 
-// ---- Moves ----
+// ---- The row on view ----
 
-bool DictionaryScreen::leaveRow() {
-  if (!source().holdsRow()) return true;
+bool DictionaryScreen::mayLeaveRow() {
+  if (!source().hasCurrentRow()) return true;
   if (!blankNewRow()) return source().write();
   source().drop();
   return true;
@@ -56,65 +48,37 @@ bool DictionaryScreen::blankNewRow() {
   return true;
 }
 
-void DictionaryScreen::step(void (screen::DataSource::*move)()) {
-  const store::Bookmark before = source().rows().bookmark();
-  (source().*move)();
-  if (source().rows().bookmark() != before) rowReached();
-  voice().speakHeading(onView());
+bool DictionaryScreen::readyToStore() {
+  if (!blankNewRow()) return true;
+  askForEntry();
+  return false;
 }
 
-void DictionaryScreen::goFirst() { step(&screen::DataSource::moveFirst); }
-void DictionaryScreen::goPrevious() { step(&screen::DataSource::movePrevious); }
-void DictionaryScreen::goNext() { step(&screen::DataSource::moveNext); }
-void DictionaryScreen::goLast() { step(&screen::DataSource::moveLast); }
-
-// ---- The row on view ----
-
-// The row just stored stays on view. What was typed into a table without rows becomes its first.
-void DictionaryScreen::store() {
-  if (!source().ready()) return;
-  if (blankNewRow()) return askForEntry();
-  if ((!source().holdsRow() && !source().addNewAsShown()) || !source().write()) return;
-  say(QStringList{QString::fromUtf16(kStored)} + onView());
-}
-
-void DictionaryScreen::remove() {
-  if (!source().ready()) return;
-  if (!source().holdsRow()) return messages().tell(QString::fromUtf16(kNothingToDelete));
-  if (!messages().ask(QString::fromUtf16(kDeleteQuestion), screen::Buttons::OkCancel,
-                      QString::fromUtf16(kDeleteTitle)))
-    return;
-  store::RecordSet& rows = source().rows();
-  if (rows.adding()) {  // it was never stored
-    source().drop();
-  } else {
-    const int position = rows.absolutePosition();
-    if (!source().remove()) return;
-    if (rows.recordCount() > 0) source().moveTo(std::min(position, rows.recordCount() - 1));
-  }
-  say(QStringList{QString::fromUtf16(kDeleted)} + onView());
+bool DictionaryScreen::removeOnView() {
+  const store::RecordSet& rows = source().rows();
+  const bool stored = !rows.adding();
+  const int position = rows.absolutePosition();
+  if (!RecordScreen::removeOnView()) return false;
+  if (stored && rows.recordCount() > 0) source().moveTo(std::min(position, rows.recordCount() - 1));
+  return true;
 }
 
 void DictionaryScreen::copyEntry() { services().desktop->copyText(entry()); }
 
 void DictionaryScreen::copy() {
   copyEntry();
-  say({entry(), QString::fromUtf16(entry().isEmpty() ? kNothingToCopy : kCopied)});
+  say({entry(), entry().isEmpty() ? u"コピーする文字がありません"_s : u"クリップボードにコピーしました"_s});
 }
 
 // ---- Leaving ----
 
 void DictionaryScreen::finish() {
-  if (source().isOpen() && !leaveRow()) {
-    if (!messages().askToDrop(QString::fromUtf16(kDiscardQuestion))) return;
-    source().drop();
-  }
-  navigator().unload(objectName());
+  if (mayClose()) navigator().unload(objectName());
 }
 
-// The chart closes its dictionaries with it: what was typed is stored then too.
+// When the chart closes its dictionaries, what was typed is stored too.
 void DictionaryScreen::onClosed() {
-  if (source().isOpen()) leaveRow();
+  if (source().isOpen()) mayLeaveRow();
 }
 
 bool DictionaryScreen::onCloseBox() {

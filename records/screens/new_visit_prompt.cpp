@@ -1,9 +1,11 @@
 #include "records/screens/new_visit_prompt.h"
 
+#include "frame/core/routes.h"
+#include "platform/screen/declare.h"
+
 namespace records {
 
 using namespace screen;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -16,24 +18,28 @@ constexpr Row kRows[] = {
         .name = {u"Command2"}, .caption = u"キャンセル", .run = run<&NewVisitPrompt::cancel>, .key = u"Esc"},
     EndBar{},
     TextField{
-        .name = {u"Text1"}, .caption = u"氏名:", .bind = Unbound{u"tells the patient"}, .readOnly = true},
+        .name = {u"Text1"}, .caption = u"氏名:", .bind = Unbound{u"shows the patient"}, .readOnly = true},
 };
 
-constexpr ScreenRow kDeclaration{.name = u"カルテ2の新規", .caption = u"新規作成", .rows = kRows};
+constexpr ScreenRow kDeclaration =
+    declare({.name = routes::AskFirstVisit::screen, .caption = u"新規作成", .rows = kRows});
+
+constexpr ControlRef kName = ref(kRows, u"Text1");
 
 }  // namespace
 
 NewVisitPrompt::NewVisitPrompt(Services& services) : Screen(kDeclaration, services) {}
 
 void NewVisitPrompt::opened(const Request& request) {
-  setText(u"Text1"_s, request.value(u"氏名"_s).toString());
+  const auto* route = request.as<routes::AskFirstVisit>();
+  setText(kName, route ? route->name : QString());
 }
 
-QStringList NewVisitPrompt::openingTexts() const { return Screen::openingTexts() << text(u"Text1"_s); }
+QStringList NewVisitPrompt::openingTexts() const { return Screen::openingTexts() << text(kName); }
 
 void NewVisitPrompt::makeVisit() {
   close();
-  navigator().show(u"治療台帳3"_s, {{u"新規"_s, true}});
+  navigator().show(routes::VisitLedger{routes::VisitLedger::NewVisit{}});
 }
 
 void NewVisitPrompt::cancel() { close(); }

@@ -4,9 +4,8 @@
 
 namespace records {
 
-/// カルテ2の新規: asks whether a patient without visits gets a first one. はい lets the ledger add it.
-///
-/// Request key: "氏名" of the patient.
+/// カルテ2の新規: asks whether a patient without visits gets a first one. はい lets the ledger add it. How it
+/// is entered: routes::AskFirstVisit.
 class NewVisitPrompt : public screen::Screen {
  public:
   explicit NewVisitPrompt(screen::Services& services);

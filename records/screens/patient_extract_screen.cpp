@@ -2,8 +2,13 @@
 
 #include <algorithm>
 
+#include "frame/core/routes.h"
+#include "platform/screen/declare.h"
+#include "platform/screen/list_screen.h"
 #include "platform/store/criteria_text.h"
+#include "platform/store/tables/patients.h"
 #include "platform/text/number.h"
+#include "platform/text/utf16.h"
 #include "platform/text/width.h"
 
 namespace records {
@@ -71,59 +76,60 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{.name = u"抽出3", .caption = u"抽出", .rows = kRows, .heading = u"抽出"};
+constexpr ScreenRow kDeclaration =
+    declare({.name = routes::ExtractPatients::screen, .caption = u"抽出", .rows = kRows, .heading = u"抽出"});
 
-/// A kind of extraction: where it stands among the options, its input, and whether that is a number.
+constexpr ControlRef kKind = ref(kRows, u"Frame1");
+
+/// A kind of extraction: its value among the options, its input, and whether that is a number.
 struct Kind {
   const char16_t* value;
-  const char16_t* input;
+  ControlRef input;
   bool number = false;
 };
-constexpr Kind kInputs[] = {{kSex, u"Frame2"},
-                            {kKeyword, u"Text1"},
-                            {kFromAge, u"Text2", true},
-                            {kToAge, u"Text3", true},
-                            {kAddress, u"Text5"}};
-
-QString name(const char16_t* text) { return QString::fromUtf16(text); }
+constexpr Kind kInputs[] = {{kSex, ref(kRows, u"Frame2")},
+                            {kKeyword, ref(kRows, u"Text1")},
+                            {kFromAge, ref(kRows, u"Text2"), true},
+                            {kToAge, ref(kRows, u"Text3"), true},
+                            {kAddress, ref(kRows, u"Text5")}};
 
 }  // namespace
 
-// Kept: the keyword brings its own wildcards, so a part of one finds nothing without them.
+// The user types the wildcards of a keyword himself; without them a part of a keyword finds nothing.
 QString extractCriteria(const QString& kind, const QString& word) {
   const QString orElse = u"or "_s;
-  if (kind == kSex) return u"性別 ='%1' "_s.arg(word);
+  if (kind == kSex) return u"%1 ='%2' "_s.arg(patients::sex.text(), word);
   if (kind == kKeyword)
-    return store::patternCriterion(u"キーワード1"_s, word) + orElse +
-           store::patternCriterion(u"キーワード2"_s, word);
-  if (kind == kFromAge) return u"年齢 >="_s + word;
-  if (kind == kToAge) return u"年齢 <="_s + word;
-  return store::likeCriterion(u"住所1"_s, word) + orElse + store::likeCriterion(u"住所2"_s, word) + orElse +
-         store::likeCriterion(u"住所3"_s, word);
+    return store::patternCriterion(patients::keyword[1], word) + orElse +
+           store::patternCriterion(patients::keyword[2], word);
+  if (kind == kFromAge) return patients::age.text() + u" >="_s + word;
+  if (kind == kToAge) return patients::age.text() + u" <="_s + word;
+  return store::likeCriterion(patients::address[1], word) + orElse +
+         store::likeCriterion(patients::address[2], word) + orElse +
+         store::likeCriterion(patients::address[3], word);
 }
 
 PatientExtractScreen::PatientExtractScreen(Services& services) : Screen(kDeclaration, services) {}
 
-void PatientExtractScreen::chooseSex() { choose(u"Frame1"_s, name(kSex)); }
+void PatientExtractScreen::chooseSex() { choose(kKind, text::utf16(kSex)); }
 
 void PatientExtractScreen::typeWord() {
   const QString typedIn = focused();
   for (const Kind& kind : kInputs)
-    if (typedIn == kind.input) choose(u"Frame1"_s, name(kind.value));
+    if (typedIn == kind.input.name()) choose(kKind, text::utf16(kind.value));
 }
 
 void PatientExtractScreen::extract() {
-  const QString listName = u"一覧表"_s;
-  auto* list = dynamic_cast<ListScreen*>(navigator().load(listName));
+  auto* list = dynamic_cast<ListScreen*>(navigator().load(routes::PatientList::screen));
   if (list == nullptr) return;
-  const QString chosenKind = chosen(u"Frame1"_s);
+  const QString chosenKind = chosen(kKind);
   const Kind* kind =
-      std::ranges::find(kInputs, chosenKind, [](const Kind& each) { return name(each.value); });
+      std::ranges::find(kInputs, chosenKind, [](const Kind& each) { return text::utf16(each.value); });
   if (kind == std::end(kInputs)) {
-    messages().tell(name(kNote));
-    return focusOn(u"Frame1"_s);
+    messages().tell(text::utf16(kNote));
+    return focusOn(kKind);
   }
-  const QString input = name(kind->input);
+  const QString input = kind->input;
   QString word = kind->value == kSex ? chosen(input) : text(input);
   if (word.isEmpty()) return askFor(input);
   if (kind->number && !text::isNumeric(word)) {
@@ -132,7 +138,7 @@ void PatientExtractScreen::extract() {
   }
   if (kind->number) word = text::asciiDigits(word).trimmed();
   if (!list->narrowBy(extractCriteria(chosenKind, word))) return;
-  navigator().show(listName);
+  navigator().show(routes::PatientList{});
   close();
 }
 

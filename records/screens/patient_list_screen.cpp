@@ -3,19 +3,16 @@
 #include <cmath>
 
 #include "frame/core/routes.h"
+#include "platform/text/utf16.h"
 #include "printing/contract/hand_print.h"
 #include "records/screens/patient_list_rows.h"
 
 namespace records {
 
 using namespace Qt::Literals::StringLiterals;
+using namespace patient_list_rows;
 
 namespace {
-
-const QString kLabelQuestion =
-    u"現在、表示の患者を全てタック印刷を行います。シートをプリンタにセットして下さい。"_s;
-const QString kLabelTitle = u"タック印刷"_s;
-const QString kNotPrinted = u"タック印刷を開始できませんでした。プリンタを確認して下さい。"_s;
 
 constexpr double kTenths = 10;  // type sizes go to the engine as tenths of a millimetre
 
@@ -23,31 +20,29 @@ constexpr double kTenths = 10;  // type sizes go to the engine as tenths of a mi
 
 PatientListScreen::PatientListScreen(screen::Services& services, frame::RunState& run,
                                      report::ReportOperations& engine)
-    : ListScreen(kPatientListDeclaration, services), m_run(run), m_engine(engine) {}
+    : ListScreen(kDeclaration, services), m_run(run), m_engine(engine) {}
 
 void PatientListScreen::onLoad() {
-  setShown(u"Text1"_s, false);
+  setShown(kSerial, false);
   openWhole();
 }
 
 QStringList PatientListScreen::openingTexts() const { return QStringList{windowTitle()} + countOnView(); }
 
-QStringList PatientListScreen::countOnView() const { return {caption(u"Text2"_s), text(u"Text2"_s)}; }
+QStringList PatientListScreen::countOnView() const { return {caption(kCount), text(kCount)}; }
 
 bool PatientListScreen::openWhole() { return source().open(m_run.folders[frame::folder::kPatients]); }
 
-QString PatientListScreen::noRowsToSortText() const {
-  return QString::fromUtf16(screen::kNoRowsOfMembersText);
-}
+QString PatientListScreen::noRowsToSortText() const { return text::utf16(screen::kNoRowsOfMembersText); }
 
 void PatientListScreen::rowShown(int) {
-  setText(u"Text2"_s, QString::number(source().isOpen() ? source().rows().recordCount() : 0));
-  setText(u"Text3"_s, source().positionText());
+  setText(kCount, QString::number(source().isOpen() ? source().rows().recordCount() : 0));
+  setText(kPosition, source().positionText());
 }
 
 QStringList PatientListScreen::rowOnView() const {
   if (!holdsRows()) return countOnView();
-  return {text(u"Text3"_s), source().rows().value(u"氏名"_s)};
+  return {text(kPosition), source().rows().value(patients::name)};
 }
 
 void PatientListScreen::showAll() {
@@ -55,29 +50,44 @@ void PatientListScreen::showAll() {
 }
 
 void PatientListScreen::handOver() {
-  if (emptySet()) return;
+  if (emptySet() || !source().ensureRead()) return;
   const store::RecordSet& rows = source().rows();
-  const QString name = rows.value(u"氏名"_s);
-  if (Screen* dialog = navigator().loaded(routes::PatientSearch::screen)) dialog->opened({{u"氏名"_s, name}});
-  navigator().show(u"治療台帳4"_s, {{u"ID"_s, rows.value(u"ID"_s)}, {u"氏名"_s, name}});
+  const QString name = rows.value(patients::name);
+  if (Screen* dialog = navigator().loaded(routes::PatientSearch::screen))
+    dialog->opened(routes::PatientSearch{.name = name});
+  const qint64 id = rows.value(patients::id).toLongLong();
+  navigator().show(routes::PatientRegister{routes::PatientRegister::Listed{.id = id, .name = name}});
 }
 
 // ---- Labels ----
 
-LabelAddress PatientListScreen::addressAt(int position) const {
+text::Result<QList<LabelAddress>> PatientListScreen::addresses() const {
   const store::RecordSet& rows = source().rows();
-  const auto value = [&](const QString& column) { return rows.valueAt(position, column); };
-  return {value(u"郵便番号"_s), {value(u"住所1"_s), value(u"住所2"_s), value(u"住所3"_s)}, value(u"氏名"_s)};
+  std::optional<text::Fault> fault;
+  QList<LabelAddress> all;
+  for (int position = 0; position < rows.recordCount() && !fault; ++position) {
+    const auto value = [&](const store::Column& column) {
+      const text::Result<QString> read = rows.readAt(position, column);
+      if (!read) fault = read.fault();
+      return read ? *read : QString();
+    };
+    all += {value(patients::zip),
+            {value(patients::address[1]), value(patients::address[2]), value(patients::address[3])},
+            value(patients::name)};
+  }
+  if (fault) return *fault;
+  return all;
 }
 
-void PatientListScreen::drawSheet(report::ReportOperations& paper, int sheet) const {
+void PatientListScreen::drawSheet(report::ReportOperations& paper, const QList<LabelAddress>& all,
+                                  int sheet) {
   paper.PR_SetMargin(0, 0);
   paper.PR_SetScale();
-  paper.PR_SetFont(QString::fromUtf16(label::kFont));
+  paper.PR_SetFont(text::utf16(label::kFont));
   const int first = sheet * label::kPerSheet;
-  const int last = std::min(first + label::kPerSheet, source().rows().recordCount());
+  const int last = std::min(first + label::kPerSheet, static_cast<int>(all.size()));
   for (int position = first; position < last; ++position) {
-    for (const LabelLine& line : labelLines(addressAt(position), position - first)) {
+    for (const LabelLine& line : labelLines(all[position], position - first)) {
       paper.PR_SetFontSize(static_cast<int>(std::floor(line.size * kTenths)));
       paper.PR_Output(static_cast<float>(line.x), static_cast<float>(line.y), line.text);
     }
@@ -87,13 +97,26 @@ void PatientListScreen::drawSheet(report::ReportOperations& paper, int sheet) co
 void PatientListScreen::printLabels() {
   if (emptySet()) return;
   const int labels = source().rows().recordCount();
+  QList<LabelAddress> all;
+  // All are read before the first sheet: a sheet must not go out with a blank label.
+  const auto askAndRead = [&] {
+    if (!messages().ask(
+            u"現在、表示の患者を全てタック印刷を行います。シートをプリンタにセットして下さい。"_s))
+      return false;
+    auto read = addresses();
+    if (!read) messages().tellDataFault(read.fault().message);
+    if (read) all = std::move(*read);
+    return read.ok();
+  };
   const printing::RunEnd end = printing::runHandPrint(
-      m_engine, {.prompt = [this] { return messages().ask(kLabelQuestion); },
+      m_engine, {.prompt = askAndRead,
                  .window = static_cast<quintptr>(winId()),
-                 .title = kLabelTitle,
+                 .title = u"タック印刷"_s,
                  .pages = labelSheets(labels),
-                 .draw = [this](report::ReportOperations& paper, int sheet) { drawSheet(paper, sheet); }});
-  if (end == printing::RunEnd::NotStarted) messages().tell(kNotPrinted);
+                 .draw = [&](report::ReportOperations& paper, int sheet) { drawSheet(paper, all, sheet); }});
+  if (end == printing::RunEnd::NotStarted) 
+    messages().tell(u"タック印刷を開始できませんでした。プリンタを確認して下さい。"_s);
+  if (end == printing::RunEnd::NotTaken) messages().tell(m_engine.lastDocument().fault().message);
   if (end == printing::RunEnd::Printed)
     voice().speakText(u"タック印刷をしました"_s + voice::kSpeechSeparator + QString::number(labels) +
                       u"枚"_s);

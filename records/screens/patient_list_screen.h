@@ -10,8 +10,8 @@ namespace records {
 /// 一覧表: the patients as a list, narrowed by 抽出2 and 抽出3, sorted by ソート1; labels of what is on view.
 ///
 /// Each extraction searches what the list shows, so that a second one narrows the first. 全患者表示及び再表示
-/// reads the whole table again. The patient of the row goes back to the patient screen: it shows the patient,
-/// and the name stands in its search row, and in the search dialog's field where that is open.
+/// reads the whole table again. The patient of the row goes back to the patient screen, which shows the
+/// patient and puts the name into its search row; the search dialog, if it is open, gets the name too.
 class PatientListScreen : public screen::ListScreen {
  public:
   PatientListScreen(screen::Services& services, frame::RunState& run, report::ReportOperations& engine);
@@ -32,8 +32,9 @@ class PatientListScreen : public screen::ListScreen {
   QStringList countOnView() const override;
 
  private:
-  LabelAddress addressAt(int position) const;
-  void drawSheet(report::ReportOperations& paper, int sheet) const;
+  /// The addresses of all rows on view, in their order.
+  text::Result<QList<LabelAddress>> addresses() const;
+  static void drawSheet(report::ReportOperations& paper, const QList<LabelAddress>& all, int sheet);
   frame::RunState& m_run;
   report::ReportOperations& m_engine;
 };

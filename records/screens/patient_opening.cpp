@@ -4,12 +4,14 @@
 #include "platform/screen/find_row.h"
 #include "platform/store/criteria_text.h"
 #include "platform/store/growth.h"
-#include "records/screens/patient_fields.h"
+#include "platform/text/utf16.h"
+#include "records/screens/patient_rows.h"
 #include "records/screens/patient_screen.h"
 
 namespace records {
 
 using namespace Qt::Literals::StringLiterals;
+using namespace patient_rows;
 
 namespace {
 
@@ -22,98 +24,101 @@ constexpr char16_t kGrown[] = u"正常に電子カルテのデータに新しい
 }  // namespace
 
 void PatientScreen::opened(const screen::Request& request) {
-  if (request.value(u"新規"_s).toBool()) return startNewPatient();
-  if (!source().isOpen()) return;
-  const QString serial = request.value(u"テキスト5"_s).toString();  // a claim's カルテ3へ names its patient
-  if (!serial.isEmpty()) {
-    takeSerial(serial);
-  } else if (request.contains(u"代入"_s)) {
-    takeBooked(request[u"代入"_s].toString());
-  } else if (request.contains(u"ID"_s)) {
-    takeListed(request[u"ID"_s].toLongLong(), request[u"氏名"_s].toString());
-  } else if (request.contains(u"表示患者"_s)) {
-    sayResult(onView());
-  } else {
-    showAgain();
-  }
+  const auto* route = request.as<Route>();
+  std::visit([this](const auto& who) { enter(who); }, route ? route->who : decltype(Route::who){});
 }
 
-// Asked and told with the keyboard on this screen: before that, the screen behind would be heard once more.
 void PatientScreen::onActivate() {
   refreshAge();
   if (m_asksGrowth || m_notice)
-    QMetaObject::invokeMethod(this, &PatientScreen::tellWaiting, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &PatientScreen::showWaiting, Qt::QueuedConnection);
 }
 
-void PatientScreen::tellWaiting() {
+// With the keyboard on this screen: before that, closing a message would speak the screen below once more.
+void PatientScreen::showWaiting() {
   if (std::exchange(m_asksGrowth, false)) {
     offerGrowth();
-    voice().speakText(openingTexts().join(voice::kSpeechSeparator));  // the question cut it
+    voice().speakText(openingTexts().join(voice::kSpeechSeparator));  // the question interrupted it
   }
   if (const auto notice = std::exchange(m_notice, std::nullopt)) {
     messages().tell(notice->text, notice->title, screen::Icon::Exclamation);
-    say(onView());
+    say(rowInWords());
   }
 }
 
-// A refusal is asked again at the next load; the screen works without the added columns.
+// After a refusal the question comes again at the next load; the screen works without the added columns.
 void PatientScreen::offerGrowth() {
-  const bool yes = messages().ask(name(kGrowthQuestion), screen::Buttons::OkCancel, name(kGrowthTitle));
-  m_run.lastAnswer = yes ? 1 : 0;
-  if (!yes) return;
+  if (!messages().ask(text::utf16(kGrowthQuestion), screen::Buttons::OkCancel, text::utf16(kGrowthTitle)))
+    return;
   if (const text::Done grown = store::grow(file(), store::GrowthRun::Patient); !grown)
     return messages().tellDataFault(grown.fault().message);
   // A new row stays open: what is typed into it must not be lost for columns that this screen does not show.
-  if (!source().rows().adding()) (void)source().rows().refresh();
-  messages().tell(name(kGrown), name(kGrowthTitle), screen::Icon::Information);
+  if (!source().rows().adding())
+    if (const text::Done read = source().rows().refresh(); !read)
+      return messages().tellDataFault(read.fault().message);
+  messages().tell(text::utf16(kGrown), text::utf16(kGrowthTitle), screen::Icon::Information);
 }
 
 // Charts opened from here may have changed the row on view.
-void PatientScreen::showAgain() {
-  if (!isVisible() || source().pending()) return;
-  if (source().rows().refresh()) source().show();
+void PatientScreen::enter(const Route::AsShown&) {
+  if (!source().isOpen() || !isVisible() || source().pending()) return;
+  if (const text::Done read = source().rows().refresh(); !read)
+    return messages().tellDataFault(read.fault().message);
+  source().show();
 }
 
+void PatientScreen::enter(const Route::Announced&) {
+  if (source().isOpen()) sayResult(rowInWords());
+}
+
+void PatientScreen::enter(const Route::NewPatient&) { startNewPatient(); }
+
 void PatientScreen::fillSearchRow(const QString& patientName) {
-  setText(u"Combo1"_s, u"氏名"_s);
-  setText(u"Combo3"_s, patientName);
+  setText(kSearchColumn, patients::name);
+  setText(kSearchWord, patientName);
 }
 
 void PatientScreen::noteFound(const text::Result<bool>& found) {
   if (!found)
-    m_notice = {QString::fromUtf16(screen::kDataControlText) + found.fault().message, QString()};
+    m_notice = {text::utf16(screen::kDataControlText) + found.fault().message, QString()};
   else if (!*found)
-    m_notice = {QString::fromUtf16(screen::kNotFoundText), QString::fromUtf16(screen::kNotFoundTitle)};
+    m_notice = {text::utf16(screen::kNotFoundText), text::utf16(screen::kNotFoundTitle)};
   else
-    sayResult(onView());
+    sayResult(rowInWords());
 }
 
-void PatientScreen::takeSerial(const QString& serial) {
-  if (screen::settleRow(source()))
-    noteFound(screen::seekRow(source(), store::equalCriterion(u"テキスト5"_s, serial)));
+void PatientScreen::enter(const Route::BySerial& patient) {
+  if (patient.serial.isEmpty()) return enter(Route::AsShown{});
+  if (source().isOpen() && mayLeaveRow())
+    noteFound(screen::seekRow(source(), store::equalCriterion(patients::serial, patient.serial)));
 }
 
-void PatientScreen::takeBooked(const QString& patientName) {
-  fillSearchRow(patientName);
-  if (patientName.isEmpty() || !screen::settleRow(source())) return;
+void PatientScreen::enter(const Route::Booked& person) {
+  if (!source().isOpen()) return;
+  fillSearchRow(person.name);
+  if (person.name.isEmpty() || !mayLeaveRow()) return;
   store::RecordSet& rows = source().rows();
   text::Done found = rows.refresh();
-  if (found) found = rows.findFirst(store::equalCriterion(u"氏名"_s, patientName));
+  const text::Done read = rows.moveAndRead([&](store::RecordSet&) {
+    if (found) found = rows.findFirst(store::equalCriterion(patients::name, person.name));
+  });
   source().show();
-  if (!found) return noteFound(found.fault());
+  if (!found || !read) return noteFound((!found ? found : read).fault());
   if (!rows.noMatch()) return noteFound(true);
-  if (startRow(patientName)) m_notice = {name(kBookedIsNew), QString()};
+  if (startRow(person.name)) m_notice = {text::utf16(kBookedIsNew), QString()};
 }
 
-void PatientScreen::takeListed(qint64 id, const QString& patientName) {
-  fillSearchRow(patientName);
-  focusOn(u"Combo3"_s);
-  if (!screen::settleRow(source())) return;
+void PatientScreen::enter(const Route::Listed& patient) {
+  if (!source().isOpen()) return;
+  fillSearchRow(patient.name);
+  focusOn(kSearchWord);
+  if (!mayLeaveRow()) return;
   store::RecordSet& rows = source().rows();
-  if (const text::Done read = rows.refresh(); !read) return noteFound(read.fault());
-  rows.setBookmark(id);
+  text::Done read = rows.refresh();
+  if (read) read = rows.moveAndRead([&patient](store::RecordSet& set) { set.setBookmark(patient.id); });
+  if (!read) return noteFound(read.fault());
   source().show();
-  noteFound(rows.bookmark() == id);
+  noteFound(rows.bookmark() == patient.id);
 }
 
 }  // namespace records

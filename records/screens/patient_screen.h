@@ -2,21 +2,17 @@
 
 #include <optional>
 
+#include "frame/core/routes.h"
 #include "frame/core/run_state.h"
-#include "platform/screen/screen.h"
+#include "platform/screen/record_screen.h"
 
 namespace records {
 
 struct DateConversion;
 
 /// The patient master: one row of the patient table at a time. Every chart, appointment, receipt and claim
-/// of a patient starts here.
-///
-/// Request keys: "新規" (start a new row), "テキスト5" (the patient of that serial), "代入" (the name of a
-/// booked person: found, or a new row with it), "ID" and "氏名" (the patient of the list, whose name goes
-/// into the search row), "表示患者" (say who is on view). Without one the row on view is shown as it stands
-/// in the file now.
-class PatientScreen : public screen::Screen {
+/// of a patient starts here. How it is entered: routes::PatientRegister.
+class PatientScreen : public screen::RecordScreen {
  public:
   PatientScreen(screen::Services& services, frame::RunState& run);
 
@@ -24,17 +20,11 @@ class PatientScreen : public screen::Screen {
   void opened(const screen::Request& request) override;
   void onActivate() override;
   bool onCloseBox() override;
-  void goFirst() override;
-  void goPrevious() override;
-  void goNext() override;
-  void goLast() override;
   void rowShown(int sourceNumber) override;
 
   // The record.
   void askNewPatient();
   void startNewPatient();
-  void storePatient();
-  void deletePatient();
   void search();
   void chooseSex();
 
@@ -49,7 +39,7 @@ class PatientScreen : public screen::Screen {
   void focusSymptom();
   void focusTreatment();
 
-  // Other rooms.
+  // Other screens.
   void leave();
   void openChart1();
   void openChart2();
@@ -62,36 +52,47 @@ class PatientScreen : public screen::Screen {
   void openToday();
   void openWeek();
 
+ protected:
+  /// Position and name of the patient on view; of an empty register the number of patients.
+  QStringList rowInWords() const override;
+  bool readyToStore() override;
+  /// Says the result alone: the patient who was stored stays on view.
+  void sayStored() override;
+  /// A new patient who was not stored is lost by moving away: that is why adding warns beforehand. What was
+  /// typed over a stored patient is written.
+  bool mayLeaveRow() override;
+
  private:
-  /// What is asked and told as soon as the screen has the keyboard: the growth of an older file, a notice.
-  void tellWaiting();
+  using Route = routes::PatientRegister;
+  // What a route asks for.
+  void enter(const Route::AsShown&);
+  void enter(const Route::Announced&);
+  void enter(const Route::NewPatient&);
+  void enter(const Route::BySerial& patient);
+  void enter(const Route::Booked& person);
+  void enter(const Route::Listed& patient);
+
+  /// Does what has to wait until the screen has the keyboard: the growth of an older file, a notice.
+  void showWaiting();
   void offerGrowth();
   QString file() const;
 
   /// The table is open and has no rows, and none is being added.
   bool isEmpty() const;
-  /// Offers a first patient where the table is empty; true there.
+  /// Offers a first patient if the table is empty; true then.
   bool noPatient();
   bool startRow(const QString& patientName = QString());
-  void takeSerial(const QString& serial);
-  void takeBooked(const QString& patientName);
-  void takeListed(qint64 id, const QString& patientName);
   void fillSearchRow(const QString& patientName);
-  void showAgain();
-  /// Says who is on view, or keeps the refusal until the screen has the keyboard.
+  /// Says who is on view, or reports the refusal as soon as the screen has the keyboard.
   void noteFound(const text::Result<bool>& found);
 
-  /// Whether the charts may open: a row that was not stored has none yet. False: told.
+  /// Whether the charts may open: a row that was not stored has none yet. False: reported.
   bool readyForChart();
-  void openBooking(const QString& screenName, const screen::Request& request = {});
-  void move(void (screen::DataSource::*step)());
-  /// A move of the user's: says who is on view then.
-  void step(void (screen::DataSource::*step)());
-  /// Position and name of the patient on view; of an empty register the number of patients.
-  QStringList onView() const;
-  bool mayLeave();
+  template <class R>
+  void openBookings(const R& route);
   void convert(const DateConversion& conversion);
-  screen::Request patientColumns() const;
+  /// The patient as the fields show it now, with the address as one text.
+  frame::Patient patientOnView() const;
   frame::RunState& m_run;
   bool m_asksGrowth = false;
   struct Notice {

@@ -11,13 +11,14 @@ class PhraseScreen final : public DictionaryScreen {
  public:
   using DictionaryScreen::DictionaryScreen;
 
+  /// The phrase of the row goes onto the clipboard.
   void rowReached() override;
   /// The text in the field becomes a new row; the row that it was typed over stays as it was stored. A blank
   /// field starts a new row that 更新 stores.
   void add();
 };
 
-/// frmCLmoji and frmCl2moji: two tables, one kind of screen.
+/// The two phrase lists, each with a table of its own.
 std::span<const DictionaryRow> phraseDictionaries();
 
 }  // namespace records

@@ -1,5 +1,7 @@
 #include "records/screens/prompts.h"
 
+#include "frame/core/routes.h"
+
 namespace records {
 
 using namespace screen;
@@ -15,14 +17,16 @@ constexpr PromptButton kNoDataButtons[] = {
     {.name = {u"Command1"}, .caption = u"ＯＫ", .action = u"firstPatient"},
     {.name = {u"Command2"}, .caption = u"キャンセル", .action = kClosePrompt}};
 
-constexpr ConfirmRow kPrompts[] = {
-    {.name = u"無データ", .caption = u"無データ", .lines = kNoDataLines, .buttons = kNoDataButtons}};
+constexpr ConfirmRow kPrompts[] = {{.name = routes::AskFirstPatient::screen,
+                                    .caption = u"無データ",
+                                    .lines = kNoDataLines,
+                                    .buttons = kNoDataButtons}};
 
-// Kept: this notice writes the settings file like the settings screens do.
+// On purpose this notice writes the settings file, as the settings screens do.
 void addFirstPatient(ConfirmPrompt& prompt, frame::RunState& run) {
   const text::Done written = frame::saveRun(run, frame::SettingsWriter::Other);
   if (!written) prompt.messages().tell(written.fault().message);
-  prompt.navigator().show(u"治療台帳4"_s, {{u"新規"_s, true}});
+  prompt.navigator().show(routes::PatientRegister{routes::PatientRegister::NewPatient{}});
 }
 
 }  // namespace

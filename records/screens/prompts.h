@@ -5,7 +5,7 @@
 
 namespace records {
 
-/// The small notice screens of the patient rooms.
+/// The small notice screens of the patient screens.
 std::span<const screen::ConfirmRow> prompts();
 /// What their buttons do.
 screen::PromptActions promptActions(frame::RunState& run);

@@ -1,25 +1,25 @@
 #include "records/screens/search_screen.h"
 
 #include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 #include "platform/screen/find_row.h"
 #include "platform/screen/opens.h"
 #include "platform/store/criteria_text.h"
-#include "records/core/search_columns.h"
+#include "platform/store/tables/patients.h"
 #include "records/core/search_history.h"
 
 namespace records {
 
 using namespace screen;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr Choice kColumns[] = {
-    {.name = {u"Option1"}, .caption = u"患者ID", .value = u"患者ID"},
-    {.name = {u"Option2"}, .caption = u"カルテ番号", .value = u"カルテ番号"},
-    {.name = {u"Option3"}, .caption = u"フリガナ", .value = u"ふりがな"},
-    {.name = {u"Option4"}, .caption = u"氏名", .value = u"氏名"},
-    {.name = {u"Option5"}, .caption = u"生年月日", .value = u"生年月日"},
+    {.name = {u"Option1"}, .caption = u"患者ID", .value = patients::patientNumber.name()},
+    {.name = {u"Option2"}, .caption = u"カルテ番号", .value = patients::chartNumber.name()},
+    {.name = {u"Option3"}, .caption = u"フリガナ", .value = patients::kana.name()},
+    {.name = {u"Option4"}, .caption = u"氏名", .value = patients::name.name()},
+    {.name = {u"Option5"}, .caption = u"生年月日", .value = patients::birth.name()},
 };
 
 constexpr Row kRows[] = {
@@ -44,7 +44,11 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{.name = u"選択4", .caption = u"検索", .rows = kRows, .heading = u"検索"};
+constexpr ScreenRow kDeclaration =
+    declare({.name = routes::PatientSearch::screen, .caption = u"検索", .rows = kRows, .heading = u"検索"});
+
+constexpr ControlRef kColumn = ref(kRows, u"Frame1");
+constexpr ControlRef kWord = ref(kRows, u"Combo1");
 
 }  // namespace
 
@@ -52,20 +56,21 @@ SearchScreen::SearchScreen(Services& services, frame::RunState& run)
     : Screen(kDeclaration, services), m_run(run) {}
 
 void SearchScreen::onLoad() {
-  choose(u"Frame1"_s, u"氏名"_s);
-  setItems(u"Combo1"_s, SearchHistory(m_run.programFolder).words());
-  setText(u"Combo1"_s, QString());
+  choose(kColumn, patients::name);
+  setItems(kWord, SearchHistory(m_run.programFolder).words());
+  setText(kWord, QString());
 }
 
 void SearchScreen::opened(const Request& request) {
-  setItems(u"Combo1"_s, SearchHistory(m_run.programFolder).words());
-  if (!request.contains(u"氏名"_s)) return focusOn(u"Frame1"_s);
-  choose(u"Frame1"_s, u"氏名"_s);
-  setText(u"Combo1"_s, request[u"氏名"_s].toString());
-  focusOn(u"Combo1"_s);
+  setItems(kWord, SearchHistory(m_run.programFolder).words());
+  const auto* route = request.as<routes::PatientSearch>();
+  if (!route || !route->name) return focusOn(kColumn);
+  choose(kColumn, patients::name);
+  setText(kWord, *route->name);
+  focusOn(kWord);
 }
 
-Screen* SearchScreen::patients() {
+Screen* SearchScreen::openedRegister() {
   Screen* screen = navigator().load(routes::PatientRegister::screen);
   return screen != nullptr && screen->source().isOpen() ? screen : nullptr;
 }
@@ -77,31 +82,31 @@ void SearchScreen::showEmptyNotice() {
 }
 
 QString SearchScreen::criteria(const QString& word) const {
-  const QString column = chosen(u"Frame1"_s);
+  const QString column = chosen(kColumn);
   // Numbers are looked up whole, names and dates by any part.
-  const bool exact = column == u"患者ID" || column == u"カルテ番号";
+  const bool exact = column == patients::patientNumber.text() || column == patients::chartNumber.text();
   return exact ? store::equalCriterion(column, word) : store::likeCriterion(column, word);
 }
 
 void SearchScreen::search() {
-  Screen* screen = patients();
+  Screen* screen = openedRegister();
   if (screen == nullptr) return;
   if (screen->source().rows().recordCount() == 0) return showEmptyNotice();
-  const QString word = text(u"Combo1"_s);
+  const QString word = text(kWord);
   if (!word.isEmpty()) {
     // A history that cannot be written costs nothing: the search itself goes on.
     (void)SearchHistory(m_run.programFolder).remember(word);
-    if (!settleRow(screen->source()) || !findRow(*screen, criteria(word))) return;
+    if (!commitOrDiscardRow(screen->source()) || !findRow(*screen, criteria(word))) return;
   }
-  navigator().show(u"治療台帳4"_s, {{u"表示患者"_s, true}});
+  navigator().show(routes::PatientRegister{routes::PatientRegister::Announced{}});
   navigator().unload(routes::PatientSearch::screen);
 }
 
 void SearchScreen::newPatient() {
-  Screen* screen = patients();
+  Screen* screen = openedRegister();
   if (screen == nullptr) return;
   if (screen->source().rows().recordCount() == 0) return showEmptyNotice();
-  navigator().show(u"治療台帳4"_s, {{u"新規"_s, true}});
+  navigator().show(routes::PatientRegister{routes::PatientRegister::NewPatient{}});
   navigator().unload(routes::PatientSearch::screen);
 }
 

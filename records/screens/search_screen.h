@@ -5,9 +5,8 @@
 
 namespace records {
 
-/// The search dialog: the way from the main menu to a patient.
-///
-/// Request keys: "氏名" (a name to search for; Enter then finds it).
+/// The search dialog: the way from the main menu to a patient. A name that is handed over
+/// (routes::PatientSearch) waits in its field for Enter.
 class SearchScreen : public screen::Screen {
  public:
   SearchScreen(screen::Services& services, frame::RunState& run);
@@ -20,8 +19,8 @@ class SearchScreen : public screen::Screen {
   void cancel();
 
  private:
-  /// The patient screen with its rows open; nullptr where the table cannot be opened (told by then).
-  Screen* patients();
+  /// The patient screen with its rows open; nullptr if the table cannot be opened, which was reported.
+  Screen* openedRegister();
   void showEmptyNotice();
   QString criteria(const QString& word) const;
   frame::RunState& m_run;

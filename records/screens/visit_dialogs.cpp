@@ -1,5 +1,6 @@
 #include "records/screens/visit_dialogs.h"
 
+#include "frame/core/routes.h"
 #include "platform/store/tables/visits.h"
 
 namespace records {
@@ -12,7 +13,7 @@ constexpr ColumnChoice kSearched[] = {
     visits::fee,  visits::receiptDone, visits::isNew,
 };
 constexpr Note kNotes[] = {
-    // Kept: the sentence ends there.
+    // The sentence ends there on purpose.
     {.name = {u"Label1"},
      .caption =
          u"※１年分の場合は、左側を「治療日時」にして、この欄に「令和2年」と入力すると、令和2年のみ表示されます"
@@ -22,9 +23,9 @@ constexpr Note kNotes[] = {
      .caption = u"※領収証チェックと新患は、Yes か No を入力して下さい。",
      .spoken = true},
 };
-constexpr ExtractRow kExtracts[] = {{.name = u"カルテ2の抽出",
+constexpr ExtractRow kExtracts[] = {{.name = routes::SearchVisits::screen,
                                      .caption = u"カルテ2の抽出",
-                                     .list = u"治療台帳3",
+                                     .list = routes::VisitLedger::screen,
                                      .columns = kSearched,
                                      .wordCaption = u"抽出する文字:",
                                      .go = u"抽出",
@@ -32,14 +33,15 @@ constexpr ExtractRow kExtracts[] = {{.name = u"カルテ2の抽出",
 
 constexpr ColumnChoice kSorted[] = {
     // Dates are sorted by their western shadow: era text does not sort.
-    {u"治療日時", visits::dateShadow},
-    // Kept: the table has no such column (it is 治療概略), and the engine says so.
+    {visits::date.name(), visits::dateShadow},
+    // On purpose: the table has no such column (it is 治療概略), and the database says so.
     ColumnChoice::missing(u"治療概要"),
     visits::insurerPays,
     visits::share,
     visits::fee,
 };
-constexpr SortRow kSorts[] = {{.name = u"ソート5", .list = u"治療台帳3", .columns = kSorted}};
+constexpr SortRow kSorts[] = {
+    {.name = routes::SortVisits::screen, .list = routes::VisitLedger::screen, .columns = kSorted}};
 
 }  // namespace
 

@@ -1,62 +1,52 @@
 #include "claims/core/day_codes.h"
 #include "records/core/day_grid.h"
-#include "records/screens/visit_ledger_screen.h"
+#include "records/screens/visit_ledger_rows.h"
 
 // 療養費の日付の記入: which claim the day grid shows, its visible days, the checks of its cells.
 
 namespace records {
 
 using namespace Qt::Literals::StringLiterals;
+using namespace visit_ledger_rows;
 
-namespace {
-
-constexpr int kCells = 31;
-const QString kTick = u"Check1"_s;
-const QString kFrame = u"Frame1"_s;
-
-QString code(int cell) { return u"Text5(%1)"_s.arg(cell); }
-QString visit(int cell) { return u"Text6(%1)"_s.arg(cell); }
-
-}  // namespace
-
-bool VisitLedgerScreen::gridShown() const { return isControlShown(kFrame); }
+bool VisitLedgerScreen::gridShown() const { return isControlShown(kGridFrame); }
 
 void VisitLedgerScreen::toggleGrid() {
-  setChecked(kTick, !checked(kTick));
+  setChecked(kGridTick, !checked(kGridTick));
   gridToggled();
 }
 
 void VisitLedgerScreen::gridToggled() {
-  if (checked(kTick)) return openGrid();
+  if (checked(kGridTick)) return openGrid();
   const bool typed = claimPending();
-  if (!leaveClaim()) return setChecked(kTick, true);  // told; what was typed stays
+  if (!leaveClaim()) return setChecked(kGridTick, true);  // reported; what was typed stays
   hideGrid();
-  sayResult({caption(kFrame), typed ? u"登録しました"_s : u"表示なし"_s});
+  sayResult({caption(kGridFrame), typed ? u"登録しました"_s : u"表示なし"_s});
 }
 
 void VisitLedgerScreen::hideGrid() {
-  setShown(kFrame, false);
-  setChecked(kTick, false);
+  setShown(kGridFrame, false);
+  setChecked(kGridTick, false);
   m_claim.reset();
   m_flags = {};
-  // The first halves stand whole again behind the hidden frame.
-  if (source(3).isOpen()) source(3).open(m_run.folders[frame::folder::kClaims1]);
+  // The hidden list shows all first halves again.
+  if (source(kFirstHalf).isOpen()) source(kFirstHalf).open(m_run.folders[frame::folder::kClaims1]);
 }
 
 void VisitLedgerScreen::openGrid() {
-  setShown(kFrame, true);
+  setShown(kGridFrame, true);
   if (!putClaims()) return hideGrid();
-  sayResult({caption(kFrame), text(u"txtFields(114)"_s), text(u"txtFields(67)"_s)});
-  // Once the frame has its place: before that the window cannot scroll to the cell.
+  sayResult({caption(kGridFrame), text(kClaimMonth), text(kTreatmentKind)});
+  // When the frame is laid out: before that the window cannot scroll to the cell.
   const auto goToFirstDay = [this, from = focused()] {
-    if (gridShown() && focused() == from) focusOn(code(0));
+    if (gridShown() && focused() == from) focusOn(kCodes[0]);
   };
   QMetaObject::invokeMethod(this, goToFirstDay, Qt::QueuedConnection);
 }
 
 void VisitLedgerScreen::gridMonthEntered() {
   if (!gridShown()) {
-    setChecked(kTick, true);
+    setChecked(kGridTick, true);
     return openGrid();
   }
   if (leaveClaim()) openGrid();
@@ -70,8 +60,8 @@ bool VisitLedgerScreen::putClaims() {
     return false;
   }
   m_claim.emplace(std::move(*opened));
-  const QString patient = text(u"Text2"_s).isEmpty() ? m_key : text(u"Text2"_s);
-  auto claims = m_claim->of(patient, text(u"txtFields(115)"_s));
+  const QString serial = text(kSerial).isEmpty() ? m_patient.serial : text(kSerial);
+  auto claims = m_claim->of(serial, text(kMonthOfClaim));
   if (!claims) {
     messages().tellDataFault(claims.fault().message);
     return false;
@@ -82,42 +72,44 @@ bool VisitLedgerScreen::putClaims() {
         u"クリックして下さい。"_s);
     return false;
   }
-  source(3).assign(std::move(*claims));
+  source(kFirstHalf).assign(std::move(*claims));
   return true;
 }
 
 void VisitLedgerScreen::showClaim() {
-  const store::RecordSet& rows = source(3).rows();
-  auto half = m_claim->take(rows.recordCount() > 0 ? rows.value(u"ID"_s).toLongLong() : 0);
+  const store::RecordSet& rows = source(kFirstHalf).rows();
+  auto half = m_claim->take(rows.recordCount() > 0 ? rows.bookmark() : 0);
   if (half)
-    source(2).assign(std::move(*half));
+    source(kSecondHalf).assign(std::move(*half));
   else
     messages().tellDataFault(half.fault().message);
   applyGridMonth();
 }
 
 void VisitLedgerScreen::applyGridMonth() {
-  const std::optional<QDate> month = gridMonth(text(u"txtFields(114)"_s), m_run.eraDates());
+  const std::optional<QDate> month = gridMonth(text(kClaimMonth), m_run.eraDates());
   m_flags = claims::monthFlags(month);
   const QString row = m_flags.isAfter202410 ? u"往療人数"_s : u"往療距離"_s;
-  if (caption(u"Label9"_s) != row) {
-    for (const QString& label : {u"Label9"_s, u"Label16"_s}) setCaption(label, row);
-    for (int cell = 0; cell < kCells; ++cell) setCaption(visit(cell), u"%1日 %2"_s.arg(cell + 1).arg(row));
+  if (caption(kVisitCaptions[0]) != row) {
+    for (const screen::ControlRef& label : kVisitCaptions) setCaption(label, row);
+    for (int cell = 0; cell < kCells; ++cell)
+      setCaption(kVisitCells[cell], u"%1日 %2"_s.arg(cell + 1).arg(row));
   }
   const int days = visibleDays(month);
   for (int cell = 0; cell < kCells; ++cell)
-    for (const QString& control : {code(cell), visit(cell)}) setShown(control, cell < days);
+    for (const screen::ControlRef& control : {kCodes[cell], kVisitCells[cell]})
+      setShown(control, cell < days);
 }
 
 void VisitLedgerScreen::codeLeft(int cell) {
-  const QString message = gridCodeMessage(text(code(cell)), text(u"txtFields(67)"_s));
+  const QString message = gridCodeMessage(text(kCodes[cell]), text(kTreatmentKind));
   if (message.isNull()) return;
   keepFocus();
   messages().tell(message);
 }
 
 void VisitLedgerScreen::visitLeft(int cell) {
-  const QString message = claims::visitEntryMessage(text(visit(cell)), m_flags.isAfter202410);
+  const QString message = claims::visitEntryMessage(text(kVisitCells[cell]), m_flags.isAfter202410);
   if (message.isNull()) return;
   keepFocus();
   messages().tell(message);

@@ -1,6 +1,5 @@
 #include "records/screens/visit_ledger_screen.h"
 
-#include "frame/core/routes.h"
 #include "platform/screen/hourglass.h"
 #include "platform/store/growth.h"
 #include "records/core/visit_dates.h"
@@ -11,48 +10,51 @@
 namespace records {
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-const QString kFirstVisit = u"カルテ2の新規"_s;
-
-}  // namespace
+using namespace visit_ledger_rows;
 
 VisitLedgerScreen::VisitLedgerScreen(screen::Services& services, frame::RunState& run,
                                      PreviousVisit& previous)
-    : ListScreen(visitLedgerDeclaration(), services), m_run(run), m_previous(previous) {
-  source(3).onLeaveRow = [this] { return leaveClaim(); };
+    : ListScreen(kDeclaration, services), m_run(run), m_previous(previous) {
+  source(kFirstHalf).onLeaveRow = [this] { return leaveClaim(); };
 }
 
 void VisitLedgerScreen::onLoad() {
-  for (const QString& hidden : {u"Text2"_s, u"Text3"_s, u"Text10"_s}) setShown(hidden, false);
+  for (const screen::ControlRef& hidden : {kSerial, kId, kDateShadow}) setShown(hidden, false);
   hideGrid();
   const QString path = m_run.folders[frame::folder::kVisits];
-  // A file that cannot be asked is told when it is opened.
+  // A file that cannot be read is reported when it is opened.
   if (const auto needed = store::needsGrowth(path, store::GrowthRun::Visit); needed && *needed)
     if (const text::Done grown = store::grow(path, store::GrowthRun::Visit); !grown)
       messages().tellDataFault(grown.fault().message);
-  rowShown(1);
+  rowShown(kVisits);
 }
 
 void VisitLedgerScreen::opened(const screen::Request& request) {
-  if (request.value(u"新規"_s).toBool()) return startVisit(m_name, m_birth, m_key);
-  if (!request.contains(u"テキスト5"_s)) {
-    if (!source().isOpen()) openWhole();
-    return;
-  }
-  if (!settleVisit() || !leaveClaim()) return;  // told; the patient before stays with what was typed
-  navigator().unload(kFirstVisit);              // asked for the patient before
-  const QString key = request.value(u"テキスト5"_s).toString();
-  if (key != m_key) m_previous.clear();
-  m_key = key;
-  m_name = request.value(u"氏名"_s).toString();
-  m_birth = request.value(u"生年月日"_s).toString();
-  m_opener = request.value(u"opener"_s).toString();
+  const auto* route = request.as<Route>();
+  std::visit([this](const auto& what) { enter(what); }, route ? route->what : decltype(Route::what){});
+}
+
+void VisitLedgerScreen::enter(const Route::AsShown&) {
+  if (!source().isOpen()) openWhole();
+}
+
+void VisitLedgerScreen::enter(const Route::NewVisit&) {
+  Visit visit;
+  visit.serial = m_patient.serial;
+  visit.name = m_patient.name;
+  visit.birth = m_patient.birth;
+  startVisit(visit);
+}
+
+void VisitLedgerScreen::enter(const Route::Of& patient) {
+  if (!settleVisit() || !leaveClaim()) return;  // reported; the patient before stays with what was typed
+  navigator().unload(routes::AskFirstVisit::screen);  // it asks for the patient before
+  if (patient.serial != m_patient.serial) m_previous.clear();
+  m_patient = patient;
   m_newRowPending = false;
   m_onceActive.set(nullptr);
   hideGrid();
-  for (const QString& month : {u"Text1"_s, u"txtFields(115)"_s})
+  for (const screen::ControlRef& month : {kMonthOnView, kMonthOfClaim})
     setText(month, presentMonthText(m_run.eraDates()));
   {
     const screen::Hourglass counting;
@@ -68,23 +70,23 @@ void VisitLedgerScreen::onActivate() {
   if (onClaim() && !claimPending()) readClaimAgain();
 }
 
-void VisitLedgerScreen::offerFirstVisit() { navigator().show(kFirstVisit, {{u"氏名"_s, m_name}}); }
+void VisitLedgerScreen::offerFirstVisit() { navigator().show(routes::AskFirstVisit{.name = m_patient.name}); }
 
 QStringList VisitLedgerScreen::openingTexts() const {
-  const QString name = m_name.isEmpty() && holdsRows() ? source().rows().value(u"氏名"_s) : m_name;
+  const QString name =
+      m_patient.name.isEmpty() && holdsRows() ? source().rows().value(visits::name) : m_patient.name;
   return {name + u"カルテ２を開きました。"_s};
 }
 
 void VisitLedgerScreen::rowShown(int sourceNumber) {
-  if (sourceNumber == 3 && gridShown()) showClaim();
-  if (sourceNumber != 1) return;
+  if (sourceNumber == kFirstHalf && gridShown()) showClaim();
+  if (sourceNumber != kVisits) return;
   const bool open = source().isOpen();
   const int count = open ? source().rows().recordCount() + (source().rows().adding() ? 1 : 0) : 0;
-  setCaption(u"Data1"_s, open ? source().positionText() : u"ﾚｺｰﾄﾞ: "_s);
-  setCaption(u"Label14"_s, QString::number(count));
-  // Nothing can be typed where there is no row to keep it.
-  for (int field = 0; field <= 6; ++field) setEnabledControl(u"txtFields(%1)"_s.arg(field), onVisit());
-  for (int tick = 7; tick <= 8; ++tick) setEnabledControl(u"chkFields(%1)"_s.arg(tick), onVisit());
+  setCaption(kPosition, open ? source().positionText() : u"ﾚｺｰﾄﾞ: "_s);
+  setCaption(kCount, QString::number(count));
+  // Without a row there is nothing that typed text could be stored in.
+  for (const screen::ControlRef& field : kVisitFields) setEnabledControl(field, onVisit());
 }
 
 bool VisitLedgerScreen::onVisit() const {
@@ -94,23 +96,25 @@ bool VisitLedgerScreen::onVisit() const {
 bool VisitLedgerScreen::openWhole() { return source().open(m_run.folders[frame::folder::kVisits]); }
 
 QStringList VisitLedgerScreen::rowOnView() const {
-  if (!onVisit()) return {caption(u"LabelCount"_s), caption(u"Label14"_s)};
-  QStringList parts{caption(u"Data1"_s)};
-  for (const QString& field : {u"txtFields(2)"_s, u"txtFields(3)"_s})
+  if (!onVisit()) return {caption(kCountLabel), caption(kCount)};
+  QStringList parts{caption(kPosition)};
+  for (const screen::ControlRef& field : {kDate, kSummary})
     if (!text(field).isEmpty()) parts << text(field);
   return parts;
 }
 
-// What the file keeps refusing (read only, deleted by another computer) must not lock the user in.
+// What the file refuses every time (read only, deleted by another computer) must not lock the user in.
 void VisitLedgerScreen::leave() {
   if (m_newRowPending) return messages().tell(u"一度登録ボタンを押してから終了して下さい"_s);
-  const bool visitKept = settleVisit(), claimKept = leaveClaim();
-  if ((!visitKept || !claimKept) &&
+  const bool visitSettled = settleVisit(), claimSettled = leaveClaim();
+  if ((!visitSettled || !claimSettled) &&
       !messages().askToDrop(u"登録出来ませんでした。入力した内容を捨てて、閉じますか？"_s))
     return;
-  const QString before = navigator().loaded(routes::PatientRegister::screen) ? u"治療台帳4"_s : u"選択3"_s;
-  navigator().show(m_opener.isEmpty() ? before : m_opener);
-  navigator().unload(kFirstVisit);
+  const screen::ScreenName usual = navigator().loaded(routes::PatientRegister::screen)
+                                       ? routes::PatientRegister::screen
+                                       : routes::MainMenu::screen;
+  navigator().show(m_patient.opener.value_or(usual));
+  navigator().unload(routes::AskFirstVisit::screen);
   navigator().unload(routes::VisitLedger::screen);
 }
 

@@ -3,22 +3,24 @@
 #include <optional>
 
 #include "claims/core/rule_dates.h"
+#include "frame/core/routes.h"
 #include "frame/core/run_state.h"
 #include "platform/screen/list_screen.h"
 #include "platform/screen/once_active.h"
 #include "records/core/grid_claim.h"
 #include "records/core/previous_visit.h"
+#include "records/core/visit.h"
 
 namespace records {
+
+struct DateConversion;
 
 /// 治療台帳3 (caption カルテ): the visits of one patient, and the day grid of the patient's claim of a month.
 ///
 /// Sources are numbered as the screen's data controls are: 1 is Data1, the visits (list DBGrid1); 2 is Data2,
 /// the second half of the claims (list DBGrid3); 3 is Data3, their first half (list DBGrid2).
 ///
-/// Request keys: "テキスト5", "氏名", "生年月日" of the patient and "opener", the screen that 閉じる shows
-/// again; or {"新規": true}, the answer はい of カルテ2の新規. Without keys (back from the claim form) it
-/// stays as it is.
+/// How it is entered: routes::VisitLedger. Back from the claim form it stays as it is.
 ///
 /// Visits are bound: what was typed is written when the row is left, also by filters and totals. The typed
 /// days of the claim are written by their own 登録, and when the claim is left; each time both halves go in
@@ -49,7 +51,7 @@ class VisitLedgerScreen : public screen::ListScreen {
   void toSeireki();
   void toWareki();
 
-  // The view and other rooms: visit_ledger_view.cpp.
+  // The list and other screens: visit_ledger_view.cpp.
   bool narrowBy(const QString& criteria) override;
   bool sortBy(const QString& order) override;
   void narrowToMonth();
@@ -75,20 +77,28 @@ class VisitLedgerScreen : public screen::ListScreen {
   void setChanged(const QString& done) override;
 
  private:
-  /// A row stands on the screen, stored or being added.
+  using Route = routes::VisitLedger;
+  // What a route asks for.
+  void enter(const Route::Of& patient);
+  void enter(const Route::AsShown&);
+  void enter(const Route::NewVisit&);
+
+  /// A visit is on view, stored or being added.
   bool onVisit() const;
-  /// Tells that there is no visit; true where there was none.
+  /// Reports that there is no visit; true if there is none.
   bool noVisit();
-  /// Writes what was typed in the visit on view. False: refused and told.
+  /// Writes what was typed in the visit on view. False: refused and reported.
   bool settleVisit() { return !source().isOpen() || source().write(); }
   bool putPatient();
   /// Says what is on view now; the list gets the focus.
-  void tellView();
+  void sayView();
   void offerFirstVisit();
-  void startVisit(const QString& name, const QString& birth, const QString& patient);
+  /// Starts a new visit with the values.
+  void startVisit(const Visit& visit);
   bool writeVisit();
-  void convertDates(QString (frame::EraDates::*conversion)(const QString&) const);
-  screen::Request patient() const;
+  void convert(const DateConversion& conversion);
+  /// The patient of the visit on view.
+  frame::Patient patientOnView() const;
 
   // The claim of the grid.
   bool gridShown() const;
@@ -97,11 +107,11 @@ class VisitLedgerScreen : public screen::ListScreen {
   bool putClaims();
   void showClaim();
   void applyGridMonth();
-  /// A claim stands in the grid.
+  /// A claim is in the grid.
   bool onClaim() const { return m_claim && m_claim->id() != 0; }
   bool claimPending() const;
   claims::ClaimRecord typedClaim() const;
-  /// Writes what was typed into the claim. False: refused and told, what was typed stays.
+  /// Writes what was typed into the claim. False: refused and reported, what was typed stays.
   bool writeClaim();
   bool leaveClaim();
   void readClaimAgain();
@@ -109,7 +119,7 @@ class VisitLedgerScreen : public screen::ListScreen {
 
   frame::RunState& m_run;
   PreviousVisit& m_previous;
-  QString m_key, m_name, m_birth, m_opener;
+  Route::Of m_patient;               ///< whose visits are shown
   bool m_newRowPending = false;      ///< from 新規追加 until 登録
   screen::OnceActive m_onceActive;   ///< the question for a first visit
   std::optional<GridClaim> m_claim;  ///< while the grid is shown

@@ -1,22 +1,20 @@
 #include "platform/screen/hourglass.h"
 #include "platform/shell/desktop.h"
 #include "records/core/visit_dates.h"
-#include "records/screens/visit_ledger_screen.h"
+#include "records/screens/date_fields.h"
+#include "records/screens/visit_ledger_rows.h"
 
 // One visit: adding, storing with the date pass, copying of the previous visit, dates.
 
 namespace records {
 
 using namespace Qt::Literals::StringLiterals;
+using namespace visit_ledger_rows;
 
 namespace {
 
-const QString kDate = u"txtFields(2)"_s;
-const QString kSummary = u"txtFields(3)"_s;
-/// 保険者負担金, 保険の一部負担金, 治療金額, in the order of their slots.
-const std::pair<PreviousVisit::Slot, QString> kAmounts[] = {{PreviousVisit::Insurer, u"txtFields(4)"_s},
-                                                            {PreviousVisit::Share, u"txtFields(5)"_s},
-                                                            {PreviousVisit::Amount, u"txtFields(6)"_s}};
+constexpr std::pair<PreviousVisit::Slot, screen::ControlRef> kAmounts[] = {
+    {PreviousVisit::Insurer, kInsurerPays}, {PreviousVisit::Share, kShare}, {PreviousVisit::Amount, kFee}};
 
 }  // namespace
 
@@ -29,14 +27,21 @@ bool VisitLedgerScreen::noVisit() {
 void VisitLedgerScreen::addVisit() {
   if (!source().isOpen() && !openWhole()) return;
   if (!settleVisit()) return;
-  if (text(u"txtFields(0)"_s).isEmpty()) {
-    // Kept: without a name on view each value lands one place early, the serial as the name and the name as
-    // the birth date. Only カルテ2の新規 writes the right fields.
-    startVisit(m_key, m_name, m_key);
+  Visit visit;
+  if (text(kName).isEmpty()) {
+    // On purpose: without a name on view each value lands one place early, the serial as the name and the
+    // name as the birth date. Only カルテ2の新規 writes the right fields.
+    visit.name = m_patient.serial;
+    visit.birth = m_patient.name;
+    visit.serial = m_patient.serial;
+    startVisit(visit);
   } else {
-    m_previous.take([this](const QString& column) { return source().rows().value(column); });
-    startVisit(m_previous.value(PreviousVisit::Name), m_previous.value(PreviousVisit::Birth),
-               m_previous.value(PreviousVisit::Patient));
+    if (!source().ensureRead()) return;
+    m_previous.take([this](const store::Column& column) { return source().rows().value(column); });
+    visit.name = m_previous.value(PreviousVisit::Name);
+    visit.birth = m_previous.value(PreviousVisit::Birth);
+    visit.serial = m_previous.value(PreviousVisit::Patient);
+    startVisit(visit);
     if (!source().rows().adding()) return;
     for (const int slot : PreviousVisit::carriedAtOnce())
       if (const QString value = m_previous.value(slot); !value.isEmpty())
@@ -46,20 +51,17 @@ void VisitLedgerScreen::addVisit() {
   m_newRowPending = m_newRowPending || source().rows().adding();
 }
 
-void VisitLedgerScreen::startVisit(const QString& name, const QString& birth, const QString& patient) {
+void VisitLedgerScreen::startVisit(const Visit& visit) {
   if (!source().isOpen() || !source().addNew()) return;
-  store::RecordSet& rows = source().rows();
-  for (const auto& [column, value] :
-       {std::pair(u"氏名"_s, name), std::pair(u"生年月日"_s, birth), std::pair(u"ETC1"_s, patient)})
-    if (const text::Done set = rows.setValue(column, value); !set)
-      messages().tellDataFault(set.fault().message);
+  if (const text::Done put = store::writeRecord(source().rows(), visit); !put)
+    messages().tellDataFault(put.fault().message);
   source().show();
-  sayResult({u"新規追加"_s, caption(u"LabelCount"_s), caption(u"Label14"_s)});
+  sayResult({u"新規追加"_s, caption(kCountLabel), caption(kCount)});
   focusOn(kDate);
 }
 
 bool VisitLedgerScreen::writeVisit() {
-  // A new row that a move has written may be deleted since: where none is left, none waits to be stored.
+  // A new row that a move wrote may have been deleted since: without any row, none waits to be stored.
   m_newRowPending = m_newRowPending && onVisit();
   if (noVisit() || !settleVisit()) return false;
   m_newRowPending = false;
@@ -127,20 +129,18 @@ void VisitLedgerScreen::copyAmounts() {
   sayResult(parts);
 }
 
-void VisitLedgerScreen::convertDates(QString (frame::EraDates::*conversion)(const QString&) const) {
+void VisitLedgerScreen::convert(const DateConversion& conversion) {
   if (noVisit()) return;
-  const frame::EraDates dates = m_run.eraDates();
+  std::vector<screen::ControlRef> dates{kBirth, kDate};
+  if (onClaim()) dates.push_back(kFirstTreatment);
+  convertDates(*this, dates, m_run.eraDates(), conversion);
   QStringList parts;
-  for (const QString& field : {u"txtFields(1)"_s, kDate, u"txtFields(32)"_s}) {
-    const QString before = text(field);
-    if (before.isEmpty() || (field == u"txtFields(32)" && !onClaim())) continue;
-    if (const QString after = (dates.*conversion)(before); after != before) setText(field, after);
-    parts << caption(field) << text(field);
-  }
+  for (const screen::ControlRef& date : dates)
+    if (const QString converted = text(date); !converted.isEmpty()) parts << caption(date) << converted;
   if (!parts.isEmpty()) sayResult(parts);
 }
 
-void VisitLedgerScreen::toSeireki() { convertDates(&frame::EraDates::seireki); }
-void VisitLedgerScreen::toWareki() { convertDates(&frame::EraDates::wareki); }
+void VisitLedgerScreen::toSeireki() { convert(kToSeireki); }
+void VisitLedgerScreen::toWareki() { convert(kToWareki); }
 
 }  // namespace records

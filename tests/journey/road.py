@@ -1,4 +1,4 @@
-"""What the journeys share: a fresh program folder, a desk of its own, and the rules that hold at every screen."""
+"""What the journeys share: a fresh program folder, a private display, and the rules that hold at every screen."""
 import os
 import re
 import shutil
@@ -45,46 +45,46 @@ class Road:
         "閉じる": "施術料金を閉じます",
     }
 
-    def __init__(self, desk, folder):
-        self.desk, self.folder = desk, folder
+    def __init__(self, driver, folder):
+        self.driver, self.folder = driver, folder
         self.mark = 0
-        self.program = desk.launch(os.path.join(folder, "chiryo-daicho"), cwd=folder)
+        self.program = driver.launch(os.path.join(folder, "chiryo-daicho"), cwd=folder)
 
     # ---- what holds at every screen
     def at(self, title, *heard):
         """The window has come: it said its heading, nothing is nameless, and the focus says what stands there."""
-        desk = self.desk
-        desk.wait_window(title)
+        driver = self.driver
+        driver.wait_window(title)
         for words in heard:
-            desk.wait_spoken(words, self.mark)
-        assert desk.nameless() == [], "%s: without a name: %s" % (title, desk.nameless())
+            driver.wait_spoken(words, self.mark)
+        assert driver.nameless() == [], "%s: without a name: %s" % (title, driver.nameless())
         self.hears_the_focus(title)
         return self
 
     def back_at(self, title):
         """The window has the keyboard again after a message. Whether its focus is heard then depends on when the
         window manager gives it back, so a Tab and one back tell where the ear is."""
-        self.desk.wait_window(title)
+        self.driver.wait_window(title)
         for back in (False, True):
-            self.mark = self.desk.mark()
-            self.desk.tab(back)
+            self.mark = self.driver.mark()
+            self.driver.tab(back)
             self.hears_the_focus(title)
 
     def hears_the_focus(self, title):
         """The last thing said is the control that has the keyboard, with its contents."""
-        desk = self.desk
+        driver = self.driver
 
         def told():
-            said = desk.spoken(self.mark)
-            return bool(said) and self._stands(said[-1], desk.focus())
+            said = driver.spoken(self.mark)
+            return bool(said) and self._stands(said[-1], driver.focus())
 
         end = time.monotonic() + 5
         while not told():
-            node = desk.focus()
+            node = driver.focus()
             assert time.monotonic() < end, "%s: the focus is on %r with %r, heard was %s" % (
-                title, node and node.name, node and desk.value_of(node), desk.spoken(self.mark)[-3:])
+                title, node and node.name, node and driver.value_of(node), driver.spoken(self.mark)[-3:])
             time.sleep(0.02)
-        self.mark = desk.mark()
+        self.mark = driver.mark()
 
     def _stands(self, said, node):
         if node is None:
@@ -102,56 +102,56 @@ class Road:
     def walk(self, steps, title):
         """So many tabs, each of which must say where it led to."""
         for _ in range(steps):
-            self.mark = self.desk.mark()
-            self.desk.tab()
+            self.mark = self.driver.mark()
+            self.driver.tab()
             self.hears_the_focus(title)
 
     # ---- doing
     def press(self, button, nth=0):
-        node = self.desk.find("push button", button, self.desk.active(), nth)
-        self.desk.focus_on(node)
-        self.mark = self.desk.mark()
-        self.desk.keys("space")
+        node = self.driver.find("push button", button, self.driver.active(), nth)
+        self.driver.focus_on(node)
+        self.mark = self.driver.mark()
+        self.driver.keys("space")
 
     def fill(self, **fields):
         for name, text in fields.items():
-            self.desk.type_into(name, text)
+            self.driver.type_into(name, text)
 
     def write(self, name, text):
-        self.desk.type_into(name, text)
+        self.driver.type_into(name, text)
 
     def write_combo(self, name, text):
         """Types into a list that takes other texts too."""
-        self.desk.focus_on(self.desk.find("combo box", name))
-        self.desk.keys("ctrl+a")
-        self.desk.type(text)
-        self.desk.keys("Tab")
+        self.driver.focus_on(self.driver.find("combo box", name))
+        self.driver.keys("ctrl+a")
+        self.driver.type(text)
+        self.driver.keys("Tab")
 
     def question(self, text, answer):
         """The question is asked in these words, heard, and answered by the button."""
-        box = self.desk.message()
+        box = self.driver.message()
         assert plain(text) in plain(box.text), "asked was %r, not %r" % (box.text, text)
-        self.desk.wait_spoken(re.compile(re.escape(text)), self.mark)
+        self.driver.wait_spoken(re.compile(re.escape(text)), self.mark)
         assert answer in box.buttons, box.buttons
-        self.mark = self.desk.mark()
+        self.mark = self.driver.mark()
         box.answer(answer)
 
     def shows(self, name, text):
         """The field comes to show this text."""
         end = time.monotonic() + 5
-        while plain(self.desk.read(name)) != plain(text):
-            assert time.monotonic() < end, "%s shows %r, not %r" % (name, self.desk.read(name), text)
+        while plain(self.driver.read(name)) != plain(text):
+            assert time.monotonic() < end, "%s shows %r, not %r" % (name, self.driver.read(name), text)
             time.sleep(0.02)
 
     def lines(self, title, wanted):
         """Fields and contents of the window, from top to bottom, each heard by Tab."""
-        desk = self.desk
-        assert desk.fields() == wanted, "%s: %s" % (title, desk.fields())
+        driver = self.driver
+        assert driver.fields() == wanted, "%s: %s" % (title, driver.fields())
         for name, contents in wanted[1:]:
-            self.mark = desk.mark()
-            desk.keys("Tab")
-            desk.wait_spoken("%s:、%s" % (name, contents), self.mark)
-        self.mark = desk.mark()
+            self.mark = driver.mark()
+            driver.keys("Tab")
+            driver.wait_spoken("%s:、%s" % (name, contents), self.mark)
+        self.mark = driver.mark()
 
     # ---- stretches that all roads share
     def open_the_program(self):
@@ -182,14 +182,14 @@ class Road:
         self.press("ＯＫ")
         self.at("選択チェック", "各ラジオボタンからそれぞれ選択してください。")
         self.walk(2, "選択チェック")
-        self.desk.check(insurance)
-        self.desk.check(treatment)
-        self.desk.check(holder)
+        self.driver.check(insurance)
+        self.driver.check(treatment)
+        self.driver.check(holder)
         self.press("ＯＫ")
         self.at("保険申請", "保険申請、コメジルシは必ず入力してください")
 
     def days(self, codes, visits=()):
-        self.desk.page("治療")
+        self.driver.page("治療")
         for day, code in codes:
             self.write("%d日 治療内容" % day, code)
         for day, entry in visits:
@@ -199,16 +199,16 @@ class Road:
         """登録 of the claim; the sums are heard as the result."""
         self.press("登録")
         self.question("更新しますか？", "はい")
-        self.desk.wait_window("保険申請")
-        self.desk.wait_spoken("登録しました、合計 %s、一部負担金 %s、請求額 %s" % sums, self.mark)
+        self.driver.wait_window("保険申請")
+        self.driver.wait_spoken("登録しました、合計 %s、一部負担金 %s、請求額 %s" % sums, self.mark)
 
     def print_claim(self, button, title):
-        before = len(self.desk.printed())
+        before = len(self.driver.printed())
         self.press(button)
         self.at("レセプト印刷", "印刷する用紙を選択して、ＯＫを押してください。")
         self.press("ＯＫ")
         self.question("レセプトデータの印刷を行います。Ａ４サイズの用紙をプリンタにセットして下さい。", "OK")
-        paper, = self.desk.wait_printed(before)
+        paper, = self.driver.wait_printed(before)
         assert paper.title == title, paper.title
         assert paper.pages == 1, paper.pages
         self.at("保険申請")
@@ -232,19 +232,19 @@ def expect_on(paper, *texts):
 
 
 def run(build, source, *journeys):
-    """Runs each journey on a desk of its own; a failure leaves its pictures and speech beside the message."""
+    """Runs each journey on a private display; a failure leaves its pictures and speech next to the message."""
     Desk = import_driver(source)
     for journey in journeys:
         folder = lay_out(build, source)
         began = time.monotonic()
         try:
-            with Desk(cups=True, clock="2024-11-05 10:00:00", screen="1280x800x24") as desk:
+            with Desk(cups=True, clock="2024-11-05 10:00:00", screen="1280x800x24") as driver:
                 try:
-                    journey(Road(desk, folder))
+                    journey(Road(driver, folder))
                 except BaseException:
                     traces = os.path.join(build, "journey", journey.__name__)
                     os.makedirs(traces, exist_ok=True)
-                    desk.report(traces)
+                    driver.report(traces)
                     print("%s failed; traces in %s" % (journey.__name__, traces))
                     raise
         finally:

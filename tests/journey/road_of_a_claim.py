@@ -12,16 +12,16 @@ def road_of_a_claim(on):
     on.open_the_program()
     on.new_patient(1, "見本　太郎", "ﾐﾎﾝ ﾀﾛｳ", "男", "1953/3/5", "昭和28年3月5日")
     on.new_claim("国保", "鍼灸治療", "保険証の本人")
-    on.desk.page("保険証")
+    on.driver.page("保険証")
     for field, text in (("※申請年月", "令和6年10月"), ("申請月", "10"), ("請求回数", "1")):
         on.write(field, text)
     on.write_combo("※保険者名称", "みほん市")
     on.write_combo("※施術録の保険の種類", "国民健保")
     on.write_combo("一部負担金", "3割")
-    on.desk.page("同意書")
+    on.driver.page("同意書")
     on.write("※初療年月日", "令和6年10月2日")
     on.days([(2, "a"), (5, "b"), (9, "f")])
-    on.desk.check("初回有無")
+    on.driver.check("初回有無")
     on.write_combo("請求区分", "新規")
 
     # Fees of the notice from 令和6年10月: the first treatment began with one art, 1,950. One art on two days,
@@ -41,11 +41,11 @@ def road_of_a_claim(on):
     on.write("元数値", "7140")
     on.press("計算")
     on.hears_the_focus("計算式確認")
-    assert on.desk.read("３割 切り上げ") == "2,142", on.desk.fields()
-    assert on.desk.read("７割 切り捨て") == "4,998", on.desk.fields()
+    assert on.driver.read("３割 切り上げ") == "2,142", on.driver.fields()
+    assert on.driver.read("７割 切り捨て") == "4,998", on.driver.fields()
     on.press("閉じる")
     on.at("施術料金")
-    on.desk.keys("Escape")
+    on.driver.keys("Escape")
     on.at("保険申請")
 
     paper = on.print_claim("鍼灸印刷", "申請書鍼")
@@ -63,15 +63,15 @@ def carried_to_the_next_month(on):
     """翌月へ継続 from the list: the new claim stands in the list after 更新 only."""
     on.press("レセプトデータ")
     on.at("レセプトの一覧表", "レセプトの一覧表")
-    before = on.desk.rows()
+    before = on.driver.rows()
     assert [row[:2] for row in before] == [["令和6年10月", "見本　太郎"]], before
     on.press("レセプト項目の記入へ")
     on.at("保険申請")
     on.press("翌月へ継続")
     on.question("この患者の新しいレセプトを追加しますか？", "はい")
-    on.desk.wait_spoken("コメジルシ申請年月:、令和6年11月", on.mark)
+    on.driver.wait_spoken("コメジルシ申請年月:、令和6年11月", on.mark)
     on.shows("※申請年月", "令和6年11月")
-    on.desk.page("保険証")
+    on.driver.page("保険証")
     on.shows("請求回数", "2")
     on.shows("申請月", "11")
     on.press("閉じる")
@@ -81,10 +81,10 @@ def carried_to_the_next_month(on):
     on.store("1,610円", "483円", "1,127円")
     on.press("閉じる")
     on.at("レセプトの一覧表")
-    assert on.desk.rows() == before, "the new claim waits for 更新"
+    assert on.driver.rows() == before, "the new claim waits for 更新"
     on.press("更新")
     on.hears_the_focus("レセプトの一覧表")
-    rows = [row[:8] for row in on.desk.rows()]
+    rows = [row[:8] for row in on.driver.rows()]
     assert rows == [["令和6年11月", "見本　太郎", "鍼灸", "国保", "継続", "1610", "483", "1127"],
                     ["令和6年10月", "見本　太郎", "鍼灸", "国保", "新規", "7140", "2142", "4998"]], rows
     found_and_sorted(on)
@@ -94,8 +94,8 @@ def carried_to_the_next_month(on):
 
 def found_and_sorted(on):
     """抽出 and 並び替え of the two claims; a search without a hit leaves the list."""
-    months = lambda: [row[0] for row in on.desk.rows()]
-    on.desk.choose("抽出する項目", "氏名")
+    months = lambda: [row[0] for row in on.driver.rows()]
+    on.driver.choose("抽出する項目", "氏名")
     on.write("抽出する文字", "ほかの人")
     on.press("抽出")
     on.question("該当がありません。", "OK")
@@ -103,13 +103,13 @@ def found_and_sorted(on):
     assert months() == ["令和6年11月", "令和6年10月"], months()
     on.press("並び替え")
     on.at("ソート", "ソート")
-    on.desk.choose("並び替える項目", "申請年月")
+    on.driver.choose("並び替える項目", "申請年月")
     on.press("昇順")
     on.at("レセプトの一覧表")
     assert months() == ["令和6年10月", "令和6年11月"], months()
-    on.desk.choose("抽出する項目", "申請年月")
+    on.driver.choose("抽出する項目", "申請年月")
     on.write("抽出する文字", "１１月")  # full width finds the half-width month
-    on.desk.keys("Return")
+    on.driver.keys("Return")
     on.hears_the_focus("レセプトの一覧表")
     assert months() == ["令和6年11月"], months()
     on.press("全患者表示及び再表示")
@@ -122,18 +122,18 @@ def road_of_a_massage_claim(on):
     on.open_the_program()
     on.new_patient(1, "例示　花子", "ﾚｲｼﾞ ﾊﾅｺ", "女", "1940/5/25", "昭和15年5月25日")
     on.new_claim("後期高齢", "マッサージ治療", "保険証の本人")
-    on.desk.page("保険証")
+    on.driver.page("保険証")
     for field, text in (("※申請年月", "令和6年10月"), ("申請月", "10"), ("請求回数", "4"), ("公費負担番号", "12345678"),
                         ("公費受給者番号", "7654321")):
         on.write(field, text)
     on.write_combo("※保険者名称", "架空県広域連合")
     on.write_combo("※施術録の保険の種類", "後期高齢")
     on.write_combo("一部負担金", "1割")
-    on.desk.check("公費負担（乳・障・母）")
-    on.desk.page("同意書")
+    on.driver.check("公費負担（乳・障・母）")
+    on.driver.page("同意書")
     on.write("※初療年月日", "令和6年7月3日")
     for area in ("マッサージ 躯幹", "マッサージ 右上肢"):
-        on.desk.check(area)
+        on.driver.check(area)
     on.days([(2, "g2"), (4, "g2"), (6, "g2"), (8, "g2"), (10, "i2")], [(6, "v3"), (8, "v3"), (10, "v1")])
     on.write_combo("請求区分", "継続")
     on.write_combo("転帰", "継続")

@@ -1,4 +1,4 @@
-"""The road of a day at the desk by keyboard and ear alone: a patient is found, the visit written with a phrase of the
+"""The road of a day by keyboard and ear alone: a patient is found, the visit written with a phrase of the
 dictionary, the next one booked, the takings and a consent that runs out heard, a doctor registered and everything
 copied to a folder.
 
@@ -52,7 +52,7 @@ def found_by_kana(on):
     """選択4 finds a part of the reading, typed in another kana."""
     on.press("電子カルテ")
     on.at("検索", "検索")
-    on.desk.check("フリガナ")
+    on.driver.check("フリガナ")
     on.write_combo("検索文字入力", "みほん")
     on.press("検索")
     on.at("治療台帳")
@@ -63,14 +63,14 @@ def found_by_kana(on):
 
 def phrase_copied(on):
     """A phrase of the dictionary goes to the clipboard by the button beside the list."""
-    on.desk.menu("ファイル", "常用文字１")
+    on.driver.menu("ファイル", "常用文字１")
     on.at("クリップ文字")
-    on.desk.keys("Down")
+    on.driver.keys("Down")
     on.hears_the_focus("クリップ文字")
-    phrase = on.desk.read("書き込み文字の変更と新規の書き込み")
+    phrase = on.driver.read("書き込み文字の変更と新規の書き込み")
     assert phrase, "the dictionary is laid out with phrases"
     on.press("Ｃ")
-    on.desk.wait_spoken(re.compile(re.escape(phrase)), on.mark)
+    on.driver.wait_spoken(re.compile(re.escape(phrase)), on.mark)
     on.press("閉じる")
     on.at("治療台帳")
     return phrase
@@ -83,13 +83,13 @@ def visit_written(on, phrase):
     on.press("はい")
     on.at("カルテ")
     on.press("今日の日付を代入")
-    on.desk.wait_spoken("治療日:、" + DAY, on.mark)
+    on.driver.wait_spoken("治療日:、" + DAY, on.mark)
     for field, amount in (("保険者負担金", "3430"), ("治療の記録 一部負担金", "1470"), ("治療金額", "5500")):
         on.write(field, amount)
-    on.desk.check("領収証チェック")
-    on.desk.check("新患チェック")
-    on.desk.focus_on(on.desk.field("治療概略"))
-    on.desk.keys("ctrl+v")
+    on.driver.check("領収証チェック")
+    on.driver.check("新患チェック")
+    on.driver.focus_on(on.driver.field("治療概略"))
+    on.driver.keys("ctrl+v")
     on.shows("治療概略", phrase)
     on.press("登録")
     on.question("「登録」しました。", "OK")
@@ -103,7 +103,7 @@ def visit_written(on, phrase):
 
 def next_visit_booked(on):
     """From the patient on view: only day and time are left to tell."""
-    on.desk.menu("予約", "表示患者の新規予約")
+    on.driver.menu("予約", "表示患者の新規予約")
     on.at("予約")
     on.shows("予約患者", "見本　太郎")
     on.write_combo("予約日", "8")
@@ -122,17 +122,17 @@ def next_visit_booked(on):
 def claim_with_consent(on):
     """A claim whose consent ends just a month ahead."""
     on.new_claim("国保", "鍼灸治療", "保険証の本人")
-    on.desk.page("保険証")
+    on.driver.page("保険証")
     for field, text in (("※申請年月", "令和6年11月"), ("申請月", "11"), ("請求回数", "1")):
         on.write(field, text)
     on.write_combo("※保険者名称", "みほん市")
     on.write_combo("※施術録の保険の種類", "国民健保")
     on.write_combo("一部負担金", "3割")
-    on.desk.page("同意書")
+    on.driver.page("同意書")
     on.write("※初療年月日", DAY)
     on.write("要加療期間（至）", "令和6年12月5日")
     on.days([(5, "a")])
-    on.desk.check("初回有無")
+    on.driver.check("初回有無")
     on.write_combo("請求区分", "新規")
     # The first treatment with one art, 1,950, and one art on a day, 1,610; three tenths of 3,560 are 1,068.
     on.store("3,560円", "1,068円", "2,492円")
@@ -150,23 +150,23 @@ def booking_heard(on):
     on.back_at("今日の予約")
     on.write_combo("日", "8")
     on.press("上記の指定日の予約の表示")
-    on.desk.wait_spoken(re.compile("令和6年11月8日.*予約 1 件"), on.mark)
-    row, = on.desk.rows()
+    on.driver.wait_spoken(re.compile("令和6年11月8日.*予約 1 件"), on.mark)
+    row, = on.driver.rows()
     assert row[1] == "見本　太郎" and row[4] == "8", row
     calendar_walked(on)
     on.press("週間表")
     on.question("該当がありません。", "OK")  # nothing today
     on.back_at("予約週間表")
     for _ in ("水曜日", "木曜日"):
-        on.desk.keys("Right")
+        on.driver.keys("Right")
         on.question("該当がありません。", "OK")
-        on.desk.wait_window("予約週間表")
-    on.desk.keys("Right")
-    on.desk.wait_spoken(re.compile("令和6年11月8日金曜日.*予約 1 件"), on.mark)
+        on.driver.wait_window("予約週間表")
+    on.driver.keys("Right")
+    on.driver.wait_spoken(re.compile("令和6年11月8日金曜日.*予約 1 件"), on.mark)
     assert focus_told(on)[-1].role == "page tab", "a screen reader stays on the days"
-    row, = on.desk.rows()
+    row, = on.driver.rows()
     assert row[1] == "見本　太郎", row
-    on.desk.tab()
+    on.driver.tab()
     on.hears_the_focus("予約週間表")
     assert focus_told(on)[-1].role == "table cell", "a screen reader gets to the cell with the table"
     on.press("閉じる")
@@ -175,7 +175,7 @@ def booking_heard(on):
 
 def focus_told(on, mark=0):
     """What screen readers were told to be in focus."""
-    return [event[3] for event in on.desk.bus.events.since(mark) if event[1] == "Focus:Focus"]
+    return [event[3] for event in on.driver.bus.events.since(mark) if event[1] == "Focus:Focus"]
 
 
 def calendar_walked(on):
@@ -183,12 +183,12 @@ def calendar_walked(on):
     on.press("カレンダー表示")
     on.at("予約カレンダー")
     for key, day in (("Right", "令和6年11月6日水曜日"), ("Down", "令和6年11月13日水曜日"), ("Home", "令和6年11月1日金曜日")):
-        told = on.desk.bus.events.mark()
-        on.desk.keys(key)
-        on.desk.wait_spoken(day, on.mark)
+        told = on.driver.bus.events.mark()
+        on.driver.keys(key)
+        on.driver.wait_spoken(day, on.mark)
         assert focus_told(on, told) == [], focus_told(on, told)
-        assert on.desk.focus().text == day, on.desk.focus().text
-    on.desk.keys("Escape")
+        assert on.driver.focus().text == day, on.driver.focus().text
+    on.driver.keys("Escape")
     on.back_at("今日の予約")
 
 
@@ -197,7 +197,7 @@ def takings_heard(on):
     on.press("集計")
     on.at("集計")
     on.press("日付で抽出")
-    on.desk.wait_spoken(re.compile(DAY + ".*治療総数:、1"), on.mark)
+    on.driver.wait_spoken(re.compile(DAY + ".*治療総数:、1"), on.mark)
     on.press("総合金額の表示")
     on.at("集計総合金額", re.compile("総患者数:、1人、保険者負担金:、3,430円、保険の一部負担金:、1,470円、"
                                      "治療金額:、5,500円、領収証発行数:、1、新患数:、1人"))
@@ -213,18 +213,18 @@ def consent_warned_of(on):
     on.at("レセプトの一覧表")
     on.press("同意期限一ヶ月以内表示")
     on.at("同意期限一ヶ月以内", re.compile("同意期限が一ヶ月以内の患者は、1名です。"))
-    rows = on.desk.rows()
+    rows = on.driver.rows()
     assert rows == [["見本　太郎", "国保", "2024年12月5日", "鍼灸", ""]], rows
-    on.desk.keys("Right", "Right")
-    on.desk.wait_spoken("同意期限、2024年12月5日", on.mark)
-    before = len(on.desk.printed())
+    on.driver.keys("Right", "Right")
+    on.driver.wait_spoken("同意期限、2024年12月5日", on.mark)
+    before = len(on.driver.printed())
     on.press("印刷")
     on.question("現在表示している一覧の印刷を行います。Ａ４サイズの用紙をプリンタにセットして下さい。", "OK")
-    paper, = on.desk.wait_printed(before)
+    paper, = on.driver.wait_printed(before)
     assert paper.title == "同意期限一ヶ月以内", paper.title
     assert paper.pages == 1, paper.pages
     road.expect_on(paper, "同意期限一ヶ月データ一覧", "印刷日:2024/11/5", "見本　太郎", "国保", "2024年12月5日", "鍼灸")
-    on.desk.wait_spoken("印刷に送りました。", on.mark)
+    on.driver.wait_spoken("印刷に送りました。", on.mark)
     on.press("閉じる")
     on.at("レセプトの一覧表")
     on.press("閉じる")
@@ -241,7 +241,7 @@ def doctor_registered(on):
     for field, text in doctor:
         on.write(field, text)
     on.press("登録")
-    on.desk.wait_spoken("登録しました、架空　一郎", on.mark)
+    on.driver.wait_spoken("登録しました、架空　一郎", on.mark)
     row, = stored(on, DOCTORS, "同意医師", *(field for field, _ in doctor))
     assert row == tuple(text for _, text in doctor), row
     on.press("閉じる")
@@ -253,9 +253,9 @@ def backed_up(on):
     folder = os.path.join(on.folder, "写し")
     os.mkdir(folder)
     on.press("データバックアップ")
-    on.desk.wait_window("フォルダの選択")
-    on.desk.type(folder)
-    on.desk.keys("Return")
+    on.driver.wait_window("フォルダの選択")
+    on.driver.type(folder)
+    on.driver.keys("Return")
     on.question("データのバックアップが終わりました。", "OK")
     on.back_at("選択")
     with open(os.path.join(folder, "b2sums.txt"), encoding="utf-8") as sums:

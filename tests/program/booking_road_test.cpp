@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+#include "frame/core/routes.h"
 #include "platform/store/database.h"
 #include "tests/program/program_fixture.h"
 
@@ -64,7 +65,7 @@ TEST_F(BookingRoad, FromTheMenuToTheChart) {
   settle();
   EXPECT_EQ(screen(u"予約週間表"_s).text(u"Text1"_s), u"令和6年11月5日火曜日"_s);
   EXPECT_EQ(listed(u"予約週間表"_s).size(), 2);
-  m_desk->navigator().unload(u"予約週間表"_s);
+  m_application->navigator().unload(u"予約週間表"_s);
 
   press(u"今日の予約"_s, u"cmdRefresh"_s);
   press(u"今日の予約"_s, u"Command4"_s);
@@ -88,7 +89,7 @@ TEST_F(BookingRoad, FromTheMenuToTheChart) {
 
 // A patient's booking carries the patient's serial, and closing leads back to the chart.
 TEST_F(BookingRoad, FromTheChartAndBack) {
-  m_desk->navigator().show(u"治療台帳4"_s, {{u"新規"_s, true}});
+  m_application->navigator().show(routes::PatientRegister{routes::PatientRegister::NewPatient{}});
   fill(u"治療台帳4"_s, u"txtFields(1)"_s, u"17"_s);
   fill(u"治療台帳4"_s, u"txtFields(4)"_s, u"見本　太郎"_s);
   answer({true});

@@ -17,7 +17,7 @@ class JourneyTest : public ProgramTest {
   void makeClaim(const QString& treatment);
   void fillClaim();
   claims::ClaimRecord stored(qint64 id) {
-    auto file = claims::ClaimFile::open(m_desk->run().folders);
+    auto file = claims::ClaimFile::open(m_application->run().folders);
     EXPECT_TRUE(file.ok());
     return file->read(id).value();
   }

@@ -19,12 +19,13 @@ void ProgramTest::SetUpTestSuite() {
 void ProgramTest::SetUp() {
   for (const QFileInfo& file : QDir(s_shipped->path()).entryInfoList(QDir::Files))
     ASSERT_TRUE(QFile::copy(file.filePath(), m_folder.filePath(file.fileName())));
-  m_desk = std::make_unique<app::Desk>(m_folder.path(), app::Channels{m_voice, m_voice, m_voice}, m_clock);
-  m_desk->messages().answerFromQueue();
+  m_application =
+      std::make_unique<app::Application>(m_folder.path(), app::Channels{m_voice, m_voice, m_voice}, m_clock);
+  m_application->messages().answerFromQueue();
 }
 
 void ProgramTest::TearDown() {
-  m_desk.reset();
+  m_application.reset();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
@@ -34,12 +35,12 @@ void ProgramTest::start() {
   ASSERT_TRUE(fields.ok());
   (*fields)[frame::slot::kTopics] = QStringLiteral("15");
   ASSERT_TRUE(frame::writeSettingsFile(settings, *fields).ok());
-  ASSERT_EQ(m_desk->start(), frame::Started::Menu);
+  ASSERT_EQ(m_application->start(), frame::Started::Menu);
   QCoreApplication::processEvents();
 }
 
 screen::Screen& ProgramTest::screen(const QString& name) {
-  screen::Screen* loaded = m_desk->navigator().loaded(name);
+  screen::Screen* loaded = m_application->navigator().loaded(name);
   if (loaded == nullptr) throw std::runtime_error("not loaded: " + name.toStdString());
   return *loaded;
 }
@@ -74,9 +75,27 @@ void ProgramTest::press(const QString& screenName, const QString& control) {
   key(Qt::Key_Space);
 }
 
+void ProgramTest::follow(const Road& road) {
+  m_voice.clear();
+  m_application->navigator().show(
+      QString::fromUtf16(road.steps.empty() ? road.screen : road.steps.front().screen));
+  for (const Step& step : road.steps) {
+    goTo(QString::fromUtf16(step.screen), QString::fromUtf16(step.control));
+    m_voice.clear();
+    key(step.key);
+  }
+}
+
+void ProgramTest::closeAllButTheMenu() {
+  for (const QString& name : m_application->registry().names())
+    if (name != QStringLiteral("選択3")) m_application->navigator().unload(name);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  told();
+}
+
 QStringList ProgramTest::told() {
-  const QStringList texts = m_desk->messages().texts();
-  m_desk->messages().forget();
+  const QStringList texts = m_application->messages().texts();
+  m_application->messages().forget();
   return texts;
 }
 

@@ -5,9 +5,10 @@
 #include <QTemporaryDir>
 #include <memory>
 
-#include "app/desk.h"
+#include "app/application.h"
 #include "platform/screen/testing/screen_probe.h"
 #include "platform/voice/recording_channel.h"
+#include "tests/program/screen_roads.h"
 
 namespace program {
 
@@ -23,7 +24,7 @@ class ProgramTest : public testing::Test {
   /// Starts the program (the news of the version switched off).
   void start();
   screen::Screen& screen(const QString& name);
-  bool isOpen(const QString& name) const { return m_desk->navigator().isShown(name); }
+  bool isOpen(const QString& name) const { return m_application->navigator().isShown(name); }
 
   // What a user does with the keyboard.
   void goTo(const QString& screenName, const QString& control);
@@ -33,16 +34,19 @@ class ProgramTest : public testing::Test {
   void fill(const QString& screenName, const QString& control, const QString& text);
   /// Goes to the button and presses the space bar.
   void press(const QString& screenName, const QString& control);
+  /// Goes the way to a screen. The voice holds what is heard from its last step on.
+  void follow(const Road& road);
+  void closeAllButTheMenu();
   /// Messages since the last call.
   QStringList told();
-  void answer(const QList<bool>& answers) { m_desk->messages().answerFromQueue(answers); }
+  void answer(const QList<bool>& answers) { m_application->messages().answerFromQueue(answers); }
   QString path(const QString& file) const { return m_folder.filePath(file); }
 
   static std::unique_ptr<QTemporaryDir> s_shipped;  ///< a laid out folder, copied for each test
   QTemporaryDir m_folder;
   voice::RecordingChannel m_voice;
   text::FixedClock m_clock{QDate(2024, 11, 5), QTime(10, 0)};
-  std::unique_ptr<app::Desk> m_desk;
+  std::unique_ptr<app::Application> m_application;
 };
 
 }  // namespace program

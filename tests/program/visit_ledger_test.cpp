@@ -1,6 +1,7 @@
 // The visit ledger beside the real claim form: the days of a claim go from one to the other and back.
 
 #include "claims/core/claim_file.h"
+#include "frame/core/routes.h"
 #include "tests/program/program_fixture.h"
 
 namespace program {
@@ -28,12 +29,15 @@ class VisitLedgerHandOver : public ProgramTest {
           std::pair(u"一部負担金"_s, u"3割"_s)})
       claim.set(column, value);
     m_id = file().add(claim).value();
-    m_desk->navigator().show(kLedger, {{u"テキスト5"_s, u"P1"_s}, {u"氏名"_s, u"見本　太郎"_s}});
+    m_application->navigator().show(routes::VisitLedger{
+        routes::VisitLedger::Of{.serial = u"P1"_s, .name = u"見本　太郎"_s, .birth = {}, .opener = {}}});
     fill(kLedger, u"txtFields(115)"_s, u"令和6年10月"_s);
     press(kLedger, u"Check1"_s);
     ASSERT_TRUE(screen(kLedger).isControlShown(u"Frame1"_s));
   }
-  claims::ClaimFile file() const { return std::move(claims::ClaimFile::open(m_desk->run().folders).value()); }
+  claims::ClaimFile file() const {
+    return std::move(claims::ClaimFile::open(m_application->run().folders).value());
+  }
   claims::ClaimRecord stored() const { return file().read(m_id).value(); }
 
   const QString kLedger = u"治療台帳3"_s;
@@ -60,7 +64,7 @@ TEST_F(VisitLedgerHandOver, OnlyTheFormsOwnStoreTurnsTheDaysIntoAmounts) {
   EXPECT_EQ(stored().get(u"合計"_s), u"3220"_s);
   EXPECT_EQ(stored().get(u"一部負担金2"_s), u"966"_s);
   EXPECT_EQ(stored().get(u"請求額"_s), u"2254"_s);
-  EXPECT_EQ(m_desk->navigator().front(), &screen(kLedger));
+  EXPECT_EQ(m_application->navigator().front(), &screen(kLedger));
 }
 
 TEST_F(VisitLedgerHandOver, ASecondRoundGoesOverTheClosedForm) {
@@ -73,7 +77,7 @@ TEST_F(VisitLedgerHandOver, ASecondRoundGoesOverTheClosedForm) {
   press(kLedger, u"Command11"_s);
   EXPECT_EQ(told(), QStringList{u"既にレセプトフォームは開かれています"_s});
   press(kForm, u"cmdClose"_s);
-  EXPECT_EQ(m_desk->navigator().loaded(kForm), nullptr);
+  EXPECT_EQ(m_application->navigator().loaded(kForm), nullptr);
   EXPECT_EQ(screen(kLedger).text(u"Text5(4)"_s), u"a"_s) << "what was typed waits";
   told();
   answer({true});
@@ -86,7 +90,7 @@ TEST_F(VisitLedgerHandOver, RefusedInvitationLeavesTheLedgerAlone) {
   fill(kLedger, u"Text5(1)"_s, u"a"_s);
   answer({false});
   press(kLedger, u"Command11"_s);
-  EXPECT_EQ(m_desk->navigator().loaded(kForm), nullptr);
+  EXPECT_EQ(m_application->navigator().loaded(kForm), nullptr);
   EXPECT_EQ(stored().code(2), u"a"_s);
   EXPECT_EQ(screen(kLedger).text(u"Text5(1)"_s), u"a"_s);
 }

@@ -41,10 +41,10 @@ class Month {
     printing::PrintSource source;
     const auto claim = m_file.read(m_stored.ids[index]);
     if (claim) source.claim = claim.value();
-    source.option = QStringLiteral("Option9");
-    source.prefecture = QStringLiteral("01");
-    source.profile[frame::profile::kRegistration] = QStringLiteral("例示第０００１号");
-    source.profile[frame::profile::kHealthOffice] = QStringLiteral("施術所所在地");
+    source.edition = printing::Edition::From202410;
+    source.prefecture = frame::Prefecture::Hokkaido;
+    source.profile[frame::slot::kRegistration] = QStringLiteral("例示第０００１号");
+    source.profile[frame::slot::kHealthOffice] = QStringLiteral("施術所所在地");
     return source;
   }
 
@@ -201,8 +201,8 @@ int jobs(const QStringList& arguments) {
   });
   for (int i = 0; i < count; ++i) {
     const printing::PrintSource source = month->source(i);
-    if (printing::runPrint(engine, printing::claimJob(source, QString::fromUtf16(kScreen), eraDates())) !=
-        printing::RunEnd::Printed)
+    if (printing::runPrint(engine, printing::claimJob(source, printing::PrintScreen::General2024,
+                                                      eraDates())) != printing::RunEnd::Printed)
       return failed(QStringLiteral("nothing was printed"));
   }
   const double spent = static_cast<double>(timer.nsecsElapsed()) / 1e6;

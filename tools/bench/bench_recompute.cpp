@@ -51,7 +51,7 @@ text::Result<double> run(ClaimFile& file, const QVector<qint64>& ids, Change cha
 /// to write.
 ClaimRecord overwritten(ClaimRecord claim) {
   for (const auto columns : {claims::calculatedColumns(), claims::calculatedColumnsSecond()})
-    for (const char16_t* column : columns) claim.set(QString::fromUtf16(column), QStringLiteral("0"));
+    for (const store::Column& column : columns) claim.set(column, QStringLiteral("0"));
   return claim;
 }
 

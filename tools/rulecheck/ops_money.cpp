@@ -26,10 +26,9 @@ QString fileOfMonth(const QJsonObject& request) {
 
 QJsonObject rowOf(const claims::FeeEdition& edition) {
   QJsonObject row{{"ID", edition.id}};
-  for (int i = 0; i < static_cast<int>(claims::Fee::Count); ++i) {
-    const auto fee = static_cast<claims::Fee>(i);
-    const auto value = edition.value(fee);
-    row[claims::feeColumn(fee)] = value ? QJsonValue(*value) : QJsonValue();
+  for (const claims::FeeRow& fee : claims::kFees) {
+    const auto value = edition.value(fee.fee);
+    row[claims::feeColumn(fee.fee)] = value ? QJsonValue(*value) : QJsonValue();
   }
   return row;
 }
@@ -45,7 +44,7 @@ QJsonArray rowsOf(const claims::ClaimAmounts& amounts) {
 QJsonObject replyOf(const claims::ClaimAmounts& amounts, const QJsonObject& columns) {
   return {{"rows", rowsOf(amounts)}, {"columns", columns},
           {"合計", amounts.total},   {"一部負担金2", amounts.share},
-          {"請求額", amounts.claim}, {"preview", jsonOf(amounts.previewScreen)}};
+          {"請求額", amounts.claim}, {"preview", jsonOf(claims::previewScreen(amounts.preview))}};
 }
 
 QJsonObject previewReply(const claims::ClaimRecord& claim, Context& context) {

@@ -7,6 +7,7 @@
 #include "platform/report/prp_loader.h"
 #include "platform/report/recording_operations.h"
 #include "platform/report/report_engine.h"
+#include "platform/store/tables/claims.h"
 #include "printing/contract/prompts.h"
 #include "printing/core/claim_job.h"
 #include "printing/core/print_button.h"
@@ -17,12 +18,6 @@
 
 namespace rulecheck {
 namespace {
-
-/// The ticks of a printing screen; all other names are ticks of the claim form.
-bool isScreenCheck(const QString& name) {
-  static const QSet<QString> names{"Check1", "Check2", "Check3", "Check4", "Check5", "Check6"};
-  return names.contains(name);
-}
 
 /// The claim as it stands after 登録, unless the request brings its record of amounts.
 claims::ClaimRecord storedClaim(const QJsonObject& request, const Context& context) {
@@ -53,29 +48,26 @@ frame::RunState runOf(const QJsonObject& request) {
 printing::PrintSource sourceOf(const QJsonObject& request, const frame::RunState& run,
                                const Context& context) {
   printing::PrintSource source;
-  printing::takePractice(source, run);
+  printing::addClinicData(source, run);
   source.claim = storedClaim(request, context);
   const bool massage = claims::kindOf(source.claim.get(QStringLiteral("施術内容"))) == claims::Kind::Massage;
   source.kind = massage ? printing::PrintKind::Massage : printing::PrintKind::Acupuncture;
+  // A name that both screens have is the printing screen's.
   for (const QJsonValue& name : request["checks"].toArray())
-    (isScreenCheck(name.toString()) ? source.screenChecks : source.claimChecks).insert(name.toString());
-  source.itemsOnly = request["itemsOnly"].toBool() || source.claimChecks.contains(QStringLiteral("Check13"));
+    if (!claims::setTick<printing::PrintTicks>(source.ticks, printing::kPrintTicks, name.toString()))
+      claims::setTick<claims::FormTicks>(source.form, claims::kFormTicks, name.toString());
+  if (request["itemsOnly"].toBool()) source.form.itemsOnly = true;
   return source;
 }
 
-/// Screen, option and ticks: those of the request, else the presets.
-QString takeScreen(const QJsonObject& request, const frame::RunState& run, printing::PrintSource& source) {
-  const QString screen = request.contains("screen")
-                             ? request["screen"].toString()
-                             : printing::printScreenOf(source.claim, source.claimChecks, run);
-  source.option =
+/// Edition and ticks on the screen: those of the request, else the presets.
+void chooseOnScreen(const QJsonObject& request, printing::PrintScreen screen, printing::PrintSource& source) {
+  source.edition =
       request.contains("option")
-          ? request["option"].toString()
-          : printing::presetOption(screen, eraDates(), source.claim.get(QStringLiteral("申請年月")),
-                                   source.claim.get(QStringLiteral("c12")));
-  if (!request.contains("checks"))
-    for (const QString& check : printing::presetChecks(run.prefectureCode)) source.screenChecks.insert(check);
-  return screen;
+          ? printing::editionNamed(screen, request["option"].toString())
+          : printing::presetEdition(screen, eraDates(), source.claim.get(QStringLiteral("申請年月")),
+                                    source.claim.get(claim::summaryKind));
+  if (!request.contains("checks")) source.ticks = printing::presetTicks(source.prefecture);
 }
 
 /// What the template shows as it is stored, and over it what the run made of its items.
@@ -106,7 +98,7 @@ QJsonArray callsOf(const report::RecordingOperations& run) {
   return calls;
 }
 
-void printInto(QJsonObject& reply, const printing::PrintSource& source, const QString& screen,
+void printInto(QJsonObject& reply, const printing::PrintSource& source, printing::PrintScreen screen,
                const Context& context, const QString& pdf) {
   std::vector<report::MemorySink::Document> documents;
   report::ReportEngine engine(context.programFolder, [&](const report::PrinterChoice&) {
@@ -114,7 +106,9 @@ void printInto(QJsonObject& reply, const printing::PrintSource& source, const QS
                          : std::unique_ptr<report::DocumentSink>(new report::FileSink(pdf));
   });
   report::RecordingOperations recorder(&engine);
-  printing::runPrint(recorder, printing::claimJob(source, screen, eraDates()));
+  if (printing::runPrint(recorder, printing::claimJob(source, screen, eraDates())) ==
+      printing::RunEnd::NotTaken)
+    reply["error"] = recorder.lastDocument().fault().message;
   reply["calls"] = callsOf(recorder);
   reply["items"] = itemsOf(recorder, context.programFolder, reply["template"].toString());
 }
@@ -124,17 +118,20 @@ void printInto(QJsonObject& reply, const printing::PrintSource& source, const QS
 QJsonObject print(const QJsonObject& request, Context& context) {
   const frame::RunState run = runOf(request);
   printing::PrintSource source = sourceOf(request, run, context);
-  const QString screen = takeScreen(request, run, source);
-  if (screen.isEmpty()) return error(QStringLiteral("claim: 申請年月 cannot be read"));
-  const auto paper = printing::chooseTemplate(printing::templateQuery(screen, source));
-  QJsonObject reply{{"screen", screen},
-                    {"prompt", printing::promptOf(screen)},
+  const auto screen = request.contains("screen") ? printing::printScreenNamed(request["screen"].toString())
+                                                 : printing::printScreenOf(source.claim, source.form, run);
+  if (!screen && !request.contains("screen")) return error(QStringLiteral("claim: 申請年月 cannot be read"));
+  if (screen) chooseOnScreen(request, *screen, source);
+  const auto paper = screen ? printing::chooseTemplate(*screen, source) : std::nullopt;
+  const QString name = screen ? printing::nameOf(*screen) : request["screen"].toString();
+  QJsonObject reply{{"screen", name},
+                    {"prompt", printing::promptOf(name)},
                     {"title", printing::claimTitle(source.kind)},
                     {"template", paper ? QJsonValue(paper->fileName) : QJsonValue()},
                     {"calls", QJsonArray()},
                     {"items", QJsonObject()}};
   if (paper && paper->built)
-    printInto(reply, source, screen, context, request["pdf"].toString());
+    printInto(reply, source, *screen, context, request["pdf"].toString());
   else
     reply["note"] = QStringLiteral("this edition is not built: nothing is printed");
   return reply;

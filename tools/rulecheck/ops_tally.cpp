@@ -1,7 +1,7 @@
 // The day grid's counts.
-#include "claims/core/rule_dates.h"
-#include "claims/core/tally_new.h"
-#include "claims/core/tally_old.h"
+#include "claims/core/era.h"
+#include "claims/core/tally_two_band.h"
+#include "claims/core/tally_visits.h"
 #include "tools/rulecheck/claim_json.h"
 #include "tools/rulecheck/ops.h"
 
@@ -10,8 +10,8 @@ namespace {
 
 QJsonValue jsonOf(const std::optional<int>& number) { return number ? QJsonValue(*number) : QJsonValue(); }
 
-QJsonObject oldCounters(const claims::ClaimRecord& claim) {
-  const claims::OldTally tally = claims::tallyOld(claim);
+QJsonObject twoBandCounters(const claims::ClaimRecord& claim) {
+  const claims::TwoBandTally tally = claims::tallyTwoBand(claim);
   const QString first = tally.first == 0 ? QString(QLatin1String("")) : QString(QChar(tally.first));
   return {{"count1", tally.hari},
           {"count2", tally.kyu},
@@ -34,7 +34,7 @@ QJsonObject oldCounters(const claims::ClaimRecord& claim) {
           {"farVisits", tally.farVisits}};
 }
 
-QJsonObject newCounters(const claims::NewTally& tally) {
+QJsonObject visitsCounters(const claims::VisitsTally& tally) {
   QJsonObject counters{{"はり", tally.hari},
                        {"灸", tally.kyu},
                        {"1術", tally.oneArt},
@@ -48,7 +48,7 @@ QJsonObject newCounters(const claims::NewTally& tally) {
   return counters;
 }
 
-QJsonObject newVisits(const claims::NewTally& tally) {
+QJsonObject visitsByToken(const claims::VisitsTally& tally) {
   QJsonObject visits;
   for (int token = 0; token < claims::kTokens; ++token) {
     const claims::VisitCounts& counts = tally.visits[static_cast<size_t>(token)];
@@ -67,9 +67,10 @@ QJsonObject tally(const QJsonObject& request, Context&) {
   const claims::ClaimRecord claim = claimOf(request);
   const auto flags = claims::monthFlags(claim.get(QStringLiteral("申請年月")), eraDates());
   if (!flags.month) return error(QStringLiteral("申請年月: not an era month"));
-  if (!flags.isAfter202410) return {{"regime", "old"}, {"counters", oldCounters(claim)}};
-  const claims::NewTally counted = claims::tallyNew(claim);
-  return {{"regime", "new"}, {"counters", newCounters(counted)}, {"visits", newVisits(counted)}};
+  if (claims::eraOf(flags.month, claims::Path::Store)->regime != claims::Regime::Visits)
+    return {{"regime", "old"}, {"counters", twoBandCounters(claim)}};
+  const claims::VisitsTally counted = claims::tallyVisits(claim);
+  return {{"regime", "new"}, {"counters", visitsCounters(counted)}, {"visits", visitsByToken(counted)}};
 }
 
 }  // namespace rulecheck

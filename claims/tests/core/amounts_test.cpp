@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "claims/core/counters.h"
 #include "claims/tests/core/claim_builder.h"
 
 namespace claims {
@@ -54,7 +55,7 @@ TEST(Preview, ScreenByMonthAndKind) {
               {u"令和6年10月", u"鍼灸", u"施術料金2024H"}, {u"令和6年10月", u"あマ", u"施術料金2024A"}};
   for (const auto& row : rows) {
     const auto claim = makeClaim(row.month, row.kind, u"1割", u"");
-    EXPECT_EQ(amountsOf(claim, Path::Preview).previewScreen, row.screen);
+    EXPECT_EQ(previewScreen(amountsOf(claim, Path::Preview).preview), row.screen);
   }
 }
 
@@ -195,7 +196,8 @@ TEST(Amounts, AMissingFeeFileIsToldAndNothingIsComputed) {
 
 TEST(Reports, CountByTicks) {
   const auto with = [](std::initializer_list<testing::Set> ticks) {
-    return reportCount(makeClaim(u"令和6年10月", u"鍼", u"1割", u"", ticks));
+    const ClaimRecord claim = makeClaim(u"令和6年10月", u"鍼", u"1割", u"", ticks);
+    return counters::reports(ClaimAmounts().counts(claim)).count;
   };
   EXPECT_EQ(with({}), 0);
   EXPECT_EQ(with({{u"yn2", u"-1"}}), 1);

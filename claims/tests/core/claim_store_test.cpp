@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "claims/core/insurance.h"
 #include "claims/tests/core/claim_builder.h"
 
 namespace claims {

@@ -1,10 +1,12 @@
 // Small tables and derived values of a claim.
 #include <gtest/gtest.h>
 
+#include "claims/core/insurance.h"
 #include "claims/core/kinds.h"
 #include "claims/core/print_fields.h"
 #include "claims/core/print_settings.h"
 #include "claims/core/rule_dates.h"
+#include "claims/core/share_rate.h"
 #include "claims/core/share_ticks.h"
 #include "claims/core/treatment_period.h"
 #include "claims/tests/core/claim_builder.h"
@@ -111,22 +113,21 @@ TEST(ShareTicks, ReadFromTheText) {
 TEST(PrintSettings, OneRowASwitch) {
   const char16_t* columns[] = {u"txt dummy1",  u"txt dummy2",  u"txt dummy3",  u"txt dummy4", u"txt dummy9",
                                u"txt dummy10", u"txt dummy11", u"txt dummy13", u"txtdummy26", u"c8",
-                               u"c9",          u"c10",         u"c11",         u"c13",        u"c16"};
-  ASSERT_EQ(printSettings().size(), std::size(columns));
+                               u"c9",          u"c10",         u"c11",         u"c13",        u"c16",
+                               u"txt dummy5",  u"txt dummy6",  u"txt dummy7",  u"txt dummy8"};
+  ASSERT_EQ(std::size(kPrintSettings), std::size(columns));
   for (size_t i = 0; i < std::size(columns); ++i)
-    EXPECT_EQ(QStringView(printSettings()[i].column), QStringView(columns[i]));
-  EXPECT_EQ(QStringView(printSetting(QStringLiteral("c11"))->family), QStringView(u"Option12"));
-  EXPECT_EQ(printSetting(QStringLiteral("c12")), nullptr);
+    EXPECT_EQ(QStringView(kPrintSettings[i].column.name()), QStringView(columns[i]));
 }
 
 TEST(PrintSettings, ChosenByTheColumnElseTheDefault) {
   ClaimRecord claim;
-  const PrintSetting& setting = *printSetting(QStringLiteral("c10"));
+  const Setting setting = Setting::ProxyWords;
   EXPECT_EQ(chosen(claim, setting, {}), 1);
   claim.setNamed(QStringLiteral("c10"), QStringLiteral("0"));
   EXPECT_EQ(chosen(claim, setting, {}), 0);
   claim.setNamed(QStringLiteral("txt dummy1"), QStringLiteral("77"));  // the ID of a repaired half
-  EXPECT_EQ(chosen(claim, *printSetting(QStringLiteral("txt dummy1")), {}), 1);
+  EXPECT_EQ(chosen(claim, Setting::PeriodFrom, {}), 1);
 }
 
 TEST(PrintFields, FullWidthNumbersByKind) {

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "claims/tests/core/claim_builder.h"
+#include "platform/store/catalogue.h"
 
 namespace claims {
 namespace {
@@ -38,6 +39,17 @@ TEST(FeeFiles, OsakaSet) {
                           {2018, 6, u"料金設定o2000.mdb"},  {2025, 1, u"料金設定o2000.mdb"}};
   for (const FileRow& row : rows)
     EXPECT_EQ(pickFeeFile(QDate(row.year, row.month, 1), FeeSet::Osaka), row.file);
+}
+
+// A file that the catalogue lacks is never made, and its months could not be computed.
+TEST(FeeFiles, EveryFileThatIsPickedIsInTheCatalogue) {
+  for (const FeeSet set : {FeeSet::National, FeeSet::Osaka})
+    for (QDate month(2005, 1, 1); month < QDate(2039, 1, 1); month = month.addMonths(1)) {
+      const QString file = pickFeeFile(month, set);
+      const store::TableRow* row = store::tableOfFile(file);
+      ASSERT_NE(row, nullptr) << file.toStdString();
+      EXPECT_EQ(QStringView(row->table), u"料金設定") << file.toStdString();
+    }
 }
 
 TEST(FeeFiles, OnlyTheCurrentNationalEditionLiesInTheDataFolder) {

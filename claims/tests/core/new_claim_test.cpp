@@ -4,6 +4,8 @@
 
 #include <QSet>
 
+#include "claims/core/insurance.h"
+
 namespace claims {
 namespace {
 
@@ -160,14 +162,6 @@ TEST(NewClaim, Defaults) {
   for (const char16_t* column : {u"txt dummy4", u"txt dummy9"}) expect(claim, column, u"0");
   EXPECT_TRUE(claim.blank(claim::month));
   EXPECT_TRUE(claim.blank(claim::subject));
-}
-
-TEST(NewClaim, SevenKindsInTheirOrder) {
-  const char16_t* kinds[] = {u"全国健康保険協会", u"共済",     u"組合",    u"国保",
-                             u"退職国保",         u"特別国保", u"後期高齢"};
-  ASSERT_EQ(newClaimInsurance().size(), std::size(kinds));
-  for (size_t i = 0; i < std::size(kinds); ++i)
-    EXPECT_EQ(QStringView(newClaimInsurance()[i]), QStringView(kinds[i]));
 }
 
 }  // namespace

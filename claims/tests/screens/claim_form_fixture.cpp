@@ -59,9 +59,7 @@ void ClaimFormTest::SetUp() {
   m_run.clock = &m_clock;
   m_run.prefectureCode = qs(u"27");
   m_messages.answerFromQueue();
-  m_state.choosePrintScreen = [](const ClaimRecord&, const QSet<QString>&) {
-    return qs(u"レセプト印刷2024");
-  };
+  m_state.printing = &m_printing;
 }
 
 ClaimRecord ClaimFormTest::acupuncture() {

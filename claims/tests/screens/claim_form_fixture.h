@@ -50,8 +50,24 @@ class RecordingNavigator final : public screen::Navigator {
   QHash<QString, screen::Screen*> screens;
 };
 
+/// Printing that answers with one screen and remembers what it was asked.
+class RecordingPrinting final : public ClaimPrinting {
+ public:
+  QString screenOf(const ClaimRecord& shown, const FormTicks& set) const override {
+    claim = shown;
+    ticks = set;
+    return screen;
+  }
+  void setUpPrinter(quintptr window) override { setUpFor = window; }
+
+  QString screen = qs(u"レセプト印刷2024");
+  mutable ClaimRecord claim;
+  mutable FormTicks ticks;
+  quintptr setUpFor = 0;
+};
+
 /// The claim form over fresh files, with fees of its own, a voice that is written down and queued answers.
-class ClaimFormTest : public testing::Test {
+class ClaimFormTest : public ::testing::Test {
  protected:
   static void SetUpTestSuite();
   static void TearDownTestSuite() { s_files.reset(); }
@@ -91,6 +107,7 @@ class ClaimFormTest : public testing::Test {
   screen::Services m_services{m_voice, m_messages, m_navigator};
   text::FixedClock m_clock{QDate(2024, 11, 5)};
   frame::RunState m_run;
+  RecordingPrinting m_printing;
   ClaimsState m_state;
   std::unique_ptr<ClaimFormScreen> m_form;
 };

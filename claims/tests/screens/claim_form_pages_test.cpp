@@ -214,22 +214,92 @@ TEST_F(ClaimFormPages, TheSevenPagesAreInTheirOrder) {
                                 qs(u"既往症"), qs(u"申請者の確認")}));
 }
 
+struct SettingGroup {
+  const char16_t* column;
+  int frame;
+  const char16_t *family, *caption, *first, *second, *storedFirst, *storedSecond;
+};
+
 TEST_F(ClaimFormPages, PrintSettingsAreThoseOfTheRules) {
   QHash<QString, const screen::Options*> groups;
   for (const screen::Row& row : kClaimFormScreen.rows)
     if (const auto* options = std::get_if<screen::Options>(&row))
       groups.insert(qs(options->bind.column()), options);
-  for (const PrintSetting& setting : printSettings()) {
-    const screen::Options* group = groups.value(qs(setting.column));
-    ASSERT_NE(group, nullptr) << qs(setting.column).toStdString();
-    EXPECT_EQ(qs(group->caption.get()), qs(setting.caption));
+  const SettingGroup rows[] = {
+      {u"txt dummy1", 1, u"Option1", u"施術期間（自）", u"最初の治療日", u"１日", u"0", u"1"},
+      {u"txt dummy2", 2, u"Option2", u"施術期間（至）", u"月末日", u"最終の治療日", u"0", u"1"},
+      {u"txt dummy3", 3, u"Option3", u"左欄外保険者名の印字", u"左欄外保険者名を印刷する",
+       u"左欄外保険者名を印刷しない", u"0", u"1"},
+      {u"txt dummy4", 4, u"Option4", u"公費負担番号の印字", u"公費負担番号を印刷する",
+       u"公費負担番号を印刷しない", u"0", u"1"},
+      {u"txt dummy9", 5, u"Option5", u"男女の印字", u"男女を印刷する", u"男女を印刷しない", u"0", u"1"},
+      {u"txt dummy10", 6, u"Option6", u"委任欄（償還払い時）", u"印刷する", u"すべて印刷しない", u"0", u"1"},
+      {u"txt dummy11", 7, u"Option7", u"申請欄（保険者の頭に○）", u"申請欄の○を印刷する",
+       u"申請欄の○を印刷しない", u"0", u"1"},
+      {u"txt dummy13", 8, u"Option8", u"委任欄の被保険者の氏名の印字", u"委任欄の被保険者の氏名を印刷する",
+       u"委任欄の被保険者の氏名を印刷しない", u"0", u"1"},
+      {u"txtdummy26", 9, u"Option13", u"続柄の印字", u"続柄を印刷する", u"続柄を印刷しない", u"0", u"1"},
+      {u"c8", 10, u"Option9", u"申請欄の氏名の印字", u"申請欄の氏名を印刷する", u"申請欄の氏名を印刷しない",
+       u"0", u"1"},
+      {u"c9", 11, u"Option10", u"右上の給付割合の○", u"給付割合の○を印刷する", u"給付割合の○を印刷しない",
+       u"0", u"1"},
+      {u"c10", 12, u"Option11", u"施術証明欄に代表者委任の印字", u"代表者委任を印刷する",
+       u"代表者委任を印刷しない", u"0", u"1"},
+      {u"c11", 13, u"Option12", u"一部負担金を", u"標準計算", u"公費があるため０円にする", u"0", u"1"},
+      {u"c13", 14, u"Option14", u"施術証明欄・申請欄・委任欄の年月日", u"年月日を印刷する",
+       u"年月日を印刷しない", u"0", u"1"},
+      {u"c16", 15, u"Option16", u"別添1（様式第6号）の印字", u"別添1を印刷する", u"別添1を印刷しない", u"0",
+       u"1"},
+      {u"txt dummy5", 16, u"Option17", u"支払機関欄の口座", u"施術者の口座", u"代表者の口座", u"1", u"0"},
+      {u"txt dummy6", 17, u"Option18", u"施術証明欄の住所・氏名", u"施術者の住所・氏名",
+       u"代表者の住所・氏名", u"1", u"0"},
+      {u"txt dummy7", 18, u"Option19", u"同意医師欄の印字", u"同意医師欄を印刷する",
+       u"同意医師欄を印刷しない", u"1", u"0"},
+      {u"txt dummy8", 19, u"Option20", u"金額欄の印字", u"金額欄を印刷する", u"金額欄を印刷しない", u"1",
+       u"0"},
+  };
+  for (const SettingGroup& row : rows) {
+    const screen::Options* group = groups.value(qs(row.column));
+    ASSERT_NE(group, nullptr) << qs(row.column).toStdString();
+    EXPECT_EQ(qs(group->name.family()), qs(u"FrameSet"));
+    EXPECT_EQ(group->name.index(), row.frame);
+    EXPECT_EQ(qs(group->caption.get()), qs(row.caption));
     ASSERT_EQ(group->choices.size(), 2u);
     for (int i = 0; i < 2; ++i) {
-      // A button may name what it switches before the words of the table.
-      EXPECT_TRUE(qs(group->choices[size_t(i)].caption.get()).endsWith(qs(setting.choices[i])));
-      EXPECT_EQ(qs(group->choices[size_t(i)].value), QString::number(i));
-      EXPECT_EQ(qs(group->choices[size_t(i)].name.family()), qs(setting.family));
+      const screen::Choice& button = group->choices[size_t(i)];
+      EXPECT_EQ(qs(button.caption.get()), qs(i == 0 ? row.first : row.second));
+      EXPECT_EQ(qs(button.value), qs(i == 0 ? row.storedFirst : row.storedSecond));
+      EXPECT_EQ(qs(button.name.family()), qs(row.family));
+      EXPECT_EQ(button.name.index(), i);
     }
+  }
+}
+
+TEST_F(ClaimFormPages, TicksForPrintingAreTheCheckBoxesOfTheForm) {
+  QStringList boxes, unbound, known;
+  for (const screen::Row& row : claimFormDeclaration().rows)
+    if (const auto* check = std::get_if<screen::Check>(&row)) {
+      boxes << qs(check->name.family());
+      if (!check->bind.bound()) unbound << boxes.last();
+    }
+  for (const TickName<FormTicks>& row : kFormTicks)
+    if (onClaimForm(row)) known << qs(row.control);
+  for (const QString& name : known) EXPECT_TRUE(boxes.contains(name)) << name.toStdString();
+  for (const QString& name : unbound) EXPECT_TRUE(known.contains(name)) << name.toStdString();
+}
+
+TEST_F(ClaimFormPages, EachTickReachesPrintingUnderItsOwnName) {
+  openNew(acupuncture());
+  const std::pair<const char16_t*, FormTicks> rows[] = {
+      {u"Check5", {.olderPaper = true}}, {u"Check6", {.olderPaperItemsOnly = true}},
+      {u"Check7", {.publicAid = true}},  {u"Check8", {.freeVisits = true}},
+      {u"Check13", {.itemsOnly = true}}, {u"Check17", {.eraLetter = true}},
+      {u"Check50", {.delegated = true}}};
+  EXPECT_EQ(m_form->checks(), FormTicks());
+  for (const auto& [box, expected] : rows) {
+    m_form->setChecked(qs(box), true);
+    EXPECT_EQ(m_form->checks(), expected) << qs(box).toStdString();
+    m_form->setChecked(qs(box), false);
   }
 }
 

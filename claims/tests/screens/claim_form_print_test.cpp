@@ -44,9 +44,9 @@ TEST_F(ClaimFormPrint, ThePrintButtonsOpenTheChosenScreen) {
   openNew(acupuncture());
   press(qs(u"Command5"));
   EXPECT_EQ(m_navigator.shows, QStringList(qs(u"レセプト印刷2024")));
-  EXPECT_EQ(m_state.printKind, 1);
+  EXPECT_EQ(m_state.printKind, PrintKind::Acupuncture);
   press(qs(u"Command6"));
-  EXPECT_EQ(m_state.printKind, 2);
+  EXPECT_EQ(m_state.printKind, PrintKind::Massage);
 }
 
 TEST_F(ClaimFormPrint, ThePrintOfANationalClaimTrimsItsTexts) {
@@ -61,18 +61,12 @@ TEST_F(ClaimFormPrint, ThePrintOfANationalClaimTrimsItsTexts) {
 }
 
 TEST_F(ClaimFormPrint, TheChoiceSeesTheClaimAndTheTicks) {
-  QString month;
-  QSet<QString> ticks;
-  m_state.choosePrintScreen = [&](const ClaimRecord& claim, const QSet<QString>& checks) {
-    month = claim.named(qs(u"申請年月"));
-    ticks = checks;
-    return qs(u"東京助成レセプト印刷2024");
-  };
+  m_printing.screen = qs(u"東京助成レセプト印刷2024");
   openNew(acupuncture());
   toggle(qs(u"Check7"));
   press(qs(u"Command5"));
-  EXPECT_EQ(month, qs(u"令和6年10月"));
-  EXPECT_EQ(ticks, QSet<QString>({qs(u"Check7")}));
+  EXPECT_EQ(m_printing.claim.get(qs(u"申請年月")), qs(u"令和6年10月"));
+  EXPECT_EQ(m_printing.ticks, FormTicks{.publicAid = true});
   EXPECT_EQ(m_navigator.shows, QStringList(qs(u"東京助成レセプト印刷2024")));
 }
 

@@ -15,7 +15,6 @@ class Month : public ClaimFormTest {
   void SetUp() override {
     ClaimFormTest::SetUp();
     add(acupuncture());  // 令和6年10月
-    m_state.printerSetup = [this](quintptr window) { m_setupFor = window; };
     m_month = std::make_unique<MonthScreen>(m_services, m_run, m_state);
     m_month->onLoad();
     m_month->show();
@@ -25,7 +24,6 @@ class Month : public ClaimFormTest {
     m_month->trigger(qs(u"Command1(%1)").arg(button));
   }
   std::unique_ptr<MonthScreen> m_month;
-  quintptr m_setupFor = 0;
 };
 
 TEST_F(Month, IsReachableAndSaysWhatToWrite) {
@@ -101,7 +99,7 @@ TEST_F(Month, AMissingFileIsReportedByName) {
 
 TEST_F(Month, PrinterOptionsAndClose) {
   m_month->trigger(qs(u"Command2"));
-  EXPECT_EQ(m_setupFor, m_month->winId());
+  EXPECT_EQ(m_printing.setUpFor, m_month->winId());
   m_month->trigger(qs(u"Command3"));
   EXPECT_FALSE(m_month->isVisible());
 }

@@ -1,3 +1,4 @@
+#include "claims/core/insurance.h"
 #include "claims/screens/claim_choice_screen.h"
 #include "claims/screens/new_claim_screen.h"
 #include "claims/tests/screens/claim_form_fixture.h"

@@ -1,4 +1,5 @@
 #include "claims/screens/preview_screen.h"
+#include "claims/tests/core/invented_revision.h"
 #include "claims/tests/screens/claim_form_fixture.h"
 #include "frame/core/installation.h"
 
@@ -11,8 +12,7 @@ namespace {
 class ShownClaim final : public ClaimOnDisplay {
  public:
   ClaimRecord record() const override { return claim; }
-  QSet<QString> checks() const override { return {}; }
-  void trimForPrint() override {}
+  FormTicks checks() const override { return {}; }
   quintptr window() const override { return 0; }
   ClaimRecord claim;
 };
@@ -168,7 +168,7 @@ const PreviewCase kCases[] = {
      u"0円"},
 };
 
-class Preview : public testing::TestWithParam<PreviewCase> {
+class Preview : public ::testing::TestWithParam<PreviewCase> {
  protected:
   static void SetUpTestSuite() {
     s_folder = std::make_unique<QTemporaryDir>();
@@ -269,8 +269,8 @@ TEST_P(Preview, NoLineIsCut) {
   }
 }
 
-std::string nameOf(const testing::TestParamInfo<PreviewCase>& info) { return info.param.name; }
-INSTANTIATE_TEST_SUITE_P(Months, Preview, testing::ValuesIn(kCases), nameOf);
+std::string nameOf(const ::testing::TestParamInfo<PreviewCase>& info) { return info.param.name; }
+INSTANTIATE_TEST_SUITE_P(Months, Preview, ::testing::ValuesIn(kCases), nameOf);
 
 using PreviewCommands = Preview;
 
@@ -302,7 +302,36 @@ TEST_P(PreviewCommands, AMissingFeeFileIsTold) {
   EXPECT_TRUE(m_messages.texts()[0].contains(qs(u"無い.mdb")));
   EXPECT_EQ(m_screen->text(qs(u"Text2")), qs(u"0円"));
 }
-INSTANTIATE_TEST_SUITE_P(Commands, PreviewCommands, testing::Values(kCases[4]), nameOf);
+
+TEST_P(PreviewCommands, AnInventedSurchargeHasItsLine) {
+  using testing::InventedRevision;
+  m_run.clock = &m_clock;
+  open(GetParam());
+  const InventedRevision revision;
+  const QString last = QStringLiteral("Text1(%1)").arg(GetParam().lines.size());
+  EXPECT_FALSE(m_screen->isControlShown(last));
+  m_shown.claim.set(qs(u"申請年月"), qs(u"令和13年6月"));
+  m_shown.claim.set(InventedRevision::kTick, qs(u"1"));
+  PreviewScreen screen(previewScreens()[4], m_services, m_run, m_state, revision.table());
+  screen.opened({});
+  EXPECT_EQ(screen.caption(last), qs(u"見本加算:"));
+  EXPECT_EQ(screen.text(last),
+            qs(u"100円 × 2回 ＝ 200円"));  // two visits; the fee is one of the shipped file
+  EXPECT_EQ(screen.text(qs(u"Text2")), qs(u"13,950円"));
+}
+
+TEST_P(PreviewCommands, EveryEraFitsTheLines) {
+  m_run.clock = &m_clock;
+  open(GetParam());
+  const auto lines = m_screen->findChildren<QLineEdit*>(QRegularExpression(QStringLiteral("^Text1\\(")));
+  ASSERT_FALSE(lines.isEmpty());
+  for (const Era& era : eras())
+    for (const KindRules* rules : {&era.acupuncture, &era.massage})
+      EXPECT_LE(std::ranges::count_if(rules->items,
+                                      [](const AmountItem& item) { return item.counter && item.charged; }),
+                lines.size());
+}
+INSTANTIATE_TEST_SUITE_P(Commands, PreviewCommands, ::testing::Values(kCases[4]), nameOf);
 
 }  // namespace
 }  // namespace claims

@@ -4,9 +4,11 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <map>
 #include <set>
 
 #include "frame/core/prefecture.h"
+#include "frame/tests/profile_table.h"
 #include "platform/text/whole_file.h"
 
 using namespace frame;
@@ -41,7 +43,7 @@ TEST(LoadRun, TheCounterIsRaisedAndABlankOneIsZero) {
   }
 }
 
-TEST(LoadRun, BlankPathsFallBackToTheFilesBesideTheProgram) {
+TEST(LoadRun, BlankPathsFallBackToTheProgramFolder) {
   const RunState run = loaded(freshSettings());
   const std::pair<int, const char16_t*> rows[] = {{0, u"/opt/daicho/臨床QV2000N.mdb"},
                                                   {1, u"/opt/daicho/予約2000.mdb"},
@@ -168,7 +170,7 @@ TEST_F(SavedRun, AStartWithoutTheFileIsAFaultThatNamesIt) {
   EXPECT_TRUE(read.fault().message.contains(path()));
 }
 
-TEST_F(SavedRun, TheEndLeavesAShortFileAloneAndASaveKeepsItBeside) {
+TEST_F(SavedRun, ShortFileIsLeftAtTheEndAndCopiedBeforeASave) {
   ASSERT_TRUE(text::writeWholeFile(path(), "\"w\",\"3\""));
   ASSERT_TRUE(readRun(folder.path(), run));
   ASSERT_TRUE(saveRun(run, SettingsWriter::ProgramEnd));
@@ -201,7 +203,7 @@ TEST_F(SavedRun, ThePrefectureComesFromTheInstallationRecord) {
   }
 }
 
-TEST(Prefecture, EditionsStandInTheNationalOrder) {
+TEST(Prefecture, EditionsAreInNationalOrder) {
   EXPECT_EQ(prefectureEdition("01"), QStringLiteral("北海道版"));
   EXPECT_EQ(prefectureEdition("13"), QStringLiteral("東京都版"));
   EXPECT_EQ(prefectureEdition("23"), QStringLiteral("愛知県版"));
@@ -211,17 +213,69 @@ TEST(Prefecture, EditionsStandInTheNationalOrder) {
     EXPECT_FALSE(prefectureEdition(code)) << code;
 }
 
-TEST(ProfileFields, EachSlotAndControlStandsOnce) {
+TEST(ProfileFields, CoverTheirSlotsOnce) {
   std::set<int> numbers;
-  std::set<std::u16string> controls;
-  for (const ProfileField& field : profileFields()) {
+  for (const ProfileField& field : profileFields())
     EXPECT_TRUE(numbers.insert(field.slot).second) << field.slot;
-    EXPECT_TRUE(controls.insert(field.control).second);
-  }
   std::set<int> expected = {17, 27, 89};
   for (int i = 29; i <= 52; ++i) expected.insert(i);
   for (int i = 56; i <= 67; ++i) expected.insert(i);
   for (int i = 74; i <= 84; ++i) expected.insert(i);
   expected.insert({86, 87});
   EXPECT_EQ(numbers, expected);
+}
+
+TEST(ProfileFields, AreCopiedIntoTheirClaimColumns) {
+  std::map<int, QString> columns;
+  for (const ProfileField& field : profileFields())
+    columns[field.slot] = field.claimColumn ? field.claimColumn->text() : QString();
+  for (const test::ProfileRow& row : test::kProfileTable)
+    EXPECT_EQ(columns[row.slot].toStdString(), row.claimColumn.toStdString()) << row.slot;
+  for (const int chosen : {17, 63, 89}) EXPECT_EQ(columns[chosen].toStdString(), "") << chosen;
+}
+
+// The profile's own slots are held by the screen that shows and stores them.
+TEST(SettingsSlots, NamesHaveTheirPlacesInTheFile) {
+  const std::pair<int, slot::Slot> rows[] = {{0, slot::kWarning},
+                                             {1, slot::kRunCounter},
+                                             {2, slot::kMarkerFolders},
+                                             {3, slot::kPatientsPath},
+                                             {4, slot::kAppointmentsPath},
+                                             {5, slot::kClaims1Path},
+                                             {6, slot::kAcupointsPath},
+                                             {7, slot::kPhrases1Path},
+                                             {8, slot::kPhrases2Path},
+                                             {9, slot::kVisitsPath},
+                                             {10, slot::kSpareFolder7},
+                                             {11, slot::kSpareFolder8},
+                                             {12, slot::kSpareFolder9},
+                                             {13, slot::kUpdatePage},
+                                             {14, slot::kPicturesPath},
+                                             {15, slot::kMarkerCheckBox},
+                                             {16, slot::kPrintLicence},
+                                             {17, slot::kAichi},
+                                             {18, slot::kLicenceHari},
+                                             {19, slot::kLicenceKyu},
+                                             {20, slot::kLicenceMassage},
+                                             {21, slot::kMarkerTextBox},
+                                             {22, slot::kCaptionText1},
+                                             {23, slot::kCaptionText2},
+                                             {24, slot::kCaptionText3},
+                                             {25, slot::kCaptionSymptom},
+                                             {26, slot::kCaptionTreatment},
+                                             {28, slot::kMarkerProfile},
+                                             {53, slot::kDoctorsPath},
+                                             {54, slot::kInsurersPath},
+                                             {55, slot::kFeesPath},
+                                             {63, slot::kMassageToo},
+                                             {68, slot::kSummaryCondition1},
+                                             {69, slot::kSummaryCondition2},
+                                             {70, slot::kSummaryCondition3},
+                                             {71, slot::kSpare71},
+                                             {72, slot::kSpare72},
+                                             {73, slot::kClaims2Path},
+                                             {85, slot::kSpare85},
+                                             {88, slot::kTopics},
+                                             {89, slot::kTokyo}};
+  for (const auto& [place, name] : rows) EXPECT_EQ(int(name), place);
 }

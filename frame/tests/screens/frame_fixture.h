@@ -1,12 +1,12 @@
 #pragma once
 
 #include "frame/screens/frame_screens.h"
-#include "frame/tests/screens/desk_fixture.h"
+#include "frame/tests/screens/screen_fixture.h"
 
 namespace frame::test {
 
-/// The desk with the screens of the frame.
-class FrameFixture : public DeskFixture {
+/// A program folder with the screens of the frame.
+class FrameFixture : public ScreenFixture {
  protected:
   FrameFixture() { registerScreens(registry, services, run); }
 };

@@ -1,5 +1,6 @@
 #include <QCheckBox>
 
+#include "frame/tests/profile_table.h"
 #include "frame/tests/screens/frame_fixture.h"
 
 namespace frame {
@@ -9,21 +10,62 @@ using namespace Qt::Literals::StringLiterals;
 
 class ProfileTest : public test::FrameFixture {};
 
+bool isTick(const test::ProfileRow& row) { return row.control.startsWith(u"Check"); }
+
 TEST_F(ProfileTest, EveryFieldOfTheProfileHasItsControlAndCaption) {
   screen::Screen& profile = shown(u"登録");
-  for (const ProfileField& field : profileFields()) {
-    if (field.slot == slot::kAichi || field.slot == slot::kTokyo) continue;  // options of a frame
-    EXPECT_EQ(profile.caption(QString::fromUtf16(field.control)), QString::fromUtf16(field.caption))
-        << field.slot;
+  for (const test::ProfileRow& row : test::kProfileTable)
+    EXPECT_EQ(profile.caption(row.control), row.caption) << row.slot;
+}
+
+TEST_F(ProfileTest, EveryFieldShowsItsPlaceInTheSettingsFile) {
+  SettingsSlots settings = freshSettings();
+  for (const test::ProfileRow& row : test::kProfileTable) settings[row.slot] = u"値%1"_s.arg(row.slot);
+  for (const test::ProfileRow& ticked : test::kProfileTable) {
+    if (!isTick(ticked)) continue;
+    for (const test::ProfileRow& row : test::kProfileTable)
+      if (isTick(row)) settings[row.slot] = row.slot == ticked.slot ? u"1"_s : u"0"_s;
+    loadRun(settings, folder.path(), run);
+    screen::Screen& profile = shown(u"登録");
+    for (const test::ProfileRow& row : test::kProfileTable) {
+      if (isTick(row))
+        EXPECT_EQ(profile.checked(row.control), row.slot == ticked.slot) << row.slot;
+      else
+        EXPECT_EQ(profile.text(row.control), u"値%1"_s.arg(row.slot));
+    }
+    navigator.unload(u"登録"_s);
+  }
+}
+
+TEST_F(ProfileTest, EveryFieldIsStoredInItsPlaceOfTheSettingsFile) {
+  for (const test::ProfileRow& ticked : test::kProfileTable) {
+    if (!isTick(ticked)) continue;
+    screen::Screen& profile = shown(u"登録");
+    for (const test::ProfileRow& row : test::kProfileTable) {
+      if (isTick(row))
+        profile.setChecked(row.control, row.slot == ticked.slot);
+      else
+        profile.setText(row.control, u"例%1"_s.arg(row.slot));
+    }
+    profile.trigger(u"Command1"_s);
+    navigator.loaded(u"登録の実行"_s)->trigger(u"Command1"_s);
+    const SettingsSlots stored = storedSettings();
+    for (const test::ProfileRow& row : test::kProfileTable) {
+      const QString expected = !isTick(row)              ? u"例%1"_s.arg(row.slot)
+                               : row.slot == ticked.slot ? u"1"_s
+                                                         : u"0"_s;
+      EXPECT_EQ(stored[row.slot], expected) << row.slot;
+    }
+    settle();
   }
 }
 
 TEST_F(ProfileTest, FieldsShowTheRunsValues) {
-  run.profile[profile::kPractitioner] = u"見本 施術者"_s;
-  run.profile[profile::kHealthOffice] = u""_s;
+  run.profile[slot::kPractitioner] = u"見本 施術者"_s;
+  run.profile[slot::kHealthOffice] = u""_s;
   run.profile[34] = u"銀行送金"_s;
-  run.profile[profile::kRelationPrinted] = u"1"_s;
-  run.profile[profile::kMassageToo] = u"on"_s;
+  run.profile[slot::kRelationPrinted] = u"1"_s;
+  run.profile[slot::kMassageToo] = u"on"_s;
   screen::Screen& screen = shown(u"登録");
   EXPECT_EQ(screen.text(u"Text1"_s), u"見本 施術者"_s);
   EXPECT_EQ(screen.text(u"Combo1(4)"_s), u"銀行送金"_s);
@@ -79,7 +121,7 @@ TEST_F(ProfileTest, CancelledQuestionComesBackToTheTypedValuesAndLeavesTheFile) 
   navigator.loaded(u"登録の実行"_s)->trigger(u"Command2"_s);
   ASSERT_TRUE(isShown(u"登録"));
   EXPECT_EQ(navigator.loaded(u"登録"_s)->text(u"Text1"_s), u"見本 花子"_s);
-  EXPECT_EQ(run.profile[profile::kPractitioner], u"見本 花子"_s);
+  EXPECT_EQ(run.profile[slot::kPractitioner], u"見本 花子"_s);
   EXPECT_EQ(settingsBytes(), before);
 }
 
@@ -149,6 +191,13 @@ TEST_F(ProfileTest, CaptionsAreWrittenAndTheProgramEndsAtOnce) {
   EXPECT_EQ(storedSettings()[slot::kCaptionText1], u"紹介状:"_s);
   EXPECT_EQ(storedSettings()[slot::kCaptionText2], u"趣味:"_s);
   EXPECT_EQ(navigator.quits, 1);
+}
+
+TEST_F(ProfileTest, EachCaptionHasItsPlaceInTheSettingsFile) {
+  for (int place = 22; place <= 26; ++place) run.settings[place] = u"題%1:"_s.arg(place);
+  screen::Screen& captions = shown(u"txtbox");
+  for (int field = 1; field <= 5; ++field)
+    EXPECT_EQ(captions.text(u"Text%1"_s.arg(field)), u"題%1:"_s.arg(21 + field));
 }
 
 TEST_F(ProfileTest, RefusedCaptionsLeaveTheFile) {

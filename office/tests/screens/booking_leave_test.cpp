@@ -16,42 +16,41 @@ const QString kUnfinished =
 class BookingLeave : public BookingFixture {
  protected:
   screen::Screen& fresh(const screen::Request& request = {}) { return open(u"予約2"_s, request); }
-  screen::Screen& storedBooking(const screen::Request& request = {}) {
+  screen::Screen& finishedBooking(const screen::Request& request = {}) {
     screen::Screen& form = fresh(request);
     form.setText(u"txtFields(2)"_s, u"見本"_s);
     form.trigger(u"cmdUpdate"_s);
-    told();
+    takeMessages();
     return form;
   }
 };
 
 struct WayBack {
-  int mark;
-  QString opener;
+  std::optional<screen::ScreenName> caller;
+  std::optional<screen::ScreenName> opener;
   QString leadsTo;
 };
 class WaysBack : public BookingLeave, public testing::WithParamInterface<WayBack> {};
 
 TEST_P(WaysBack, ClosingGoesToTheCaller) {
-  run.callerMark = GetParam().mark;
-  screen::Request request;
-  if (!GetParam().opener.isEmpty()) request[u"opener"_s] = GetParam().opener;
-  storedBooking(request).trigger(u"cmdClose"_s);
+  run.bookingsCaller = GetParam().caller;
+  finishedBooking(routes::Booking{.opener = GetParam().opener}).trigger(u"cmdClose"_s);
   settle();
-  for (const QString& room : {u"選択3"_s, u"治療台帳4"_s, u"今日の予約"_s})
-    EXPECT_EQ(navigator.isShown(room), room == GetParam().leadsTo) << room.toStdString();
+  for (const QString& name : {u"選択3"_s, u"治療台帳4"_s, u"今日の予約"_s})
+    EXPECT_EQ(navigator.isShown(name), name == GetParam().leadsTo) << name.toStdString();
   EXPECT_EQ(navigator.loaded(u"予約2"_s), nullptr);
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
 }
-INSTANTIATE_TEST_SUITE_P(Marks, WaysBack,
-                         testing::Values(WayBack{2, u""_s, u"選択3"_s}, WayBack{3, u""_s, u"治療台帳4"_s},
-                                         WayBack{2, u"今日の予約"_s, u"今日の予約"_s},
-                                         WayBack{3, u"今日の予約"_s, u"今日の予約"_s},
-                                         WayBack{0, u""_s, u""_s}));
+constexpr screen::ScreenName kMenu = routes::MainMenu::screen, kChart = routes::PatientRegister::screen,
+                             kList = routes::TodaysBookings::screen;
+INSTANTIATE_TEST_SUITE_P(Callers, WaysBack,
+                         testing::Values(WayBack{kMenu, {}, kMenu}, WayBack{kChart, {}, kChart},
+                                         WayBack{kMenu, kList, kList}, WayBack{kChart, kList, kList},
+                                         WayBack{{}, {}, {}}));
 
 TEST_F(BookingLeave, ClosingWritesTheWeekdayOnceMore) {
   book(u"2024/6/15"_s, u"9 時 0 分"_s, u"見本"_s);
-  screen::Screen& form = fresh({{u"ID"_s, 1}});
+  screen::Screen& form = fresh(storedBooking(1));
   type(form, u"2024"_s, u"6"_s, u"18"_s);
   form.trigger(u"cmdClose"_s);
   EXPECT_EQ(stored(u"予約曜日"_s), QStringList(u"火曜日"_s));
@@ -75,8 +74,8 @@ TEST_F(BookingLeave, AnUnfinishedBookingIsAskedFor) {
   }
 }
 
-TEST_F(BookingLeave, TheWayBackIsKeptOverTheQuestion) {
-  run.callerMark = 3;
+TEST_F(BookingLeave, WayBackSurvivesTheQuestion) {
+  run.bookingsCaller = routes::PatientRegister::screen;
   fresh().trigger(u"cmdClose"_s);
   led(u"更新の確認"_s).trigger(u"Command1"_s);
   EXPECT_TRUE(isShown(u"治療台帳4"));
@@ -91,7 +90,7 @@ TEST_F(BookingLeave, BackToTheFormKeepsWhatWasTyped) {
   EXPECT_FALSE(isShown(u"更新の確認"));
   ASSERT_TRUE(isShown(u"予約2"));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"見本"_s);
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
   form.trigger(u"cmdUpdate"_s);
   EXPECT_EQ(stored(u"予約患者"_s), QStringList(u"見本"_s));
 }
@@ -117,13 +116,13 @@ TEST_F(BookingLeave, ARefusedWriteKeepsTheFormOrIsDropped) {
   for (const bool drops : {false, true}) {
     book(u"2024/6/15"_s, u"9 時 0 分"_s, u"見本"_s);
     const qint64 id = stored(u"ID"_s).last().toLongLong();
-    screen::Screen& form = fresh({{u"ID"_s, id}});
+    screen::Screen& form = fresh(storedBooking(id));
     form.setText(u"txtFields(8)"_s, u"書きかけ"_s);
     elsewhere("UPDATE \"予約\" SET \"メモ1\"='電話あり'");
     answer({drops});
     form.trigger(u"cmdClose"_s);
     settle();
-    EXPECT_EQ(told().value(1), u"登録出来ませんでした。入力した内容を捨てて、閉じますか？"_s);
+    EXPECT_EQ(takeMessages().value(1), u"登録出来ませんでした。入力した内容を捨てて、閉じますか？"_s);
     EXPECT_EQ(isShown(u"予約2"), !drops);
     EXPECT_EQ(stored(u"メモ1"_s).last(), u"電話あり"_s);
     if (drops) continue;
@@ -137,32 +136,32 @@ TEST_F(BookingLeave, ARefusedWriteKeepsTheFormOrIsDropped) {
 
 TEST_F(BookingLeave, AStoredRowWithoutADateIsLeftAsItIs) {
   addBooking({{u"予約患者"_s, u"見本"_s}, {u"登録日時"_s, u"令和6年6月1日 9:0"_s}});
-  fresh({{u"ID"_s, 1}}).trigger(u"cmdClose"_s);
+  fresh(storedBooking(1)).trigger(u"cmdClose"_s);
   settle();
   EXPECT_FALSE(isShown(u"予約2"));
-  EXPECT_EQ(told(), QStringList());
-  screen::Screen& form = fresh({{u"ID"_s, 1}});
+  EXPECT_EQ(takeMessages(), QStringList());
+  screen::Screen& form = fresh(storedBooking(1));
   form.setText(u"txtFields(8)"_s, u"書きかけ"_s);
   form.trigger(u"cmdClose"_s);
   EXPECT_TRUE(isShown(u"予約2"));
-  EXPECT_EQ(told(), QStringList(kNoDate));
+  EXPECT_EQ(takeMessages(), QStringList(kNoDate));
 }
 
 // ---- 中止
 
 TEST_F(BookingLeave, DeletingAsksFirst) {
   book(u"2024/6/15"_s, u"9 時 0 分"_s, u"見本"_s);
-  screen::Screen& form = fresh({{u"ID"_s, 1}});
+  screen::Screen& form = fresh(storedBooking(1));
   answer({false, true});
   form.trigger(u"cmdDelete"_s);
-  EXPECT_EQ(told(), QStringList(kDelete));
+  EXPECT_EQ(takeMessages(), QStringList(kDelete));
   EXPECT_EQ(stored(u"ID"_s).size(), 1);
   form.trigger(u"cmdDelete"_s);
   EXPECT_EQ(stored(u"ID"_s).size(), 0);
   EXPECT_EQ(channel.lastSaid(), u"削除しました"_s);
-  told();
+  takeMessages();
   form.trigger(u"cmdDelete"_s);
-  EXPECT_EQ(told(), QStringList(u"削除するデータがありません。"_s));
+  EXPECT_EQ(takeMessages(), QStringList(u"削除するデータがありません。"_s));
 }
 
 TEST_F(BookingLeave, ANewBookingOnlyLeavesTheScreen) {
@@ -183,7 +182,7 @@ TEST_F(BookingLeave, MovingAwayAsksWhereSomethingWasTyped) {
   screen::Screen& form = fresh();
   form.setText(u"txtFields(2)"_s, u"例示"_s);
   form.goFirst();
-  EXPECT_EQ(told(), QStringList(kDrop));
+  EXPECT_EQ(takeMessages(), QStringList(kDrop));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"例示"_s);
   answer({true});
   form.goFirst();
@@ -204,10 +203,10 @@ TEST_F(BookingLeave, RecordKeysWalkTheBook) {
     QTest::keyClick(&form, key);
     EXPECT_EQ(form.text(u"txtFields(2)"_s), name);
   }
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
 }
 
-TEST_F(BookingLeave, RecordKeysOfAnEmptyBookAreNotMute) {
+TEST_F(BookingLeave, RecordKeysSpeakInAnEmptyBook) {
   screen::Screen& form = fresh();
   answer({true});
   form.trigger(u"cmdDelete"_s);
@@ -222,18 +221,18 @@ TEST_F(BookingLeave, AnotherBookingAsksWhereSomethingWasTyped) {
   screen::Screen& form = fresh();
   form.setText(u"txtFields(2)"_s, u"例示"_s);
   form.trigger(u"cmdAdd"_s);
-  EXPECT_EQ(told(), QStringList(kDrop));
+  EXPECT_EQ(takeMessages(), QStringList(kDrop));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"例示"_s);
-  fresh({{u"氏名"_s, u"見本"_s}});
-  EXPECT_EQ(told(), QStringList(kDrop));
+  fresh(newBookingOf(patient(u"見本"_s)));
+  EXPECT_EQ(takeMessages(), QStringList(kDrop));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"例示"_s);
   answer({true});
-  fresh({{u"氏名"_s, u"見本"_s}});
+  fresh(newBookingOf(patient(u"見本"_s)));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"見本"_s);
 }
 
 TEST_F(BookingLeave, AddingAgainIsHeard) {
-  screen::Screen& form = storedBooking();
+  screen::Screen& form = finishedBooking();
   form.trigger(u"cmdAdd"_s);
   EXPECT_EQ(form.text(u"txtFields(2)"_s), QString());
   EXPECT_TRUE(
@@ -241,7 +240,7 @@ TEST_F(BookingLeave, AddingAgainIsHeard) {
       << channel.heardWhole().join(u'\n').toStdString();
 }
 
-TEST_F(BookingLeave, TheListIsOpenedBesideTheForm) {
+TEST_F(BookingLeave, ListOpensNextToTheForm) {
   screen::Screen& form = fresh();
   form.setText(u"txtFields(2)"_s, u"見本"_s);
   form.trigger(u"Command5"_s);

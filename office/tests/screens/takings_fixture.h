@@ -2,7 +2,8 @@
 
 #include <QApplication>
 
-#include "frame/tests/screens/desk_fixture.h"
+#include "frame/core/routes.h"
+#include "frame/tests/screens/screen_fixture.h"
 #include "office/screens/office_screens.h"
 #include "platform/screen/testing/screen_probe.h"
 #include "platform/store/bulk.h"
@@ -11,19 +12,19 @@ namespace office::test {
 
 using namespace Qt::Literals::StringLiterals;
 
-/// The takings over a file of visits, with the rooms around them stood in for. Today is 15 June 2024.
-class TakingsFixture : public frame::test::DeskFixture {
+/// The takings over a file of visits, with stand-ins for the screens around them. Today is 15 June 2024.
+class TakingsFixture : public frame::test::ScreenFixture {
  protected:
   using Visit = QHash<QString, QString>;
 
   TakingsFixture() {
     registerScreens(registry, run);
-    for (const QString& room : {u"選択3"_s, u"治療台帳4"_s, u"集計カレンダー"_s, u"集計年月"_s})
-      standIn(room);
+    for (const QString& name : {u"選択3"_s, u"治療台帳4"_s, u"集計カレンダー"_s, u"集計年月"_s})
+      standIn(name);
   }
 
   void SetUp() override {
-    DeskFixture::SetUp();
+    ScreenFixture::SetUp();
     makeFile(kFile);
   }
 
@@ -63,7 +64,7 @@ class TakingsFixture : public frame::test::DeskFixture {
   /// What is heard of the last thing said on: parts of a sentence, by their order.
   static QString sentence(const QStringList& parts) { return parts.join(voice::kSpeechSeparator); }
   /// The messages since the last call.
-  QStringList told() {
+  QStringList takeMessages() {
     const QStringList texts = messages.texts();
     messages.forget();
     return texts;

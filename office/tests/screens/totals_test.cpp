@@ -9,13 +9,17 @@ using namespace Qt::Literals::StringLiterals;
 
 class TotalsTest : public test::TakingsFixture {
  protected:
-  static screen::Request sums(const QString& opener) {
-    return {{u"opener"_s, opener},  {u"rows"_s, 1234},  {u"insurer"_s, 1234567890}, {u"share"_s, 0},
-            {u"treatment"_s, 5100}, {u"receipts"_s, 2}, {u"newPatients"_s, 1}};
+  static routes::Totals sums(bool ofOnePatient) {
+    return {.ofOnePatient = ofOnePatient,
+            .rows = 1234,
+            .insurer = 1234567890,
+            .share = 0,
+            .treatment = 5100,
+            .receipts = 2,
+            .newPatients = 1};
   }
-  screen::Screen& open(const QString& opener, const QString& name = u"集計総合金額"_s) {
-    return *navigator.show(name, sums(opener));
-  }
+  screen::Screen& ofTakings() { return *navigator.show(sums(false)); }
+  screen::Screen& ofLedger() { return *navigator.show(sums(true)); }
   QStringList boxes(const screen::Screen& screen) const {
     QStringList texts;
     for (int box = 0; box < 6; ++box) texts += screen.text(u"txtFields(%1)"_s.arg(box));
@@ -24,13 +28,13 @@ class TotalsTest : public test::TakingsFixture {
   const QString kNote = u"集計ウインドに表示された患者のみの集計です。"_s;
 };
 
-TEST_F(TotalsTest, TheSumsStandInGroupsOfThreeDigitsAndNothingIsEmpty) {
-  EXPECT_EQ(boxes(open(u"集計"_s)),
+TEST_F(TotalsTest, SumsHaveGroupsOfThreeDigitsAndZeroIsBlank) {
+  EXPECT_EQ(boxes(ofTakings()),
             QStringList({u"1,234"_s, u"1,234,567,890"_s, QString(), u"5,100"_s, u"2"_s, u"1"_s}));
 }
 
 TEST_F(TotalsTest, AllSixAreHeardWhenItOpens) {
-  open(u"集計"_s);
+  ofTakings();
   EXPECT_TRUE(channel.heardWhole().contains(
       sentence({u"集計総合金額"_s, kNote, u"総患者数:"_s, u"1,234人"_s, u"保険者負担金:"_s,
                 u"1,234,567,890円"_s, u"保険の一部負担金:"_s, u"なし"_s, u"治療金額:"_s, u"5,100円"_s,
@@ -38,7 +42,7 @@ TEST_F(TotalsTest, AllSixAreHeardWhenItOpens) {
 }
 
 TEST_F(TotalsTest, TheLedgerCountsTreatmentsAndHasNoSixthBox) {
-  screen::Screen& screen = open(u"治療台帳3"_s);
+  screen::Screen& screen = ofLedger();
   EXPECT_EQ(screen.caption(u"txtFields(0)"_s), u"治療回数:"_s);
   EXPECT_EQ(screen.caption(u"unit(0)"_s), u"回"_s);
   for (const QString& control : {u"txtFields(5)"_s, u"unit(5)"_s, u"Label1"_s})
@@ -48,10 +52,10 @@ TEST_F(TotalsTest, TheLedgerCountsTreatmentsAndHasNoSixthBox) {
        u"保険の一部負担金:"_s, u"なし"_s, u"治療金額:"_s, u"5,100円"_s, u"領収証発行数:"_s, u"2"_s})));
 }
 
-TEST_F(TotalsTest, TheTakingsTakeTheLedgersDressOffAndSayTheSumsAgain) {
-  open(u"治療台帳3"_s);
+TEST_F(TotalsTest, ReopenedFromTakingsShowsAllBoxesAndSpeaksSums) {
+  ofLedger();
   channel.clear();
-  screen::Screen& screen = open(u"集計"_s);
+  screen::Screen& screen = ofTakings();
   EXPECT_EQ(screen.caption(u"txtFields(0)"_s), u"総患者数:"_s);
   EXPECT_EQ(screen.caption(u"unit(0)"_s), u"人"_s);
   for (const QString& control : {u"txtFields(5)"_s, u"unit(5)"_s, u"Label1"_s})
@@ -61,7 +65,7 @@ TEST_F(TotalsTest, TheTakingsTakeTheLedgersDressOffAndSayTheSumsAgain) {
 }
 
 TEST_F(TotalsTest, EachSumIsReadAgainByTab) {
-  screen::Screen& screen = open(u"集計"_s);
+  screen::Screen& screen = ofTakings();
   screen::testing::ScreenProbe probe(screen, channel);
   probe.open();
   const QList<screen::testing::Stop> stops = probe.stops();
@@ -74,15 +78,15 @@ TEST_F(TotalsTest, EachSumIsReadAgainByTab) {
 }
 
 TEST_F(TotalsTest, EscapeCloses) {
-  screen::Screen& screen = open(u"集計"_s);
+  screen::Screen& screen = ofTakings();
   screen::testing::ScreenProbe probe(screen, channel);
   probe.open();
   probe.press(Qt::Key_Escape);
   EXPECT_FALSE(isShown(u"集計総合金額"));
 }
 
-TEST_F(TotalsTest, TheTwinOfTheClaimSideIsAScreenOfItsOwn) {
-  screen::Screen& screen = open(u"レセプト一覧表"_s, u"集計レセ総合金額"_s);
+TEST_F(TotalsTest, ClaimTotalsAreAScreenOfTheirOwn) {
+  screen::Screen& screen = *navigator.show(routes::ClaimTotals{sums(false)});
   EXPECT_EQ(screen.objectName(), u"集計レセ総合金額"_s);
   EXPECT_EQ(screen.windowTitle(), u"集計レセ総合金額"_s);
   EXPECT_EQ(boxes(screen),

@@ -63,6 +63,16 @@ TEST_F(FilePrinterTest, tellsWhenItsFolderCannotBeMade) {
   EXPECT_FALSE(print("x", "pdf"));
 }
 
+TEST_F(FilePrinterTest, AFolderThatIsGoneIsAFaultWithItsName) {
+  FilePrinter printer(m_folder.path());
+  ASSERT_TRUE(printer.open("x"));
+  ASSERT_TRUE(QDir(m_folder.filePath(QStringLiteral("印刷"))).removeRecursively());
+  const text::Done taken = printer.take("pdf");
+  ASSERT_FALSE(taken);
+  EXPECT_TRUE(taken.fault().message.contains(QStringLiteral("「印刷」")))
+      << taken.fault().message.toStdString();
+}
+
 TEST(Printers, theFilePrinterIsTheOnlyOneWithoutAPrintService) {
   const auto printers = listPrinters();  // the tests run with a print service that is not there
   ASSERT_EQ(printers.size(), 1u);
@@ -87,6 +97,21 @@ TEST(Printers, aPrinterThatIsGoneDoesNotLoseTheDocument) {
   ASSERT_TRUE(sink->open(QStringLiteral("申請書鍼")));
   ASSERT_TRUE(sink->take("pdf"));
   EXPECT_EQ(QDir(folder.filePath(QStringLiteral("印刷"))).entryList(QDir::Files).size(), 1);
+}
+
+TEST(Printers, aDocumentThatNobodyTakesIsAFaultWithThePrintersName) {
+  QTemporaryDir folder;
+  PrinterChoice choice;
+  choice.printer = QStringLiteral("no such printer");
+  const auto sink = printerSinks(folder.path())(choice);
+  ASSERT_TRUE(sink->open(QStringLiteral("申請書鍼")));
+  const QString place = folder.filePath(QStringLiteral("印刷"));
+  ASSERT_TRUE(QDir(place).removeRecursively());
+  QFile file(place);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));  // in the place of the folder
+  const text::Done taken = sink->take("pdf");
+  ASSERT_FALSE(taken);
+  EXPECT_TRUE(taken.fault().message.contains(choice.printer)) << taken.fault().message.toStdString();
 }
 
 }  // namespace

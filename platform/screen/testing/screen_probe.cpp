@@ -46,41 +46,50 @@ void ScreenProbe::type(const QString& text) {
   if (QWidget* focus = QApplication::focusWidget()) QApplication::sendEvent(focus, &event);
 }
 
-QList<Stop> ScreenProbe::stops() {
-  QList<Stop> stops;
+void ScreenProbe::walk(const Visit& visit) {
+  QSet<QString> visited;
   TabsControl* tabs = m_screen.controls().tabs();
-  if (!tabs) {
-    walk(stops);
-    return stops;
-  }
+  if (!tabs) return walkPage(visited, visit);
   auto* pages = qobject_cast<QTabWidget*>(tabs->widget());
-  for (int i = 0; i < pages->count(); ++i) {
-    pages->setCurrentIndex(i);
-    walk(stops);
+  pages->setCurrentIndex(0);
+  walkPage(visited, visit);
+  for (int i = 1; i < pages->count(); ++i) {
+    m_voice.clear();
+    tabs->step(+1);
+    visit(*tabs, *tabs->focusWidgets().first(), m_voice.said());
+    walkPage(visited, visit);
   }
-  return stops;
 }
 
-void ScreenProbe::walk(QList<Stop>& stops) {
-  QSet<QString> known;
-  for (const Stop& stop : stops) known.insert(stop.control);
+void ScreenProbe::walkPage(QSet<QString>& visited, const Visit& visit) {
   QSet<const QWidget*> walked;
   while (true) {
     const QWidget* before = QApplication::focusWidget();
     const QString openingSpeech = m_voice.lastSaid();
     m_voice.clear();
     press(Qt::Key_Tab);
-    const QWidget* now = QApplication::focusWidget();
-    const Control* control = m_screen.controls().of(now);
-    if (!control || walked.contains(now)) return;
+    QWidget* now = QApplication::focusWidget();
+    if (!now || walked.contains(now)) return;
     walked.insert(now);
-    if (!known.contains(control->name())) {
-      // The only stop of a window keeps the focus: what it said is what it said when the window opened.
-      stops.append(
-          {control->name(), now->accessibleName(), now == before ? openingSpeech : m_voice.lastSaid()});
-    }
-    known.insert(control->name());
+    // Arrows of a strip of pages that is wider than the window take the focus too, and say nothing.
+    const Control* control = m_screen.controls().of(now);
+    if (!control) continue;
+    if (visited.contains(control->name())) continue;
+    visited.insert(control->name());
+    // The only stop of a window keeps the focus: what it said is what it said when the window opened.
+    visit(*control, *now, now == before ? QStringList(openingSpeech) : m_voice.said());
   }
+}
+
+QList<Stop> ScreenProbe::stops() {
+  QList<Stop> stops;
+  QSet<QString> known;
+  walk([&](const Control& control, const QWidget& focus, const QStringList& heard) {
+    if (known.contains(control.name())) return;
+    known.insert(control.name());
+    stops.append({control.name(), focus.accessibleName(), heard.isEmpty() ? QString() : heard.last()});
+  });
+  return stops;
 }
 
 QStringList ScreenProbe::faults() {

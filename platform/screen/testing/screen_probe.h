@@ -2,12 +2,18 @@
 
 #include <QKeySequence>
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
+#include <functional>
 
 #include "platform/screen/screen.h"
 #include "platform/screen/testing/print_text.h"
 #include "platform/voice/recording_channel.h"
+
+namespace screen {
+class Control;
+}
 
 namespace screen::testing {
 
@@ -18,7 +24,7 @@ struct Stop {
   QString spoken;          ///< what the voice control was given when the focus came
 };
 
-/// Works a screen as a user with a keyboard does, and tells what a user without sight would stumble over.
+/// Works a screen as a user with a keyboard does, and lists what a user without sight would stumble over.
 class ScreenProbe {
  public:
   ScreenProbe(Screen& screen, voice::RecordingChannel& voice) : m_screen(screen), m_voice(voice) {}
@@ -30,6 +36,10 @@ class ScreenProbe {
   /// Types a text where the focus is, Japanese too.
   void type(const QString& text);
 
+  /// What a walk does at a tab stop: the control, its widget that has the focus, and what was heard of it.
+  using Visit = std::function<void(const Control& control, QWidget& focus, const QStringList& heard)>;
+  /// Walks every page by the Tab key and visits each control once, the strip of pages once a page.
+  void walk(const Visit& visit);
   /// Every tab stop of every page, in the order in which Tab finds them.
   QList<Stop> stops();
   /// Controls without a name, caption, speech or tab stop, and names that two controls share; empty for a
@@ -40,7 +50,7 @@ class ScreenProbe {
   QStringList unknownColumns(const QStringList& files) const;
 
  private:
-  void walk(QList<Stop>& stops);
+  void walkPage(QSet<QString>& visited, const Visit& visit);
   Screen& m_screen;
   voice::RecordingChannel& m_voice;
 };

@@ -27,7 +27,7 @@ bool isInView(const QWidget* widget, const QWidget* window) {
   return window->rect().contains(place);
 }
 
-// What is told itself is heard on a desk with accessibility only: the journeys listen there.
+// The notifications themselves are heard only on a desktop with accessibility: the journeys listen there.
 TEST(UntoldChanges, EndWithTheHandlerThatWasThere) {
   const auto handler = [](QAccessibleEvent*) {};
   const QAccessible::UpdateHandler before = handler;
@@ -43,9 +43,9 @@ TEST(UntoldChanges, EndWithTheHandlerThatWasThere) {
 }
 
 TEST(SmallWindow, ScrollsToTheControlWithTheFocus) {
-  Desk desk;
-  SampleScreen screen(desk.services);
-  ScreenProbe probe(screen, desk.spy);
+  Harness harness;
+  SampleScreen screen(harness.services);
+  ScreenProbe probe(screen, harness.spy);
   probe.open();
   screen.resize(420, 240);
   ASSERT_LT(screen.height(), screen.sizeHint().height());

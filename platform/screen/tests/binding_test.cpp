@@ -11,7 +11,7 @@ namespace {
 class Binding : public ::testing::Test {
  protected:
   void SetUp() override {
-    path = desk.patientsFile({"見本一", "見本二", "見本三"});
+    path = harness.patientsFile({"見本一", "見本二", "見本三"});
     ASSERT_TRUE(screen.source().open(path));
   }
   /// The row as another reader of the file sees it.
@@ -20,9 +20,9 @@ class Binding : public ::testing::Test {
     auto rows = store::RecordSet::open(database.value(), "臨床QV");
     return rows->valueAt(position, column);
   }
-  Desk desk;
+  Harness harness;
   QString path;
-  SampleScreen screen{desk.services};
+  SampleScreen screen{harness.services};
 };
 
 TEST_F(Binding, OpenShowsTheFirstRow) {
@@ -139,7 +139,7 @@ TEST_F(Binding, AScreenMaySettleTheRowBeforeItMoves) {
 }
 
 TEST_F(Binding, FunctionKeysMove) {
-  ScreenProbe probe(screen, desk.spy);
+  ScreenProbe probe(screen, harness.spy);
   probe.open();
   const std::pair<Qt::Key, const char*> moves[] = {
       {Qt::Key_F4, "見本三"}, {Qt::Key_F2, "見本二"}, {Qt::Key_F1, "見本一"}, {Qt::Key_F3, "見本二"}};
@@ -153,8 +153,8 @@ TEST_F(Binding, RefusedWriteIsToldAndKeepsWhatWasTyped) {
   const QString tooLong(300, u'あ');
   screen.setText("txtFields(5)", tooLong);
   EXPECT_FALSE(screen.source().write());
-  ASSERT_EQ(desk.messages.texts().size(), 1);
-  EXPECT_TRUE(desk.messages.texts()[0].startsWith("ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"));
+  ASSERT_EQ(harness.messages.texts().size(), 1);
+  EXPECT_TRUE(harness.messages.texts()[0].startsWith("ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"));
   EXPECT_EQ(screen.text("txtFields(5)"), tooLong);
   EXPECT_TRUE(screen.source().pending());
   screen.source().moveNext();
@@ -229,11 +229,11 @@ TEST_F(Binding, FilteredCopyTakesThePlaceOfTheSet) {
 }
 
 TEST(BindingFault, MissingFileIsToldByNameAndTheScreenStillWorks) {
-  Desk desk;
-  SampleScreen screen(desk.services);
-  EXPECT_FALSE(screen.source().open(desk.folder.filePath("無い.mdb")));
-  ASSERT_EQ(desk.messages.texts().size(), 1);
-  EXPECT_TRUE(desk.messages.texts()[0].contains("無い.mdb"));
+  Harness harness;
+  SampleScreen screen(harness.services);
+  EXPECT_FALSE(screen.source().open(harness.folder.filePath("無い.mdb")));
+  ASSERT_EQ(harness.messages.texts().size(), 1);
+  EXPECT_TRUE(harness.messages.texts()[0].contains("無い.mdb"));
   screen.source().moveNext();
   EXPECT_FALSE(screen.source().addNew());
   EXPECT_TRUE(screen.source().write());

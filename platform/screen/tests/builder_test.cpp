@@ -17,9 +17,9 @@ class Builder : public ::testing::Test {
   }
   QString accessible(const char* name) { return widget<QWidget>(name)->accessibleName(); }
 
-  Desk desk;
-  SampleScreen screen{desk.services};
-  ScreenProbe probe{screen, desk.spy};
+  Harness harness;
+  SampleScreen screen{harness.services};
+  ScreenProbe probe{screen, harness.spy};
 };
 
 TEST_F(Builder, NamesScreenAndControlsAsDeclared) {
@@ -68,8 +68,8 @@ TEST(BuilderOptions, OfOneCaptionAreToldApartByTheirGroups) {
       Options{.name = {u"Frame2"}, .caption = u"続柄", .bind = Unbound{u"a sample"}, .choices = second},
   };
   static constexpr ScreenRow declaration{.name = u"選択肢", .caption = u"選択肢", .rows = rows};
-  Desk desk;
-  Screen screen(declaration, desk.services);
+  Harness harness;
+  Screen screen(declaration, harness.services);
   const auto name = [&](const char* button) {
     return screen.findChild<QWidget*>(QLatin1String(button))->accessibleName();
   };
@@ -95,8 +95,8 @@ TEST(BuilderDoubles, AreNumberedWhereNoWordTellsThemApart) {
       EndGroup{},
   };
   static constexpr ScreenRow declaration{.name = u"見本2", .caption = u"見本", .rows = rows};
-  Desk desk;
-  Screen screen(declaration, desk.services);
+  Harness harness;
+  Screen screen(declaration, harness.services);
   const auto name = [&](const char* control) {
     return screen.findChild<QWidget*>(control)->accessibleName();
   };

@@ -34,11 +34,11 @@ class DateCursor : public ::testing::Test {
     screen.setDay("Calendar1", QDate(2024, 2, 28));
     probe.open();
     screen.focusOn("Calendar1");
-    desk.spy.clear();
+    harness.spy.clear();
   }
-  Desk desk;
-  DaysScreen screen{desk.services};
-  ScreenProbe probe{screen, desk.spy};
+  Harness harness;
+  DaysScreen screen{harness.services};
+  ScreenProbe probe{screen, harness.spy};
 };
 
 struct KeyCase {
@@ -53,7 +53,7 @@ TEST_P(DateCursorKeys, MoveTheDayAndSayIt) {
   probe.press(GetParam().key);
   EXPECT_EQ(screen.day("Calendar1"), GetParam().to);
   EXPECT_EQ(screen.text("Calendar1"), GetParam().to.toString(Qt::ISODate));
-  EXPECT_EQ(desk.spy.heardWhole(), QStringList(GetParam().to.toString(Qt::ISODate)));
+  EXPECT_EQ(harness.spy.heardWhole(), QStringList(GetParam().to.toString(Qt::ISODate)));
   EXPECT_EQ(screen.focused(), "Calendar1");
 }
 INSTANTIATE_TEST_SUITE_P(Keys, DateCursorKeys,
@@ -69,14 +69,14 @@ INSTANTIATE_TEST_SUITE_P(Keys, DateCursorKeys,
 
 TEST_F(DateCursor, EnterSaysTheDayAndStays) {
   probe.press(Qt::Key_Return);
-  EXPECT_EQ(desk.spy.heardWhole(), QStringList("2024-02-28"));
+  EXPECT_EQ(harness.spy.heardWhole(), QStringList("2024-02-28"));
   EXPECT_EQ(screen.focused(), "Calendar1");
 }
 
 TEST_F(DateCursor, FocusSaysCaptionAndDay) {
   probe.press(Qt::Key_Tab);
   probe.press(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_EQ(desk.spy.lastSaid(), "日にち:" + kPart + "2024-02-28");
+  EXPECT_EQ(harness.spy.lastSaid(), "日にち:" + kPart + "2024-02-28");
 }
 
 TEST_F(DateCursor, AScreenReaderMeetsANamedFieldThatHoldsTheDay) {
@@ -101,12 +101,12 @@ TEST_F(DateCursor, TheMonthSheetFollowsAndIsClicked) {
   EXPECT_EQ(sheet->selectedDate(), QDate(2024, 2, 29));
   sheet->setSelectedDate(QDate(2024, 2, 10));  // as a click does
   EXPECT_EQ(screen.day("Calendar1"), QDate(2024, 2, 10));
-  EXPECT_EQ(desk.spy.lastSaid(), "2024-02-10");
+  EXPECT_EQ(harness.spy.lastSaid(), "2024-02-10");
 }
 
 TEST_F(DateCursor, WhatTheProgramSetsIsNotSaid) {
   screen.setDay("Calendar1", QDate(2024, 5, 1));
-  EXPECT_TRUE(desk.spy.said().isEmpty());
+  EXPECT_TRUE(harness.spy.said().isEmpty());
 }
 
 TEST_F(DateCursor, TabFindsTheCursorAndTheTabsOnly) {
@@ -119,7 +119,7 @@ TEST_F(DateCursor, TabFindsTheCursorAndTheTabsOnly) {
 
 TEST_F(DateCursor, ArrowKeysChooseATab) {
   screen.focusOn("Tabs1");
-  EXPECT_EQ(desk.spy.lastSaid(), "時間帯:" + kPart + "朝");
+  EXPECT_EQ(harness.spy.lastSaid(), "時間帯:" + kPart + "朝");
   probe.press(Qt::Key_Right);
   EXPECT_EQ(screen.tabs, QList<int>{1});
   EXPECT_EQ(screen.text("Tabs1"), "昼");

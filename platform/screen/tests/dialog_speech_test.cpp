@@ -11,7 +11,7 @@ namespace screen::testing {
 namespace {
 
 TEST(DialogSpeech, SaysTitleThenControlsAsTheFocusReachesThem) {
-  Desk desk;
+  Harness harness;
   QDialog dialog;
   dialog.setWindowTitle("ファイルの選択");
   auto* column = new QVBoxLayout(&dialog);
@@ -24,16 +24,16 @@ TEST(DialogSpeech, SaysTitleThenControlsAsTheFocusReachesThem) {
   auto* accept = new QPushButton("OK");
   for (QWidget* widget : std::initializer_list<QWidget*>{name, label, kind, accept})
     column->addWidget(widget);
-  letSpeak(dialog, desk.voice);
+  letSpeak(dialog, harness.voice);
   dialog.show();
   QApplication::setActiveWindow(&dialog);
   (void)QTest::qWaitForWindowActive(&dialog);
   const QString part = QChar(254);
-  EXPECT_EQ(desk.spy.heardWhole(), QStringList({"ファイルの選択", "ファイル名" + part + "見本.mdb"}));
+  EXPECT_EQ(harness.spy.heardWhole(), QStringList({"ファイルの選択", "ファイル名" + part + "見本.mdb"}));
   QTest::keyClick(name, Qt::Key_Tab);
-  EXPECT_EQ(desk.spy.heardWhole(), QStringList{"種類:" + part + "Data"});
+  EXPECT_EQ(harness.spy.heardWhole(), QStringList{"種類:" + part + "Data"});
   QTest::keyClick(kind, Qt::Key_Tab);
-  EXPECT_EQ(desk.spy.heardWhole(), QStringList{"OK"});
+  EXPECT_EQ(harness.spy.heardWhole(), QStringList{"OK"});
 }
 
 }  // namespace

@@ -8,9 +8,9 @@ namespace {
 class EnterAndLeave : public ::testing::Test {
  protected:
   void SetUp() override { probe.open(); }
-  Desk desk;
-  SampleScreen screen{desk.services};
-  ScreenProbe probe{screen, desk.spy};
+  Harness harness;
+  SampleScreen screen{harness.services};
+  ScreenProbe probe{screen, harness.spy};
 };
 
 TEST_F(EnterAndLeave, EnterRunsTheFieldsAction) {
@@ -59,18 +59,18 @@ TEST_F(EnterAndLeave, LeavingAFieldRunsItsHandler) {
 TEST_F(EnterAndLeave, HandlerSendsTheFocusBackAfterItsMessage) {
   screen.refuseToLeave = true;
   screen.focusOn("txtFields(4)");
-  desk.spy.clear();
+  harness.spy.clear();
   probe.press(Qt::Key_Tab);
   EXPECT_EQ(screen.focused(), "txtFields(4)");
   EXPECT_EQ(screen.log, QStringList{"leave 4"});
-  EXPECT_EQ(desk.messages.texts(), QStringList{"氏名を直して下さい。"});
-  EXPECT_TRUE(desk.spy.lastSaid().startsWith("※氏名:"));
+  EXPECT_EQ(harness.messages.texts(), QStringList{"氏名を直して下さい。"});
+  EXPECT_TRUE(harness.spy.lastSaid().startsWith("※氏名:"));
 }
 
 TEST_F(EnterAndLeave, AnotherWindowInFrontIsNotLeaving) {
   screen.focusOn("txtFields(4)");
-  SampleScreen other(desk.services);
-  ScreenProbe(other, desk.spy).open();
+  SampleScreen other(harness.services);
+  ScreenProbe(other, harness.spy).open();
   EXPECT_TRUE(screen.log.isEmpty());
 }
 
@@ -121,9 +121,9 @@ TEST(StandardCommand, RunsOnEnterThatNoFieldTakes) {
               .standard = true},
   };
   static constexpr ScreenRow declaration{.name = u"検索", .caption = u"検索", .rows = rows};
-  Desk desk;
-  Finder screen(declaration, desk.services);
-  ScreenProbe probe(screen, desk.spy);
+  Harness harness;
+  Finder screen(declaration, harness.services);
+  ScreenProbe probe(screen, harness.spy);
   probe.open();
   screen.focusOn("Text1");
   found = 0;

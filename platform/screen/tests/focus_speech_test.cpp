@@ -26,19 +26,19 @@ class FocusSpeech : public ::testing::TestWithParam<SpeechCase> {
     screen.choose("Frame1", "2");
     probe.open();
     probe.press(Qt::Key_Shift);
-    desk.spy.clear();
+    harness.spy.clear();
   }
-  Desk desk;
-  SampleScreen screen{desk.services};
-  ScreenProbe probe{screen, desk.spy};
+  Harness harness;
+  SampleScreen screen{harness.services};
+  ScreenProbe probe{screen, harness.spy};
 };
 
 TEST_P(FocusSpeech, FollowsTheKindOfControl) {
   screen.focusOn(GetParam().control);
   QString expected = QString::fromUtf8(GetParam().firstPart);
   if (GetParam().secondPart) expected += kPart + QString::fromUtf8(GetParam().secondPart);
-  EXPECT_EQ(desk.spy.said(), QStringList{expected});
-  EXPECT_EQ(desk.spy.operations().value(0), "VoiceStop") << "a new focus cuts off what is being said";
+  EXPECT_EQ(harness.spy.said(), QStringList{expected});
+  EXPECT_EQ(harness.spy.operations().value(0), "VoiceStop") << "a new focus cuts off what is being said";
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -57,48 +57,48 @@ class Speech : public ::testing::Test {
   void SetUp() override {
     probe.open();
     probe.press(Qt::Key_Shift);
-    desk.spy.clear();
+    harness.spy.clear();
   }
-  Desk desk;
-  SampleScreen screen{desk.services};
-  ScreenProbe probe{screen, desk.spy};
+  Harness harness;
+  SampleScreen screen{harness.services};
+  ScreenProbe probe{screen, harness.spy};
 };
 
 TEST_F(Speech, ButtonWithAMarkedKeySaysItsCaptionWithoutIt) {
   screen.focusOn("txtFields(5)");
-  desk.spy.clear();
+  harness.spy.clear();
   screen.focusOn("cmdUpdate");
-  EXPECT_EQ(desk.spy.lastSaid(), "登録");
+  EXPECT_EQ(harness.spy.lastSaid(), "登録");
 }
 
 TEST_F(Speech, TabbingFastLeavesOnlyTheLastFieldWhole) {
   screen.focusOn("txtFields(4)");
   for (int i = 0; i < 2; ++i) probe.press(Qt::Key_Tab);
-  EXPECT_EQ(desk.spy.heardWhole(), QStringList{"住所:" + kPart});
+  EXPECT_EQ(harness.spy.heardWhole(), QStringList{"住所:" + kPart});
 }
 
 TEST_F(Speech, CaptionThatChangedIsSaidAsItStands) {
   screen.setCaption("txtFields(5)", "旧住所:");
   screen.focusOn("txtFields(5)");
-  EXPECT_EQ(desk.spy.lastSaid(), "旧住所:" + kPart);
+  EXPECT_EQ(harness.spy.lastSaid(), "旧住所:" + kPart);
 }
 
 TEST_F(Speech, TickSaysItsNewStateOnTheNextFocusOnly) {
   screen.focusOn("Check1");
-  desk.spy.clear();
+  harness.spy.clear();
   probe.press(Qt::Key_Space);
   EXPECT_TRUE(screen.checked("Check1"));
-  EXPECT_TRUE(desk.spy.calls().isEmpty());
+  EXPECT_TRUE(harness.spy.calls().isEmpty());
   screen.focusOn("Check2");
   screen.focusOn("Check1");
-  EXPECT_EQ(desk.spy.lastSaid(), "印刷する" + kPart + "チェック有り");
+  EXPECT_EQ(harness.spy.lastSaid(), "印刷する" + kPart + "チェック有り");
 }
 
 TEST_F(Speech, ArrowKeysMoveAndSpeakOptions) {
   screen.choose("Frame1", "1");
   screen.focusOn("Frame1");
   probe.press(Qt::Key_Down);
-  EXPECT_EQ(desk.spy.lastSaid(), "女性");
+  EXPECT_EQ(harness.spy.lastSaid(), "女性");
   EXPECT_EQ(screen.chosen("Frame1"), "2");
   EXPECT_EQ(screen.log, QStringList{"choose"});
 }
@@ -107,19 +107,19 @@ TEST_F(Speech, ListSaysWhatTheArrowKeysChoose) {
   screen.focusOn("Combo1");
   probe.press(Qt::Key_Down);
   EXPECT_EQ(screen.text("Combo1"), "氏名");
-  EXPECT_EQ(desk.spy.lastSaid(), "氏名");
+  EXPECT_EQ(harness.spy.lastSaid(), "氏名");
   EXPECT_EQ(screen.log, QStringList{"pick"});
 }
 
 TEST_F(Speech, PagesAreSaidAndChangedByArrowsAndControlPage) {
   screen.focusOn("TabStrip1");
-  EXPECT_EQ(desk.spy.lastSaid(), "基本");
+  EXPECT_EQ(harness.spy.lastSaid(), "基本");
   probe.press(Qt::Key_Right);
-  EXPECT_EQ(desk.spy.lastSaid(), "治療");
+  EXPECT_EQ(harness.spy.lastSaid(), "治療");
   screen.focusOn("txtMemo");
-  desk.spy.clear();
+  harness.spy.clear();
   probe.press(Qt::Key_PageUp, Qt::ControlModifier);
-  EXPECT_EQ(desk.spy.said(), QStringList{"基本"});
+  EXPECT_EQ(harness.spy.said(), QStringList{"基本"});
   EXPECT_EQ(screen.focused(), "TabStrip1");
   probe.press(Qt::Key_Tab);
   EXPECT_EQ(screen.focused(), "txtFields(4)");
@@ -135,16 +135,16 @@ TEST_F(Speech, MenuEntriesAreSaidAsTheyAreWalked) {
   auto* menu = screen.findChild<QMenu*>("ファイル(&F)");
   ASSERT_NE(menu, nullptr);
   menu->setActiveAction(menu->actions().at(1));
-  EXPECT_EQ(desk.spy.lastSaid(), "終わる");
+  EXPECT_EQ(harness.spy.lastSaid(), "終わる");
 }
 
 TEST_F(Speech, MenuEntryIsSaidOnceWhereTheBarOpenedItsMenu) {
   auto* menu = screen.findChild<QMenu*>("ファイル(&F)");
   ASSERT_NE(menu, nullptr);
   screen.menuBar()->setActiveAction(menu->menuAction());
-  desk.spy.clear();
+  harness.spy.clear();
   menu->setActiveAction(menu->actions().at(1));
-  EXPECT_EQ(desk.spy.said(), QStringList("終わる"));
+  EXPECT_EQ(harness.spy.said(), QStringList("終わる"));
   menu->close();
 }
 
@@ -156,20 +156,20 @@ class AfterTheMenu : public Speech {
     screen.focusOn("txtFields(4)");
     QWidget* field = QApplication::focusWidget();
     screen.menuBar()->setFocus(Qt::MenuBarFocusReason);
-    desk.spy.clear();
+    harness.spy.clear();
     field->setFocus(Qt::MenuBarFocusReason);
   }
 };
 
 TEST_F(AfterTheMenu, FieldIsHeardWhereNothingWasChosen) {
   QCoreApplication::processEvents();
-  EXPECT_EQ(desk.spy.said(), QStringList("※氏名:" + kPart));
+  EXPECT_EQ(harness.spy.said(), QStringList("※氏名:" + kPart));
 }
 
 TEST_F(AfterTheMenu, FieldIsSilentWhereAnEntryRuns) {
   screen.trigger("Men_X");
   QCoreApplication::processEvents();
-  EXPECT_EQ(desk.spy.said(), QStringList());
+  EXPECT_EQ(harness.spy.said(), QStringList());
 }
 
 }  // namespace

@@ -19,16 +19,16 @@ const QString kPart = QChar(254);
 class GridRows : public ::testing::Test {
  protected:
   void SetUp() override {
-    ASSERT_TRUE(screen.source().open(desk.patientsFile({"見本一", "見本二", "見本三"})));
+    ASSERT_TRUE(screen.source().open(harness.patientsFile({"見本一", "見本二", "見本三"})));
     probe.open();
     screen.focusOn("DBGrid1");
     screen.log.clear();
-    desk.spy.clear();
+    harness.spy.clear();
   }
   QTableView* view() { return screen.findChild<QTableView*>("DBGrid1"); }
-  Desk desk;
-  SampleScreen screen{desk.services};
-  ScreenProbe probe{screen, desk.spy};
+  Harness harness;
+  SampleScreen screen{harness.services};
+  ScreenProbe probe{screen, harness.spy};
 };
 
 TEST_F(GridRows, HeaderShowsTheCaptions) {
@@ -39,9 +39,9 @@ TEST_F(GridRows, HeaderShowsTheCaptions) {
 
 TEST_F(GridRows, ArrowKeysReachCellsAndSpeakThem) {
   probe.press(Qt::Key_Down);
-  EXPECT_EQ(desk.spy.lastSaid(), "氏名" + kPart + "見本二");
+  EXPECT_EQ(harness.spy.lastSaid(), "氏名" + kPart + "見本二");
   probe.press(Qt::Key_Right);
-  EXPECT_EQ(desk.spy.lastSaid(), "住所" + kPart);
+  EXPECT_EQ(harness.spy.lastSaid(), "住所" + kPart);
 }
 
 TEST_F(GridRows, RowOfTheGridIsTheRowOfTheSource) {
@@ -72,7 +72,7 @@ TEST_F(GridRows, RefusedWriteKeepsTheGridOnTheRow) {
   screen.setText("txtFields(5)", QString(300, u'あ'));
   probe.press(Qt::Key_Down);
   EXPECT_EQ(view()->currentIndex().row(), 0);
-  EXPECT_EQ(desk.messages.texts().size(), 1);
+  EXPECT_EQ(harness.messages.texts().size(), 1);
 }
 
 TEST_F(GridRows, FollowsRowsThatComeAndGo) {
@@ -88,7 +88,7 @@ TEST_F(GridRows, FollowsRowsThatComeAndGo) {
 TEST_F(GridRows, FocusSaysTheGridAndItsCell) {
   screen.focusOn("txtMemo");
   screen.focusOn("DBGrid1");
-  EXPECT_EQ(desk.spy.lastSaid(), "患者の一覧" + kPart + "氏名" + kPart + "見本一");
+  EXPECT_EQ(harness.spy.lastSaid(), "患者の一覧" + kPart + "氏名" + kPart + "見本一");
 }
 
 TEST_F(GridRows, TheCurrentCellIsSeen) {
@@ -127,10 +127,10 @@ class WatchedModel : public GridModel {
 TEST(GridReading, IsLimitedToTheRowsThatAreSeen) {
   constexpr int kRows = 400;
   constexpr GridColumn kColumns[] = {{patients::name, u"氏名"}};
-  Desk desk;
+  Harness harness;
   QStringList names;
   for (int i = 0; i < kRows; ++i) names += QStringLiteral("見本%1").arg(i);
-  const QString path = desk.patientsFile(names);
+  const QString path = harness.patientsFile(names);
   auto database = store::Database::open(path);
   auto rows = store::RecordSet::open(database.value(), "臨床QV");
   ASSERT_TRUE(rows);
@@ -151,8 +151,8 @@ TEST(GridReading, IsLimitedToTheRowsThatAreSeen) {
 
 TEST(GridMarks, AreShownInTheWordsOfTheirSearch) {
   constexpr GridColumn kColumns[] = {{visits::isNew, u"新患"}, {visits::summary, u"治療概略"}};
-  Desk desk;
-  const QString path = desk.folder.filePath("カルテ2データ2000.mdb");
+  Harness harness;
+  const QString path = harness.folder.filePath("カルテ2データ2000.mdb");
   ASSERT_TRUE(store::createFresh(path, "カルテ2データ2000.mdb"));
   const QList<QHash<QString, store::Value>> visits = {
       {{"新患", "-1"}}, {{"新患", "0"}, {"治療概略", "-1"}}, {}};

@@ -8,23 +8,24 @@ namespace screen {
 namespace {
 
 struct ColumnsCase {
-  int declared, character, room, fitting;
+  int declared, character, display, fitting;
 };
 
 class FittingColumns : public ::testing::TestWithParam<ColumnsCase> {};
 
-TEST_P(FittingColumns, FollowFontAndDesk) {
+TEST_P(FittingColumns, FollowFontAndDisplay) {
   const ColumnsCase& each = GetParam();
-  EXPECT_EQ(fittingColumns(each.declared, each.character, each.room), each.fitting);
+  EXPECT_EQ(fittingColumns(each.declared, each.character, each.display), each.fitting);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, FittingColumns,
-                         ::testing::Values(ColumnsCase{5, 13, 1280, 5},   // the default
-                                           ColumnsCase{5, 12, 1920, 5},   // never more than declared
-                                           ColumnsCase{5, 26, 1280, 2},   // twice the font: 2.5
-                                           ColumnsCase{2, 26, 1280, 1},   // twice the font
-                                           ColumnsCase{5, 26, 2560, 5},   // twice the font on twice the desk
-                                           ColumnsCase{11, 13, 1024, 9},  // a small desk: 8.8
+                         ::testing::Values(ColumnsCase{5, 13, 1280, 5},  // the default
+                                           ColumnsCase{5, 12, 1920, 5},  // never more than declared
+                                           ColumnsCase{5, 26, 1280, 2},  // twice the font: 2.5
+                                           ColumnsCase{2, 26, 1280, 1},  // twice the font
+                                           ColumnsCase{5, 26, 2560,
+                                                       5},  // twice the font on twice the display
+                                           ColumnsCase{11, 13, 1024, 9},  // a small display: 8.8
                                            ColumnsCase{2, 13, 1024, 2},   // 1.6
                                            ColumnsCase{1, 60, 800, 1}));  // at least one
 

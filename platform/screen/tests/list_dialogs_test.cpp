@@ -72,11 +72,12 @@ constexpr SortRow kSort[] = {{.name = u"ソート見本", .list = u"見本一覧
 class ListDialogs : public ::testing::Test {
  protected:
   void SetUp() override {
-    file = desk.folder.filePath("臨床QV2000N.mdb");
+    file = harness.folder.filePath("臨床QV2000N.mdb");
     ASSERT_TRUE(store::createFresh(file, "臨床QV2000N.mdb"));
-    desk.registry.add("見本一覧", [this](Services& all) { return std::make_unique<SampleList>(all, file); });
-    addExtractDialogs(desk.registry, kExtract);
-    addSortDialogs(desk.registry, kSort);
+    harness.registry.add("見本一覧",
+                         [this](Services& all) { return std::make_unique<SampleList>(all, file); });
+    addExtractDialogs(harness.registry, kExtract);
+    addSortDialogs(harness.registry, kSort);
   }
   /// Rows of 氏名 and the yes/no column.
   void add(const QList<std::pair<QString, QString>>& rows) {
@@ -85,8 +86,8 @@ class ListDialogs : public ::testing::Test {
     }));
   }
   void addThree() { add({{"見本 う", "-1"}, {"例示 い", "0"}, {"見本 あ", "-1"}}); }
-  SampleList& list() { return dynamic_cast<SampleList&>(*desk.navigator.load("見本一覧")); }
-  Screen& dialog(const QString& name) { return *desk.navigator.show(name); }
+  SampleList& list() { return dynamic_cast<SampleList&>(*harness.navigator.load("見本一覧")); }
+  Screen& dialog(const QString& name) { return *harness.navigator.show(name); }
   void extract(const QString& column, const QString& word, const QString& name = "抽出見本") {
     Screen& screen = dialog(name);
     screen.setText("Combo1", column);
@@ -98,14 +99,14 @@ class ListDialogs : public ::testing::Test {
     screen.setText("Combo1", column);
     screen.trigger(button);
   }
-  bool isOpen(const QString& name) { return desk.navigator.isShown(name); }
+  bool isOpen(const QString& name) { return harness.navigator.isShown(name); }
   QStringList told() {
-    const QStringList texts = desk.messages.texts();
-    desk.messages.forget();
+    const QStringList texts = harness.messages.texts();
+    harness.messages.forget();
     return texts;
   }
 
-  Desk desk;
+  Harness harness;
   QString file;
 };
 
@@ -113,7 +114,7 @@ TEST_F(ListDialogs, OfferTheColumnsByTheirCaptionsTheFirstChosen) {
   for (const QString& name : {QString("抽出見本"), QString("ソート見本")}) {
     EXPECT_EQ(dialog(name).items("Combo1"), (QStringList{"お名前", "印", "ない項目"}));
     EXPECT_EQ(dialog(name).text("Combo1"), "お名前");
-    ScreenProbe probe(dialog(name), desk.spy);
+    ScreenProbe probe(dialog(name), harness.spy);
     probe.open();
     EXPECT_EQ(probe.faults(), QStringList()) << name.toStdString();
   }
@@ -126,7 +127,7 @@ TEST_F(ListDialogs, ExtractionNarrowsShowsTheListAndCloses) {
   EXPECT_TRUE(isOpen("見本一覧"));
   EXPECT_FALSE(isOpen("抽出見本"));
   EXPECT_EQ(list().changes, 1);
-  EXPECT_TRUE(desk.spy.said().contains("抽出しました" + kPart + "2"));
+  EXPECT_TRUE(harness.spy.said().contains("抽出しました" + kPart + "2"));
   EXPECT_EQ(list().focused(), "DBGrid1");
   extract("お名前", "あ");
   EXPECT_EQ(list().names(), QStringList{"見本 あ"}) << "the second searches what is on view";
@@ -137,7 +138,7 @@ TEST_F(ListDialogs, NoHitIsToldAndTheDialogKeepsWhatWasTyped) {
   addThree();
   list().source().moveTo(1);
   extract("お名前", "架空");
-  EXPECT_EQ(desk.messages.titles(), QStringList{"Not found"});
+  EXPECT_EQ(harness.messages.titles(), QStringList{"Not found"});
   EXPECT_EQ(told(), QStringList{"該当がありません。"});
   EXPECT_TRUE(isOpen("抽出見本"));
   EXPECT_EQ(dialog("抽出見本").text("Text1"), "架空");
@@ -176,9 +177,9 @@ TEST_F(ListDialogs, YesAndNoMeanTheTwoValues) {
 TEST_F(ListDialogs, ABlankTextIsAskedForOrFitsEverything) {
   addThree();
   dialog("抽出見本");
-  desk.spy.clear();
+  harness.spy.clear();
   extract("お名前", "");
-  EXPECT_EQ(desk.spy.lastSaid(), "抽出する文字");
+  EXPECT_EQ(harness.spy.lastSaid(), "抽出する文字");
   EXPECT_TRUE(isOpen("抽出見本"));
   EXPECT_EQ(dialog("抽出見本").focused(), "Text1");
   extract("お名前", "", "抽出見本2");
@@ -239,13 +240,13 @@ TEST_F(ListDialogs, CancelLeavesTheListAlone) {
 TEST_F(ListDialogs, RecordKeysSayTheRow) {
   addThree();
   list().goLast();
-  EXPECT_EQ(desk.spy.lastSaid(), "ﾚｺｰﾄﾞ: 3" + kPart + "見本 あ");
+  EXPECT_EQ(harness.spy.lastSaid(), "ﾚｺｰﾄﾞ: 3" + kPart + "見本 あ");
   list().goNext();
-  EXPECT_EQ(desk.spy.lastSaid(), "ﾚｺｰﾄﾞ: 3" + kPart + "見本 あ") << "stays at the end";
+  EXPECT_EQ(harness.spy.lastSaid(), "ﾚｺｰﾄﾞ: 3" + kPart + "見本 あ") << "stays at the end";
   list().goPrevious();
-  EXPECT_EQ(desk.spy.lastSaid(), "ﾚｺｰﾄﾞ: 2" + kPart + "例示 い");
+  EXPECT_EQ(harness.spy.lastSaid(), "ﾚｺｰﾄﾞ: 2" + kPart + "例示 い");
   list().goFirst();
-  EXPECT_EQ(desk.spy.lastSaid(), "ﾚｺｰﾄﾞ: 1" + kPart + "見本 う");
+  EXPECT_EQ(harness.spy.lastSaid(), "ﾚｺｰﾄﾞ: 1" + kPart + "見本 う");
 }
 
 // ---- The search that walks round ----
@@ -281,14 +282,14 @@ TEST_F(ListDialogs, FindRowWithoutAHitKeepsTheRow) {
 TEST_F(ListDialogs, SettlingWritesAnEditAndDropsAnUnstoredRow) {
   addThree();
   list().setText("Text1", "自営");
-  EXPECT_TRUE(settleRow(list().source()));
+  EXPECT_TRUE(commitOrDiscardRow(list().source()));
   EXPECT_EQ(list().source().rows().value("職業"), "自営");
   ASSERT_TRUE(list().source().addNew());
   list().setText("Text1", "会社員");
-  EXPECT_TRUE(settleRow(list().source()));
+  EXPECT_TRUE(commitOrDiscardRow(list().source()));
   EXPECT_EQ(list().source().rows().recordCount(), 3);
   list().setText("Text1", QString(300, u'あ'));
-  EXPECT_FALSE(settleRow(list().source()));
+  EXPECT_FALSE(commitOrDiscardRow(list().source()));
   EXPECT_EQ(told().size(), 1);
   EXPECT_EQ(list().text("Text1").size(), 300) << "what was typed stays";
 }

@@ -9,21 +9,21 @@ namespace screen::testing {
 namespace {
 
 TEST(MessageQueue, AnswersInOrderAndRefusesWhatIsNotAnswered) {
-  Desk desk;
-  desk.messages.answerFromQueue({true, false});
-  EXPECT_TRUE(desk.messages.ask("一つ目"));
-  EXPECT_FALSE(desk.messages.ask("二つ目", Buttons::YesNo, "題"));
-  EXPECT_FALSE(desk.messages.ask("三つ目"));
-  desk.messages.tell("四つ目");
-  EXPECT_EQ(desk.messages.texts(), QStringList({"一つ目", "二つ目", "三つ目", "四つ目"}));
-  EXPECT_EQ(desk.messages.titles(), QStringList({"治療台帳", "題", "治療台帳", "治療台帳"}));
-  EXPECT_EQ(desk.spy.said(), desk.messages.texts()) << "every message is spoken";
+  Harness harness;
+  harness.messages.answerFromQueue({true, false});
+  EXPECT_TRUE(harness.messages.ask("一つ目"));
+  EXPECT_FALSE(harness.messages.ask("二つ目", Buttons::YesNo, "題"));
+  EXPECT_FALSE(harness.messages.ask("三つ目"));
+  harness.messages.tell("四つ目");
+  EXPECT_EQ(harness.messages.texts(), QStringList({"一つ目", "二つ目", "三つ目", "四つ目"}));
+  EXPECT_EQ(harness.messages.titles(), QStringList({"治療台帳", "題", "治療台帳", "治療台帳"}));
+  EXPECT_EQ(harness.spy.said(), harness.messages.texts()) << "every message is spoken";
 }
 
 TEST(MessageQueue, EngineTextStandsBehindTheDataControlLabel) {
-  Desk desk;
-  desk.messages.tellDataFault("見本の誤り");
-  EXPECT_EQ(desk.messages.texts(), QStringList{"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :見本の誤り"});
+  Harness harness;
+  harness.messages.tellDataFault("見本の誤り");
+  EXPECT_EQ(harness.messages.texts(), QStringList{"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :見本の誤り"});
 }
 
 struct BoxCase {
@@ -47,9 +47,9 @@ class ShownMessage {
     });
     return ask();
   }
-  Desk desk;
-  MessageDoor messages{desk.voice};
-  SampleScreen screen{desk.services};
+  Harness harness;
+  MessageDoor messages{harness.voice};
+  SampleScreen screen{harness.services};
 };
 
 class MessageBox : public ShownMessage, public ::testing::TestWithParam<BoxCase> {
@@ -73,7 +73,7 @@ TEST_P(MessageBox, NamesItsButtonsAndGivesTheFirstTheFocus) {
 
 TEST_P(MessageBox, QuestionIsHeardToItsEnd) {
   whileShown([this](QMessageBox&) {
-    EXPECT_EQ(desk.spy.heardWhole(), QStringList({"登録しますか？", GetParam().captions.first()}));
+    EXPECT_EQ(harness.spy.heardWhole(), QStringList({"登録しますか？", GetParam().captions.first()}));
   });
 }
 
@@ -97,7 +97,7 @@ class DropQuestion : public ShownMessage, public ::testing::Test {
     return whileAsked(
         [this] { return messages.askToDrop("入力した内容を捨てますか？"); },
         [&](QMessageBox&) {
-          EXPECT_EQ(desk.spy.heardWhole(), QStringList({"入力した内容を捨てますか？", "いいえ"}));
+          EXPECT_EQ(harness.spy.heardWhole(), QStringList({"入力した内容を捨てますか？", "いいえ"}));
           for (const Qt::Key key : keys) QTest::keyClick(QApplication::focusWidget(), key);
         });
   }
@@ -107,10 +107,10 @@ TEST_F(DropQuestion, EnterKeepsWhatWasTyped) { EXPECT_FALSE(answered({Qt::Key_Re
 TEST_F(DropQuestion, YesIsOneTabAway) { EXPECT_TRUE(answered({Qt::Key_Tab, Qt::Key_Return})); }
 
 TEST(MessageFocus, ReturnsToTheFieldAndDoesNotCutTheResult) {
-  Desk desk;
-  MessageDoor messages(desk.voice);
-  SampleScreen screen(desk.services);
-  ScreenProbe probe(screen, desk.spy);
+  Harness harness;
+  MessageDoor messages(harness.voice);
+  SampleScreen screen(harness.services);
+  ScreenProbe probe(screen, harness.spy);
   probe.open();
   screen.focusOn("txtFields(5)");
   QTimer::singleShot(0, &screen, [] {
@@ -118,11 +118,11 @@ TEST(MessageFocus, ReturnsToTheFieldAndDoesNotCutTheResult) {
     qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject();
   });
   messages.tell("登録しました。");
-  desk.voice.speakText("結果");
+  harness.voice.speakText("結果");
   QApplication::setActiveWindow(&screen);
   EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() != nullptr; }));
   EXPECT_EQ(screen.focused(), "txtFields(5)");
-  EXPECT_TRUE(desk.spy.heardWhole().contains("結果"));
+  EXPECT_TRUE(harness.spy.heardWhole().contains("結果"));
 }
 
 }  // namespace

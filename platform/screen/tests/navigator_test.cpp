@@ -35,55 +35,55 @@ class CountingScreen : public SampleScreen {
 
 class Navigation : public ::testing::Test {
  protected:
-  void SetUp() override { desk.registry.add<ToSample, CountingScreen>(life); }
+  void SetUp() override { harness.registry.add<ToSample, CountingScreen>(life); }
   QStringList life;
-  Desk desk;
+  Harness harness;
 };
 
 TEST_F(Navigation, ScreenIsOneInstanceReenteredByShowingIt) {
-  Screen* first = desk.navigator.show(ToSample{"7"});
-  Screen* again = desk.navigator.show(ToSample{"8"});
+  Screen* first = harness.navigator.show(ToSample{"7"});
+  Screen* again = harness.navigator.show(ToSample{"8"});
   EXPECT_EQ(first, again);
-  EXPECT_TRUE(desk.navigator.isShown("見本1"));
+  EXPECT_TRUE(harness.navigator.isShown("見本1"));
   EXPECT_EQ(life, QStringList({"load", "opened 7", "opened 8"}));
 }
 
 TEST_F(Navigation, LoadDoesNotShow) {
-  EXPECT_NE(desk.navigator.load("見本1"), nullptr);
-  EXPECT_FALSE(desk.navigator.isShown("見本1"));
+  EXPECT_NE(harness.navigator.load("見本1"), nullptr);
+  EXPECT_FALSE(harness.navigator.isShown("見本1"));
   EXPECT_EQ(life, QStringList({"load"}));
 }
 
 TEST_F(Navigation, UnloadClosesAndForgets) {
-  QPointer<Screen> screen = desk.navigator.show("見本1");
-  desk.navigator.unload("見本1");
-  EXPECT_EQ(desk.navigator.loaded("見本1"), nullptr);
+  QPointer<Screen> screen = harness.navigator.show("見本1");
+  harness.navigator.unload("見本1");
+  EXPECT_EQ(harness.navigator.loaded("見本1"), nullptr);
   EXPECT_EQ(life.last(), "closed");
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_TRUE(screen.isNull());
 }
 
 TEST_F(Navigation, CloseBoxUnloadsUnlessTheScreenObjects) {
-  auto* screen = static_cast<CountingScreen*>(desk.navigator.show("見本1"));
+  auto* screen = static_cast<CountingScreen*>(harness.navigator.show("見本1"));
   screen->mayClose = false;
   screen->close();
-  EXPECT_EQ(desk.navigator.loaded("見本1"), screen);
+  EXPECT_EQ(harness.navigator.loaded("見本1"), screen);
   screen->mayClose = true;
   screen->close();
-  EXPECT_EQ(desk.navigator.loaded("見本1"), nullptr);
+  EXPECT_EQ(harness.navigator.loaded("見本1"), nullptr);
   EXPECT_EQ(life.count("closed"), 1);
 }
 
 TEST_F(Navigation, ScreenThatTheProgramLacksIsToldByName) {
-  EXPECT_EQ(desk.navigator.show("領収証"), nullptr);
-  EXPECT_EQ(desk.messages.texts(), QStringList{"「領収証」の画面は、まだこの版にはありません。"});
-  EXPECT_EQ(desk.spy.lastSaid(), "「領収証」の画面は、まだこの版にはありません。");
+  EXPECT_EQ(harness.navigator.show("領収証"), nullptr);
+  EXPECT_EQ(harness.messages.texts(), QStringList{"「領収証」の画面は、まだこの版にはありません。"});
+  EXPECT_EQ(harness.spy.lastSaid(), "「領収証」の画面は、まだこの版にはありません。");
 }
 
 TEST_F(Navigation, QuitClosesEveryScreen) {
-  desk.navigator.show("見本1");
-  desk.navigator.quit();
-  EXPECT_EQ(desk.navigator.loaded("見本1"), nullptr);
+  harness.navigator.show("見本1");
+  harness.navigator.quit();
+  EXPECT_EQ(harness.navigator.loaded("見本1"), nullptr);
 }
 
 constexpr Note kLines[] = {{.name = {u"Label1"}, .caption = u"見本を登録しますか？"},
@@ -100,42 +100,42 @@ class Prompt : public ::testing::Test {
       asked = prompt.request().as<ToPrompt>()->asked;
       prompt.voice().speakText("登録しました");
     });
-    desk.registry.add("見本の実行", [this](Services& services) {
+    harness.registry.add("見本の実行", [this](Services& services) {
       return std::make_unique<ConfirmPrompt>(kPrompt, actions, services);
     });
-    screen = desk.navigator.show(ToPrompt{"登録"});
+    screen = harness.navigator.show(ToPrompt{"登録"});
     ASSERT_NE(screen, nullptr);
-    ScreenProbe(*screen, desk.spy).open();
+    ScreenProbe(*screen, harness.spy).open();
   }
   PromptActions actions;
   int stored = 0;
   QString asked;
-  Desk desk;
+  Harness harness;
   Screen* screen = nullptr;
 };
 
 TEST_F(Prompt, SpeaksItsQuestionThenTheFollowingLineThenTheFirstButton) {
-  EXPECT_EQ(desk.spy.heardWhole(),
+  EXPECT_EQ(harness.spy.heardWhole(),
             QStringList({"見本を登録しますか？" + QString(QChar(254)) + "一旦終了します。", "はい"}));
   EXPECT_EQ(screen->objectName(), "見本の実行");
   EXPECT_EQ(screen->windowTitle(), "確認");
 }
 
 TEST_F(Prompt, YesRunsItsActionAndCloses) {
-  ScreenProbe(*screen, desk.spy).press(Qt::Key_Return);
+  ScreenProbe(*screen, harness.spy).press(Qt::Key_Return);
   EXPECT_EQ(stored, 1);
   EXPECT_EQ(asked, "登録");
-  EXPECT_EQ(desk.spy.heardWhole(), QStringList{"登録しました"});
-  EXPECT_EQ(desk.navigator.loaded("見本の実行"), nullptr);
+  EXPECT_EQ(harness.spy.heardWhole(), QStringList{"登録しました"});
+  EXPECT_EQ(harness.navigator.loaded("見本の実行"), nullptr);
 }
 
 TEST_F(Prompt, NoAndEscapeOnlyClose) {
-  ScreenProbe(*screen, desk.spy).press(Qt::Key_Escape);
+  ScreenProbe(*screen, harness.spy).press(Qt::Key_Escape);
   EXPECT_EQ(stored, 0);
-  EXPECT_EQ(desk.navigator.loaded("見本の実行"), nullptr);
+  EXPECT_EQ(harness.navigator.loaded("見本の実行"), nullptr);
 }
 
-TEST_F(Prompt, IsSoundForTheEar) { EXPECT_EQ(ScreenProbe(*screen, desk.spy).faults(), QStringList()); }
+TEST_F(Prompt, IsSoundForTheEar) { EXPECT_EQ(ScreenProbe(*screen, harness.spy).faults(), QStringList()); }
 
 }  // namespace
 }  // namespace screen::testing

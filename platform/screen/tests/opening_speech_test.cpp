@@ -12,28 +12,28 @@ const QString kOpening = "見本の画面です" + kPart + "※は必ず入力�
 
 class OpeningSpeech : public ::testing::Test {
  protected:
-  Desk desk;
-  SampleScreen screen{desk.services};
-  ScreenProbe probe{screen, desk.spy};
+  Harness harness;
+  SampleScreen screen{harness.services};
+  ScreenProbe probe{screen, harness.spy};
 };
 
 TEST_F(OpeningSpeech, HeadingAndNotesAreHeardWholeBeforeTheFirstFocus) {
   probe.open();
-  EXPECT_EQ(desk.spy.heardWhole(), QStringList({kOpening, "登録"}));
+  EXPECT_EQ(harness.spy.heardWhole(), QStringList({kOpening, "登録"}));
 }
 
 TEST_F(OpeningSpeech, NextKeyCutsIt) {
   probe.open();
   probe.press(Qt::Key_Tab);
-  EXPECT_EQ(desk.spy.heardWhole(), QStringList({"画面を閉じます"}));
+  EXPECT_EQ(harness.spy.heardWhole(), QStringList({"画面を閉じます"}));
 }
 
 TEST_F(OpeningSpeech, IsSaidOncePerLoad) {
   probe.open();
   screen.hide();
-  desk.spy.clear();
+  harness.spy.clear();
   probe.open();
-  EXPECT_FALSE(desk.spy.said().contains(kOpening));
+  EXPECT_FALSE(harness.spy.said().contains(kOpening));
 }
 
 class SpeakingScreen : public SampleScreen {
@@ -43,34 +43,34 @@ class SpeakingScreen : public SampleScreen {
 };
 
 TEST(OpeningSpeechThroughTheNavigator, KeepsWhatIsSaidWhileLoading) {
-  Desk desk;
-  desk.registry.add<SpeakingScreen>("見本1");
-  desk.voice.speakText("前の画面");
-  Screen* screen = desk.navigator.show("見本1");
+  Harness harness;
+  harness.registry.add<SpeakingScreen>("見本1");
+  harness.voice.speakText("前の画面");
+  Screen* screen = harness.navigator.show("見本1");
   ASSERT_NE(screen, nullptr);
-  ScreenProbe(*screen, desk.spy).open();
-  EXPECT_EQ(desk.spy.heardWhole(), QStringList({"読み込みました", kOpening, "登録"}));
+  ScreenProbe(*screen, harness.spy).open();
+  EXPECT_EQ(harness.spy.heardWhole(), QStringList({"読み込みました", kOpening, "登録"}));
 }
 
 TEST(OpeningSpeechThroughTheNavigator, WindowBehindIsSilentUntilAKeyIsPressed) {
-  Desk desk;
-  desk.registry.add<SampleScreen>("見本1");
-  desk.registry.add<SampleScreen>("見本2");
-  Screen* behind = desk.navigator.show("見本1");
-  Screen* front = desk.navigator.show("見本2");
-  desk.spy.clear();
+  Harness harness;
+  harness.registry.add<SampleScreen>("見本1");
+  harness.registry.add<SampleScreen>("見本2");
+  Screen* behind = harness.navigator.show("見本1");
+  Screen* front = harness.navigator.show("見本2");
+  harness.spy.clear();
   QApplication::setActiveWindow(behind);
   EXPECT_TRUE(behind->isActiveWindow());
-  EXPECT_EQ(desk.spy.said(), QStringList());
+  EXPECT_EQ(harness.spy.said(), QStringList());
   QApplication::setActiveWindow(front);
-  EXPECT_EQ(desk.spy.said(), QStringList("登録"));
-  QApplication::setActiveWindow(behind);  // some desks hand it to and fro
-  EXPECT_EQ(desk.spy.said(), QStringList("登録"));
+  EXPECT_EQ(harness.spy.said(), QStringList("登録"));
+  QApplication::setActiveWindow(behind);  // some window managers move it to and fro
+  EXPECT_EQ(harness.spy.said(), QStringList("登録"));
   QApplication::setActiveWindow(front);
-  ScreenProbe(*front, desk.spy).press(Qt::Key_Shift);
-  desk.spy.clear();
+  ScreenProbe(*front, harness.spy).press(Qt::Key_Shift);
+  harness.spy.clear();
   QApplication::setActiveWindow(behind);
-  EXPECT_EQ(desk.spy.said(), QStringList("登録"));
+  EXPECT_EQ(harness.spy.said(), QStringList("登録"));
 }
 
 }  // namespace

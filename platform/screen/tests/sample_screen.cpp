@@ -114,12 +114,12 @@ void SampleScreen::left(int index) {
   keepFocus();
 }
 
-Desk::Desk() {
+Harness::Harness() {
   navigator.setServices(services);
   messages.answerFromQueue();
 }
 
-QString Desk::patientsFile(const QStringList& names) {
+QString Harness::patientsFile(const QStringList& names) {
   const QString path = folder.filePath(QStringLiteral("臨床QV2000N.mdb"));
   EXPECT_TRUE(store::createFresh(path, QStringLiteral("臨床QV2000N.mdb")));
   const bool added =

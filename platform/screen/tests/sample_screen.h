@@ -32,9 +32,9 @@ class SampleScreen : public Screen {
   bool refuseToLeave = false;
 };
 
-/// What every test of the kit stands on: a recorded voice, messages answered from a queue, a navigator.
-struct Desk {
-  Desk();
+/// What every test of the kit needs: a recorded voice, messages answered from a queue, a navigator.
+struct Harness {
+  Harness();
   /// The patients' file, fresh, with rows named by `names` in column 氏名.
   QString patientsFile(const QStringList& names);
 

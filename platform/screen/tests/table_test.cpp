@@ -19,9 +19,9 @@ class TableRows : public ::testing::Test {
     screen.log.clear();
   }
   QTableView* view() { return screen.findChild<QTableView*>("Table1"); }
-  Desk desk;
-  SampleScreen screen{desk.services};
-  ScreenProbe probe{screen, desk.spy};
+  Harness harness;
+  SampleScreen screen{harness.services};
+  ScreenProbe probe{screen, harness.spy};
 };
 
 TEST_F(TableRows, HeaderShowsTheCaptionsAndCellsTheTexts) {
@@ -32,16 +32,16 @@ TEST_F(TableRows, HeaderShowsTheCaptionsAndCellsTheTexts) {
 }
 
 TEST_F(TableRows, FocusSaysTheTableAndItsFirstCell) {
-  EXPECT_EQ(desk.spy.lastSaid(), "期限の一覧" + kPart + "氏名" + kPart + "見本一");
+  EXPECT_EQ(harness.spy.lastSaid(), "期限の一覧" + kPart + "氏名" + kPart + "見本一");
 }
 
 TEST_F(TableRows, ArrowKeysReachCellsAndSpeakThem) {
   probe.press(Qt::Key_Down);
-  EXPECT_EQ(desk.spy.lastSaid(), "氏名" + kPart + "見本二");
+  EXPECT_EQ(harness.spy.lastSaid(), "氏名" + kPart + "見本二");
   EXPECT_EQ(screen.chosenItem("Table1"), 1);
   EXPECT_EQ(screen.log, QStringList{"row"});
   probe.press(Qt::Key_Right);
-  EXPECT_EQ(desk.spy.lastSaid(), "期限" + kPart + "6日");
+  EXPECT_EQ(harness.spy.lastSaid(), "期限" + kPart + "6日");
   EXPECT_EQ(screen.text("Table1"), "6日");
   EXPECT_EQ(screen.log, QStringList{"row"}) << "the same row";
   probe.press(Qt::Key_Return);
@@ -62,7 +62,7 @@ TEST_F(TableRows, WithoutRowsItIsStillNamedAndLeftByTab) {
   EXPECT_EQ(screen.chosenItem("Table1"), -1);
   screen.focusOn("txtMemo");
   screen.focusOn("Table1");
-  EXPECT_EQ(desk.spy.lastSaid(), "期限の一覧" + kPart);
+  EXPECT_EQ(harness.spy.lastSaid(), "期限の一覧" + kPart);
   probe.press(Qt::Key_Return);
   EXPECT_FALSE(screen.log.contains("activate"));
   probe.press(Qt::Key_Tab);

@@ -16,9 +16,9 @@ class TextLimit : public ::testing::Test {
     screen.focusOn("txtFields(4)");  // four characters
   }
   QLineEdit* field() { return screen.findChild<QLineEdit*>("txtFields(4)"); }
-  Desk desk;
-  SampleScreen screen{desk.services};
-  ScreenProbe probe{screen, desk.spy};
+  Harness harness;
+  SampleScreen screen{harness.services};
+  ScreenProbe probe{screen, harness.spy};
 };
 
 TEST_F(TextLimit, WhatIsTypedBeyondItIsNotTaken) {
@@ -60,14 +60,14 @@ TEST_F(TextLimit, HoldsForEditableListsToo) {
 }
 
 TEST_F(TextLimit, AFieldWithoutOneTakesAllAndTheFileRefusesWhatItsColumnCannotHold) {
-  const QString path = desk.patientsFile({"見本一"});
+  const QString path = harness.patientsFile({"見本一"});
   ASSERT_TRUE(screen.source().open(path));
   screen.focusOn("txtDay(60)");
   probe.type(QString(256, u'あ'));
   ASSERT_EQ(screen.text("txtDay(60)").size(), 256) << "nothing is cut unheard";
   EXPECT_FALSE(screen.source().write());
-  ASSERT_EQ(desk.messages.texts().size(), 1);
-  EXPECT_TRUE(desk.messages.texts()[0].contains("255文字")) << desk.messages.texts()[0].toStdString();
+  ASSERT_EQ(harness.messages.texts().size(), 1);
+  EXPECT_TRUE(harness.messages.texts()[0].contains("255文字")) << harness.messages.texts()[0].toStdString();
   EXPECT_EQ(screen.text("txtDay(60)").size(), 256) << "what was typed stays";
   probe.press(Qt::Key_Backspace);
   EXPECT_TRUE(screen.source().write());

@@ -17,7 +17,8 @@ class ConnectionTest : public StoreTest {
     Result<Cursor> cursor = Cursor::open(connection, source);
     if (!cursor) return cursor.fault().message;
     QStringList values;
-    for (; !cursor->eof(); cursor->moveNext()) values += cursor->value(shown);
+    for (Result<bool> row = cursor->next(); row.ok() && *row; row = cursor->next())
+      values += cursor->value(shown);
     return values.join(u' ');
   }
 };
@@ -58,6 +59,7 @@ TEST_F(ConnectionTest, EverySelectOfTheSubset) {
   ASSERT_TRUE(some.ok());
   EXPECT_EQ(some->columns(), QStringList({QStringLiteral("保険の種類"), QStringLiteral("保険者名称"),
                                           QStringLiteral("保険者番号")}));
+  ASSERT_TRUE(*some->next());
   EXPECT_TRUE(some->value(QStringLiteral("施術内容")).isNull());
 }
 
@@ -78,7 +80,7 @@ TEST_F(ConnectionTest, AWalkReadsEveryColumnAndPassesRowsThatWereDeleted) {
   set.setBookmark(4);
   ASSERT_TRUE(set.remove().ok());
   QStringList seen;
-  for (; !cursor->eof(); cursor->moveNext()) {
+  for (Result<bool> row = cursor->next(); row.ok() && *row; row = cursor->next()) {
     const QString number = cursor->value(QStringLiteral("ID"));
     seen += number;
     for (const QString& name : columns) EXPECT_EQ(cursor->value(name), name + number);

@@ -122,11 +122,11 @@ TEST_F(FileCopyTest, AFileThatThisProgramHasOpenStaysUsable) {
 }
 
 TEST_F(FileCopyTest, SoundFilesAreSound) {
-  EXPECT_TRUE(isSoundDatabase(filled()));
-  EXPECT_TRUE(isSoundDatabase(fresh(QStringLiteral("保険者2000.mdb"))));
+  EXPECT_TRUE(isIntactDatabase(filled()));
+  EXPECT_TRUE(isIntactDatabase(fresh(QStringLiteral("保険者2000.mdb"))));
   ASSERT_TRUE(QFile::rename(path(kFile), path(QStringLiteral("a %41?#b.mdb"))));
-  EXPECT_TRUE(isSoundDatabase(path(QStringLiteral("a %41?#b.mdb"))));
-  EXPECT_FALSE(isSoundDatabase(path(QStringLiteral("none.mdb"))));
+  EXPECT_TRUE(isIntactDatabase(path(QStringLiteral("a %41?#b.mdb"))));
+  EXPECT_FALSE(isIntactDatabase(path(QStringLiteral("none.mdb"))));
 }
 
 // Each page in turn is overwritten at its head; what the engine's own whole check finds, this one finds.
@@ -138,13 +138,13 @@ TEST_F(FileCopyTest, DamageOfAnyPageOfTheTreesIsFound) {
     QByteArray bytes = whole;
     bytes.replace(page, 16, QByteArray(16, '\x55'));
     put(QStringLiteral("damaged.mdb"), bytes);
-    const bool found = !isSoundDatabase(path(QStringLiteral("damaged.mdb")));
+    const bool found = !isIntactDatabase(path(QStringLiteral("damaged.mdb")));
     EXPECT_TRUE(found || checkIntegrity(path(QStringLiteral("damaged.mdb"))).ok()) << page / kPage;
     damaged += found;
   }
   EXPECT_GT(damaged, 5);
   put(QStringLiteral("damaged.mdb"), whole.left(whole.size() / 2));
-  EXPECT_FALSE(isSoundDatabase(path(QStringLiteral("damaged.mdb"))));
+  EXPECT_FALSE(isIntactDatabase(path(QStringLiteral("damaged.mdb"))));
 }
 
 TEST_F(FileCopyTest, PushingKeepsTheFileThatStands) {

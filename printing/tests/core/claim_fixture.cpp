@@ -15,7 +15,7 @@ Filled& Filled::record(std::initializer_list<std::pair<int, int>> fields) {
 SpyEngine& Filled::fill() {
   engine = SpyEngine();
   ReportFields fields(engine);
-  if (source.itemsOnly) fields.hideFrame();
+  if (source.form.itemsOnly) fields.hideFrame();
   hideClaim900(fields, source);
   fillClaim900(fields, source, frame::EraDates(capability, m_clock));
   return engine;
@@ -27,9 +27,9 @@ void practice(Filled& filled) {
   frame::ClinicProfile& profile = filled.source.profile;
   profile[frame::profile::kRegistration] = QStringLiteral("登録第０００１号");
   profile[frame::profile::kHealthOffice] = QStringLiteral("施術所所在地");
-  filled.source.prefecture = QStringLiteral("01");
-  filled.source.aichi = QStringLiteral("3");
-  filled.source.option = QStringLiteral("Option9");
+  filled.source.prefecture = frame::Prefecture::Hokkaido;
+  filled.source.aichi = frame::AichiSubmission::AcupunctureAssociation;
+  filled.source.edition = Edition::From202410;
 }
 
 void common(Filled& filled) {

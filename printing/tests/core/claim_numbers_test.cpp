@@ -75,7 +75,7 @@ TEST(InstitutionCode, KindsOwnNumberWhereTheCommonOneIsBlank) {
 
 TEST(InstitutionCode, MieChoosesAgain) {
   Filled filled;
-  filled.source.prefecture = QStringLiteral("24");
+  filled.source.prefecture = frame::Prefecture::Mie;
   filled.source.profile[frame::profile::kElderlyHari] = QStringLiteral("E-9");
   filled.set({{u"保険の種類", u"後期高齢"}, {u"師会等の機関番号", u"K-001"}});
   EXPECT_EQ(filled["KoukiCode"], QStringLiteral("E-9"));
@@ -120,7 +120,7 @@ TEST_F(PractitionerNumber, DelegatedMutualAidTakesTheLicences) {
 
 TEST_F(PractitionerNumber, DelegatedOthersTakeThePractitionersNumber) {
   hari.set({{u"保険の種類", u"国保"}});
-  hari.source.claimChecks.insert(QStringLiteral("Check50"));
+  hari.source.form.delegated = true;
   EXPECT_EQ(hari["sejutuNO"], QStringLiteral("施術者4"));
 }
 

@@ -21,7 +21,7 @@ RunEnd printTo(const QString& path, const PrintSource& source, const QString& fo
       folder, [&](const report::PrinterChoice&) { return std::make_unique<report::FileSink>(path); });
   static const text::FixedClock clock(QDate(2024, 11, 5));
   static const frame::EraDates dates(frame::EraCapability::Supported, clock);
-  return runPrint(engine, claimJob(source, QStringLiteral("レセプト印刷2024"), dates));
+  return runPrint(engine, claimJob(source, PrintScreen::General2024, dates));
 }
 
 /// Text of the file in its own reading order, without blanks and line breaks; null where pdftotext is not
@@ -70,7 +70,7 @@ TEST_P(ClaimPdf, EveryPrintedTextReadsBackFromThePage) {
 
 TEST_P(ClaimPdf, ItemsOnlyLeavesThePrintedWordsAway) {
   Filled filled = claim();
-  filled.source.itemsOnly = true;
+  filled.source.form.itemsOnly = true;
   const QString path = folder.filePath(QStringLiteral("items.pdf"));
   ASSERT_EQ(printTo(path, filled.source), RunEnd::Printed);
   const QString page = readBack(path);
@@ -94,7 +94,9 @@ TEST_P(ClaimPdf, FormsHoldAnItemForAllThatTheClaimPrints) {
     for (int n = 1; n <= 9; ++n) elsewhere.insert(QStringLiteral("dain%1").arg(n));
   for (const QString& line : filled.fill().sheet()) {
     const QString item = line.section(u'=', 0, 0);
-    if (!elsewhere.contains(item)) EXPECT_GE(form.value()->find(item), 0) << item.toStdString();
+    if (!elsewhere.contains(item)) {
+      EXPECT_GE(form.value()->find(item), 0) << item.toStdString();
+    }
   }
 }
 

@@ -194,7 +194,7 @@ TEST(Prefectures, SaitamaCountsThePeriodFromTheGrid) {
   filled.set({{u"txt dummy1", u"1"}, {u"txt dummy2", u"0"}});
   EXPECT_EQ(filled["DD9"], QStringLiteral("1"));
   EXPECT_EQ(filled["DD10"], QStringLiteral("31"));
-  filled.source.prefecture = QStringLiteral("11");
+  filled.source.prefecture = frame::Prefecture::Saitama;
   filled.set({{u"治療内容1", u""}});
   EXPECT_EQ(filled["DD9"], QStringLiteral("8"));
   EXPECT_EQ(filled["DD10"], QStringLiteral("22"));
@@ -204,14 +204,14 @@ TEST(Prefectures, SaitamaCountsThePeriodFromTheGrid) {
 TEST(Prefectures, ChibaWritesTheTermOfCare) {
   Filled filled = fullAcupuncture();
   EXPECT_FALSE(filled.marked("youkaryuki1"));
-  filled.source.prefecture = QStringLiteral("12");
+  filled.source.prefecture = frame::Prefecture::Chiba;
   EXPECT_EQ(filled["youkaryuki1"], QStringLiteral("自令和6年9月1日"));
   EXPECT_EQ(filled["youkaryuki2"], QStringLiteral("至令和7年2月28日"));
 }
 
 TEST(Prefectures, AichiRelabelsAVisitingPractice) {
   Filled filled = fullAcupuncture();
-  filled.source.prefecture = QStringLiteral("23");
+  filled.source.prefecture = frame::Prefecture::Aichi;
   EXPECT_TRUE(filled.marked("semeisyou1"));
   filled.source.profile[frame::profile::kHealthOffice] = QStringLiteral("出張専門施術者住所地");
   EXPECT_TRUE(filled.marked("Text66"));
@@ -220,13 +220,13 @@ TEST(Prefectures, AichiRelabelsAVisitingPractice) {
   EXPECT_TRUE(filled.engine.touched(QStringLiteral("Text573")));
   EXPECT_FALSE(filled.engine.marked(QStringLiteral("Text573")));
   EXPECT_TRUE(filled.marked("tkkubun2"));
-  filled.source.prefecture = QStringLiteral("01");
+  filled.source.prefecture = frame::Prefecture::Hokkaido;
   EXPECT_FALSE(filled.marked("Text66"));
 }
 
 TEST(ItemsOnly, NoFramePrintsAndTheEraWordStaysAway) {
   Filled filled = fullAcupuncture();
-  filled.source.itemsOnly = true;
+  filled.source.form.itemsOnly = true;
   SpyEngine& engine = filled.fill();
   for (int n = 1; n <= 1000; ++n)
     for (const char* family : {"waku_", "Box", "Line", "Text"}) {
@@ -241,23 +241,23 @@ TEST(ItemsOnly, NoFramePrintsAndTheEraWordStaysAway) {
 
 TEST(ItemsOnly, LabelsOfTheElderlyComeBackWhereTicked) {
   Filled filled = fullAcupuncture();
-  filled.source.itemsOnly = true;
-  filled.source.screenChecks.insert(QStringLiteral("Check2"));
+  filled.source.form.itemsOnly = true;
+  filled.source.ticks.newElderlyLabels = true;
   EXPECT_EQ(filled["Text432"], QStringLiteral("4 六外"));
   EXPECT_EQ(filled["Text430"], QStringLiteral("8 高外-"));
   EXPECT_EQ(filled["Text433"], QStringLiteral("0 高外7"));
   EXPECT_FALSE(filled.marked("Text382"));
-  filled.source.option = QStringLiteral("Option6");
+  filled.source.edition = Edition::From201901Reiwa;
   EXPECT_EQ(filled["Text382"], QStringLiteral("登録記号番号（申し出た施術者登録番号）"));
-  filled.source.itemsOnly = false;
+  filled.source.form.itemsOnly = false;
   EXPECT_FALSE(filled.marked("Text432"));  // the frame itself prints its own words
 }
 
 TEST(Seals, AreTakenOffWithTheirTickOnTheirEdition) {
   Filled filled;
-  filled.source.screenChecks.insert(QStringLiteral("Check5"));
+  filled.source.ticks.sealsHidden = true;
   EXPECT_FALSE(filled.fill().touched(QStringLiteral("Line500")));
-  filled.source.option = QStringLiteral("Option6");
+  filled.source.edition = Edition::From201901Reiwa;
   for (const char* item : {"Line500", "Text104", "Line501", "Text106", "Line504", "Text427"}) {
     EXPECT_TRUE(filled.fill().touched(QString::fromUtf8(item)));
     EXPECT_FALSE(filled.engine.marked(QString::fromUtf8(item)));

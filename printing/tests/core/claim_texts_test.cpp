@@ -172,7 +172,7 @@ TEST(Dates, PreviousReportTakesTheLetterWhereTicked) {
   filled.set({{u"txtdummy28", u"令和6年5月"}});
   EXPECT_EQ(filled["YY3"], QStringLiteral("6"));
   EXPECT_EQ(filled["MM3"], QStringLiteral("5"));
-  filled.source.claimChecks.insert(QStringLiteral("Check17"));
+  filled.source.form.eraLetter = true;
   EXPECT_EQ(filled["YY3"], QStringLiteral("R6"));
 }
 
@@ -195,7 +195,7 @@ TEST(DayGrid, FreeVisitsMarkEveryTreatedDay) {
   Filled filled;
   filled.set(
       {{u"申請年月", u"令和6年10月"}, {u"治療内容1", u"a"}, {u"治療内容2", u"b"}, {u"往療距離3", u"v1"}});
-  filled.source.claimChecks.insert(QStringLiteral("Check8"));
+  filled.source.form.freeVisits = true;
   EXPECT_EQ(filled["day1"], QStringLiteral("◎"));
   EXPECT_EQ(filled["day2"], QStringLiteral("◎"));
   EXPECT_FALSE(filled.marked("day3"));  // no code, no mark
@@ -273,7 +273,7 @@ TEST(RightBox, FiveMarksServeSixTicks) {
     EXPECT_EQ(filled.fill().sheet(), QStringList({"Date=2024/11/05", QString::fromUtf8(row.mark) + u'='}));
   }
   Filled filled;
-  filled.source.claimChecks.insert(QStringLiteral("Check_Print_Option1"));
+  filled.source.form.insuredMark = true;
   EXPECT_TRUE(filled.marked("hutan1"));
 }
 

@@ -20,7 +20,7 @@ const QDate kToday(2024, 11, 5);
 Ends ends(int count) {
   Ends rows;
   for (int i = 1; i <= count; ++i)
-    rows.append({u"見本　%1号"_s.arg(i), u"国保"_s, kToday.addDays(i % 30), u"鍼灸"_s});
+    rows.append({u"見本　%1号"_s.arg(i), u"国保"_s, kToday.addDays(i % 30), u"鍼灸"_s, {}});
   return rows;
 }
 
@@ -70,13 +70,13 @@ TEST(ConsentPage, TheNextPageHasAHeadOfItsOwnAndTheMarginsStay) {
 TEST(ConsentPage, WithoutRowsTheHeadStandsAlone) { EXPECT_EQ(page({}), kMargins + kHead); }
 
 TEST(ConsentPage, AnEmptyCellIsLeftAlone) {
-  EXPECT_EQ(outputs(page({{u"見本"_s, QString(), kToday, QString()}})).mid(3),
+  EXPECT_EQ(outputs(page({{u"見本"_s, QString(), kToday, QString(), {}}})).mid(3),
             QStringList({u"PR_Output 0 22 見本"_s, u"PR_Output 105 22 2024年11月5日"_s}));
 }
 
 /// The name's calls of a page with this name.
 QStringList nameCalls(const QString& name) {
-  const QStringList calls = page({{name, QString(), kToday, QString()}});
+  const QStringList calls = page({{name, QString(), kToday, QString(), {}}});
   return calls.mid(kMargins.size() + kHead.size(), calls.size() - kMargins.size() - kHead.size() - 1);
 }
 

@@ -83,11 +83,20 @@ TEST(PrintRun, MissingTemplateEndsWithAbortDoc) {
   EXPECT_FALSE(run.steps.contains(QStringLiteral("clean")));
 }
 
+TEST(PrintRun, ADocumentThatThePrinterDoesNotTakeIsNotPrinted) {
+  Job run;
+  const text::Done refused = text::Fault{QStringLiteral("断り")};
+  run.engine.documentResult = refused;
+  EXPECT_EQ(runPrint(run.engine, run.job), RunEnd::NotTaken);
+  EXPECT_EQ(run.engine.calls.last(), QStringLiteral("PR_EndDoc"));
+  EXPECT_FALSE(run.steps.contains(QStringLiteral("clean"))) << "the printing screen stays open";
+}
+
 TEST(PrintRun, ItemsOnlyHidesTheFourFamiliesInTheirOrderBeforeTheFill) {
   Job run;
   run.job.itemsOnly = true;
   run.job.afterFrame = [](ReportFields& fields, int) { fields.hide(u"GG4"); };
-  runPrint(run.engine, run.job);
+  ASSERT_EQ(runPrint(run.engine, run.job), RunEnd::Printed);
   const QStringList& calls = run.engine.itemCalls;
   ASSERT_EQ(calls.size(), 4000 + 1 + 2);
   for (int n = 1; n <= 1000; ++n) {
@@ -116,7 +125,7 @@ TEST(PrintRun, WorksInTheProgramFolder) {
     EXPECT_EQ(QDir::current(), QDir(QDir::tempPath()));
     return true;
   };
-  runPrint(run.engine, run.job);
+  ASSERT_EQ(runPrint(run.engine, run.job), RunEnd::Printed);
   QDir::setCurrent(before);
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "printing/core/print_button.h"
+#include "printing/tests/core/spy_engine.h"
 
 namespace printing {
 namespace {
@@ -35,7 +36,8 @@ TEST(ScreenChoice, ByMonthPrefectureAndAssociation) {
       {2024, 10, "27", "3", true, "レセプト印刷2024"},  // 公費の印刷 counts in two prefectures only
   };
   for (const Row& row : rows)
-    EXPECT_EQ(printScreen({QDate(row.year, row.month, 1), row.prefecture, row.aichi, row.publicAid}),
+    EXPECT_EQ(nameOf(choosePrintScreen({QDate(row.year, row.month, 1), frame::prefectureOf(row.prefecture),
+                                        frame::aichiSubmissionOf(row.aichi), row.publicAid})),
               QString::fromUtf8(row.screen))
         << row.year << '/' << row.month << ' ' << row.prefecture << ' ' << row.aichi;
 }
@@ -47,13 +49,14 @@ class ChoiceOfClaim : public ::testing::Test {
     run.prefectureCode = QStringLiteral("01");
     run.aichiSubmission = QStringLiteral("3");
   }
-  QString screenOf(const char* month, const QSet<QString>& checks = {}) {
+  QString screenOf(const char* month, const claims::FormTicks& ticks = {}) {
     claims::ClaimRecord claim;
     claim.set(QStringLiteral("申請年月"), QString::fromUtf8(month));
-    return printScreenChooser(run)(claim, checks);
+    return PrintButtons(run, engine).screenOf(claim, ticks);
   }
   text::FixedClock clock{QDate(2024, 11, 5)};
   frame::RunState run;
+  tests::SpyEngine engine;
 };
 
 TEST_F(ChoiceOfClaim, GoesByTheEraMonth) {
@@ -71,13 +74,15 @@ TEST_F(ChoiceOfClaim, WorksWhereThePlatformKnowsNoReiwa) {
 
 TEST_F(ChoiceOfClaim, TakesPublicAidFromTheFormsTick) {
   run.prefectureCode = QStringLiteral("13");
-  EXPECT_EQ(screenOf("令和6年10月", {QStringLiteral("Check7")}), QStringLiteral("東京助成レセプト印刷2024"));
+  EXPECT_EQ(screenOf("令和6年10月", {.publicAid = true}), QStringLiteral("東京助成レセプト印刷2024"));
 }
 
 TEST_F(ChoiceOfClaim, UnreadableMonthOpensNoScreen) { EXPECT_TRUE(screenOf("").isEmpty()); }
 
 TEST_F(ChoiceOfClaim, PresetsTheOptionByEraAndSummaryKind) {
-  const QString screen = QStringLiteral("レセプト印刷2018");
+  const auto presetOption = [&](PrintScreen screen, const QString& month, const QString& kind) {
+    return QString::fromUtf16(rowOf(screen).controlOf(presetEdition(screen, run.eraDates(), month, kind)));
+  };
   const struct {
     const char* month;
     const char* kind;
@@ -86,16 +91,19 @@ TEST_F(ChoiceOfClaim, PresetsTheOptionByEraAndSummaryKind) {
               {"令和2年11月", "1", "Option6"}, {"令和2年11月", "", "Option6"},
               {"平成31年4月", "0", "Option3"}, {"平成31年4月", "1", "Option4"}};
   for (const auto& row : rows)
-    EXPECT_EQ(presetOption(screen, run.eraDates(), QString::fromUtf8(row.month), QString::fromUtf8(row.kind)),
-              QString::fromUtf8(row.option))
+    EXPECT_EQ(
+        presetOption(PrintScreen::General2018, QString::fromUtf8(row.month), QString::fromUtf8(row.kind)),
+        QString::fromUtf8(row.option))
         << row.month << row.kind;
-  EXPECT_EQ(presetOption(QStringLiteral("レセプト印刷2018aimakai"), run.eraDates(), {}, {}),
-            QStringLiteral("Option9"));
+  EXPECT_EQ(presetOption(PrintScreen::AichiAssociation2018, {}, {}), QStringLiteral("Option9"));
 }
 
 TEST(ScreenPresets, OnePrefectureAsksForTheEraWord) {
-  EXPECT_EQ(presetChecks(QStringLiteral("22")), QStringList({"Check4", "Check6"}));
-  EXPECT_TRUE(presetChecks(QStringLiteral("23")).isEmpty());
+  const auto presetChecks = [](const char* prefecture) {
+    return claims::namesOfSet<PrintTicks>(presetTicks(frame::prefectureOf(prefecture)), kPrintTicks);
+  };
+  EXPECT_EQ(presetChecks("22"), QStringList({"Check4", "Check6"}));
+  EXPECT_TRUE(presetChecks("23").isEmpty());
 }
 
 }  // namespace

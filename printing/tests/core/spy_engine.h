@@ -12,6 +12,7 @@ class SpyEngine final : public report::ReportOperations {
  public:
   int startResult = 1;
   QStringList missingTemplates;
+  text::Done documentResult;
 
   QStringList calls;      ///< without the item calls
   QStringList itemCalls;  ///< "-1 Name1", "0 Text1", "Name1=text", in order
@@ -35,6 +36,7 @@ class SpyEngine final : public report::ReportOperations {
     return lines;
   }
 
+  text::Done lastDocument() const override { return documentResult; }
   qint64 PR_GetPrinterDC() override {
     calls << QStringLiteral("PR_GetPrinterDC");
     return 7;

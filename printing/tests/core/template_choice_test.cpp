@@ -16,14 +16,21 @@ struct Row {
 
 constexpr const char *k2024 = "レセプト印刷2024", *k2018 = "レセプト印刷2018", *kOld = "レセプト印刷";
 
-TemplateQuery queryOf(const Row& row) {
-  TemplateQuery query;
-  query.screen = QString::fromUtf8(row.screen);
-  query.option = QString::fromUtf8(row.option);
-  if (*row.check != '\0') query.checks.insert(QString::fromUtf8(row.check));
-  query.prefecture = QString::fromUtf8(row.prefecture);
-  (query.prefecture == u"13" ? query.tokyo : query.aichi) = QString::fromUtf8(row.association);
-  return query;
+PrintScreen screenOf(const Row& row) { return printScreenNamed(QString::fromUtf8(row.screen)).value(); }
+
+PrintSource sourceOf(const Row& row) {
+  PrintSource source;
+  source.edition = editionNamed(screenOf(row), QString::fromUtf8(row.option));
+  claims::setTick<PrintTicks>(source.ticks, kPrintTicks, QString::fromUtf8(row.check));
+  source.prefecture = frame::prefectureOf(QString::fromUtf8(row.prefecture));
+  const QString association = QString::fromUtf8(row.association);
+  source.aichi = frame::aichiSubmissionOf(association);
+  source.tokyo = frame::tokyoSubmissionOf(association);
+  return source;
+}
+
+std::optional<TemplateChoice> choiceOf(const Row& row) {
+  return chooseTemplate(screenOf(row), sourceOf(row));
 }
 
 TEST(TemplateChoice, EveryRowOfTheTable) {
@@ -87,25 +94,25 @@ TEST(TemplateChoice, EveryRowOfTheTable) {
       {"石川県の公費レセプト印刷", "Option7", "Check3", "17", "", "HARI_810_R.PRP"},
   };
   for (const Row& row : rows) {
-    TemplateQuery query = queryOf(row);
-    auto choice = chooseTemplate(query);
+    PrintSource source = sourceOf(row);
+    auto choice = chooseTemplate(screenOf(row), source);
     ASSERT_TRUE(choice) << row.screen << row.option << row.prefecture;
     EXPECT_EQ(choice->fileName, QString::fromUtf8(row.file)) << row.screen << row.option << row.prefecture;
-    query.kind = PrintKind::Massage;
-    EXPECT_EQ(chooseTemplate(query)->fileName,
+    source.kind = PrintKind::Massage;
+    EXPECT_EQ(chooseTemplate(screenOf(row), source)->fileName,
               QString::fromUtf8(row.file).replace(QStringLiteral("HARI_"), QStringLiteral("Massage_")));
   }
 }
 
 TEST(TemplateChoice, OnlyTheFormsFrom202410AreBuilt) {
-  EXPECT_TRUE(chooseTemplate(queryOf({k2024, "Option9", "Check6", "01", "", ""}))->built);
-  EXPECT_FALSE(chooseTemplate(queryOf({k2024, "Option8", "", "01", "", ""}))->built);
-  EXPECT_FALSE(chooseTemplate(queryOf({"レセプト印刷2024aimakai", "Option9", "", "23", "4", ""}))->built);
+  EXPECT_TRUE(choiceOf({k2024, "Option9", "Check6", "01", "", ""})->built);
+  EXPECT_FALSE(choiceOf({k2024, "Option8", "", "01", "", ""})->built);
+  EXPECT_FALSE(choiceOf({"レセプト印刷2024aimakai", "Option9", "", "23", "4", ""})->built);
 }
 
 TEST(TemplateChoice, NothingWithoutAnEdition) {
-  EXPECT_FALSE(chooseTemplate(queryOf({k2024, "", "", "01", "", ""})));
-  EXPECT_FALSE(chooseTemplate(queryOf({"治療台帳4", "Option9", "", "01", "", ""})));
+  EXPECT_FALSE(choiceOf({k2024, "", "", "01", "", ""}));
+  EXPECT_FALSE(printScreenNamed(QStringLiteral("治療台帳4")));
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ TEST_F(ClaimPrint, OkAsksPrintsAndLeaves) {
 }
 
 TEST_F(ClaimPrint, MassageButtonPrintsTheMassageForm) {
-  state.printKind = 2;
+  state.printKind = claims::PrintKind::Massage;
   messages.answerFromQueue({true});
   open(kScreen).trigger(u"Command1"_s);
   EXPECT_EQ(engine.loaded, u"Massage_900.PRP"_s);
@@ -62,12 +62,26 @@ TEST_F(ClaimPrint, RefusedPromptLeavesTheScreenOpen) {
   EXPECT_EQ(run.lastAnswer, 2);
 }
 
+TEST_F(ClaimPrint, APrinterThatDoesNotTakeTheDocumentIsReportedAndTheNextTryPrints) {
+  engine.documentResult = text::Fault{u"プリンタの断り"_s};
+  messages.answerFromQueue({true});
+  open(kScreen).trigger(u"Command1"_s);
+  EXPECT_EQ(messages.texts(), QStringList({QString::fromUtf16(kPrompt), u"プリンタの断り"_s}));
+  EXPECT_EQ(channel.lastSaid(), u"プリンタの断り"_s);
+  EXPECT_FALSE(channel.said().contains(u"印刷に送りました。"_s));
+  EXPECT_TRUE(isLoaded(kScreen));
+  engine.documentResult = {};
+  messages.answerFromQueue({true});
+  open(kScreen).trigger(u"Command1"_s);
+  EXPECT_EQ(channel.lastSaid(), u"印刷に送りました。"_s);
+  EXPECT_FALSE(isLoaded(kScreen));
+}
+
 TEST_F(ClaimPrint, ClaimThatFailsItsCheckNeverReachesTheEngine) {
   table.set(u"初療年月日", u"");
   messages.answerFromQueue({true});
   open(kScreen).trigger(u"Command1"_s);
   EXPECT_EQ(messages.texts().last(), u"初療年月日が入力されていません。"_s);
-  EXPECT_EQ(state.claimCheck, u"break"_s);
   EXPECT_TRUE(engine.calls.isEmpty());
 }
 
@@ -89,7 +103,7 @@ TEST_F(ClaimPrint, EngineFailuresAreSilent) {
 }
 
 TEST_F(ClaimPrint, ItemsOnlyComesFromTheClaimForm) {
-  table.ticks.insert(u"Check13"_s);
+  table.ticks.itemsOnly = true;
   messages.answerFromQueue({true});
   open(kScreen).trigger(u"Command1"_s);
   EXPECT_EQ(engine.itemCalls.first(), u"0 waku_1"_s);
@@ -140,10 +154,10 @@ TEST_F(ClaimPrint, TicksOfTheTwoPapersAreToldApartByEar) {
 }
 
 TEST_F(ClaimPrint, ClaimFormGetsTheChoiceOfTheScreen) {
-  EXPECT_EQ(state.choosePrintScreen(table.claim, {}), u"レセプト印刷2024"_s);
+  EXPECT_EQ(state.printing->screenOf(table.claim, {}), u"レセプト印刷2024"_s);
   table.set(u"申請年月", u"令和6年9月");
-  EXPECT_EQ(state.choosePrintScreen(table.claim, {}), u"レセプト印刷2018"_s);
-  state.printerSetup(9);
+  EXPECT_EQ(state.printing->screenOf(table.claim, {}), u"レセプト印刷2018"_s);
+  state.printing->setUpPrinter(9);
   EXPECT_EQ(engine.calls.last(), u"PR_PrinterSetupDlg 9"_s);
 }
 

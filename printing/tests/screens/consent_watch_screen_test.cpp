@@ -108,6 +108,17 @@ TEST_F(ConsentWatchRoom, PrintsAfterThePrompt) {
   EXPECT_TRUE(isLoaded(kScreen)) << "the list stays";
 }
 
+TEST_F(ConsentWatchRoom, APrinterThatDoesNotTakeTheListIsReported) {
+  add(u"見本　太郎"_s, u"令和6年11月20日"_s);
+  screen::Screen& screen = open(kScreen);
+  engine.documentResult = text::Fault{u"プリンタの断り"_s};
+  messages.answerFromQueue({true});
+  screen.trigger(u"Command1"_s);
+  EXPECT_EQ(messages.texts().last(), u"プリンタの断り"_s);
+  EXPECT_FALSE(channel.said().contains(u"印刷に送りました。"_s));
+  EXPECT_EQ(channel.lastSaid(), u"プリンタの断り"_s);
+}
+
 TEST_F(ConsentWatchRoom, TheThirtySeventhRowBeginsAPage) {
   addMany(37);
   screen::Screen& screen = open(kScreen);

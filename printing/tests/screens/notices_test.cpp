@@ -37,7 +37,8 @@ TEST_F(Notices, EveryScreenThatTheChoiceNamesOpens) {
   for (const QString& prefecture : {u"01"_s, u"13"_s, u"17"_s, u"23"_s})
     for (const QDate month : {QDate(2018, 5, 1), QDate(2024, 9, 1), QDate(2024, 10, 1)})
       for (const QString& aichi : {u"3"_s, u"4"_s}) {
-        const QString name = printScreen({month, prefecture, aichi, true});
+        const QString name = nameOf(choosePrintScreen(
+            {month, frame::prefectureOf(prefecture), frame::aichiSubmissionOf(aichi), true}));
         EXPECT_NE(navigator.show(name), nullptr) << name.toStdString();
         navigator.unload(name);
       }

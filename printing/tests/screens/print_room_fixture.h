@@ -16,15 +16,14 @@ namespace printing::tests {
 class ClaimOnTable final : public claims::ClaimOnDisplay {
  public:
   claims::ClaimRecord record() const override { return claim; }
-  QSet<QString> checks() const override { return ticks; }
-  void trimForPrint() override {}
+  claims::FormTicks checks() const override { return ticks; }
   quintptr window() const override { return 42; }
 
   void set(const char16_t* column, const char16_t* text) {
     claim.set(QString::fromUtf16(column), QString::fromUtf16(text));
   }
   claims::ClaimRecord claim;
-  QSet<QString> ticks;
+  claims::FormTicks ticks;
 };
 
 /// The printing screens with an engine that takes its calls down, a recording voice and queued answers.
@@ -35,7 +34,6 @@ class PrintRoom : public testing::Test {
     run.prefectureCode = QStringLiteral("01");
     run.aichiSubmission = QStringLiteral("3");
     state.display = &table;
-    state.printKind = 1;
     messages.answerFromQueue();
     registerScreens(registry, room);
     navigator.setServices(services);

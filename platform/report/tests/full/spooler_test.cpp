@@ -56,11 +56,11 @@ Sandboxing relaxed
 %2)~";
 
 const char* const kPrinters = R"~(NextPrinterId 2
-<DefaultPrinter desk>
+<DefaultPrinter office>
 PrinterId 1
-Info desk
-MakeModel Desk PDF
-DeviceURI desk:/out
+Info office
+MakeModel Office PDF
+DeviceURI office:/out
 State Idle
 StateTime 1700000000
 ConfigTime 1700000000
@@ -77,7 +77,7 @@ ErrorPolicy abort-job
 )~";
 
 const char* const kBackend = R"~(#!/bin/sh
-if [ $# -eq 0 ]; then echo 'direct desk:/out "Desk" "Desk"'; exit 0; fi
+if [ $# -eq 0 ]; then echo 'direct office:/out "Office" "Office"'; exit 0; fi
 if [ -n "$6" ]; then cat "$6"; else cat; fi > "%1/out/part" || exit 1
 printf '%s\n' "$3" "$4" "$5" > "%1/out/job"
 mv "%1/out/part" "%1/out/page.pdf"
@@ -88,12 +88,12 @@ const char* const kPpd = R"~(*PPD-Adobe: "4.3"
 *FileVersion: "1.0"
 *LanguageVersion: English
 *LanguageEncoding: ISOLatin1
-*PCFileName: "DESK.PPD"
-*Manufacturer: "Desk"
-*Product: "(Desk)"
-*ModelName: "Desk PDF"
-*ShortNickName: "Desk PDF"
-*NickName: "Desk PDF"
+*PCFileName: "OFFICE.PPD"
+*Manufacturer: "Office"
+*Product: "(Office)"
+*ModelName: "Office PDF"
+*ShortNickName: "Office PDF"
+*NickName: "Office PDF"
 *PSVersion: "(3010.000) 0"
 *LanguageLevel: "3"
 *ColorDevice: True
@@ -167,10 +167,10 @@ class SpoolerTest : public ::testing::Test {
     put("etc/cupsd.conf", QString::fromUtf8(kConf).arg(m_folder.path()));
     put("etc/cups-files.conf", QString::fromUtf8(kFilesConf).arg(m_folder.path(), who));
     put("etc/printers.conf", QString::fromUtf8(kPrinters));
-    put("etc/ppd/desk.ppd", QString::fromUtf8(kPpd));
-    put("bin/backend/desk", QString::fromUtf8(kBackend).replace("%1", m_folder.path()));
+    put("etc/ppd/office.ppd", QString::fromUtf8(kPpd));
+    put("bin/backend/office", QString::fromUtf8(kBackend).replace("%1", m_folder.path()));
     // cupsd runs a backend that others may not read as root, any other one as user lp.
-    QFile(path("bin/backend/desk")).setPermissions(QFile::Permissions(root ? 0x7700 : 0x7755));
+    QFile(path("bin/backend/office")).setPermissions(QFile::Permissions(root ? 0x7700 : 0x7755));
   }
 
   QStringList job() {
@@ -192,12 +192,12 @@ class SpoolerTest : public ::testing::Test {
 TEST_F(SpoolerTest, listsTheQueueItsPapersAndTheFilePrinter) {
   const auto printers = listPrinters();
   ASSERT_EQ(printers.size(), 2u);
-  EXPECT_EQ(printers[0].name, "desk");
+  EXPECT_EQ(printers[0].name, "office");
   EXPECT_TRUE(printers[0].isDefault);
   EXPECT_EQ(printers[1].name, kFilePrinter);
-  EXPECT_EQ(defaultPrinter(), "desk");
+  EXPECT_EQ(defaultPrinter(), "office");
   QStringList media;
-  for (const MediaSize& size : listMedia("desk")) media << size.media;
+  for (const MediaSize& size : listMedia("office")) media << size.media;
   EXPECT_TRUE(media.contains("iso_a4_210x297mm")) << media.join(' ').toStdString();
   EXPECT_TRUE(media.contains("jis_b5_182x257mm")) << media.join(' ').toStdString();
 }
