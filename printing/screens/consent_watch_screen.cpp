@@ -52,7 +52,7 @@ ConsentWatchScreen::ConsentWatchScreen(Services& services, frame::RunState& run,
 
 void ConsentWatchScreen::opened(const Request&) {
   auto found = claims::consentsRunningOut(m_run.folders[frame::folder::kClaims1], m_run.eraDates());
-  if (!found) m_onceActive.set([this, fault = found.fault().message] { messages().tellDataFault(fault); });
+  if (!found) m_whenActivated.set([this, fault = found.fault().message] { messages().tellDataFault(fault); });
   m_rows = found ? *found : QList<claims::ConsentEnd>();
   QList<QStringList> texts;
   for (const claims::ConsentEnd& row : m_rows)
@@ -65,7 +65,7 @@ void ConsentWatchScreen::opened(const Request&) {
   if (std::exchange(m_openedBefore, true)) voice().speakText(count);
 }
 
-void ConsentWatchScreen::onActivate() { m_onceActive.run(*this); }
+void ConsentWatchScreen::onActivate() { m_whenActivated.run(*this); }
 
 QStringList ConsentWatchScreen::openingTexts() const {
   return {QString::fromUtf16(kDeclaration.heading), caption(u"Label1"_s), caption(u"Label2"_s)};
