@@ -55,7 +55,7 @@ class Writer {
 
   QString get(const store::Column& column) const { return m_stored.claim.get(column); }
   void set(const store::Column& column, const QString& value) {
-    m_stored.claim.set(column, value);
+    m_stored.claim.setNamed(column, value);
     m_stored.written.append(column);
   }
   /// Sets the calculated columns to NULL; fill() puts the values in afterwards.

@@ -65,7 +65,7 @@ TEST_F(ClaimFormPrint, TheChoiceSeesTheClaimAndTheTicks) {
   openNew(acupuncture());
   toggle(qs(u"Check7"));
   press(qs(u"Command5"));
-  EXPECT_EQ(m_printing.claim.get(qs(u"申請年月")), qs(u"令和6年10月"));
+  EXPECT_EQ(m_printing.claim.get(claim::month), qs(u"令和6年10月"));
   EXPECT_EQ(m_printing.ticks, FormTicks{.publicAid = true});
   EXPECT_EQ(m_navigator.shows, QStringList(qs(u"東京助成レセプト印刷2024")));
 }

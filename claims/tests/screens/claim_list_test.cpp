@@ -52,7 +52,7 @@ TEST_P(ClaimListKeys, FindsThePartOfTheTextInIdOrder) {
   const QString key = kKeys[GetParam()];
   for (const char16_t* value : {u"甲見本乙", u"別", u"見本"}) {
     ClaimRecord claim;
-    claim.set(key, qs(value));
+    claim.setNamed(key, qs(value));
     add(claim);
   }
   openList();
