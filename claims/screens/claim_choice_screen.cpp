@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "claims/core/claim_file.h"
+#include "claims/core/insurance.h"
 #include "frame/core/routes.h"
 #include "platform/screen/declare.h"
 #include "platform/text/utf16.h"

@@ -18,7 +18,7 @@ using ::text::utf16;
 
 namespace {
 
-constexpr screen::FamilyRef kSettings = screen::family(form::kPrintPage, u"FrameSet");
+constexpr screen::FamilyRef kSettingFrames = screen::family(form::kPrintPage, u"FrameSet");
 
 }  // namespace
 
@@ -88,7 +88,7 @@ void ClaimFormScreen::markCut(const QStringList& cut) {
 
 void ClaimFormScreen::printSettingChosen(int index) {
   if (m_id == 0) return;
-  const screen::Control* group = controls().find(kSettings[index]);
+  const screen::Control* group = controls().find(kSettingFrames[index]);
   ClaimRecord changed = m_read;
   changed.setNamed(group->column(), group->stored());
   if (writeClaim(changed)) m_read = changed;

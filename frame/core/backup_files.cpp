@@ -4,11 +4,14 @@
 #include <QFileInfo>
 
 namespace frame {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int kSettings = -1;
 
-/// The order of the copies; the two claim files stand side by side.
+/// The order of the copies; the two claim files form a group.
 struct FileRow {
   int folderEntry;
   const char16_t* name;
@@ -28,8 +31,8 @@ text::Result<std::unique_ptr<store::HeldFile>> hold(const BackupFile& file) {
 }
 
 text::Fault damaged(const BackupFile& file) {
-  return {QStringLiteral("「%1」は、壊れているためコピーしていません。（%2）")
-              .arg(QFileInfo(file.path).fileName(), file.path)};
+  return {u"「%1」は、壊れているためコピーしていません。（%2）"_s.arg(QFileInfo(file.path).fileName(),
+                                                                      file.path)};
 }
 
 /// Opens the files of a group, all before the first is copied, and adds them to the batch. What cannot be

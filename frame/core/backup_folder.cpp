@@ -15,6 +15,9 @@
 #include "platform/text/system_fault.h"
 
 namespace frame {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 QString picturesOf(const RunState& run) { return QDir::cleanPath(run.folders[folder::kPictures]); }
@@ -63,20 +66,21 @@ class FolderBackup {
   }
 
  private:
-  /// Whether the name is still free in the folder; the first file keeps it, another one of its name is told.
+  /// Whether the name is still free in the folder; the first file takes it, another one of its name is
+  /// reported.
   bool takesItsName(const BackupFile& file) {
     const QString key = nameInFolder(file).toCaseFolded(), path = QDir::cleanPath(file.path);
     const QString taken = m_taken.value(key);
     if (taken.isEmpty()) m_taken.insert(key, path);
     if (!taken.isEmpty() && taken != path)
       m_report.faults.push_back(
-          {QStringLiteral("「%1」は、同じ名前の別のファイルがあるためコピーしていません。（%2）")
-               .arg(nameInFolder(file), file.path)});
+          {u"「%1」は、同じ名前の別のファイルがあるためコピーしていません。（%2）"_s.arg(nameInFolder(file),
+                                                                                         file.path)});
     return taken.isEmpty();
   }
 
-  /// Where an older copy of one half of the claims has to stay, that of the other half stays too: a new one
-  /// beside it would be of another moment.
+  /// If an older copy of one half of the claims has to stay, that of the other half stays too: a new one
+  /// would be of another moment.
   static void keepTogether(std::vector<FreshCopy>& copies) {
     const auto stays = std::find_if(copies.begin(), copies.end(), [](const FreshCopy& copy) {
       return !copy.sum && QFileInfo::exists(copy.target);
@@ -85,9 +89,9 @@ class FolderBackup {
     for (FreshCopy& copy : copies) {
       if (!copy.sum) continue;
       QFile::remove(store::besideName(copy.target));
-      copy.sum = text::Fault{
-          QStringLiteral("「%1」は、「%2」と同じ時のものがそろわないためコピーしていません。（%3）")
-              .arg(nameInFolder(copy.file), nameInFolder(stays->file), copy.file.path)};
+      copy.sum =
+          text::Fault{u"「%1」は、「%2」と同じ時のものがそろわないためコピーしていません。（%3）"_s.arg(
+              nameInFolder(copy.file), nameInFolder(stays->file), copy.file.path)};
     }
   }
 
@@ -106,7 +110,7 @@ class FolderBackup {
       return;
     }
     const Pictures pictures = listPictures(root);
-    for (const QString& folder : QStringList{QStringLiteral(".")} + pictures.folders) {
+    for (const QString& folder : QStringList{u"."_s} + pictures.folders) {
       const QString source = QDir::cleanPath(root + u'/' + folder);
       const QString target = QDir::cleanPath(m_folder + u'/' + name + u'/' + folder);
       errno = 0;
@@ -147,7 +151,7 @@ class FolderBackup {
     }
   }
 
-  /// After the files, and after the pictures. A fault is told once.
+  /// After the files, and after the pictures. A fault is reported once.
   void writeList() {
     const text::Done written = m_list.write(m_folder);
     m_listFault = written ? std::nullopt : std::optional(written.fault());
@@ -173,14 +177,14 @@ text::Done checkBackupFolder(const RunState& run, const QString& folder) {
     return text::systemFault(text::FileAction::Write, folder, errno);
   const auto real = [](const QString& path) { return QFileInfo(path).canonicalFilePath(); };
   const auto refuse = [&](const char16_t* why) {
-    return text::Fault{QStringLiteral("「%1」は、%2ほかのフォルダを選択して下さい。（%3）")
-                           .arg(lastPart(folder), QString::fromUtf16(why), folder)};
+    return text::Fault{u"「%1」は、%2ほかのフォルダを選択して下さい。（%3）"_s.arg(
+        lastPart(folder), QString::fromUtf16(why), folder)};
   };
   const QString target = real(folder), pictures = real(picturesOf(run));
   if (liesIn(target, pictures)) return refuse(u"人体図のフォルダの中にあります。");
-  if (liesIn(target, real(run.programFolder + QStringLiteral("/backup"))))
+  if (liesIn(target, real(run.programFolder + u"/backup"_s)))
     return refuse(u"治療台帳が自動でバックアップするフォルダです。");
-  // Where a path is a link, the file's own folder is meant as well as the link's.
+  // If a path is a link, both the folder of the link and that of its target are refused.
   const auto holds = [&](const QString& path) {
     return target == real(QFileInfo(path).path()) ||
            (QFileInfo::exists(path) && target == QFileInfo(real(path)).path());
@@ -207,17 +211,16 @@ BackupReport backUpToFolder(const RunState& run, const QString& folder, const st
 
 QString BackupReport::shortfall() const {
   constexpr size_t kPicturesTold = 5;
-  QStringList lines = {QStringLiteral("データのバックアップは、全部は出来ませんでした。"),
-                       QStringLiteral("コピーできなかったもの:")};
+  QStringList lines = {u"データのバックアップは、全部は出来ませんでした。"_s, u"コピーできなかったもの:"_s};
   for (const text::Fault& fault : faults) lines += fault.message;
   for (size_t i = 0; i < std::min(pictureFaults.size(), kPicturesTold); ++i)
     lines += pictureFaults[i].message;
   if (pictureFaults.size() > kPicturesTold)
-    lines += QStringLiteral("ほかに人体図のファイル %1個。").arg(pictureFaults.size() - kPicturesTold);
+    lines += u"ほかに人体図のファイル %1個。"_s.arg(pictureFaults.size() - kPicturesTold);
   QStringList names = copied;
-  if (pictures > 0) names += QStringLiteral("人体図のファイル %1個").arg(pictures);
-  lines += QStringLiteral("コピーしたもの:");
-  lines += names.isEmpty() ? QStringLiteral("ありません。") : names.join(u'、');
+  if (pictures > 0) names += u"人体図のファイル %1個"_s.arg(pictures);
+  lines += u"コピーしたもの:"_s;
+  lines += names.isEmpty() ? u"ありません。"_s : names.join(u'、');
   return lines.join(u'\n');
 }
 

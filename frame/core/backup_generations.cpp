@@ -9,6 +9,9 @@
 #include "frame/core/backup_list.h"
 
 namespace frame {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int kGenerations = 3;
@@ -73,7 +76,7 @@ class Generations {
     return 0;
   }
 
-  /// The halves of the claims come together or not at all.
+  /// The halves of the claims are replaced together or not at all.
   void take(const std::vector<FreshCopy>& copies) {
     std::vector<Rotation> whole;
     for (const FreshCopy& copy : copies)
@@ -84,13 +87,13 @@ class Generations {
       for (const FreshCopy& copy : copies) QFile::remove(store::besideName(copy.target));
   }
 
-  /// Without a list that fits them they would only take room, on a disk that may have none left.
+  /// Without a list that fits them they would only take space, on a disk that may have none left.
   void dropNewCopies() const {
     for (const Rotation& rotation : m_rotations) QFile::remove(store::besideName(pathOf(1, rotation)));
   }
 
-  /// The sum of a generation that may be moved on. One that no list knows was put there by hand or by a list
-  /// that is lost: it counts when it can be used.
+  /// The sum of a generation that may be moved on. One that no list has was put there by hand, or its list
+  /// is lost: it counts if it can be used.
   QByteArray sumOfWhole(const BackupFile& file, const QString& path, const QSet<QByteArray>& known) const {
     if (!QFileInfo(path).isFile()) return {};
     const auto sum = store::sumOf(path);
@@ -123,10 +126,10 @@ class Generations {
   }
 
   void listOlder(const Rotation& rotation) {
-    for (const int place : {2, 3})  // a damaged one keeps the sum that it does not fit
+    for (const int place : {2, 3})  // a damaged one is listed with the sum that it does not fit
       if (const QByteArray& sum = rotation.sums[static_cast<size_t>(place)]; !sum.isEmpty())
         m_list.put(rotation.name(place), sum);
-    // Where nothing whole stands in the first place, the list fits what is about to come.
+    // If generation 1 is missing or damaged, the sum of the new copy is listed instead.
     m_list.put(rotation.name(1), rotation.sums[1].isEmpty() ? rotation.newSum : rotation.sums[1]);
     m_list.announce(rotation.name(1), rotation.newSum);
     if (rotation.liveDigit != 0) m_list.takeOut(nameOf(rotation.liveDigit, rotation.file));
@@ -143,7 +146,7 @@ class Generations {
 bool endsWithBackup(const RunState& run) { return run.runCounter % 10 == 0; }
 
 void backUpGenerations(const RunState& run, const store::CopyWatch& watch) {
-  const QString folder = run.programFolder + QStringLiteral("/backup");
+  const QString folder = run.programFolder + u"/backup"_s;
   QDir().mkpath(folder);
   Generations(folder, watch).rotate(backupGroups(run));
 }

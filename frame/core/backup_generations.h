@@ -8,12 +8,12 @@ namespace frame {
 /// Every tenth run ends with a generation backup: the last decimal digit of RunCounter is 0.
 bool endsWithBackup(const RunState& run);
 
-/// Rotates the three generations in the folder `backup` beside the program: 2 over 3, 1 over 2, the live file
-/// over 1, each file by itself. Tells nothing. A file that cannot be copied whole (in use, missing, damaged)
-/// keeps its generations as they are; a generation that is damaged or does not fit its sum counts as missing.
-/// A generation that the folders of the files point to is worked with; its digit is left out. Cut off
-/// anywhere, it leaves each file at least one whole generation that fits the list, and the next run goes on
-/// from there.
+/// Rotates the three generations in the folder `backup` of the program folder: 2 over 3, 1 over 2, the live
+/// file over 1, each file by itself. Reports nothing. A file that cannot be copied whole (in use, missing,
+/// damaged) leaves its generations as they are; a generation that is damaged or does not fit its sum counts
+/// as missing. A generation that a path of the settings points to is a live file; its digit is left out. If
+/// the program dies anywhere within, each file has at least one whole generation that fits the list, and the
+/// next run goes on from there.
 void backUpGenerations(const RunState& run, const store::CopyWatch& watch = {});
 
 }  // namespace frame

@@ -6,13 +6,16 @@
 #include "platform/text/whole_file.h"
 
 namespace frame {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr char kComing[] = "# ";
 constexpr qsizetype kSumDigits = 128;
 
-/// As b2sum writes it: a name with a backslash or a line end is written with backslashes, and so is told by
-/// one before the sum.
+/// As b2sum writes it: a name with a backslash or a line end is written with backslashes, which one
+/// before the sum announces.
 QByteArray line(const QString& name, const QByteArray& sum) {
   QByteArray written = QFile::encodeName(name);
   const bool special = written.contains('\\') || written.contains('\n') || written.contains('\r');
@@ -35,7 +38,7 @@ QByteArray unescaped(const QByteArray& written) {
 
 }  // namespace
 
-QString BackupList::pathIn(const QString& folder) { return folder + QStringLiteral("/b2sums.txt"); }
+QString BackupList::pathIn(const QString& folder) { return folder + u"/b2sums.txt"_s; }
 
 BackupList BackupList::read(const QString& folder) {
   BackupList list;

@@ -9,9 +9,9 @@
 
 namespace frame {
 
-/// The list of sums that lies beside the copies, in the form that `b2sum -c b2sums.txt` checks: one line a
-/// file, the sum, two blanks, the name within the folder. A comment line (#) of the same form tells a sum
-/// that is about to come.
+/// The list of sums next to the copies, in the form that `b2sum -c b2sums.txt` checks: one line a
+/// file, the sum, two blanks, the name within the folder. A comment line (#) of the same form announces
+/// the sum of a copy that is about to be made.
 class BackupList {
  public:
   static QString pathIn(const QString& folder);
@@ -25,12 +25,12 @@ class BackupList {
   void put(const QString& name, const QByteArray& sum) { m_sums.insert(name, sum); }
   /// For a file that is no copy any more: it changes.
   void takeOut(const QString& name) { m_sums.remove(name); }
-  /// Tells the sum that the name is about to have.
+  /// Announces the sum that the name is about to have.
   void announce(const QString& name, const QByteArray& sum) { m_coming.insert(name, sum); }
   void forgetAnnounced() { m_coming.clear(); }
-  /// All sums, standing or about to come, that are listed for any of the names.
+  /// All sums, present or announced, that are listed for any of the names.
   QSet<QByteArray> sumsOfAny(const QStringList& names) const;
-  /// Takes out the names that no longer stand in the folder.
+  /// Takes out the names of files that are no longer in the folder.
   void keepStanding(const QString& folder);
 
  private:

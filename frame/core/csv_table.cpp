@@ -7,6 +7,8 @@
 
 namespace frame {
 
+using namespace Qt::Literals::StringLiterals;
+
 text::Result<CsvTable> readCsvTable(const QString& path) {
   const text::Result<QByteArray> bytes = text::readWholeFile(path);
   if (!bytes) return bytes.fault();
@@ -17,8 +19,8 @@ text::Result<CsvTable> readCsvTable(const QString& path) {
   if (!records.isEmpty()) table.columns = records.takeFirst();
   for (const QStringList& record : records) {
     if (record.size() != table.columns.size())
-      return text::Fault{QStringLiteral("「%1」の%2行目の項目の数が正しくありません。")
-                             .arg(QFileInfo(path).fileName(), QString::number(table.rows.size() + 2))};
+      return text::Fault{u"「%1」の%2行目の項目の数が正しくありません。"_s.arg(
+          QFileInfo(path).fileName(), QString::number(table.rows.size() + 2))};
     table.rows += record;
   }
   return table;

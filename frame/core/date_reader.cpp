@@ -82,7 +82,7 @@ bool takeTime(Cursor& cursor) {
   return second && *second <= 59;
 }
 
-/// Month and day behind the year; a missing day is the first.
+/// Month and day after the year; a missing day is the first.
 std::optional<std::pair<int, int>> takeMonthAndDay(Cursor& cursor) {
   const char16_t separator = cursor.peek();
   if (separator != u'年' && !isSeparator(separator)) return std::nullopt;

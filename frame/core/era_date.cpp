@@ -6,20 +6,21 @@
 #include "platform/text/width.h"
 
 namespace frame {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// The program's own tables run from 令和1年 (2019) to 令和20年 (2038) and stop there.
 constexpr int kReiwaBase = 2018, kLastReiwaYear = 20;
-/// 平成31年 is where a platform without 令和 stands in its first year.
+/// A platform without 令和 calls its first year 平成31年.
 constexpr int kHeiseiBeforeReiwa = 30;
 
 QString eraText(const QString& era, int year, int month, int day) {
   return era + QString::number(year) + u'年' + QString::number(month) + u'月' + QString::number(day) + u'日';
 }
 
-QString reiwaText(int year, QDate date) {
-  return eraText(QStringLiteral("令和"), year, date.month(), date.day());
-}
+QString reiwaText(int year, QDate date) { return eraText(u"令和"_s, year, date.month(), date.day()); }
 
 QString westernText(QDate date) {
   return QString::number(date.year()) + u'/' + QString::number(date.month()) + u'/' +
@@ -38,7 +39,7 @@ std::optional<int> shorthandYear(const QString& text) {
   return year >= 1 && year <= kLastReiwaYear ? std::optional(year) : std::nullopt;
 }
 
-/// Month and day behind a short form's three characters, put behind the western year.
+/// The western year with the month and day that follow a short form's three characters.
 QString shorthandAsWestern(const QString& text, int year) {
   if (text[2] == u'/') return QString::number(kReiwaBase + year) + text.mid(2);
   return text.mid(3).startsWith(u'/') ? QString::number(kReiwaBase + year) + text.mid(3) : QString();
@@ -51,10 +52,10 @@ QString reiwaAsWestern(const QString& text) {
   if (yearEnd < 0 || monthEnd < 0) return QString();
   const qsizetype dayEnd = text.indexOf(u'日', monthEnd + 1);
   QString year = text.mid(2, yearEnd - 2), day = text.mid(monthEnd + 1, dayEnd - monthEnd - 1);
-  if (year == u"元") year = QStringLiteral("1");
+  if (year == u"元") year = u"1"_s;
   if (dayEnd < 0) {
     if (monthEnd + 1 < text.size()) return QString();
-    day = QStringLiteral("1");
+    day = u"1"_s;
   }
   bool isNumber = false;
   const int number = text::asciiDigits(year).toInt(&isNumber);
@@ -91,7 +92,7 @@ TodayParts EraDates::today(int doubledRow) const {
   int row = date.year() - era->baseYear() - kHeiseiBeforeReiwa;
   if (row >= 2) row += doubledRow;
   if (row < 1 || row > kLastReiwaYear) return parts;
-  parts.eraYear = QStringLiteral("令和%1年").arg(row);
+  parts.eraYear = u"令和%1年"_s.arg(row);
   parts.reiwaDate = reiwaText(row, date);
   return parts;
 }
@@ -158,7 +159,7 @@ std::optional<QDate> EraDates::anyDate(const QString& text) const {
 }
 
 std::optional<QDate> EraDates::claimMonthToDate(const QString& month) const {
-  auto date = anyDate(month + QStringLiteral("1日"));
+  auto date = anyDate(month + u"1日"_s);
   if (!date) date = anyDate(month);
   return date ? std::optional(QDate(date->year(), date->month(), 1)) : std::nullopt;
 }

@@ -21,20 +21,20 @@ struct EraParts {
 
 /// Today as the menus use it.
 struct TodayParts {
-  QString eraYear;    ///< "令和1年"; of an earlier era where today lies in one
+  QString eraYear;    ///< "令和1年"; of an earlier era if today lies in one
   QString month;      ///< "5"
   QString day;        ///< "25"
   QString eraDate;    ///< today in the platform's era form
   QString reiwaDate;  ///< today in the "令和n年m月d日" form; the platform's form outside the table
 };
 
-/// The one implementation of the era operations. The texts that dates are kept as are told with each
-/// operation; nothing here shows a message, and a text that cannot be read gives nullopt.
+/// The one implementation of the era operations. Each operation states the form of the
+/// texts it takes and gives; nothing here shows a message, and a text that cannot be read gives nullopt.
 class EraDates {
  public:
   EraDates(EraCapability capability, const text::Clock& clock) : m_capability(capability), m_clock(clock) {}
 
-  /// The platform's date test and reading (date_reader.h tells every accepted form), under the capability:
+  /// The platform's date test and reading (date_reader.h lists every accepted form), under the capability:
   /// 令和 is unknown to a platform without it.
   std::optional<QDate> platformDate(const QString& text) const;
   /// The platform's formatter for "ggge年m月d日". The first year is 1, never 元. A platform without 令和 goes
@@ -59,20 +59,20 @@ class EraDates {
   /// Completed years by the yyyymmdd arithmetic with halves to the even neighbour.
   std::optional<int> ageFromBirthDate(const QString& text) const;
 
-  /// 和暦 conversion of a field: the field's new text (unchanged where it cannot be read).
+  /// 和暦 conversion of a field: the field's new text (unchanged if it cannot be read).
   QString wareki(const QString& text) const;
   /// 西暦 conversion of a field.
   QString seireki(const QString& text) const;
 
-  /// isDateOk of the claim checks: the date test, else the era routine.
+  /// isDateOk of the claim checks: the date test, otherwise the era routine.
   bool isDateOk(const QString& text) const;
-  /// Any accepted form as a date: the date test, else the program's own conversion.
+  /// Any accepted form as a date: the date test, otherwise the program's own conversion.
   std::optional<QDate> anyDate(const QString& text) const;
   /// claimMonthToDate: an era month ("令和6年10月") as the first of that month. Any other text that the date
-  /// test of the claim checks lets pass serves by its month, so that no claim is left without amounts.
+  /// test of the claim checks accepts gives its month, so that no claim is left without amounts.
   std::optional<QDate> claimMonthToDate(const QString& month) const;
-  /// Era, year, month and day of any accepted text, for the boxes of the forms: as written where the text
-  /// names an era (平成31年5月1日 stays 平成 31), by the day where it is western.
+  /// Era, year, month and day of any accepted text, for the boxes of the forms: as written if the text
+  /// names an era (平成31年5月1日 stays 平成 31), by the day if it is western.
   std::optional<EraParts> parts(const QString& text) const;
   static EraParts partsOf(QDate date);
 
@@ -80,7 +80,8 @@ class EraDates {
   const text::Clock& clock() const { return m_clock; }
 
  private:
-  /// Today by the table of 平成31年 on; `doubledRow` is how many rows its second test is written once more.
+  /// Today by the table from 平成31年 on; `doubledRow` is the number of rows before the one that it has
+  /// twice.
   TodayParts today(int doubledRow) const;
 
   EraCapability m_capability;

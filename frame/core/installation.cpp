@@ -84,7 +84,7 @@ Done Layout::folders() {
 }
 
 /// A folder with settings has been worked in: a register that is missing there is lost or lies elsewhere. An
-/// empty one in its place would hide that, so it stays missing and the screens tell it.
+/// empty one in its place would hide that, so it stays missing and the screens report it.
 Done Layout::databases() {
   const bool workedIn = QFileInfo::exists(settingsPath(m_program));
   for (const store::TableRow& row : store::catalogue()) {
@@ -96,7 +96,7 @@ Done Layout::databases() {
   return {};
 }
 
-/// A file takes its name when it is whole: one that was cut off while it was filled is made again.
+/// A file gets its name when it is whole: one that was interrupted while it was filled is made again.
 Done Layout::createFilled(const QString& file) {
   const QString part = beside(file + QStringLiteral(".part"));
   QFile::remove(part);
@@ -205,7 +205,7 @@ Done Layout::shippedFiles() {
   files.removeIf([](const QString& name) { return name.endsWith(u".md"); });
   if (const Done done = copyAll(m_data, files, m_program); !done) return done;
   QStringList pictures = QDir(shipped(QStringLiteral("GDATA"))).entryList(QDir::Files);
-  pictures.removeIf(  // the user's own charts lie in this folder: what stands there stays
+  pictures.removeIf(  // the user's own charts lie in this folder: what is there stays
       [&](const QString& name) { return QFileInfo::exists(beside(QStringLiteral("GDATA/") + name)); });
   return copyAll(shipped(QStringLiteral("GDATA")), pictures, beside(QStringLiteral("GDATA")));
 }

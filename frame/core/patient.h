@@ -7,8 +7,8 @@
 
 namespace frame {
 
-/// A patient of the register, texts as they were typed. All rooms share it: a patient is handed from his
-/// screen to a new claim, a booking, a receipt.
+/// A patient of the register, texts as they were typed. The screen of a patient hands it on to a new claim,
+/// a booking or a receipt.
 struct Patient {
   QString serial;  ///< PatientSerial: visits, claims and bookings name their patient by it
   QString number;  ///< 患者ID

@@ -64,11 +64,11 @@ Prefecture prefectureOf(const QString& code);
 /// other code.
 std::optional<QString> prefectureEdition(const QString& code);
 
-/// The installation record of the prefecture: the code in the text file beside the program. Blank where
-/// the file is missing or holds no code of one or two digits.
+/// The installation record of the prefecture: the code in a text file of the program folder. Blank if
+/// the file is missing or has no code of one or two digits.
 QString readPrefectureCode(const QString& programFolder);
 
-/// A code as it is kept: a text of one character gets a "0" put before it.
+/// A code as it is stored: a text of one character gets a leading "0".
 QString twoDigitPrefecture(const QString& text);
 
 /// Name of the installation record.

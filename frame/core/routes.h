@@ -232,6 +232,8 @@ struct SortClaims {
 };
 struct ClaimForm {
   static constexpr ScreenName screen{u"frmレセプトフォーム"};
+  static constexpr char16_t storeCommand[] =
+      u"cmdUpdate";  ///< the form's 登録, for an opener that goes there
   qint64 id = 0;
   std::optional<ScreenName> opener{};  ///< gets the keyboard back at 登録 and 閉じる; none: the claim list
 };

@@ -5,6 +5,7 @@
 #include "frame/core/prefecture.h"
 #include "frame/core/web_pages.h"
 #include "platform/text/number.h"
+#include "platform/text/utf16.h"
 #include "platform/text/whole_file.h"
 
 namespace frame {
@@ -13,8 +14,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// An entry of DataFolders, the slot that keeps it, and the default beside the program (nullptr: carried as
-/// it is, no screen edits it).
+/// An entry of DataFolders, the slot that stores it, and the default within the program folder (nullptr: the
+/// entry is carried as it is, no screen edits it).
 struct FolderSlot {
   int entry;
   slot::Slot slot;
@@ -79,13 +80,13 @@ void raiseCounter(RunState& run) {
   run.runCounter = static_cast<int>(text::intOf(counter));
 }
 
-/// Keeps a settings file that could not be read whole under a name that is still free.
-text::Done keepBeside(const QString& path) {
+/// Copies a settings file that could not be read whole to a name that is still free.
+text::Done copyAside(const QString& path) {
   if (!QFile::exists(path)) return {};
-  QString kept = path + u".old"_s;
-  for (int n = 2; QFile::exists(kept); ++n) kept = path + u".old"_s + QString::number(n);
+  QString copy = path + u".old"_s;
+  for (int n = 2; QFile::exists(copy); ++n) copy = path + u".old"_s + QString::number(n);
   const auto bytes = text::readWholeFile(path);
-  return bytes ? text::writeWholeFile(kept, *bytes) : text::Done(bytes.fault());
+  return bytes ? text::writeWholeFile(copy, *bytes) : text::Done(bytes.fault());
 }
 
 }  // namespace
@@ -99,14 +100,14 @@ void loadRun(const SettingsSlots& settings, const QString& programFolder, RunSta
   for (const FolderSlot& row : kFolderSlots) {
     QString& path = run.folders[static_cast<size_t>(row.entry)];
     path = run.settings[row.slot];
-    if (path.isEmpty() && row.fallback) path = programFolder + QString::fromUtf16(row.fallback);
+    if (path.isEmpty() && row.fallback) path = programFolder + text::utf16(row.fallback);
   }
   for (const ProfileField& field : profileFields()) run.profile[field.slot] = run.settings[field.slot];
   if (run.settings[slot::kLicenceHari] == kStaleHari) run.settings[slot::kLicenceHari] = blank();
   if (run.settings[slot::kLicenceKyu] == kStaleKyu) run.settings[slot::kLicenceKyu] = blank();
   run.aichiSubmission = run.settings[slot::kAichi];
   run.tokyoSubmission = run.settings[slot::kTokyo];
-  if (run.tokyoSubmission.isEmpty()) run.tokyoSubmission = QString::fromUtf16(kTokyoDefault);
+  if (run.tokyoSubmission.isEmpty()) run.tokyoSubmission = text::utf16(kTokyoDefault);
 }
 
 text::Done readRun(const QString& programFolder, RunState& run) {
@@ -121,7 +122,7 @@ SettingsSlots rebuildSettings(const RunState& run, SettingsWriter writer) {
   SettingsSlots rebuilt = run.settings;
   for (const FolderSlot& row : kFolderSlots) rebuilt[row.slot] = run.folders[static_cast<size_t>(row.entry)];
   for (const ProfileField& field : profileFields()) rebuilt[field.slot] = run.profile[field.slot];
-  for (const FixedSlot& row : kFixedSlots) rebuilt[row.slot] = QString::fromUtf16(row.text);
+  for (const FixedSlot& row : kFixedSlots) rebuilt[row.slot] = text::utf16(row.text);
   rebuilt[slot::kRunCounter] = QString::number(run.runCounter);
   rebuilt[slot::kAichi] = run.aichiSubmission;
   rebuilt[slot::kTokyo] = run.tokyoSubmission;
@@ -136,7 +137,7 @@ text::Done saveRun(RunState& run, SettingsWriter writer) {
   const QString path = settingsPath(run.programFolder);
   if (!run.settings.readWhole) {
     if (writer == SettingsWriter::ProgramEnd) return {};
-    if (const auto kept = keepBeside(path); !kept) return kept;
+    if (const auto copied = copyAside(path); !copied) return copied;
   }
   SettingsSlots rebuilt = rebuildSettings(run, writer);
   if (const auto written = writeSettingsFile(path, rebuilt); !written) return written;
@@ -148,7 +149,7 @@ text::Done saveRun(RunState& run, SettingsWriter writer) {
 
 SettingsSlots freshSettings() {
   SettingsSlots fresh;
-  for (const FixedSlot& row : kFixedSlots) fresh[row.slot] = QString::fromUtf16(row.text);
+  for (const FixedSlot& row : kFixedSlots) fresh[row.slot] = text::utf16(row.text);
   fresh[slot::kRunCounter] = u"0"_s;
   fresh[slot::kSpareFolder9] = u"治療台帳"_s;  // must not be blank, otherwise no main menu opens
   fresh[slot::kUpdatePage] = webAddress(WebPage::Update);
@@ -156,7 +157,7 @@ SettingsSlots freshSettings() {
                          slot::kElderlyNamePrinted, slot::kTopics})
     fresh[flag] = u"0"_s;
   fresh[slot::kAichi] = u"4"_s;
-  fresh[slot::kTokyo] = QString::fromUtf16(kTokyoDefault);
+  fresh[slot::kTokyo] = text::utf16(kTokyoDefault);
   fresh.readWhole = true;
   return fresh;
 }

@@ -59,23 +59,23 @@ enum class SettingsWriter {
   Other,       ///< 登録4, txtbox, 無データ, 施術録条件
 };
 
-/// Path of the settings file beside the program.
+/// Path of the settings file in the program folder.
 QString settingsPath(const QString& programFolder);
 
-/// Takes the slots as read into the run: the counter is raised, blank paths fall back to the files beside
-/// the program, two stale licence numbers are cleared.
+/// Takes the slots as read into the run: the counter is raised, blank paths fall back to the files in
+/// the program folder, two stale licence numbers are cleared.
 void loadRun(const SettingsSlots& settings, const QString& programFolder, RunState& run);
 
-/// Reads qv.dat and the installation record beside the program. The fault names the missing file; then
-/// `run` is untouched.
+/// Reads qv.dat and the installation record of the program folder. A fault names the missing file and
+/// leaves `run` as it was.
 text::Done readRun(const QString& programFolder, RunState& run);
 
 /// All 90 slots from the run-wide values.
 SettingsSlots rebuildSettings(const RunState& run, SettingsWriter writer);
 
-/// Rebuilds the slots and writes qv.dat over the old one; nothing is merged. Where the start found the file
-/// short or damaged, the end of the program leaves it alone, and a save that the user asked for keeps the
-/// old file beside as qv.dat.old (.old2 ...) first.
+/// Rebuilds the slots and writes qv.dat over the old one; nothing is merged. If the start found the file
+/// short or damaged, the end of the program does not touch it, and a save that the user asked for first
+/// copies the old file to qv.dat.old (.old2 ...).
 text::Done saveRun(RunState& run, SettingsWriter writer);
 
 /// The settings that a fresh program folder is laid out with.

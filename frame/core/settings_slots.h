@@ -133,7 +133,7 @@ class SettingsSlots {
 /// Reads qv.dat (Shift-JIS, one line of quoted fields). A missing file is a fault that names the file; a
 /// short or damaged one leaves the remaining slots blank.
 text::Result<SettingsSlots> readSettingsFile(const QString& path);
-/// Writes the 90 fields whole: beside, synced, renamed.
+/// Writes the 90 fields whole: to a new file that is synced and then renamed.
 text::Done writeSettingsFile(const QString& path, const SettingsSlots& settings);
 
 }  // namespace frame

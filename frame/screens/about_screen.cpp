@@ -5,6 +5,7 @@
 #include "frame/core/routes.h"
 #include "platform/screen/declare.h"
 #include "platform/shell/desktop.h"
+#include "platform/text/utf16.h"
 
 namespace frame {
 
@@ -13,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// System information programs of this platform, the first that is installed is started.
+/// System information programs; the first that is installed is started.
 constexpr const char16_t* kSystemPrograms[] = {u"hardinfo2", u"hardinfo", u"kinfocenter"};
 
 constexpr Row kRows[] = {
@@ -38,7 +39,7 @@ AboutScreen::AboutScreen(Services& services) : Screen(kDeclaration, services) {}
 
 void AboutScreen::showSystemInformation() {
   for (const char16_t* program : kSystemPrograms) {
-    const QString path = QStandardPaths::findExecutable(QString::fromUtf16(program));
+    const QString path = QStandardPaths::findExecutable(text::utf16(program));
     if (!path.isEmpty() && services().desktop->startProgram(path)) return;
   }
   messages().tell(u"現時点ではｼｽﾃﾑ情報を使用できません"_s);

@@ -4,6 +4,9 @@
 #include <QEvent>
 
 namespace frame {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr qint64 kSayEvery = 10'000;  ///< milliseconds
@@ -15,10 +18,10 @@ BackupProgress::BackupProgress(voice::VoiceGuide& voice, qint64 bytes) : m_voice
   QCoreApplication::instance()->installEventFilter(this);
   m_sinceSaid.start();
   m_sincePainted.start();
-  m_voice.speakText(QStringLiteral("データをバックアップしています。お待ち下さい。"));
+  m_voice.speakText(u"データをバックアップしています。お待ち下さい。"_s);
 }
 
-// What was pressed meanwhile is taken out of the queue before the message that tells the end.
+// Keys that were pressed during the copy leave the queue before the message that reports its end.
 BackupProgress::~BackupProgress() { QCoreApplication::processEvents(); }
 
 store::CopyWatch BackupProgress::watch() {
@@ -29,8 +32,7 @@ void BackupProgress::copied(qint64 bytes) {
   m_done += bytes;
   if (m_sinceSaid.elapsed() >= kSayEvery && m_all > 0) {
     m_sinceSaid.restart();
-    m_voice.speakText(
-        QStringLiteral("バックアップ中です。%1パーセント").arg(std::min<qint64>(m_done * 100 / m_all, 99)));
+    m_voice.speakText(u"バックアップ中です。%1パーセント"_s.arg(std::min<qint64>(m_done * 100 / m_all, 99)));
   }
   if (m_sincePainted.elapsed() < kPaintEvery) return;
   m_sincePainted.restart();

@@ -8,9 +8,9 @@
 
 namespace frame {
 
-/// While it stands, a long copy is heard: its start, and how far it is from time to time. The windows keep
-/// painting themselves, but keys, the pointer and close boxes do nothing, so that nothing is pressed twice
-/// for want of an answer.
+/// Makes a long copy heard as long as this object lives: its start, and from time to time how far it is. The
+/// windows keep painting themselves, but keys, the pointer and close boxes do nothing, so that nothing is
+/// pressed twice while there is no answer.
 class BackupProgress : public QObject {
  public:
   BackupProgress(voice::VoiceGuide& voice, qint64 bytes);

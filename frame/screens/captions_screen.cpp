@@ -56,7 +56,7 @@ void CaptionsScreen::onLoad() {
   }
 }
 
-// Kept: the settings take the texts before the question, so that they stay for the run after a キャンセル.
+// Kept: the settings take the texts before the question, so that the run has them after a キャンセル too.
 void CaptionsScreen::save() {
   for (const CaptionField& field : kFields) m_run.settings[field.slot] = text(field.control);
   const bool yes = messages().ask(u"治療台帳を再起動して下さい。ここで一旦、治療台帳を終了します。"_s);

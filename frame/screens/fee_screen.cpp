@@ -113,7 +113,7 @@ constexpr ControlRef kNotes[] = {ref(kRows, u"Label26"), ref(kRows, u"Label27"),
 
 FeeScreen::FeeScreen(Services& services, RunState& run) : Screen(kDeclaration, services), m_run(run) {}
 
-// The row with the highest ID rules.
+// The row with the highest ID is in force.
 void FeeScreen::onLoad() {
   setShown(kSave, false);
   if (!source().open(m_run.folders[folder::kFees])) return;

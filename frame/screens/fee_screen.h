@@ -6,7 +6,7 @@
 namespace frame {
 
 /// 料金確認: the fees of the current fee file, box by box. The button that would change them stays hidden;
-/// its path is kept for the day that it is shown again.
+/// what it does remains in case it is shown again.
 class FeeScreen : public screen::Screen {
  public:
   FeeScreen(screen::Services& services, RunState& run);

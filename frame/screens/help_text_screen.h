@@ -5,7 +5,7 @@
 
 namespace frame {
 
-/// The text help chapter by chapter, for a desktop that has no viewer for text files: a list of chapters, and
+/// The text help chapter by chapter, for a system without a viewer for text files: a list of chapters, and
 /// the chapter chosen in a field that is read out as a whole.
 class HelpTextScreen : public screen::Screen {
  public:

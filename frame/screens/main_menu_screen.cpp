@@ -22,7 +22,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// One association's two answers: the stored value, and the text when the tick is set or the menu shows
-/// again. Kept: the activated menu writes マツサージ with a large ツ where the tick writes マッサージ.
+/// again. Kept: the activated menu writes マツサージ with a large ツ, the tick writes マッサージ.
 struct Submission {
   const char16_t* value;
   const char16_t* whenTicked;
@@ -75,7 +75,7 @@ void MainMenuScreen::changePrefecture() {
     m_run.prefectureCode = twoDigitPrefecture(typed);
     setText(menu::kPrefecture, m_run.prefectureCode);
   }
-  // What holds now, also where a blank field changed nothing.
+  // Says the current prefecture, also if a blank field changed nothing.
   voice().speakText(caption(menu::kPrefecture) + voice::kSpeechSeparator + m_run.prefectureCode);
 }
 
@@ -135,7 +135,7 @@ void MainMenuScreen::openBeside(const QString& fileName) {
 
 void MainMenuScreen::openManual() { openBeside(u"help.PDF"_s); }
 
-// Where the desktop has no viewer for text files the program reads the help out itself.
+// If the system has no viewer for text files the program reads the help out itself.
 void MainMenuScreen::openTextHelp() {
   const QString path = QDir(m_run.programFolder).filePath(u"help.txt"_s);
   const text::Done done = services().desktop->openFile(path);

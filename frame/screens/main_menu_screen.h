@@ -16,7 +16,7 @@ class MainMenuScreen : public screen::Screen {
   bool onCloseBox() override;
   QStringList openingTexts() const override;
 
-  // Rooms that take a word with them.
+  // Screens that something is handed to.
   void openClaims();
   void openReceipts();
   void openBookings();

@@ -5,7 +5,7 @@
 
 namespace frame {
 
-/// 初期設定: all that the program knows of the practice itself. Nothing is required and no format tested.
+/// 初期設定: all that the program knows of the practice itself. No field is required and no format is tested.
 class ProfileScreen : public screen::Screen {
  public:
   ProfileScreen(screen::Services& services, RunState& run);

@@ -67,7 +67,7 @@ constexpr ConfirmRow kPrompts[] = {
      .buttons = kNoPrintButtons},
 };
 
-/// Takes the folders as typed; they hold from the next start on. A fault leaves the old ones in force.
+/// Takes the folders as typed; they apply from the next start on. A fault leaves the old ones in force.
 void storeFolders(ConfirmPrompt& prompt, RunState& run) {
   const DataFolders before = std::exchange(run.folders, run.pendingFolders);
   if (writeSettings(prompt, run, SettingsWriter::Folders)) {

@@ -5,10 +5,10 @@
 
 namespace frame {
 
-/// Writes qv.dat from the run-wide values. False: the fault was told through the screen's message door.
-inline bool writeSettings(screen::Screen& teller, RunState& run, SettingsWriter writer) {
+/// Writes qv.dat from the run-wide values. False: the fault was reported through the screen's message door.
+inline bool writeSettings(screen::Screen& screen, RunState& run, SettingsWriter writer) {
   const text::Done done = saveRun(run, writer);
-  if (!done) teller.messages().tell(done.fault().message);
+  if (!done) screen.messages().tell(done.fault().message);
   return done.ok();
 }
 

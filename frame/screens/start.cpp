@@ -13,7 +13,7 @@ namespace {
 constexpr int kSplashCount = 1'000'000;
 constexpr int kTopicsShownUpTo = 14;
 
-/// Keeps the splash screen in view for a moment.
+/// Leaves the splash screen in view for a moment.
 void countOnSplash() {
   volatile int counted = 0;
   while (counted < kSplashCount) counted = counted + 1;

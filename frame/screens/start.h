@@ -11,7 +11,7 @@ namespace frame {
 enum class Started {
   Menu,             ///< the main menu is shown
   NothingToShow,    ///< an entry of the folders that must not be blank is blank: no window, the program ends
-  SettingsMissing,  ///< qv.dat is not there: told by its name, the program ends
+  SettingsMissing,  ///< qv.dat is missing: reported by its name, the program ends
 };
 
 /// What the start asks of the platform.
@@ -20,10 +20,10 @@ struct StartNeeds {
 };
 
 /// The start from the splash screen to the first working screen. `run.programFolder` and `run.clock` are set
-/// by the caller. Where the program has nothing to show it is told to quit.
+/// by the caller. If the program has nothing to show it quits.
 Started startProgram(RunState& run, screen::Services& services, const StartNeeds& needs);
 
-/// Reads qv.dat into the run and shows the main menu, and the news of the version where they are wanted: the
+/// Reads qv.dat into the run and shows the main menu, and the news of the version if they are wanted: the
 /// second half of the start, which a key on the splash screen runs too.
 Started showFirstScreen(RunState& run, screen::Services& services);
 

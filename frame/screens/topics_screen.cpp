@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr char16_t kSilenced[] = u"15";
+constexpr QStringView kSilenced = u"15";
 
 // All nine are spoken in order when the screen opens, and again by the button.
 constexpr Row kRows[] = {
@@ -67,7 +67,7 @@ TopicsScreen::TopicsScreen(Services& services, RunState& run) : Screen(kDeclarat
 void TopicsScreen::onLoad() { setChecked(kSilence, m_run.settings[slot::kTopics] == kSilenced); }
 
 void TopicsScreen::rememberTick() {
-  m_run.settings[slot::kTopics] = checked(kSilence) ? QString::fromUtf16(kSilenced) : u"0"_s;
+  m_run.settings[slot::kTopics] = checked(kSilence) ? kSilenced.toString() : u"0"_s;
 }
 
 void TopicsScreen::speakAll() { voice().speakHeading(openingTexts()); }

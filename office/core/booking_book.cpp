@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Value of the table's last row, blank where it has none.
+/// Value of the table's last row, blank if it has none.
 store::Result<QString> lastValue(const QString& path, const store::Column& column) {
   auto database = store::Database::open(path);
   if (!database) return database.fault();

@@ -8,10 +8,11 @@
 
 namespace office {
 
-/// The bookings of a day among the rows of the set, in the order of their times; without a hit an empty set.
+/// The bookings of a day among the rows of the set, in the order of their times; an empty set if there are
+/// none.
 ///
-/// Kept: the year, the month and the day narrow each for itself, as it was typed, so that a booking of
-/// 31 February is found as such and not in March; and times are sorted as texts: 10 時 stands before 9 時.
+/// Kept: year, month and day are compared one by one, as they were typed, so that a booking of 31 February is
+/// found as such and not in March; and times are sorted as texts: 10 時 comes before 9 時.
 store::Result<store::RecordSet> bookingsOf(store::RecordSet& rows, const frame::DayAsked& day);
 
 /// PatientSerial for a booked person who has none yet: patients and bookings share one series, which goes on

@@ -36,7 +36,7 @@ std::optional<QDate> rolled(const frame::DayAsked& day) {
   constexpr int kFirstYear = 100, kLastYear = 9999;
   const auto inRange = [](int year) { return year >= kFirstYear && year <= kLastYear; };
   if (!inRange(day.year)) return std::nullopt;
-  // The first is reached from zero, so that the smallest numbers stay numbers.
+  // addMonths(month - 1) would overflow for INT_MIN.
   const QDate date = QDate(day.year, 1, 1).addMonths(day.month).addMonths(-1).addDays(qint64(day.day) - 1);
   return date.isValid() && inRange(date.year()) ? std::optional(date) : std::nullopt;
 }
@@ -53,9 +53,9 @@ std::optional<QString> stampRewritten(const frame::EraDates& dates, const QStrin
   const QString plain = text::toHalfWidth(typed).trimmed();
   const qsizetype dayEnd = plain.indexOf(u'日') + 1;
   const qsizetype cut = dayEnd > 0 ? dayEnd : plain.indexOf(u' ');
-  const QString behind = cut > 0 ? plain.mid(cut).trimmed() : QString();
+  const QString timeOfDay = cut > 0 ? plain.mid(cut).trimmed() : QString();
   const std::optional<QDate> date = dates.platformDate(cut > 0 ? plain.left(cut) : plain);
-  const std::optional<QTime> time = behind.isEmpty() ? QTime(0, 0) : typedTime(behind);
+  const std::optional<QTime> time = timeOfDay.isEmpty() ? QTime(0, 0) : typedTime(timeOfDay);
   if (!date || !time) return std::nullopt;
   return stampText(dates, QDateTime(*date, *time));
 }

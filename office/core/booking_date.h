@@ -9,12 +9,12 @@
 
 namespace office {
 
-/// Year, month and day as typed into three lists, full-width digits too; nullopt where one is no number.
+/// Year, month and day as typed into three lists, full-width digits too; nullopt if one is no number.
 std::optional<frame::DayAsked> dayTyped(const QString& year, const QString& month, const QString& day);
 
 /// The three numbers of a day.
 frame::DayAsked numbersOf(QDate date);
-/// What date lists begin on: the day asked for last, today where none was.
+/// What date lists begin with: the day asked for last, otherwise today.
 frame::DayAsked offeredDay(const frame::RunState& run);
 
 /// The day that the date function makes of the numbers: a day or month that does not exist rolls over

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kNoon = 12;
 
-/// The hour of 24 hours; -1 where the half of the day does not have it.
+/// The hour of 24 hours; -1 if the half of the day does not have it.
 int hourOf(int hour, bool morning, bool afternoon) {
   if (!morning && !afternoon) return hour;
   if (hour > kNoon) return -1;
@@ -28,7 +28,7 @@ std::optional<QTime> typedTime(const QString& typed) {
       u"^(?<am>午前|AM)?(?<pm>午後|PM)?"
       u"(?<hour>[0-9]{1,2})(?::(?<minute>[0-9]{1,2})(?::(?<second>[0-9]{1,2}))?"
       u"|時(?:(?<half>半)|(?<kanjiMinute>[0-9]{1,2})分(?:(?<kanjiSecond>[0-9]{1,2})秒)?)?)"
-      u"(?<amBehind>AM)?(?<pmBehind>PM)?$"_s,
+      u"(?<amAfter>AM)?(?<pmAfter>PM)?$"_s,
       QRegularExpression::CaseInsensitiveOption);
   // Blanks count for nothing: "9 時 30 分" is what the book itself writes.
   const QString plain = text::toHalfWidth(typed).remove(u' ');
@@ -36,7 +36,7 @@ std::optional<QTime> typedTime(const QString& typed) {
   if (!match.hasMatch()) return std::nullopt;
   const auto has = [&](QStringView name) { return match.hasCaptured(name); };
   const auto number = [&](QStringView name) { return match.captured(name).toInt(); };
-  const bool morning = has(u"am") || has(u"amBehind"), afternoon = has(u"pm") || has(u"pmBehind");
+  const bool morning = has(u"am") || has(u"amAfter"), afternoon = has(u"pm") || has(u"pmAfter");
   if (morning && afternoon) return std::nullopt;
   constexpr int kHalfHour = 30;
   const int minute = has(u"half") ? kHalfHour : number(u"minute") + number(u"kanjiMinute");

@@ -60,7 +60,7 @@ void BookingList::sayWithCount(const QStringList& parts) {
 
 void BookingList::sayRows(const QStringList& parts) {
   sayWithCount(parts);
-  if (focused() == u"DBGrid1" && holdsRows())
+  if (focused() == m_list.name() && holdsRows())
     return voice().speakText(rowOnView().join(voice::kSpeechSeparator));
   focusOn(m_list);
 }

@@ -10,7 +10,7 @@
 
 namespace office {
 
-/// What the lists of the appointment book share: bookings of 予約 in DBGrid1, a chosen day, the way to the
+/// What the lists of the appointment book share: bookings of 予約 in a grid, a chosen day, the way to the
 /// chart and back to the caller.
 class BookingList : public screen::ListScreen {
  public:
@@ -21,7 +21,7 @@ class BookingList : public screen::ListScreen {
   void onActivate() override;
   bool onCloseBox() override;
 
-  /// 治療台帳へ代入: the chart screen looks the booked person up, or enters a new patient of that name.
+  /// 治療台帳へ代入: the chart screen finds the booked person, or enters a new patient of that name.
   void handOver();
   /// 閉じる: back to the caller.
   void finish();
@@ -32,14 +32,14 @@ class BookingList : public screen::ListScreen {
   QStringList rowOnView() const override;
   QStringList countOnView() const override;
 
-  /// The bookings of the day among the rows on view; nothing where there are none at all or the engine
-  /// refused, which was told.
+  /// The bookings of the day among the rows on view; nothing if there are none at all or the
+  /// database refused, which was reported.
   std::optional<store::RecordSet> bookingsOfDay(const frame::DayAsked& day);
   /// Says the parts and how many bookings are on view; they are heard before what the focus says next.
   void sayWithCount(const QStringList& parts);
   /// The same for rows that came on view: the keyboard goes to them, and the first of them is heard.
   void sayRows(const QStringList& parts);
-  /// Runs the work once the window has the keyboard: it may tell a message.
+  /// Runs the work once the window has the keyboard: it may show a message.
   void whenActive(std::function<void()> work);
 
   frame::RunState& m_run;
@@ -51,7 +51,7 @@ class BookingList : public screen::ListScreen {
   screen::OnceActive m_onceActive;
 };
 
-/// The screen that the appointment book goes back to. The main menu only where the patients have a file.
+/// The screen that the appointment book goes back to. The main menu only if the patients have a file.
 std::optional<screen::ScreenName> callerOf(const frame::RunState& run);
 
 }  // namespace office

@@ -3,12 +3,12 @@
 #include <array>
 
 #include "office/screens/day_lists.h"
-#include "platform/screen/rows.h"
+#include "platform/screen/declare.h"
 #include "platform/store/tables/bookings.h"
 
 namespace office {
 
-// What the screens of the appointment book are declared with.
+// Rows that the screens of the appointment book share.
 
 /// A list of years, as texts.
 template <int First, int Last>
@@ -43,13 +43,10 @@ consteval screen::Combo dateList(const char16_t* name, const char16_t* caption, 
                        .onEnter = onEnter};
 }
 
-/// A booking as the lists show it: what a listener wants first stands first.
-inline constexpr screen::GridColumn kBookingColumns[] = {
-    {bookings::time, u"予約時間"},        {bookings::patientName, u"予約患者"},
-    {bookings::year, u"予約年"},          {bookings::month, u"予約月"},
-    {bookings::day, u"予約日"},           {bookings::weekday, u"予約曜日"},
-    {bookings::patientNumber, u"患者NO"}, {bookings::number, u"予約NO"},
-    {bookings::memo, u"メモ1"},           {bookings::stamp, u"登録日時"}};
+/// A booking as the lists show it: what is wanted first when listening comes first.
+inline constexpr auto kBookingColumns = screen::gridOf(
+    bookings::time, bookings::patientName, bookings::year, bookings::month, bookings::day, bookings::weekday,
+    bookings::patientNumber, bookings::number, bookings::memo, bookings::stamp);
 
 inline constexpr char16_t kHandOverTip[] = u"選択した会員を会員名簿の検索欄に代入します。";
 

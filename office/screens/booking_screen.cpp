@@ -75,7 +75,7 @@ void BookingScreen::rowShown(int) { m_shown = fields(); }
 // ---- Which booking is on view
 
 void BookingScreen::begin(const std::optional<frame::Patient>& patient) {
-  // Read afresh, so that a list narrowed to one booking does not stay.
+  // Read afresh, so that a set narrowed to one booking does not remain.
   if (!openTable() || !source().addNew()) return;
   putDay(m_run.clock->today());
   setText(kTime, timeText(m_run.clock->now().time()));
@@ -223,7 +223,7 @@ bool BookingScreen::putSerial() {
 void BookingScreen::storeRow() {
   const QStringList typed = fields();
   if (!source().isOpen()) {
-    // A file that could not be opened before is tried again; what was typed becomes a booking of its own.
+    // A file that could not be opened before is tried again; what was typed becomes a new booking.
     if (!openTable() || !source().addNew()) return;
     putFields(typed);
   }
@@ -252,7 +252,7 @@ void BookingScreen::finish() {
   }
   const auto day = dayOfLists(*this, kDay);
   if (!day) {
-    // A stored row without a date is left as it is; one that was changed is put right first.
+    // A stored row without a date is left as it is; one that was changed has to be corrected first.
     if (fields() != m_shown)
       askedDay(*this, kDay);
     else

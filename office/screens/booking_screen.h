@@ -32,7 +32,7 @@ class BookingScreen : public screen::RecordScreen {
 
  protected:
   QStringList rowInWords() const override;
-  bool readyToMove() override { return source().ensureOpen(); }
+  bool readyToMove() override { return source().ensureOpen() && mayLeaveRow(); }
   /// Asks where the user typed something that is not stored. False: the booking stays.
   bool mayLeaveRow() override;
   void sayDone(const QString& done) override;
@@ -41,7 +41,7 @@ class BookingScreen : public screen::RecordScreen {
   bool openTable();
   void begin(const std::optional<frame::Patient>& patient);
   void showBooking(qint64 id);
-  /// To where the user begins: the first field of a booking, of a new one the first that is still blank.
+  /// Focuses the field that the user begins with: the first of a booking, of a new one the first blank one.
   void focusOnField();
   void putDay(QDate date);
   /// The lists of the day, and the hidden fields of the same columns.

@@ -10,7 +10,7 @@ class DayPickScreen : public screen::Screen {
  public:
   DayPickScreen(const screen::ScreenRow& declaration, screen::Services& services, frame::RunState& run);
 
-  /// The lists stand on the day asked for last, today where none was.
+  /// The lists begin with the day asked for last, otherwise with today.
   void opened(const screen::Request& request) override;
   void pick();
   void cancel();

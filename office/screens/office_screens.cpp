@@ -11,6 +11,7 @@
 #include "office/screens/totals_screen.h"
 #include "office/screens/week_screen.h"
 #include "platform/screen/prompt_list.h"
+#include "platform/text/utf16.h"
 
 namespace office {
 
@@ -21,7 +22,7 @@ template <class S>
 void addTwins(screen::ScreenRegistry& registry, std::span<const screen::ScreenRow> twins,
               frame::RunState& run) {
   for (const screen::ScreenRow& twin : twins)
-    registry.add(QString::fromUtf16(twin.name.get()), [&twin, &run](screen::Services& services) {
+    registry.add(text::utf16(twin.name.get()), [&twin, &run](screen::Services& services) {
       return std::make_unique<S>(twin, services, run);
     });
 }

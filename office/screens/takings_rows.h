@@ -12,17 +12,9 @@ namespace office::takings_rows {
 
 using namespace screen;
 
-inline constexpr GridColumn kColumns[] = {
-    {visits::date, u"治療日時"},
-    {visits::name, u"氏名"},
-    {visits::summary, u"治療概略"},
-    {visits::insurerPays, u"保険者負担金"},
-    {visits::share, u"保険の一部負担金"},
-    {visits::fee, u"治療金額"},
-    {visits::receiptDone, u"領収証チェック"},
-    {visits::isNew, u"新患"},
-    {visits::birth, u"生年月日"},
-};
+inline constexpr auto kColumns =
+    gridOf(visits::date, visits::name, visits::summary, visits::insurerPays, visits::share, visits::fee,
+           visits::receiptDone, visits::isNew, visits::birth);
 
 inline constexpr Row kRows[] = {
     Grid{.name = {u"DBGrid1"},

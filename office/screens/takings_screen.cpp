@@ -102,7 +102,7 @@ void TakingsScreen::showTotals() {
 
 // ---- The row ----
 
-// A visit without its link would show whoever stands first in the register.
+// A visit without its link would show the first patient of the register.
 void TakingsScreen::openPatient() {
   if (emptySet() || !source().ensureRead()) return;
   const QString serial = source().rows().value(visits::patientSerial);

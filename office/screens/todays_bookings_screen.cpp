@@ -15,7 +15,7 @@ namespace {
 
 using namespace todays_rows;
 
-/// Of the settings' platform value: where the calendar ends the program.
+/// The platform value of the settings with which the calendar ends the program.
 constexpr QStringView kCalendarFails = u"Xp";
 
 }  // namespace
@@ -39,7 +39,7 @@ void TodaysBookingsScreen::opened(const screen::Request& request) {
   if (asked && asked->lastRow && holdsRows()) source().moveLast();
   m_showsDay = asked && asked->showsDay;
   if (m_showsDay) return whenActive([this] { showDay(); });
-  // Coming back, the listener has to know whether all bookings are on view.
+  // Coming back, the user has to hear whether all bookings are on view.
   if (again) sayWithCount(headingTexts());
 }
 
@@ -93,7 +93,7 @@ void TodaysBookingsScreen::showDay() {
   if (hits->recordCount() == 0) {
     screen::tellNotFound(*this);
     QStringList texts{dayText(m_run.eraDates(), *date) + u"の予約はありません。"_s};
-    // A day is sought among the rows on view: whoever hears "no match" has to know that.
+    // The day is searched among the rows on view: who hears "no match" has to know that.
     if (m_narrowed) texts += u"表示中の予約の中から探しました。全表示に戻すと、すべての予約から探せます。"_s;
     return sayWithCount(texts << u"表示中"_s);
   }

@@ -5,7 +5,7 @@
 namespace office {
 
 /// 今日の予約: all bookings, narrowed to a day or to a text. A search narrows the rows on view; the list
-/// keeps them until 全表示に戻す.
+/// stays narrowed until 全表示に戻す.
 /// Coming back to the open list reads its rows afresh.
 class TodaysBookingsScreen : public BookingList {
  public:
@@ -34,15 +34,15 @@ class TodaysBookingsScreen : public BookingList {
   void setChanged(const QString& done) override;
 
  private:
-  /// The day of the three lists, told where they hold no date; its weekday is shown.
+  /// The day of the three lists, whose weekday is shown; lists without a date are reported.
   std::optional<QDate> readLists();
   /// Title, and that not all bookings are on view.
   QStringList headingTexts() const;
-  /// The rows on view are read again, where they lie behind what happened on other screens.
+  /// Reads the rows on view again: other screens may have changed them.
   void readAgain();
   bool m_loaded = false;
   bool m_narrowed = false;
-  bool m_showsDay = false;  ///< opened for a day: its bookings are told, not those on view before
+  bool m_showsDay = false;  ///< opened for a day: its bookings are said, not those on view before
 };
 
 }  // namespace office

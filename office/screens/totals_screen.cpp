@@ -3,6 +3,7 @@
 #include "frame/core/routes.h"
 #include "platform/screen/declare.h"
 #include "platform/text/number.h"
+#include "platform/text/utf16.h"
 
 namespace office {
 
@@ -84,7 +85,7 @@ void TotalsScreen::opened(const Request& request) {
   for (const ControlRef& control : {kNewPatients.box, kNewPatients.unit, kNote})
     setShown(control, !onePatient);
   for (const SumBox& sum : kSums) setText(sum.box, text::thousands(totals.*sum.sum));
-  // Shown again while it is open, it has no opening of its own.
+  // Shown again while it is open it does not say its opening by itself.
   if (isVisible()) sayResult(openingTexts());
 }
 
@@ -101,7 +102,7 @@ QStringList TotalsScreen::openingTexts() const {
 
 void addTotalsScreens(ScreenRegistry& registry) {
   for (const ScreenRow& row : kTotals)
-    registry.add(QString::fromUtf16(row.name.get()),
+    registry.add(text::utf16(row.name.get()),
                  [&row](Services& services) { return std::make_unique<TotalsScreen>(row, services); });
 }
 

@@ -5,7 +5,7 @@
 
 namespace office {
 
-/// 集計総合金額 and its twin of the claim side, 集計レセ総合金額: six sums, heard when they come up and read
+/// 集計総合金額 and its twin of the claim side, 集計レセ総合金額: six sums, said when it opens and read
 /// again by Tab. A sum of nothing leaves its box empty. Where the visits of one patient are summed the first
 /// box counts treatments, and there is no sixth.
 class TotalsScreen : public screen::Screen {

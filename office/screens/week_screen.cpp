@@ -7,6 +7,7 @@
 #include "platform/screen/find_row.h"
 #include "platform/screen/opens.h"
 #include "platform/store/tables/bookings.h"
+#include "platform/text/utf16.h"
 
 namespace office {
 
@@ -64,7 +65,7 @@ WeekScreen::WeekScreen(screen::Services& services, frame::RunState& run)
     : BookingList(kDeclaration, kList, services, run) {}
 
 void WeekScreen::opened(const screen::Request&) {
-  standOn(0);
+  chooseWeek(0);
   whenActive([this] { showDay(); });
 }
 
@@ -73,16 +74,16 @@ void WeekScreen::showNextWeek() { showWeek(kDaysOfWeek); }
 void WeekScreen::showLastWeek() { showWeek(-kDaysOfWeek); }
 
 void WeekScreen::showWeek(int days) {
-  standOn(days);
+  chooseWeek(days);
   showDay();
 }
 
-void WeekScreen::standOn(int days) {
+void WeekScreen::chooseWeek(int days) {
   m_reference = m_run.clock->today().addDays(days);
-  setText(kWeekdays, QString::fromUtf16(kTabs[tabOf(m_reference) - 1]));
-  // Before the button under the focus goes out, the focus goes to the days.
+  setText(kWeekdays, text::utf16(kTabs[tabOf(m_reference) - 1]));
+  // The focus moves to the days before the button under it is disabled.
   focusOn(kWeekdays);
-  // One week to either side is all that the view reaches.
+  // The view reaches one week to either side.
   setEnabledControl(kThisWeek, days != 0);
   setEnabledControl(kNextWeek, days == 0);
   setEnabledControl(kLastWeek, days == 0);
@@ -94,7 +95,7 @@ void WeekScreen::showDay() {
   setText(kDayOnView, spelled);
   m_run.dayAsked = numbersOf(date);
   auto hits = openWhole() ? bookingsOfDay(m_run.dayAsked) : std::nullopt;
-  // Told by then: no other day's rows are left under this date.
+  // Already reported: no other day's rows are left under this date.
   if (!hits) return source().assign({});
   const bool none = hits->recordCount() == 0;
   source().assign(std::move(*hits));

@@ -5,8 +5,8 @@
 namespace office {
 
 /// 予約週間表: the bookings of one day of this, the next or the last week, chosen by its tab. Every tab reads
-/// the book afresh; a day without bookings leaves the list empty, so that no other day's rows stand under its
-/// date.
+/// the book afresh; a day without bookings leaves the list empty, so that no other day's rows are listed
+/// under its date.
 class WeekScreen : public BookingList {
  public:
   WeekScreen(screen::Services& services, frame::RunState& run);
@@ -20,10 +20,10 @@ class WeekScreen : public BookingList {
   void showLastWeek();
 
  private:
-  /// The week around the day that many days from today, on today's weekday.
+  /// Shows the week that is `days` from this one, on today's weekday.
   void showWeek(int days);
-  /// The same without the bookings: tab and buttons.
-  void standOn(int days);
+  /// Sets tab and buttons for it, without reading the bookings.
+  void chooseWeek(int days);
   QDate m_reference;
 };
 

@@ -7,7 +7,9 @@
 namespace screen {
 
 void ControlBook::addName(const QString& name, Control& control) {
-  if (m_byName.contains(name)) qCritical("two controls %s on this screen", qUtf8Printable(name));
+  const Control* const known = m_byName.value(name);
+  // A menu entry without a button gives its own name to its action once more.
+  if (known && known != &control) qCritical("two controls %s on this screen", qUtf8Printable(name));
   m_byName.insert(name, &control);
 }
 

@@ -148,4 +148,10 @@ consteval auto joined(const Row (&... tables)[Sizes]) {
   (std::make_index_sequence<(Sizes + ...)>());
 }
 
+/// Grid columns that are captioned by their own names.
+template <class... Columns>
+consteval std::array<GridColumn, sizeof...(Columns)> gridOf(const Columns&... columns) {
+  return {GridColumn{columns, columns.name()}...};
+}
+
 }  // namespace screen

@@ -49,8 +49,8 @@ ClaimPrintScreen::ClaimPrintScreen(Services& services, const PrintForm& form, fr
 void ClaimPrintScreen::onLoad() {
   const claims::ClaimRecord claim =
       m_state.display == nullptr ? claims::ClaimRecord() : m_state.display->record();
-  const Edition preset = presetEdition(m_screen, m_run.eraDates(), claim.get(u"申請年月"_s),
-                                       claim.get(QString::fromUtf16(claim::summaryKind)));
+  const Edition preset = presetEdition(m_screen, m_run.eraDates(), claim.get(claim::month),
+                                       claim.get(claim::summaryKind));
   if (const char16_t* option = rowOf(m_screen).controlOf(preset))
     choose(editionGroup(), QString::fromUtf16(option));
   const PrintTicks set = presetTicks(frame::prefectureOf(m_run.prefectureCode));
@@ -96,11 +96,7 @@ void ClaimPrintScreen::print() {
   PrintJob job = claimJob(claim, m_screen, dates);
   job.programFolder = m_run.programFolder;
   job.window = m_state.display->window();
-  job.prompt = [this] {
-    const bool go = messages().ask(promptOf(objectName()));
-    m_run.lastAnswer = go ? 1 : 2;
-    return go;
-  };
+  job.prompt = [this] { return messages().ask(promptOf(objectName())); };
   job.prepare = [this, &claim] { return claimPassesChecks(claim.claim); };
   job.cleanUp = [this] { leave(); };
   voice::VoiceGuide& guide = voice();  // the screen is gone when the print has ended

@@ -74,11 +74,7 @@ QStringList ConsentWatchScreen::openingTexts() const {
 void ConsentWatchScreen::print() {
   if (m_rows.isEmpty()) return messages().tell(QString::fromUtf16(kNothingToPrint));
   HandJob job;
-  job.prompt = [this] {
-    const bool go = messages().ask(promptOf(objectName()));
-    m_run.lastAnswer = go ? 1 : 2;
-    return go;
-  };
+  job.prompt = [this] { return messages().ask(promptOf(objectName())); };
   job.window = winId();
   job.title = u"同意期限一ヶ月以内"_s;
   job.pages = consentPages(m_rows.size());

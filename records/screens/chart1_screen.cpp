@@ -17,7 +17,7 @@ using namespace chart1_rows;
 namespace {
 
 constexpr screen::ScreenName kDictionaryWindows[] = {routes::Phrases::screen, routes::PhrasePairs::screen,
-                                                routes::Acupoints::screen};
+                                                     routes::Acupoints::screen};
 
 constexpr char16_t kUpdateQuestion[] = u"       　　    更新しますか？";
 constexpr char16_t kUpdateWarning[] =
@@ -124,7 +124,8 @@ void Chart1Screen::closeDictionaries() {
 
 // ---- Leaving ----
 
-// What was typed is stored before the question. A row that the file keeps refusing must not lock the user in.
+// What was typed is stored before the question. A row that the file refuses every time must not lock
+// the user in.
 void Chart1Screen::finish() {
   if (!source().isOpen() || source().write()) {
     if (messages().ask(text::utf16(kCloseQuestion))) closeNow();

@@ -6,11 +6,11 @@
 
 namespace records {
 
-/// A dictionary: its screen and the path of its file.
+/// A dictionary: its screen, its file and what differs between them.
 struct DictionaryRow {
   const screen::ScreenRow& screen;
   screen::ControlRef entry;  ///< the field whose text is copied and spoken
-  int folder;                ///< of DataFolders
+  int folder;                ///< index of its file's path in DataFolders
   const char16_t* newRow;    ///< says how a new row is filled
 };
 

@@ -5,7 +5,7 @@
 namespace records {
 
 /// 抽出3: narrows the list of patients by sex, keyword, age or address, each kind with an input of its own.
-/// Where the list refuses, which it tells, the dialog stays with what was typed.
+/// If the list refuses, which it reports, the dialog stays with what was typed.
 class PatientExtractScreen : public screen::Screen {
  public:
   explicit PatientExtractScreen(screen::Services& services);
@@ -17,7 +17,7 @@ class PatientExtractScreen : public screen::Screen {
   void typeWord();
 };
 
-/// The criteria of a kind (性別, キーワード, 年齢以上, 年齢以下, 住所) for what stands in its input.
+/// The criteria of a kind (性別, キーワード, 年齢以上, 年齢以下, 住所) for the text of its input.
 QString extractCriteria(const QString& kind, const QString& word);
 
 }  // namespace records

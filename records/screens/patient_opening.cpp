@@ -34,7 +34,7 @@ void PatientScreen::onActivate() {
     QMetaObject::invokeMethod(this, &PatientScreen::showWaiting, Qt::QueuedConnection);
 }
 
-// With the keyboard on this screen: before that, closing a message would speak the screen behind once more.
+// With the keyboard on this screen: before that, closing a message would speak the screen below once more.
 void PatientScreen::showWaiting() {
   if (std::exchange(m_asksGrowth, false)) {
     offerGrowth();

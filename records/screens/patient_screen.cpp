@@ -250,7 +250,7 @@ void PatientScreen::openReceipt() {
 
 template <class R>
 void PatientScreen::openBookings(const R& route) {
-  m_run.callerMark = frame::caller::kPatients;
+  m_run.bookingsCaller = Route::screen;
   navigator().show(route);
 }
 

@@ -91,7 +91,7 @@ class PatientScreen : public screen::RecordScreen {
   template <class R>
   void openBookings(const R& route);
   void convert(const DateConversion& conversion);
-  /// The patient on view as the fields show him, with his address as one text.
+  /// The patient as the fields show it now, with the address as one text.
   frame::Patient patientOnView() const;
   frame::RunState& m_run;
   bool m_asksGrowth = false;

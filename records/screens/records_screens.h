@@ -6,7 +6,7 @@
 
 namespace records {
 
-/// Registers the screens of patients and visits. Lists and labels are printed through the engine.
+/// Registers the screens of patients and visits. Lists and labels are printed through the report engine.
 void registerScreens(screen::ScreenRegistry& registry, frame::RunState& run,
                      report::ReportOperations& engine);
 

@@ -1,6 +1,7 @@
 #include "claims/core/check_grid.h"
 #include "platform/screen/bound_values.h"
 #include "platform/screen/hourglass.h"
+#include "platform/text/utf16.h"
 #include "records/screens/visit_ledger_rows.h"
 
 // The typed days of a claim: validated, written to both halves, handed over to the claim form.
@@ -58,7 +59,7 @@ void VisitLedgerScreen::handOver() {
   if (!form) return;
   if (!messages().ask(u"レセプトデータの登録を押してください。"_s))
     return navigator().unload(routes::ClaimForm::screen);
-  form->focusOn(u"cmdUpdate"_s);
+  form->focusOn(text::utf16(routes::ClaimForm::storeCommand));
   navigator().show(routes::ClaimForm::screen);
 }
 

@@ -4,7 +4,11 @@
 #include <cstdio>
 
 #include "office/core/booking_book.h"
+#include "platform/store/criteria_text.h"
 #include "platform/store/database.h"
+#include "platform/store/tables/bookings.h"
+#include "platform/store/tables/visits.h"
+#include "platform/text/utf16.h"
 #include "records/core/visit_totals.h"
 #include "tools/bench/bench_rows.h"
 #include "tools/bench/commands.h"
@@ -14,13 +18,12 @@ namespace bench {
 namespace {
 
 constexpr int kRuns = 9;
-const QString kDate = QStringLiteral("治療日時"), kTime = QStringLiteral("予約時間");
 using Ids = std::vector<qint64>;
 
-store::Result<store::RecordSet> openTable(const QString& path, const QString& table) {
+store::Result<store::RecordSet> openTable(const QString& path, const store::Table& table) {
   auto database = store::Database::open(path);
   if (!database) return database.fault();
-  return store::RecordSet::open(*database, table);
+  return store::RecordSet::open(*database, text::utf16(table.name()));
 }
 
 /// Narrows and sorts as a list does: each step on the result of the one before.
@@ -39,7 +42,7 @@ store::Result<store::RecordSet> narrowed(store::RecordSet& from, const QStringLi
 }
 
 /// The bookmarks of all rows from the first to the last, after the first window of a list has been shown.
-Ids shown(store::Result<store::RecordSet> set, const QString& column) {
+Ids shown(store::Result<store::RecordSet> set, const store::Column& column) {
   constexpr int kShownRows = 50;
   Ids ids;
   if (!set) return ids;
@@ -57,27 +60,27 @@ int failed(const char* what) {
 }
 
 int patientsVisits(const QString& path) {
-  const QString sort = QStringLiteral("治療日チェック ASC");
+  const QString sort = visits::dateShadow + QStringLiteral(" ASC");
   PlainFile plain(path);
   // A whole key, and a part of one that fits ten patients.
   const QString keys[] = {patientKey(7), patientKey(70).chopped(1)};
   const auto narrowTo = [&](store::Result<store::RecordSet>& all, const QString& key) {
-    return narrowed(*all, {QStringLiteral("ETC1 like '*%1*' ").arg(key)}, sort);
+    return narrowed(*all, {store::likeCriterion(visits::patientSerial, key)}, sort);
   };
   Ids listed;
   const double first = middleMilliseconds(3, [&] {
-    auto all = openTable(path, QStringLiteral("カルテ"));
-    if (all) listed = shown(narrowTo(all, keys[0]), kDate);
+    auto all = openTable(path, visits::table);
+    if (all) listed = shown(narrowTo(all, keys[0]), visits::date);
   });
   figure("visits_of_patient_first", first, "ms");
-  auto all = openTable(path, QStringLiteral("カルテ"));
+  auto all = openTable(path, visits::table);
   if (!all) return failed("カルテ");
   for (const QString& key : keys) {
     Ids scanned;
     const QString scan =
         QStringLiteral("SELECT ID FROM カルテ WHERE ETC1 LIKE '%%1%' ORDER BY 治療日チェック, ID").arg(key);
     const double floor = middleMilliseconds(3, [&] { scanned = plain.numbers(scan); });
-    const double again = middleMilliseconds(kRuns, [&] { listed = shown(narrowTo(all, key), kDate); });
+    const double again = middleMilliseconds(kRuns, [&] { listed = shown(narrowTo(all, key), visits::date); });
     std::sort(listed.begin(), listed.end());
     std::sort(scanned.begin(), scanned.end());
     if (listed != scanned || listed.empty()) return failed("a patient's visits differ from the scan's");
@@ -98,12 +101,12 @@ int sums(const QString& path, const char* name, const QString& month) {
   const double floor = middleMilliseconds(3, [&] { plainSums = plain.numbers(scan); });
   records::VisitTotals totals;
   const auto work = [&](store::Result<store::RecordSet> all) {
-    const auto set = narrowed(*all, {QStringLiteral("治療日時 like '%1*'").arg(month)}, QString());
+    const auto set = narrowed(*all, {store::prefixCriterion(visits::date, month)}, QString());
     if (const auto made = records::totalsOf(*set)) totals = *made;
   };
-  const double first = middleMilliseconds(3, [&] { work(openTable(path, QStringLiteral("カルテ"))); });
+  const double first = middleMilliseconds(3, [&] { work(openTable(path, visits::table)); });
   const auto kept = store::Database::open(path);
-  const double again = middleMilliseconds(kRuns, [&] { work(openTable(path, QStringLiteral("カルテ"))); });
+  const double again = middleMilliseconds(kRuns, [&] { work(openTable(path, visits::table)); });
   const Ids ours = {totals.rows,      totals.insurer,  totals.share,
                     totals.treatment, totals.receipts, totals.newPatients};
   if (ours != plainSums) return failed("the sums differ from the scan's");
@@ -122,13 +125,13 @@ int bookings(const QString& path) {
   Ids listed, scanned;
   const double floor = middleMilliseconds(3, [&] { scanned = plain.numbers(scan); });
   const double first = middleMilliseconds(3, [&] {
-    auto all = openTable(path, QStringLiteral("予約"));
-    if (all) listed = shown(office::bookingsOf(*all, day), kTime);
+    auto all = openTable(path, bookings::table);
+    if (all) listed = shown(office::bookingsOf(*all, day), bookings::time);
   });
-  auto all = openTable(path, QStringLiteral("予約"));
+  auto all = openTable(path, bookings::table);
   if (!all) return failed("予約");
   const double again =
-      middleMilliseconds(kRuns, [&] { listed = shown(office::bookingsOf(*all, day), kTime); });
+      middleMilliseconds(kRuns, [&] { listed = shown(office::bookingsOf(*all, day), bookings::time); });
   std::sort(listed.begin(), listed.end());
   std::sort(scanned.begin(), scanned.end());
   if (listed != scanned || listed.empty()) return failed("a day's bookings differ from the scan's");
@@ -145,11 +148,11 @@ int day(const QStringList& arguments) {
     std::fputs("bench day DIR\n", stderr);
     return 2;
   }
-  const QString visits = arguments[0] + QStringLiteral("/カルテ2データ2000.mdb");
+  const QString visitsFile = arguments[0] + QStringLiteral("/カルテ2データ2000.mdb");
   if (const int status = bookings(arguments[0] + QStringLiteral("/予約2000.mdb"))) return status;
-  if (const int status = sums(visits, "sums_of_month", QStringLiteral("令和6年10月"))) return status;
-  if (const int status = sums(visits, "sums_of_year", QStringLiteral("令和6年"))) return status;
-  return patientsVisits(visits);
+  if (const int status = sums(visitsFile, "sums_of_month", QStringLiteral("令和6年10月"))) return status;
+  if (const int status = sums(visitsFile, "sums_of_year", QStringLiteral("令和6年"))) return status;
+  return patientsVisits(visitsFile);
 }
 
 }  // namespace bench

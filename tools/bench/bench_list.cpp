@@ -5,6 +5,8 @@
 
 #include "platform/store/database.h"
 #include "platform/store/record_set.h"
+#include "platform/store/tables/claims.h"
+#include "platform/text/utf16.h"
 #include "tools/bench/commands.h"
 #include "tools/bench/plain_query.h"
 
@@ -12,11 +14,14 @@ namespace bench {
 namespace {
 
 constexpr int kShownRows = 50;
-const QString kTable = QStringLiteral("保険申請");
-const QStringList kShown = {QStringLiteral("ID"),         QStringLiteral("申請年月"),
-                            QStringLiteral("氏名"),       QStringLiteral("保険の種類"),
-                            QStringLiteral("保険者番号"), QStringLiteral("施術内容"),
-                            QStringLiteral("合計"),       QStringLiteral("請求額")};
+const store::Column kShown[] = {claim::id,
+                                claim::month,
+                                claim::name,
+                                claim::insuranceKind,
+                                claim::insurerNumber,
+                                claim::treatmentKind,
+                                claim::total,
+                                claim::claimed};
 
 struct Listing {
   const char* name;
@@ -32,14 +37,15 @@ constexpr Listing kListings[] = {{"list_default", u"", u"ID DESC"},
 int show(const store::RecordSet& set, int from) {
   int letters = 0;
   for (int row = from; row < std::min(from + kShownRows, set.recordCount()); ++row)
-    for (const QString& column : kShown) letters += static_cast<int>(set.valueAt(row, column).size());
+    for (const store::Column& column : kShown) letters += static_cast<int>(set.valueAt(row, column).size());
   return letters;
 }
 
 QString plainText(const Listing& one) {
+  const QStringList shown(std::begin(kShown), std::end(kShown));
   const QString filter = QString::fromUtf16(one.filter), sort = QString::fromUtf16(one.sort);
   return QStringLiteral("SELECT %1 FROM 保険申請 %2 ORDER BY %3 LIMIT %4")
-      .arg(kShown.join(u','), filter.isEmpty() ? QString() : QStringLiteral("WHERE ") + filter, sort)
+      .arg(shown.join(u','), filter.isEmpty() ? QString() : QStringLiteral("WHERE ") + filter, sort)
       .arg(kShownRows);
 }
 
@@ -53,7 +59,7 @@ QString plainCount(const Listing& one) {
 text::Result<store::RecordSet> opened(const QString& path, const Listing& one) {
   auto database = store::Database::open(path);
   if (!database) return database.fault();
-  auto set = store::RecordSet::open(*database, kTable);
+  auto set = store::RecordSet::open(*database, text::utf16(claim::firstHalf.name()));
   if (!set) return set.fault();
   set->setFilter(QString::fromUtf16(one.filter));
   set->setSort(QString::fromUtf16(one.sort));

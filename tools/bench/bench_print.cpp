@@ -43,8 +43,8 @@ class Month {
     if (claim) source.claim = claim.value();
     source.edition = printing::Edition::From202410;
     source.prefecture = frame::Prefecture::Hokkaido;
-    source.profile[frame::profile::kRegistration] = QStringLiteral("例示第０００１号");
-    source.profile[frame::profile::kHealthOffice] = QStringLiteral("施術所所在地");
+    source.profile[frame::slot::kRegistration] = QStringLiteral("例示第０００１号");
+    source.profile[frame::slot::kHealthOffice] = QStringLiteral("施術所所在地");
     return source;
   }
 

@@ -2,6 +2,9 @@
 
 #include <QStringList>
 
+#include "platform/store/tables/claims.h"
+#include "platform/store/tables/patients.h"
+
 namespace bench {
 namespace {
 
@@ -19,38 +22,38 @@ constexpr const char16_t* kShares[] = {u"1割", u"2割", u"3割"};
 constexpr const char16_t* kCodes[] = {u"a", u"b", u"e", u"f"};
 
 /// Columns that every claim carries alike.
-constexpr std::pair<const char16_t*, const char16_t*> kShared[] = {
-    {u"申請年月", u"令和6年10月"},
-    {u"申請月", u"10"},
-    {u"施術内容", u"鍼灸"},
-    {u"施術科目", u"鍼灸"},
-    {u"保険の種類3", u"国民健保"},
-    {u"保険者住所", u"架空県みほん市見本町１－１"},
-    {u"発病又は負傷年月日", u"令和6年1月10日"},
-    {u"初療年月日", u"令和6年2月3日"},
-    {u"実際の同意の年月日", u"令和6年9月1日"},
-    {u"同意の傷病名", u"腰痛症"},
-    {u"同意症状", u"関節拘縮"},
-    {u"同意医師氏名", u"見本 医太郎"},
-    {u"同意医師住所", u"架空県みほん市医院町１－２"},
-    {u"医療機関名", u"架空みほん整形外科"},
-    {u"要加療期間1", u"令和6年9月1日"},
-    {u"要加療期間2", u"令和7年2月28日"},
-    {u"請求年月日", u"令和6年11月1日"},
-    {u"請求区分", u"継続"},
-    {u"転帰", u"継続"},
-    {u"業務上外のもの", u"その他"},
-    {u"第三者行為によるもの", u"いいえ"},
-    {u"入院入院外の別", u"入院外"},
-    {u"傷病名5", u"-1"},
-    {u"施術者氏名", u"架空 治子"},
-    {u"施術所の名称", u"架空はりきゅう院"},
-    {u"施術所の所在地", u"架空県みほん市仮町３"},
-    {u"施術所電話番号", u"00-0000-0002"},
-    {u"金融機関名", u"架空"},
-    {u"口座番号", u"0123456"},
-    {u"摘要1", u"往療は医師の指示による"},
-    {u"同意_患者", u"-1"}};
+constexpr std::pair<store::Column, const char16_t*> kShared[] = {
+    {claim::month, u"令和6年10月"},
+    {claim::monthNumber, u"10"},
+    {claim::treatmentKind, u"鍼灸"},
+    {claim::subject, u"鍼灸"},
+    {claim::printedInsurance, u"国民健保"},
+    {claim::insurerAddress, u"架空県みほん市見本町１－１"},
+    {claim::onset, u"令和6年1月10日"},
+    {claim::firstTreatment, u"令和6年2月3日"},
+    {claim::consentDate, u"令和6年9月1日"},
+    {claim::consentDisease, u"腰痛症"},
+    {claim::consentSymptom, u"関節拘縮"},
+    {claim::doctorName, u"見本 医太郎"},
+    {claim::doctorAddress, u"架空県みほん市医院町１－２"},
+    {claim::hospital, u"架空みほん整形外科"},
+    {claim::consentFrom, u"令和6年9月1日"},
+    {claim::consentUntil, u"令和7年2月28日"},
+    {claim::requestDate, u"令和6年11月1日"},
+    {claim::requestKind, u"継続"},
+    {claim::outcome, u"継続"},
+    {claim::workRelated, u"その他"},
+    {claim::thirdParty, u"いいえ"},
+    {claim::hospitalised, u"入院外"},
+    {claim::diseaseTick[5], u"-1"},
+    {claim::practitionerName, u"架空 治子"},
+    {claim::clinicName, u"架空はりきゅう院"},
+    {claim::clinicAddress, u"架空県みほん市仮町３"},
+    {claim::clinicTelephone, u"00-0000-0002"},
+    {claim::bank, u"架空"},
+    {claim::account, u"0123456"},
+    {claim::remark[1], u"往療は医師の指示による"},
+    {claim::consentToPatient, u"-1"}};
 
 template <size_t N>
 QString any(const char16_t* const (&texts)[N], int number, quint32 purpose) {
@@ -94,60 +97,58 @@ QString patientBirth(int patient) {
 }
 
 Row patientRow(int number) {
-  return {{QStringLiteral("テキスト5"), patientKey(number)},
-          {QStringLiteral("カルテ番号"), QString::number(number + 1)},
-          {QStringLiteral("氏名"), patientName(number)},
-          {QStringLiteral("ふりがな"), reading(number)},
-          {QStringLiteral("性別"), lot(number, 9) % 2 ? QStringLiteral("男") : QStringLiteral("女")},
-          {QStringLiteral("生年月日"), patientBirth(number)},
-          {QStringLiteral("年齢"), QString::number(20 + lot(number, 3) % 80)},
-          {QStringLiteral("職業"), QStringLiteral("無職")},
-          {QStringLiteral("郵便番号"), QStringLiteral("000-0001")},
-          {QStringLiteral("住所1"), address(number)},
-          {QStringLiteral("電話1"), QStringLiteral("00-0000-%1").arg(lot(number, 20) % 10000)},
-          {QStringLiteral("初診日"), QStringLiteral("令和6年4月1日")},
-          {QStringLiteral("症状"), QStringLiteral("腰の重だるさが続き、長く座ると強くなる。")},
-          {QStringLiteral("治療"), QStringLiteral("腰部と下肢の経穴に施術した。")}};
+  return {{patients::serial, patientKey(number)},
+          {patients::chartNumber, QString::number(number + 1)},
+          {patients::name, patientName(number)},
+          {patients::kana, reading(number)},
+          {patients::sex, lot(number, 9) % 2 ? QStringLiteral("男") : QStringLiteral("女")},
+          {patients::birth, patientBirth(number)},
+          {patients::age, QString::number(20 + lot(number, 3) % 80)},
+          {patients::occupation, QStringLiteral("無職")},
+          {patients::zip, QStringLiteral("000-0001")},
+          {patients::address[1], address(number)},
+          {patients::telephone[1], QStringLiteral("00-0000-%1").arg(lot(number, 20) % 10000)},
+          {patients::firstVisit, QStringLiteral("令和6年4月1日")},
+          {patients::symptoms, QStringLiteral("腰の重だるさが続き、長く座ると強くなる。")},
+          {patients::treatment, QStringLiteral("腰部と下肢の経穴に施術した。")}};
 }
 
 Row firstHalfRow(int number, int patients) {
   const int patient = number % std::max(patients, 1);
   const quint32 kind = lot(number, 40) % std::size(kKinds);
   Row row;
-  for (const auto& [column, text] : kShared) row.insert(QString::fromUtf16(column), QString::fromUtf16(text));
+  for (const auto& [column, text] : kShared) row.insert(column, QString::fromUtf16(text));
   const QString kana = reading(patient);
-  for (const char16_t* column : {u"氏名", u"被保険者の氏名", u"療養を受ける者の氏名"})
-    row.insert(QString::fromUtf16(column), patientName(patient));
-  for (const char16_t* column : {u"被保険者のフリガナ", u"療養を受ける者のフリガナ"})
-    row.insert(QString::fromUtf16(column), kana);
-  for (const char16_t* column : {u"生年月日", u"被保険者の生年月日", u"療養を受ける者の生年月日"})
-    row.insert(QString::fromUtf16(column), patientBirth(patient));
-  for (const char16_t* column : {u"被保険者の住所", u"療養を受ける者の住所"})
-    row.insert(QString::fromUtf16(column), address(patient));
-  row.insert(QStringLiteral("番号1"), patientKey(patient));
-  row.insert(QStringLiteral("保険の種類"), QString::fromUtf16(kKinds[kind]));
-  row.insert(QStringLiteral("保険順位"), QString::fromUtf16(kRanks[kind]));
-  row.insert(QStringLiteral("保険者番号"),
-             QStringLiteral("99%1").arg(lot(number, 41) % 40, 4, 10, QLatin1Char('0')));
-  row.insert(QStringLiteral("保険者名称"), QStringLiteral("みほん市%1").arg(lot(number, 41) % 40));
-  row.insert(QStringLiteral("保険証番号"), QString::number(1000 + lot(number, 42) % 9000));
-  row.insert(QStringLiteral("被保険者との続柄"), any(kRelations, number, 43));
-  row.insert(QStringLiteral("一部負担金"), any(kShares, number, 44));
-  row.insert(QStringLiteral("申請年月"), QStringLiteral("令和6年%1月").arg(1 + number % 12));
+  for (const store::Column& column : {claim::name, claim::insuredName, claim::treatedName})
+    row.insert(column, patientName(patient));
+  for (const store::Column& column : {claim::insuredKana, claim::treatedKana}) row.insert(column, kana);
+  for (const store::Column& column : {claim::birth, claim::insuredBirth, claim::treatedBirth})
+    row.insert(column, patientBirth(patient));
+  for (const store::Column& column : {claim::insuredAddress, claim::treatedAddress})
+    row.insert(column, address(patient));
+  row.insert(claim::patientSerial, patientKey(patient));
+  row.insert(claim::insuranceKind, QString::fromUtf16(kKinds[kind]));
+  row.insert(claim::insuranceOrder, QString::fromUtf16(kRanks[kind]));
+  row.insert(claim::insurerNumber, QStringLiteral("99%1").arg(lot(number, 41) % 40, 4, 10, QLatin1Char('0')));
+  row.insert(claim::insurerName, QStringLiteral("みほん市%1").arg(lot(number, 41) % 40));
+  row.insert(claim::cardNumber, QString::number(1000 + lot(number, 42) % 9000));
+  row.insert(claim::relation, any(kRelations, number, 43));
+  row.insert(claim::shareRate, any(kShares, number, 44));
+  row.insert(claim::month, QStringLiteral("令和6年%1月").arg(1 + number % 12));
   for (int day = 1 + static_cast<int>(lot(number, 45) % 3); day <= 31; day += 3) {
-    row.insert(QStringLiteral("治療内容%1").arg(day), any(kCodes, number, 50 + static_cast<quint32>(day)));
-    if (lot(number, 46) % 4 == 0) row.insert(QStringLiteral("往療距離%1").arg(day), QStringLiteral("v1"));
+    row.insert(claim::dayCode[day], any(kCodes, number, 50 + static_cast<quint32>(day)));
+    if (lot(number, 46) % 4 == 0) row.insert(claim::dayVisit[day], QStringLiteral("v1"));
   }
   return row;
 }
 
 Row secondHalfRow(int number) {
-  return {{QStringLiteral("c1"), QStringLiteral("架空県みほん市仮町３")},
-          {QStringLiteral("c6"), QStringLiteral("市町村長")},
-          {QStringLiteral("c21"), QStringLiteral("-1")},
-          {QStringLiteral("d12"), QStringLiteral("架空県みほん市見本町の自宅")},
-          {QStringLiteral("d15"), QStringLiteral("その他")},
-          {QStringLiteral("txt dummy1"), QString::number(number + 1)}};
+  return {{claim::startPoint[1], QStringLiteral("架空県みほん市仮町３")},
+          {claim::addressee, QStringLiteral("市町村長")},
+          {claim::electricNeedle, QStringLiteral("-1")},
+          {claim::treatmentPlace, QStringLiteral("架空県みほん市見本町の自宅")},
+          {claim::visitReason, QStringLiteral("その他")},
+          {claim::periodFrom, QString::number(number + 1)}};
 }
 
 }  // namespace bench

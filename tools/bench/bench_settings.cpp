@@ -17,7 +17,7 @@ int fault(const text::Fault& fault) {
 int makeSettings(const QString& folder) {
   QDir().mkpath(folder);
   frame::SettingsSlots fresh = frame::freshSettings();
-  fresh[frame::profile::kPractitioner] = QStringLiteral("old");
+  fresh[frame::slot::kPractitioner] = QStringLiteral("old");
   const auto written = frame::writeSettingsFile(frame::settingsPath(folder), fresh);
   return written ? 0 : fault(written.fault());
 }
@@ -25,7 +25,7 @@ int makeSettings(const QString& folder) {
 int storeSettings(const QString& folder, const QString& stamp) {
   frame::RunState run;
   if (const auto read = frame::readRun(folder, run); !read) return fault(read.fault());
-  run.profile[frame::profile::kPractitioner] = stamp;
+  run.profile[frame::slot::kPractitioner] = stamp;
   if (const auto saved = frame::saveRun(run, frame::SettingsWriter::Profile); !saved)
     return fault(saved.fault());
   std::puts("stored");
@@ -36,7 +36,7 @@ int storeSettings(const QString& folder, const QString& stamp) {
 int checkSettings(const QString& folder) {
   frame::RunState run;
   if (const auto read = frame::readRun(folder, run); !read) return fault(read.fault());
-  std::printf("%s | %s\n", qUtf8Printable(run.profile[frame::profile::kPractitioner]),
+  std::printf("%s | %s\n", qUtf8Printable(run.profile[frame::slot::kPractitioner]),
               run.settings.readWhole ? "ok" : "short");
   return 0;
 }

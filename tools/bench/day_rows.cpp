@@ -2,6 +2,8 @@
 
 #include "frame/core/era_date.h"
 #include "platform/store/bulk.h"
+#include "platform/store/tables/bookings.h"
+#include "platform/store/tables/visits.h"
 #include "tools/bench/bench_rows.h"
 
 namespace bench {
@@ -43,17 +45,9 @@ int drawn(int number, quint32 purpose, qsizetype among) {
 }  // namespace
 
 store::Done addVisits(const QString& path, const QString& table, int count, int patients) {
-  const QStringList columns = {QStringLiteral("ETC1"),
-                               QStringLiteral("氏名"),
-                               QStringLiteral("生年月日"),
-                               QStringLiteral("治療日時"),
-                               QStringLiteral("治療日チェック"),
-                               QStringLiteral("治療概略"),
-                               QStringLiteral("治療金額"),
-                               QStringLiteral("保険の一部負担金"),
-                               QStringLiteral("保険者負担金"),
-                               QStringLiteral("領収証チェック"),
-                               QStringLiteral("新患")};
+  const QStringList columns = {visits::patientSerial, visits::name,        visits::birth, visits::date,
+                               visits::dateShadow,    visits::summary,     visits::fee,   visits::share,
+                               visits::insurerPays,   visits::receiptDone, visits::isNew};
   const Texts texts(std::max(patients, 1), kYears * 365);
   const QString note = QStringLiteral("腰部の施術。前回の後に変わりはない。");
   const QString yes = QStringLiteral("-1"), no = QStringLiteral("0");
@@ -76,10 +70,9 @@ store::Done addVisits(const QString& path, const QString& table, int count, int 
 }
 
 store::Done addBookings(const QString& path, const QString& table, int count, int patients) {
-  const QStringList columns = {QStringLiteral("予約NO"),   QStringLiteral("患者NO"),
-                               QStringLiteral("予約患者"), QStringLiteral("予約年"),
-                               QStringLiteral("予約月"),   QStringLiteral("予約日"),
-                               QStringLiteral("予約時間"), QStringLiteral("テキスト1")};
+  const QStringList columns = {bookings::number, bookings::patientNumber, bookings::patientName,
+                               bookings::year,   bookings::month,         bookings::day,
+                               bookings::time,   bookings::patientSerial};
   const QDate first = kLastDay.addDays(2 * 365 - count / kBookingsADay);
   return store::addRows(path, table, columns, count, [&](int number, QStringList& values) {
     const int patient = drawn(number, 35, std::max(patients, 1));

@@ -35,7 +35,7 @@ inline const QStringList kBackupNames = {QStringLiteral("CL2moji2000.mdb"),
                                          kPatientsFile,
                                          QStringLiteral("qv.DAT")};
 
-/// Runs a text on a file with nothing but the engine.
+/// Runs a statement on a file by the database library alone.
 inline bool runOn(const QString& path, const QByteArray& sql) {
   sqlite3* handle = nullptr;
   const bool done = sqlite3_open(QFile::encodeName(path).constData(), &handle) == SQLITE_OK &&
@@ -44,7 +44,7 @@ inline bool runOn(const QString& path, const QByteArray& sql) {
   return done;
 }
 
-/// Damages a file where it stands.
+/// Damages a file in its place.
 inline void scribble(const QString& path, qint64 at) {
   QFile file(path);
   ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(at) && file.write(QByteArray(300, '\x55')) == 300);
@@ -82,7 +82,7 @@ class OtherProgram {
   pid_t m_child = 0;
 };
 
-/// Lets a program die in the middle of a write, so that the file stands half written beside its journal.
+/// Lets a program die in the middle of a write, so that the file is half written and its journal is there.
 /// `before`: its bytes before that write.
 inline void leaveJournal(const QString& path, QByteArray* before = nullptr) {
   ASSERT_TRUE(
@@ -95,7 +95,7 @@ inline void leaveJournal(const QString& path, QByteArray* before = nullptr) {
   ASSERT_TRUE(QFileInfo::exists(path + QStringLiteral("-journal")));
 }
 
-/// A program folder with all twelve files, each with a number by which its copies are told apart.
+/// A program folder with all twelve files, each with a number by which its copies are recognised.
 class BackupTest : public testing::Test {
  protected:
   void SetUp() override {

@@ -43,7 +43,7 @@ class BackupFolderTest : public test::BackupTest {
     EXPECT_EQ(checkedBySystem(folder()), QString());
     EXPECT_EQ(besides(folder()), QStringList());
   }
-  static QStringList told(const BackupReport& report) {
+  static QStringList faultsOf(const BackupReport& report) {
     QStringList lines;
     for (const auto* faults : {&report.faults, &report.pictureFaults})
       for (const text::Fault& fault : *faults) lines += fault.message;
@@ -61,7 +61,7 @@ class BackupFolderTest : public test::BackupTest {
 TEST_F(BackupFolderTest, CopiesElevenFilesTheSettingsAndAllPictures) {
   ASSERT_TRUE(checkBackupFolder(run, folder()));
   const BackupReport report = backUpToFolder(run, folder());
-  EXPECT_EQ(told(report), QStringList());
+  EXPECT_EQ(faultsOf(report), QStringList());
   EXPECT_TRUE(report.whole());
   EXPECT_EQ(report.copied, kOwnNames);
   EXPECT_EQ(report.pictures, 4);
@@ -98,14 +98,14 @@ TEST_F(BackupFolderTest, FilesKeepTheNamesOfTheirPaths) {
   EXPECT_FALSE(QFileInfo::exists(copy(test::kPatientsFile)));
 }
 
-TEST_F(BackupFolderTest, TwoFilesOfOneNameAreTold) {
+TEST_F(BackupFolderTest, TwoFilesOfOneNameAreReported) {
   ASSERT_TRUE(QDir().mkpath(program(QStringLiteral("shared"))));
   const QString other = program(QStringLiteral("shared/保険者2000.mdb"));
   ASSERT_TRUE(QFile::rename(live(test::kPatientsFile), other));
   run.folders[folder::kPatients] = other;
   const BackupReport report = backUpToFolder(run, folder());
   EXPECT_EQ(
-      told(report),
+      faultsOf(report),
       (QStringList{
           QStringLiteral("「保険者2000.mdb」は、同じ名前の別のファイルがあるためコピーしていません。（%1）")
               .arg(other)}));
@@ -113,7 +113,7 @@ TEST_F(BackupFolderTest, TwoFilesOfOneNameAreTold) {
   EXPECT_EQ(report.copied.size(), 11);
 }
 
-TEST_F(BackupFolderTest, MissingAndDamagedFilesAreToldAndTheOthersCopied) {
+TEST_F(BackupFolderTest, MissingAndDamagedFilesAreReportedAndTheOthersCopied) {
   ASSERT_TRUE(backUpToFolder(run, folder()).whole());
   stampAll(2);
   const QString doctors = live(QStringLiteral("同意医師2000.mdb")),
@@ -122,7 +122,7 @@ TEST_F(BackupFolderTest, MissingAndDamagedFilesAreToldAndTheOthersCopied) {
   scribble(fees, 4096);
   ASSERT_TRUE(QDir(program(QStringLiteral("GDATA"))).removeRecursively());
   const BackupReport report = backUpToFolder(run, folder());
-  EXPECT_EQ(told(report),
+  EXPECT_EQ(faultsOf(report),
             (QStringList{
                 QStringLiteral("「同意医師2000.mdb」が見つかりません。（%1）").arg(doctors),
                 QStringLiteral("「料金設定2000.mdb」は、壊れているためコピーしていません。（%1）").arg(fees),
@@ -140,9 +140,9 @@ TEST_F(BackupFolderTest, AFullFolderKeepsTheOlderCopies) {
   stampAll(2);
   const BackupReport report =
       backUpToFolder(run, folder(), failing(store::DiskStep::Write, ENOSPC, test::kPatientsFile));
-  EXPECT_EQ(told(report), (QStringList{QStringLiteral("「臨床QV2000N.mdb」に書き込むことができません。"
-                                                      "ディスクの空きがありません。（%1）")
-                                           .arg(copy(test::kPatientsFile))}));
+  EXPECT_EQ(faultsOf(report), (QStringList{QStringLiteral("「臨床QV2000N.mdb」に書き込むことができません。"
+                                                          "ディスクの空きがありません。（%1）")
+                                               .arg(copy(test::kPatientsFile))}));
   EXPECT_EQ(stampOf(copy(test::kPatientsFile)), 1);
   EXPECT_EQ(stampOf(copy(test::kClaims1File)), 2);
   EXPECT_EQ(checkedBySystem(folder()), QString());
@@ -150,17 +150,18 @@ TEST_F(BackupFolderTest, AFullFolderKeepsTheOlderCopies) {
   EXPECT_EQ(report.shortfall(),
             QStringLiteral("データのバックアップは、全部は出来ませんでした。\nコピーできなかったもの:\n%1\n"
                            "コピーしたもの:\n%2")
-                .arg(told(report)[0],
+                .arg(faultsOf(report)[0],
                      (report.copied + QStringList{QStringLiteral("人体図のファイル 4個")}).join(u'、')));
 }
 
-TEST_F(BackupFolderTest, EveryFailingStepIsTold) {
+TEST_F(BackupFolderTest, EveryFailingStepIsReported) {
   using store::DiskStep;
   for (const auto step : {DiskStep::Create, DiskStep::Write, DiskStep::ReadBack, DiskStep::Rename}) {
     for (const QString& name : {test::kPatientsFile, QStringLiteral("図 2.bmp")}) {
       const BackupReport report = backUpToFolder(run, folder(), failing(step, EIO, name));
-      ASSERT_EQ(told(report).size(), 1) << int(step);
-      EXPECT_TRUE(told(report)[0].startsWith(u"「%1」に書き込むことができません。"_s.arg(name))) << int(step);
+      ASSERT_EQ(faultsOf(report).size(), 1) << int(step);
+      EXPECT_TRUE(faultsOf(report)[0].startsWith(u"「%1」に書き込むことができません。"_s.arg(name)))
+          << int(step);
       EXPECT_EQ(besides(folder()), QStringList());
       EXPECT_EQ(besides(copy(QStringLiteral("GDATA/0002/old"))), QStringList());
     }
@@ -179,16 +180,16 @@ TEST_F(BackupFolderTest, AFailingSyncKeepsAllOlderCopies) {
   expectCopies(1);
 }
 
-// A new half of the claims beside an older one would be of two moments.
-TEST_F(BackupFolderTest, AHalfOfTheClaimsThatFailsKeepsBackTheOther) {
+// A new half of the claims with an older one would be of two moments.
+TEST_F(BackupFolderTest, FailedHalfOfTheClaimsLeavesTheOtherOutToo) {
   const auto fails = failing(store::DiskStep::Write, ENOSPC, test::kClaims2File);
   EXPECT_EQ(backUpToFolder(run, folder(), fails).faults.size(), 1u);
-  EXPECT_EQ(stampOf(copy(test::kClaims1File)), 1) << "where none stands, one half is better than nothing";
+  EXPECT_EQ(stampOf(copy(test::kClaims1File)), 1) << "where there is none, one half is better than nothing";
   ASSERT_TRUE(backUpToFolder(run, folder()).whole());
   stampAll(2);
   const BackupReport report = backUpToFolder(run, folder(), fails);
   EXPECT_EQ(report.faults.size(), 2u);
-  EXPECT_EQ(told(report)[0],
+  EXPECT_EQ(faultsOf(report)[0],
             QStringLiteral("「%1」は、「%2」と同じ時のものがそろわないためコピーしていません。（%3）")
                 .arg(test::kClaims1File, test::kClaims2File, live(test::kClaims1File)));
   EXPECT_FALSE(report.copied.contains(test::kClaims1File));
@@ -198,8 +199,8 @@ TEST_F(BackupFolderTest, AHalfOfTheClaimsThatFailsKeepsBackTheOther) {
   EXPECT_EQ(besides(folder()), QStringList());
 }
 
-// A copy that was worked with, and whose program died, is a copy that stands like any other.
-TEST_F(BackupFolderTest, AJournalBesideAnOlderCopyIsNotTakenBackIntoTheNewOne) {
+// A copy that another program worked with, and died, is a copy like any other.
+TEST_F(BackupFolderTest, JournalOfAnOlderCopyIsNotAppliedToTheNewOne) {
   ASSERT_TRUE(backUpToFolder(run, folder()).whole());
   test::leaveJournal(copy(test::kPatientsFile));
   stampAll(2);
@@ -208,20 +209,20 @@ TEST_F(BackupFolderTest, AJournalBesideAnOlderCopyIsNotTakenBackIntoTheNewOne) {
   EXPECT_EQ(bytesOf(copy(test::kPatientsFile)), bytesOf(live(test::kPatientsFile)));
 }
 
-TEST_F(BackupFolderTest, AFileThatIsLockedIsTold) {
+TEST_F(BackupFolderTest, LockedFileIsReported) {
   const auto database = store::Database::open(live(test::kPatientsFile));
   ASSERT_TRUE(database.ok());
   sqlite3_busy_timeout((*database)->handle(), 1);
   const test::OtherProgram holds(live(test::kPatientsFile), "BEGIN EXCLUSIVE");
   const BackupReport report = backUpToFolder(run, folder());
-  ASSERT_EQ(told(report).size(), 1);
+  ASSERT_EQ(faultsOf(report).size(), 1);
   EXPECT_TRUE(
-      told(report)[0].startsWith(u"「臨床QV2000N.mdb」は、ほかのコンピュータまたは画面で使用中です。"));
+      faultsOf(report)[0].startsWith(u"「臨床QV2000N.mdb」は、ほかのコンピュータまたは画面で使用中です。"));
   EXPECT_EQ(report.copied.size(), 11);
 }
 
 // What the folder gives back is compared with what was read.
-TEST_F(BackupFolderTest, ACopyThatComesBackChangedIsTold) {
+TEST_F(BackupFolderTest, CopyThatReadsBackChangedIsReported) {
   const QString target = copy(test::kPatientsFile);
   const auto spoil = [&](store::DiskStep step, const QString& path) {
     if (step == store::DiskStep::ReadBack && path.contains(test::kPatientsFile)) scribble(path, 5000);
@@ -229,13 +230,13 @@ TEST_F(BackupFolderTest, ACopyThatComesBackChangedIsTold) {
   };
   const BackupReport report = backUpToFolder(run, folder(), {{}, spoil});
   EXPECT_EQ(
-      told(report),
+      faultsOf(report),
       (QStringList{QStringLiteral("「臨床QV2000N.mdb」のコピーが、元のファイルと同じになりません。（%1）")
                        .arg(target)}));
   EXPECT_FALSE(QFileInfo::exists(target));
 }
 
-TEST_F(BackupFolderTest, AFolderThatVanishesIsTold) {
+TEST_F(BackupFolderTest, VanishedFolderIsReported) {
   for (const QString& name : {test::kClaims1File, QStringLiteral("1.bmp")}) {
     for (const auto at : {store::DiskStep::Create, store::DiskStep::Sync, store::DiskStep::Rename}) {
       ASSERT_TRUE(QDir().mkpath(folder()));
@@ -246,7 +247,7 @@ TEST_F(BackupFolderTest, AFolderThatVanishesIsTold) {
       };
       const BackupReport report = backUpToFolder(run, folder(), {{}, vanish});
       EXPECT_FALSE(report.whole()) << name.toStdString();
-      EXPECT_TRUE(told(report).join(u'\n').contains(name)) << told(report).join(u'\n').toStdString();
+      EXPECT_TRUE(faultsOf(report).join(u'\n').contains(name)) << faultsOf(report).join(u'\n').toStdString();
     }
   }
 }
@@ -269,7 +270,7 @@ TEST_F(BackupFolderTest, AKillLeavesEachFileOldOrNew) {
   expectCopies(2);
 }
 
-TEST_F(BackupFolderTest, PlacesThatAreNoPlaceForCopiesAreRefused) {
+TEST_F(BackupFolderTest, FoldersThatCannotTakeCopiesAreRefused) {
   const auto why = [&](const QString& place) {
     const text::Done fit = checkBackupFolder(run, place);
     return fit ? QString() : fit.fault().message;
@@ -294,18 +295,18 @@ TEST_F(BackupFolderTest, PlacesThatAreNoPlaceForCopiesAreRefused) {
   EXPECT_EQ(why(folder()), QString());
   const QString doctors = QStringLiteral("同意医師2000.mdb");
   ASSERT_TRUE(QFile::rename(live(doctors), copy(doctors)) && QFile::link(copy(doctors), live(doctors)));
-  EXPECT_TRUE(why(folder()).contains(u"元のデータのあるフォルダです。")) << "behind a link";
+  EXPECT_TRUE(why(folder()).contains(u"元のデータのあるフォルダです。")) << "through a link";
 }
 
-TEST_F(BackupFolderTest, APictureFolderThatCannotBeMadeIsTold) {
+TEST_F(BackupFolderTest, PictureFolderThatCannotBeMadeIsReported) {
   QFile inTheWay(copy(QStringLiteral("GDATA")));
   ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
   inTheWay.close();
   const BackupReport report = backUpToFolder(run, folder());
   EXPECT_EQ(report.copied.size(), 12);
   EXPECT_EQ(report.pictures, 0);
-  EXPECT_TRUE(told(report)[0].startsWith(u"「GDATA」に書き込むことができません。"))
-      << told(report)[0].toStdString();
+  EXPECT_TRUE(faultsOf(report)[0].startsWith(u"「GDATA」に書き込むことができません。"))
+      << faultsOf(report)[0].toStdString();
 }
 
 TEST_F(BackupFolderTest, ManyPicturesThatFailAreCounted) {

@@ -32,7 +32,7 @@ class BackupGenerationsTest : public test::BackupTest {
 };
 
 struct CounterCase {
-  const char16_t* stored;  ///< as the file holds it when the run starts
+  const char16_t* stored;  ///< as stored when the run starts
   bool copies;
 };
 class CounterTest : public BackupGenerationsTest, public testing::WithParamInterface<CounterCase> {};
@@ -110,7 +110,7 @@ TEST_F(BackupGenerationsTest, ADamagedGenerationIsNotMovedOverAGoodOne) {
   expectOrder(backup(QString()));
 }
 
-TEST_F(BackupGenerationsTest, TheListTellsADamagedGenerationThatStays) {
+TEST_F(BackupGenerationsTest, ListShowsADamagedGenerationThatStays) {
   for (int number = 1; number <= 3; ++number) runWith(number);
   scribble(generation(3, test::kPatientsFile), 9000);
   ASSERT_TRUE(QFile::remove(generation(2, test::kPatientsFile)));
@@ -156,7 +156,7 @@ TEST_F(BackupGenerationsTest, ShortSettingsKeepTheOlderCopies) {
   EXPECT_EQ(generations(test::kPatientsFile), (QList<int>{1, 1, -1}));
 }
 
-// The halves of the claims come together: a new first half beside an old second one would be of two moments.
+// The halves of the claims come together: a new first half with an old second one would be of two moments.
 TEST_F(BackupGenerationsTest, ADamagedHalfKeepsBothHalves) {
   for (int number = 1; number <= 2; ++number) runWith(number);
   stampAll(3);
@@ -168,7 +168,7 @@ TEST_F(BackupGenerationsTest, ADamagedHalfKeepsBothHalves) {
   expectOrder(backup(QString()));
 }
 
-// A copy may be worked with where it lies. It is the live file then: copies come and go beside it.
+// A program may work with a copy in its place. It is the live file then; other copies come and go.
 TEST_F(BackupGenerationsTest, AGenerationThatIsWorkedWithIsLeftOut) {
   for (int digit = 1; digit <= 3; ++digit) {
     run.folders[folder::kPatients] = live(test::kPatientsFile);
@@ -206,7 +206,7 @@ TEST_F(BackupGenerationsTest, ALivingGenerationIsStillOneFileForOtherPrograms) {
   EXPECT_EQ(after.st_nlink, 1u);
 }
 
-TEST_F(BackupGenerationsTest, AJournalBesideAGenerationIsNotTakenBackIntoAnother) {
+TEST_F(BackupGenerationsTest, JournalOfAGenerationIsNotAppliedToAnother) {
   for (int number = 1; number <= 2; ++number) runWith(number);
   for (const int digit : {1, 2}) test::leaveJournal(generation(digit, test::kPatientsFile));
   runWith(3);
@@ -216,7 +216,7 @@ TEST_F(BackupGenerationsTest, AJournalBesideAGenerationIsNotTakenBackIntoAnother
   expectOrder(backup(QString()));
 }
 
-// No list, no new copies: they leave nothing behind on the disk, and the next run goes on.
+// No list, no new copies: they leave nothing on the disk, and the next run goes on.
 TEST_F(BackupGenerationsTest, AListThatCannotBeWrittenLeavesNoNewCopies) {
   for (int number = 1; number <= 2; ++number) runWith(number);
   const QString list = BackupList::pathIn(backup(QString())), aside = backup(QStringLiteral("aside"));
@@ -289,7 +289,7 @@ TEST_F(BackupGenerationsTest, BothHalvesOfTheClaimsAreOfOneMoment) {
   }
   ::kill(child, SIGKILL);
   ::waitpid(child, nullptr, 0);
-  EXPECT_EQ(different, 10) << "the other program wrote meanwhile";
+  EXPECT_EQ(different, 10) << "the other program wrote during the copy";
 }
 
 }  // namespace

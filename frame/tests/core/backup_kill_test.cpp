@@ -13,7 +13,7 @@ constexpr int kCut = 9;
 const QStringList kNames = {test::kClaims1File, test::kClaims2File, test::kPatientsFile,
                             QStringLiteral("qv.DAT")};
 
-/// Three generations stand (3, 2, 1), the live files are 4, and the run that ends is cut off.
+/// There are three generations (3, 2, 1), the live files are 4, and the run that ends is killed.
 class BackupKillTest : public test::BackupTest {
  protected:
   void SetUp() override {
@@ -54,7 +54,7 @@ class BackupKillTest : public test::BackupTest {
       EXPECT_GE(whole, 1) << where << ' ' << name.toStdString();
     }
   }
-  /// The next run goes on counting: no number is lost or stands twice, and all is in order again.
+  /// The next run goes on counting: no number is lost or occurs twice, and all is in order again.
   void expectTheNextRunGoesOn(const std::string& where) {
     QHash<QString, bool> came;
     for (const QString& name : kNames) came.insert(name, stampOf(generation(1, name)) == 4);
@@ -68,7 +68,7 @@ class BackupKillTest : public test::BackupTest {
   }
 };
 
-TEST_F(BackupKillTest, NoStepLeavesAFileWithoutAWholeGeneration) {
+TEST_F(BackupKillTest, KillAtAnyStepKeepsOneIntactGeneration) {
   int came = 0;
   for (int step = 0;; ++step) {
     startAnew();
@@ -96,7 +96,7 @@ TEST_F(BackupKillTest, NoStepLeavesAFileWithoutAWholeGeneration) {
 
 // Where the folder knows no second names, what the run had moved already may be moved once more; but whole
 // generations remain, and the next run ends in order.
-TEST_F(BackupKillTest, NoStepWithoutSecondNamesLeavesAFileWithoutAWholeGeneration) {
+TEST_F(BackupKillTest, KillAtAnyStepWithoutHardLinksKeepsOneIntactGeneration) {
   const auto noLinks = [](store::DiskStep step, const QString&) {
     return step == store::DiskStep::Link ? EPERM : 0;
   };
@@ -129,7 +129,7 @@ TEST_F(BackupKillTest, NoStepWithoutSecondNamesLeavesAFileWithoutAWholeGeneratio
   }
 }
 
-TEST_F(BackupKillTest, NoMomentLeavesAFileWithoutAWholeGeneration) {
+TEST_F(BackupKillTest, KillAtAnyMomentKeepsOneIntactGeneration) {
   bool ended = false;  // before it was killed
   for (int microseconds = 0; !ended; microseconds += 400) {
     startAnew();
@@ -151,7 +151,7 @@ TEST_F(BackupKillTest, NoMomentLeavesAFileWithoutAWholeGeneration) {
 }
 
 // A disk that fails at any step is no reason to lose a copy either; what can be copied is.
-TEST_F(BackupKillTest, NoFullDiskLeavesAFileWithoutAWholeGeneration) {
+TEST_F(BackupKillTest, FullDiskKeepsOneIntactGeneration) {
   for (int step = 0;; step += 3) {
     startAnew();
     int steps = 0;

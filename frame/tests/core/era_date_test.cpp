@@ -278,7 +278,7 @@ TEST(EraDates, AClaimMonthIsItsFirstDay) {
   }
 }
 
-TEST(EraDates, PartsStandAsWrittenOrByTheDay) {
+TEST(EraDates, PartsAreAsWrittenOrByTheDay) {
   const Dates dates(kSupported);
   const auto written = dates.era.parts(u(u"平成31年5月1日")), western = dates.era.parts(u(u"2019/5/1"));
   ASSERT_TRUE(written && western);

@@ -79,7 +79,7 @@ TEST_F(InstallationTest, TheDictionariesAreFilled) {
   EXPECT_EQ(points.valueAt(0, QStringLiteral("禁鍼フラグ")), QStringLiteral("0"));
 }
 
-TEST_F(InstallationTest, EveryFeeEditionStandsUnderItsId) {
+TEST_F(InstallationTest, EveryFeeEditionHasItsId) {
   layOutHere();
   const auto table = readCsvTable(m_data + QStringLiteral("/fees/editions.csv"));
   ASSERT_TRUE(table.ok());
@@ -125,7 +125,7 @@ TEST_F(InstallationTest, TheUsersDataAreNeverTouched) {
   EXPECT_EQ(read(path(QStringLiteral("予約2000.mdb"))), "another kind of file");
 }
 
-TEST_F(InstallationTest, ANewerEditionIsAddedBehindTheRowsThatStand) {
+TEST_F(InstallationTest, NewerEditionIsAddedAfterTheExistingRows) {
   const QString current = QStringLiteral("料金設定2000.mdb");
   layOutHere();
   {
@@ -191,18 +191,18 @@ TEST_F(InstallationTest, AFirstLayoutThatWasCutOffIsCompleted) {
   for (const char* name : {"qv.dat", "保険者2000.mdb"})
     ASSERT_TRUE(QFile::remove(path(QString::fromUtf8(name))));
   EXPECT_EQ(layOutHere(), QStringList({QStringLiteral("保険者2000.mdb"), QStringLiteral("qv.dat")}))
-      << "the settings are written behind the registers: without them the folder is not laid out yet";
+      << "the settings are written after the registers: without them the folder is not laid out yet";
 }
 
 TEST_F(InstallationTest, ADamagedFeeFileIsLeftAsItIs) {
   layOutHere();
   const QString damaged = QStringLiteral("料金設定2018.mdb");
   write(path(damaged), "another kind of file");
-  EXPECT_EQ(layOutHere(), QStringList()) << "the screen that reads it tells the fault, the others work";
+  EXPECT_EQ(layOutHere(), QStringList()) << "the screen that reads it reports the fault, the others work";
   EXPECT_EQ(read(path(damaged)), "another kind of file");
 }
 
-TEST_F(InstallationTest, AWrongTableIsToldWithItsRow) {
+TEST_F(InstallationTest, WrongTableIsReportedWithItsRow) {
   QTemporaryDir data;
   m_data = data.path();
   write(data.filePath(QStringLiteral("t.csv")), "a,b\n1,2\n3\n");

@@ -43,7 +43,7 @@ TEST(LoadRun, TheCounterIsRaisedAndABlankOneIsZero) {
   }
 }
 
-TEST(LoadRun, BlankPathsFallBackToTheFilesBesideTheProgram) {
+TEST(LoadRun, BlankPathsFallBackToTheProgramFolder) {
   const RunState run = loaded(freshSettings());
   const std::pair<int, const char16_t*> rows[] = {{0, u"/opt/daicho/臨床QV2000N.mdb"},
                                                   {1, u"/opt/daicho/予約2000.mdb"},
@@ -170,7 +170,7 @@ TEST_F(SavedRun, AStartWithoutTheFileIsAFaultThatNamesIt) {
   EXPECT_TRUE(read.fault().message.contains(path()));
 }
 
-TEST_F(SavedRun, TheEndLeavesAShortFileAloneAndASaveKeepsItBeside) {
+TEST_F(SavedRun, ShortFileIsLeftAtTheEndAndCopiedBeforeASave) {
   ASSERT_TRUE(text::writeWholeFile(path(), "\"w\",\"3\""));
   ASSERT_TRUE(readRun(folder.path(), run));
   ASSERT_TRUE(saveRun(run, SettingsWriter::ProgramEnd));
@@ -203,7 +203,7 @@ TEST_F(SavedRun, ThePrefectureComesFromTheInstallationRecord) {
   }
 }
 
-TEST(Prefecture, EditionsStandInTheNationalOrder) {
+TEST(Prefecture, EditionsAreInNationalOrder) {
   EXPECT_EQ(prefectureEdition("01"), QStringLiteral("北海道版"));
   EXPECT_EQ(prefectureEdition("13"), QStringLiteral("東京都版"));
   EXPECT_EQ(prefectureEdition("23"), QStringLiteral("愛知県版"));

@@ -8,7 +8,7 @@ using namespace Qt::Literals::StringLiterals;
 
 class FoldersTest : public test::FrameFixture {};
 
-TEST_F(FoldersTest, ShowsTheTwelvePathsAsTheyStand) {
+TEST_F(FoldersTest, ShowsTheTwelvePaths) {
   screen::Screen& folders = shown(u"LANフォルダ指定");
   EXPECT_EQ(folders.text(u"Text1(0)"_s), folder.path() + u"/臨床QV2000N.mdb"_s);
   EXPECT_EQ(folders.text(u"Text1(6)"_s), folder.path() + u"/カルテ2データ2000.mdb"_s);
@@ -18,7 +18,18 @@ TEST_F(FoldersTest, ShowsTheTwelvePathsAsTheyStand) {
   EXPECT_TRUE(channel.said().join(u' ').contains(u"各データのある場所を変更できます。"_s));
 }
 
-TEST_F(FoldersTest, BlankFieldIsToldAndTheScreenStays) {
+TEST_F(FoldersTest, EachFieldHasItsPlaceInTheSettingsFile) {
+  const int places[] = {3, 4, 5, 6, 7, 8, 9, 53, 54, 55, 73, 14};
+  screen::Screen& folders = shown(u"LANフォルダ指定");
+  for (int field = 0; field < 12; ++field)
+    folders.setText(u"Text1(%1)"_s.arg(field), u"/elsewhere/%1"_s.arg(field));
+  folders.trigger(u"Command1"_s);
+  navigator.loaded(u"LANフォルダ指定の実行"_s)->trigger(u"Command1"_s);
+  for (int field = 0; field < 12; ++field)
+    EXPECT_EQ(storedSettings()[places[field]], u"/elsewhere/%1"_s.arg(field)) << field;
+}
+
+TEST_F(FoldersTest, BlankFieldIsReportedAndTheScreenStays) {
   screen::Screen& folders = shown(u"LANフォルダ指定");
   folders.setText(u"Text1(5)"_s, u""_s);
   folders.trigger(u"Command1"_s);

@@ -41,7 +41,7 @@ TEST_P(EndTest, EveryTenthEndMakesAGeneration) {
   endAtRun(GetParam().counter);
   EXPECT_EQ(navigator.quits, 1);
   EXPECT_EQ(QFileInfo::exists(path(u"backup"_s)), GetParam().copies);
-  EXPECT_EQ(messages.texts(), QStringList()) << "it tells nothing";
+  EXPECT_EQ(messages.texts(), QStringList()) << "it reports nothing";
   if (GetParam().copies) {
     EXPECT_EQ(namesIn(path(u"backup"_s)).size(), 12 + 1);
     EXPECT_TRUE(QFileInfo::exists(path(u"backup/1_qv.DAT"_s)));
@@ -94,7 +94,7 @@ TEST_F(MainMenuBackupTest, ButtonAndMenuEntryCopyToTheFolder) {
   }
 }
 
-TEST_F(MainMenuBackupTest, AFileThatIsMissingIsToldAndTheEndIsNotSaid) {
+TEST_F(MainMenuBackupTest, MissingFileIsReportedAndSuccessIsNotAnnounced) {
   ASSERT_TRUE(QFile::remove(path(u"予約2000.mdb"_s)));
   desktop.answerFromQueue({target.path()});
   shown(u"選択3").trigger(u"Command13"_s);

@@ -56,7 +56,7 @@ struct SubmissionCase {
 };
 class SubmissionTest : public MainMenuTest, public testing::WithParamInterface<SubmissionCase> {};
 
-TEST_P(SubmissionTest, StandsOnTheMenu) {
+TEST_P(SubmissionTest, IsShownOnTheMenu) {
   const SubmissionCase& row = GetParam();
   run.aichiSubmission = row.aichi;
   run.tokyoSubmission = row.tokyo;
@@ -97,13 +97,13 @@ TEST_F(MainMenuTest, TickChangesTheAssociationOfTheRun) {
   EXPECT_EQ(menu.text(u"Text3"_s), u"愛知県鍼灸師会"_s);
 }
 
-struct RoomCase {
-  QString button, twin, room;
+struct RouteCase {
+  QString button, twin, target;
 };
-class MenuRoomTest : public MainMenuTest, public testing::WithParamInterface<RoomCase> {};
+class MenuRouteTest : public MainMenuTest, public testing::WithParamInterface<RouteCase> {};
 
-TEST_P(MenuRoomTest, ButtonAndTwinLeadToTheRoom) {
-  const RoomCase& row = GetParam();
+TEST_P(MenuRouteTest, ButtonAndTwinOpenTheScreen) {
+  const RouteCase& row = GetParam();
   screen::Screen& menu = shown(u"選択3");
   for (const QString& command : {row.button, row.twin}) {
     if (command.isEmpty()) continue;
@@ -115,26 +115,26 @@ TEST_P(MenuRoomTest, ButtonAndTwinLeadToTheRoom) {
     } else {
       menu.trigger(command);
     }
-    EXPECT_TRUE(navigator.isShown(row.room) || messages.texts() == QStringList{notYet(row.room)})
+    EXPECT_TRUE(navigator.isShown(row.target) || messages.texts() == QStringList{notYet(row.target)})
         << command.toStdString() << " " << lastMessage().toStdString();
-    if (row.room != u"選択3") navigator.unload(row.room);
+    if (row.target != u"選択3") navigator.unload(row.target);
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, MenuRoomTest,
-                         testing::Values(RoomCase{u"Command1"_s, u"sen_1"_s, u"選択4"_s},
-                                         RoomCase{u"Command5"_s, u"san_2"_s, u"今日の予約"_s},
-                                         RoomCase{u"Command2"_s, u"sen_3"_s, u"レセプト一覧表"_s},
-                                         RoomCase{u"Command3"_s, u"sen_4"_s, u"領収証選択"_s},
-                                         RoomCase{u"Command10"_s, u"sen_9"_s, u"集計"_s},
-                                         RoomCase{u"Command7"_s, u"sen_6"_s, u"登録"_s},
-                                         RoomCase{u"Command8"_s, u"sen_7"_s, u"LANフォルダ指定"_s},
-                                         RoomCase{u"Command11"_s, u"sen_10"_s, u"登録2"_s},
-                                         RoomCase{u"Command16"_s, u"sen_16"_s, u"登録3"_s},
-                                         RoomCase{u"Command6"_s, u"sen_11"_s, u"用紙印刷"_s},
-                                         RoomCase{u"Command9"_s, u"sen_12"_s, u"料金変更"_s},
-                                         RoomCase{u""_s, u"Men_HTP"_s, u"topics"_s},
-                                         RoomCase{u""_s, u"Men_HM"_s, u"frmAbout"_s}));
+INSTANTIATE_TEST_SUITE_P(Rows, MenuRouteTest,
+                         testing::Values(RouteCase{u"Command1"_s, u"sen_1"_s, u"選択4"_s},
+                                         RouteCase{u"Command5"_s, u"san_2"_s, u"今日の予約"_s},
+                                         RouteCase{u"Command2"_s, u"sen_3"_s, u"レセプト一覧表"_s},
+                                         RouteCase{u"Command3"_s, u"sen_4"_s, u"領収証選択"_s},
+                                         RouteCase{u"Command10"_s, u"sen_9"_s, u"集計"_s},
+                                         RouteCase{u"Command7"_s, u"sen_6"_s, u"登録"_s},
+                                         RouteCase{u"Command8"_s, u"sen_7"_s, u"LANフォルダ指定"_s},
+                                         RouteCase{u"Command11"_s, u"sen_10"_s, u"登録2"_s},
+                                         RouteCase{u"Command16"_s, u"sen_16"_s, u"登録3"_s},
+                                         RouteCase{u"Command6"_s, u"sen_11"_s, u"用紙印刷"_s},
+                                         RouteCase{u"Command9"_s, u"sen_12"_s, u"料金変更"_s},
+                                         RouteCase{u""_s, u"Men_HTP"_s, u"topics"_s},
+                                         RouteCase{u""_s, u"Men_HM"_s, u"frmAbout"_s}));
 
 TEST_F(MainMenuTest, BookingsComeBackToTheMenuAndShowTheLastRow) {
   standIn(u"今日の予約"_s);

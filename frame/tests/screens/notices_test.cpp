@@ -120,6 +120,38 @@ TEST_F(FeeTest, ShowsTheRowWithTheHighestId) {
   EXPECT_FALSE(fees.isControlShown(u"Command1"_s));
 }
 
+/// The columns in the order of the boxes. Kept: saving writes boxes 17 and 24 into other columns.
+const QStringList kFeeColumns{
+    u"はり"_s,         u"はり初回"_s,       u"はり電療"_s,        u"はり電療初回"_s, u"灸"_s,
+    u"灸初回"_s,       u"灸電療"_s,         u"灸電療初回"_s,      u"はり灸"_s,       u"はり灸初回"_s,
+    u"はり灸電療"_s,   u"はり灸電療初回"_s, u"マッサージ1局所"_s, u"温罨法"_s,       u"電気光線器具併用"_s,
+    u"徒手矯正術"_s,   u"突発的な往療"_s,   u"加算往診料2K"_s,    u"加算往診料4K"_s, u"加算往診料6K"_s,
+    u"加算往診料8K"_s, u"加算往診料10K"_s,  u"加算往診料12K"_s,   u"特別地域"_s,     u"加算往診料16K"_s};
+
+TEST_F(FeeTest, EachBoxShowsItsColumn) {
+  auto rows = open();
+  ASSERT_TRUE(rows.addNew());
+  for (int box = 1; box <= 25; ++box)
+    ASSERT_TRUE(rows.setValue(kFeeColumns[box - 1], QString::number(1000 + box)));
+  ASSERT_TRUE(rows.update());
+  screen::Screen& fees = shown(u"料金変更");
+  for (int box = 1; box <= 25; ++box)
+    EXPECT_EQ(fees.text(u"Text1(%1)"_s.arg(box)), QString::number(1000 + box)) << box;
+}
+
+TEST_F(FeeTest, SavingWritesEachBoxIntoItsColumn) {
+  screen::Screen& fees = shown(u"料金変更");
+  fill(fees);
+  answer({true});
+  fees.trigger(u"Command1"_s);
+  QStringList saved = kFeeColumns;
+  saved[16] = u"往診料2Kまで"_s;
+  saved[23] = u"加算往診料14K"_s;
+  const auto rows = open();
+  for (int box = 1; box <= 25; ++box)
+    EXPECT_EQ(rows.valueAt(0, saved[box - 1]), QString::number(box * 10)) << box;
+}
+
 TEST_F(FeeTest, NotesAreReadOutByTheButton) {
   screen::Screen& fees = shown(u"料金変更");
   channel.clear();
@@ -173,7 +205,7 @@ TEST_F(FeeTest, RefusedQuestionSavesNothing) {
   EXPECT_EQ(rows.value(u"はり"_s), u"1550"_s);
 }
 
-TEST_F(NoticesTest, MissingFeeFileIsToldAndTheScreenStands) {
+TEST_F(NoticesTest, MissingFeeFileIsReportedAndTheScreenWorks) {
   screen::Screen& fees = shown(u"料金変更");
   EXPECT_TRUE(lastMessage().startsWith(QString::fromUtf16(screen::kDataControlText)));
   EXPECT_TRUE(lastMessage().contains(u"料金設定2000.mdb"_s));

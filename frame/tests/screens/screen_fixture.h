@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QDir>
 #include <QEvent>
@@ -62,6 +63,15 @@ class ScreenFixture : public testing::Test {
   }
   bool isShown(const char16_t* name) const { return navigator.isShown(QString::fromUtf16(name)); }
 
+  /// Captions of a grid's columns.
+  static QStringList headersOf(const screen::Screen& screen, const QString& grid) {
+    const auto* view = screen.findChild<QAbstractItemView*>(grid);
+    QStringList headers;
+    for (int column = 0; view && column < view->model()->columnCount(); ++column)
+      headers += view->model()->headerData(column, Qt::Horizontal).toString();
+    return headers;
+  }
+
   /// Answers the next questions.
   void answer(const QList<bool>& answers) { messages.answerFromQueue(answers); }
   QString lastMessage() const { return messages.texts().isEmpty() ? QString() : messages.texts().last(); }
@@ -69,7 +79,7 @@ class ScreenFixture : public testing::Test {
     return QStringLiteral("「%1」の画面は、まだこの版にはありません。").arg(name);
   }
 
-  /// Puts a screen in the place of a room of another folder, so that what it is handed can be read.
+  /// Registers a stand-in for a screen of another folder, so that what it is handed can be read.
   void standIn(const QString& name) {
     static constexpr screen::ConfirmRow kRow{
         .name = u"stand-in", .caption = u"stand-in", .lines = kStandInLines, .buttons = kStandInButtons};

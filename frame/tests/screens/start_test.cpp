@@ -31,7 +31,7 @@ TEST_F(StartTest, EndsAtTheMenuWithTheNewsOverIt) {
   EXPECT_EQ(navigator.quits, 0);
 }
 
-TEST_F(StartTest, MissingSettingsFileIsToldByItsNameAndEndsTheProgram) {
+TEST_F(StartTest, MissingSettingsFileIsReportedByNameAndEndsTheProgram) {
   ASSERT_TRUE(QFile::remove(settingsPath(folder.path())));
   EXPECT_EQ(start(), Started::SettingsMissing);
   ASSERT_EQ(messages.texts().size(), 1);
@@ -64,7 +64,7 @@ TEST_F(StartTest, BlankSpareEntryLeavesNoWindow) {
   EXPECT_EQ(navigator.quits, 1);
 }
 
-TEST_F(StartTest, MissingFontIsToldAndTheStartGoesOn) {
+TEST_F(StartTest, MissingFontIsReportedAndTheStartGoesOn) {
   EXPECT_EQ(start(false), Started::Menu);
   EXPECT_EQ(messages.texts(), QStringList{u"サポートＣＤより印刷用ＦＯＮＴをインストールしてください"_s});
   EXPECT_TRUE(isShown(u"選択3"));
@@ -93,7 +93,7 @@ struct CounterCase {
 };
 class RunCounterTest : public StartTest, public testing::WithParamInterface<CounterCase> {};
 
-TEST_P(RunCounterTest, IsRaisedOnceARunAndKeptAtTheEnd) {
+TEST_P(RunCounterTest, IsRaisedOnceARunAndStoredAtTheEnd) {
   writeSlot(slot::kRunCounter, GetParam().stored);
   start();
   EXPECT_EQ(run.runCounter, GetParam().counter);

@@ -70,7 +70,7 @@ TEST_F(BookingBook, TheSetItSearchesStaysWhole) {
   auto rows = store::RecordSet::open(store::Database::open(bookings).value(), u"予約"_s);
   ASSERT_TRUE(bookingsOf(*rows, {2024, 6, 15}).ok());
   EXPECT_EQ(rows->recordCount(), 2);
-  EXPECT_EQ(rows->openRecordset()->recordCount(), 2) << "no filter is left behind";
+  EXPECT_EQ(rows->openRecordset()->recordCount(), 2) << "no filter remains";
 }
 
 TEST_F(BookingBook, SerialBeginsTheDayWhereBothTablesAreEmpty) { EXPECT_EQ(serial(today), u"20240615001"_s); }

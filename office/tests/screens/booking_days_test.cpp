@@ -56,16 +56,16 @@ TEST_F(WeekView, ATabShowsItsDayAndRollsOverTheMonth) {
   EXPECT_EQ(listed(screen), QStringList(u"火曜　太郎"_s)) << "each tab reads the book whole";
 }
 
-TEST_F(WeekView, ADayWithoutBookingsIsEmptyAndTold) {
+TEST_F(WeekView, DayWithoutBookingsIsEmptyAndReported) {
   screen::Screen& screen = week();
-  told();
+  takeMessages();
   choose(screen, 7);
-  EXPECT_EQ(told(), QStringList(kNotFound));
+  EXPECT_EQ(takeMessages(), QStringList(kNotFound));
   EXPECT_EQ(screen.text(u"Text1"_s), u"令和6年10月5日土曜日"_s);
   EXPECT_EQ(listed(screen), QStringList());
   EXPECT_EQ(channel.lastSaid(), spoken({u"令和6年10月5日土曜日"_s, u"予約 0 件"_s}));
   screen.trigger(u"Command8"_s);
-  EXPECT_EQ(told(), QStringList(u"代入するデータがありません。"_s));
+  EXPECT_EQ(takeMessages(), QStringList(u"代入するデータがありません。"_s));
 }
 
 TEST_F(WeekView, ReachesOneWeekToEitherSide) {
@@ -99,7 +99,7 @@ TEST_F(WeekView, RollsOverTheYear) {
   EXPECT_EQ(screen.text(u"Text1"_s), u"令和7年1月7日火曜日"_s);
 }
 
-TEST_F(WeekView, OpenedAgainItStandsOnThisWeek) {
+TEST_F(WeekView, ReopenedItShowsThisWeek) {
   week().trigger(u"Command3"_s);
   screen::Screen& screen = week();
   EXPECT_EQ(screen.text(u"Text1"_s), u"令和6年10月1日火曜日"_s);
@@ -110,21 +110,21 @@ TEST_F(WeekView, AnEmptyTableSaysSo) {
   ASSERT_TRUE(QFile::remove(path(kBookings)));
   makeFile(kBookings);
   week();
-  EXPECT_EQ(told(), QStringList(kNoRows));
+  EXPECT_EQ(takeMessages(), QStringList(kNoRows));
 }
 
-TEST_F(WeekView, ABookThatCannotBeReadLeavesNoOtherDaysRows) {
+TEST_F(WeekView, UnreadableBookLeavesNoRowsOfAnotherDay) {
   screen::Screen& screen = week();
   ASSERT_EQ(listed(screen).size(), 1);
   const QString away = path(kBookings) + u".away"_s;
   ASSERT_TRUE(QFile::rename(path(kBookings), away));
   choose(screen, 2);
-  EXPECT_TRUE(told().join(u' ').contains(kBookings));
+  EXPECT_TRUE(takeMessages().join(u' ').contains(kBookings));
   EXPECT_EQ(listed(screen), QStringList());
   QTest::keyClick(&screen, Qt::Key_F1);
   EXPECT_EQ(channel.lastSaid(), u"予約 0 件"_s);
   screen.trigger(u"Command8"_s);
-  EXPECT_EQ(told(), QStringList(u"代入するデータがありません。"_s));
+  EXPECT_EQ(takeMessages(), QStringList(u"代入するデータがありません。"_s));
   ASSERT_TRUE(QFile::rename(away, path(kBookings)));
   choose(screen, 3);
   EXPECT_EQ(listed(screen), QStringList(u"火曜　太郎"_s));
@@ -188,7 +188,7 @@ TEST_P(DayPick, ShowsTheDayOnTheListAndRemembersIt) {
   EXPECT_EQ(dayOf(picker()), QStringList({u"2025"_s, u"7"_s, u"8"_s}));
 }
 
-TEST_P(DayPick, WhatIsTypedFirstTakesThePlaceOfTheYear) {
+TEST_P(DayPick, TypingFirstReplacesTheYear) {
   screen::Screen& screen = picker();
   screen::testing::ScreenProbe probe(screen, channel);
   probe.open();
@@ -197,24 +197,24 @@ TEST_P(DayPick, WhatIsTypedFirstTakesThePlaceOfTheYear) {
   EXPECT_EQ(screen.text(u"Combo1"_s), u"2025"_s);
 }
 
-TEST_P(DayPick, ADayWithoutBookingsIsToldOnTheList) {
+TEST_P(DayPick, DayWithoutBookingsIsReportedOnTheList) {
   book(u"2025/7/8"_s, u"9 時 0 分"_s, u"見本"_s);
   picker().trigger(u"Command1"_s);
   led(u"今日の予約"_s);
-  EXPECT_EQ(told(), QStringList(kNotFound));
+  EXPECT_EQ(takeMessages(), QStringList(kNotFound));
 }
 
-TEST_P(DayPick, NoDateStaysWithWhatWasTyped) {
+TEST_P(DayPick, ListsWithoutADateStayAsTyped) {
   screen::Screen& screen = picker();
   type(screen, u"2025"_s, u"七"_s, u"8"_s);
   screen.trigger(u"Command1"_s);
-  EXPECT_EQ(told(), QStringList(kNoDate));
+  EXPECT_EQ(takeMessages(), QStringList(kNoDate));
   EXPECT_TRUE(navigator.isShown(QString::fromUtf16(GetParam())));
   EXPECT_EQ(screen.text(u"Combo2"_s), u"七"_s);
   EXPECT_EQ(screen.focused(), u"Combo2"_s) << "what is to be put right";
   type(screen, u"99999"_s, u"7"_s, u"8"_s);
   screen.trigger(u"Command1"_s);
-  EXPECT_EQ(told(), QStringList(kNoDate));
+  EXPECT_EQ(takeMessages(), QStringList(kNoDate));
   EXPECT_EQ(screen.focused(), u"Combo1"_s);
   EXPECT_FALSE(isShown(u"今日の予約"));
 }
@@ -233,7 +233,7 @@ INSTANTIATE_TEST_SUITE_P(Both, DayPick, testing::Values(u"抽出4", u"抽出5"))
 
 class BookingCalendar : public BookingFixture {};
 
-TEST_F(BookingCalendar, StandsOnTodayAndSaysEachDay) {
+TEST_F(BookingCalendar, StartsOnTodayAndSaysEachDay) {
   screen::Screen& screen = open(u"予約カレンダー"_s);
   EXPECT_EQ(screen.day(u"Calendar1"_s), QDate(2024, 6, 15));
   EXPECT_EQ(screen.caption(u"Calendar1"_s),
@@ -280,7 +280,7 @@ TEST_F(BookingCalendar, ClosesWithoutAChoice) {
   EXPECT_FALSE(isShown(u"今日の予約"));
 }
 
-TEST_F(BookingCalendar, OpenedAgainItStandsOnToday) {
+TEST_F(BookingCalendar, ReopenedItStartsOnToday) {
   open(u"予約カレンダー"_s).setDay(u"Calendar1"_s, QDate(2030, 1, 1));
   EXPECT_EQ(open(u"予約カレンダー"_s).day(u"Calendar1"_s), QDate(2024, 6, 15));
 }
@@ -303,16 +303,16 @@ TEST_F(CalendarNotice, IsHeardWhole) {
   EXPECT_EQ(channel.said().value(0), spoken(lines));
 }
 
-TEST_F(CalendarNotice, OfThePlatformThatFailsRefuses) {
+TEST_F(CalendarNotice, RefusesThePlatformThatFails) {
   notice().trigger(u"Command1"_s);
   settle();
-  EXPECT_EQ(told(),
+  EXPECT_EQ(takeMessages(),
             QStringList(u"WindowsXpでは、エラーが出て強制終了いたします。カレンダー表示は出来ません。"_s));
   EXPECT_FALSE(isShown(u"予約カレンダー"));
   EXPECT_FALSE(isShown(u"カレンダーのチェック"));
 }
 
-TEST_F(CalendarNotice, OfTheOthersOpensTheCalendarOnToday) {
+TEST_F(CalendarNotice, OpensTheCalendarOnTodayElsewhere) {
   screen::Screen& screen = notice();
   EXPECT_EQ(screen.caption(u"Command2"_s), u"Windows98・98SE・Me・2000"_s);
   screen.trigger(u"Command2"_s);
@@ -331,7 +331,7 @@ TEST_F(CalendarNotice, CancelAndEscapeClose) {
     settle();
     EXPECT_FALSE(isShown(u"カレンダーのチェック"));
     EXPECT_FALSE(isShown(u"予約カレンダー"));
-    EXPECT_EQ(told(), QStringList());
+    EXPECT_EQ(takeMessages(), QStringList());
   }
 }
 

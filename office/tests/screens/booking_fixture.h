@@ -14,7 +14,7 @@ namespace office::test {
 
 using namespace Qt::Literals::StringLiterals;
 
-/// The appointment book over files of its own, with the rooms around it stood in for. Today is Saturday,
+/// The appointment book over files of its own, with stand-ins for the screens around it. Today is Saturday,
 /// 15 June 2024, 9:05.
 class BookingFixture : public frame::test::ScreenFixture {
  protected:
@@ -23,7 +23,7 @@ class BookingFixture : public frame::test::ScreenFixture {
   BookingFixture() {
     clock = text::FixedClock(QDate(2024, 6, 15), QTime(9, 5));
     registerScreens(registry, run);
-    for (const QString& room : {u"選択3"_s, u"治療台帳4"_s, u"集計"_s}) standIn(room);
+    for (const QString& name : {u"選択3"_s, u"治療台帳4"_s, u"集計"_s}) standIn(name);
   }
 
   void SetUp() override {
@@ -54,14 +54,14 @@ class BookingFixture : public frame::test::ScreenFixture {
     return std::move(
         store::RecordSet::open(store::Database::open(path(kBookings)).value(), u"予約"_s).value());
   }
-  /// All values of a column as the file holds them, in ID order.
+  /// All values of a column in the file, in ID order.
   QStringList stored(const QString& column) const {
     const store::RecordSet rows = table();
     QStringList values;
     for (int i = 0; i < rows.recordCount(); ++i) values << rows.valueAt(i, column);
     return values;
   }
-  /// What another computer does to the book meanwhile.
+  /// What another computer does to the book at the same time.
   void elsewhere(const char* statement) const {
     sqlite3* file = nullptr;
     ASSERT_EQ(sqlite3_open(path(kBookings).toUtf8().constData(), &file), SQLITE_OK);
@@ -77,6 +77,13 @@ class BookingFixture : public frame::test::ScreenFixture {
     return *screen;
   }
   static routes::Booking storedBooking(qint64 id) { return {.what = routes::Booking::Stored{id}}; }
+  static frame::Patient patient(const QString& name, const QString& number = {}, const QString& serial = {}) {
+    frame::Patient patient;
+    patient.name = name;
+    patient.number = number;
+    patient.serial = serial;
+    return patient;
+  }
   static routes::Booking newBookingOf(const frame::Patient& patient) {
     return {.what = routes::Booking::NewBooking{patient}};
   }
@@ -98,7 +105,8 @@ class BookingFixture : public frame::test::ScreenFixture {
     return *screen;
   }
 
-  QStringList told() {
+  /// The messages since the last call.
+  QStringList takeMessages() {
     const QStringList texts = messages.texts();
     messages.forget();
     return texts;

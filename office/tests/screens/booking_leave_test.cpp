@@ -20,7 +20,7 @@ class BookingLeave : public BookingFixture {
     screen::Screen& form = fresh(request);
     form.setText(u"txtFields(2)"_s, u"見本"_s);
     form.trigger(u"cmdUpdate"_s);
-    told();
+    takeMessages();
     return form;
   }
 };
@@ -36,10 +36,10 @@ TEST_P(WaysBack, ClosingGoesToTheCaller) {
   run.bookingsCaller = GetParam().caller;
   finishedBooking(routes::Booking{.opener = GetParam().opener}).trigger(u"cmdClose"_s);
   settle();
-  for (const QString& room : {u"選択3"_s, u"治療台帳4"_s, u"今日の予約"_s})
-    EXPECT_EQ(navigator.isShown(room), room == GetParam().leadsTo) << room.toStdString();
+  for (const QString& name : {u"選択3"_s, u"治療台帳4"_s, u"今日の予約"_s})
+    EXPECT_EQ(navigator.isShown(name), name == GetParam().leadsTo) << name.toStdString();
   EXPECT_EQ(navigator.loaded(u"予約2"_s), nullptr);
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
 }
 constexpr screen::ScreenName kMenu = routes::MainMenu::screen, kChart = routes::PatientRegister::screen,
                              kList = routes::TodaysBookings::screen;
@@ -74,7 +74,7 @@ TEST_F(BookingLeave, AnUnfinishedBookingIsAskedFor) {
   }
 }
 
-TEST_F(BookingLeave, TheWayBackIsKeptOverTheQuestion) {
+TEST_F(BookingLeave, WayBackSurvivesTheQuestion) {
   run.bookingsCaller = routes::PatientRegister::screen;
   fresh().trigger(u"cmdClose"_s);
   led(u"更新の確認"_s).trigger(u"Command1"_s);
@@ -90,7 +90,7 @@ TEST_F(BookingLeave, BackToTheFormKeepsWhatWasTyped) {
   EXPECT_FALSE(isShown(u"更新の確認"));
   ASSERT_TRUE(isShown(u"予約2"));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"見本"_s);
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
   form.trigger(u"cmdUpdate"_s);
   EXPECT_EQ(stored(u"予約患者"_s), QStringList(u"見本"_s));
 }
@@ -122,7 +122,7 @@ TEST_F(BookingLeave, ARefusedWriteKeepsTheFormOrIsDropped) {
     answer({drops});
     form.trigger(u"cmdClose"_s);
     settle();
-    EXPECT_EQ(told().value(1), u"登録出来ませんでした。入力した内容を捨てて、閉じますか？"_s);
+    EXPECT_EQ(takeMessages().value(1), u"登録出来ませんでした。入力した内容を捨てて、閉じますか？"_s);
     EXPECT_EQ(isShown(u"予約2"), !drops);
     EXPECT_EQ(stored(u"メモ1"_s).last(), u"電話あり"_s);
     if (drops) continue;
@@ -139,12 +139,12 @@ TEST_F(BookingLeave, AStoredRowWithoutADateIsLeftAsItIs) {
   fresh(storedBooking(1)).trigger(u"cmdClose"_s);
   settle();
   EXPECT_FALSE(isShown(u"予約2"));
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
   screen::Screen& form = fresh(storedBooking(1));
   form.setText(u"txtFields(8)"_s, u"書きかけ"_s);
   form.trigger(u"cmdClose"_s);
   EXPECT_TRUE(isShown(u"予約2"));
-  EXPECT_EQ(told(), QStringList(kNoDate));
+  EXPECT_EQ(takeMessages(), QStringList(kNoDate));
 }
 
 // ---- 中止
@@ -154,14 +154,14 @@ TEST_F(BookingLeave, DeletingAsksFirst) {
   screen::Screen& form = fresh(storedBooking(1));
   answer({false, true});
   form.trigger(u"cmdDelete"_s);
-  EXPECT_EQ(told(), QStringList(kDelete));
+  EXPECT_EQ(takeMessages(), QStringList(kDelete));
   EXPECT_EQ(stored(u"ID"_s).size(), 1);
   form.trigger(u"cmdDelete"_s);
   EXPECT_EQ(stored(u"ID"_s).size(), 0);
   EXPECT_EQ(channel.lastSaid(), u"削除しました"_s);
-  told();
+  takeMessages();
   form.trigger(u"cmdDelete"_s);
-  EXPECT_EQ(told(), QStringList(u"削除するデータがありません。"_s));
+  EXPECT_EQ(takeMessages(), QStringList(u"削除するデータがありません。"_s));
 }
 
 TEST_F(BookingLeave, ANewBookingOnlyLeavesTheScreen) {
@@ -182,7 +182,7 @@ TEST_F(BookingLeave, MovingAwayAsksWhereSomethingWasTyped) {
   screen::Screen& form = fresh();
   form.setText(u"txtFields(2)"_s, u"例示"_s);
   form.goFirst();
-  EXPECT_EQ(told(), QStringList(kDrop));
+  EXPECT_EQ(takeMessages(), QStringList(kDrop));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"例示"_s);
   answer({true});
   form.goFirst();
@@ -203,10 +203,10 @@ TEST_F(BookingLeave, RecordKeysWalkTheBook) {
     QTest::keyClick(&form, key);
     EXPECT_EQ(form.text(u"txtFields(2)"_s), name);
   }
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
 }
 
-TEST_F(BookingLeave, RecordKeysOfAnEmptyBookAreNotMute) {
+TEST_F(BookingLeave, RecordKeysSpeakInAnEmptyBook) {
   screen::Screen& form = fresh();
   answer({true});
   form.trigger(u"cmdDelete"_s);
@@ -221,13 +221,13 @@ TEST_F(BookingLeave, AnotherBookingAsksWhereSomethingWasTyped) {
   screen::Screen& form = fresh();
   form.setText(u"txtFields(2)"_s, u"例示"_s);
   form.trigger(u"cmdAdd"_s);
-  EXPECT_EQ(told(), QStringList(kDrop));
+  EXPECT_EQ(takeMessages(), QStringList(kDrop));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"例示"_s);
-  fresh(newBookingOf({.name = u"見本"_s}));
-  EXPECT_EQ(told(), QStringList(kDrop));
+  fresh(newBookingOf(patient(u"見本"_s)));
+  EXPECT_EQ(takeMessages(), QStringList(kDrop));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"例示"_s);
   answer({true});
-  fresh(newBookingOf({.name = u"見本"_s}));
+  fresh(newBookingOf(patient(u"見本"_s)));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"見本"_s);
 }
 
@@ -240,7 +240,7 @@ TEST_F(BookingLeave, AddingAgainIsHeard) {
       << channel.heardWhole().join(u'\n').toStdString();
 }
 
-TEST_F(BookingLeave, TheListIsOpenedBesideTheForm) {
+TEST_F(BookingLeave, ListOpensNextToTheForm) {
   screen::Screen& form = fresh();
   form.setText(u"txtFields(2)"_s, u"見本"_s);
   form.trigger(u"Command5"_s);

@@ -1,4 +1,4 @@
-// 予約2: what a new booking holds, what 登録 makes of it, and the helpers of date and time.
+// 予約2: what a new booking begins with, what 登録 makes of it, and the helpers of date and time.
 
 #include <QtWidgets/QtWidgets>
 
@@ -14,7 +14,7 @@ class BookingTest : public BookingFixture {
   screen::Screen& fresh(const screen::Request& request = {}) { return open(u"予約2"_s, request); }
 };
 
-TEST_F(BookingTest, ANewBookingStandsOnTodayAndNow) {
+TEST_F(BookingTest, NewBookingStartsWithTodayAndNow) {
   screen::Screen& form = fresh();
   EXPECT_EQ(form.windowTitle(), u"予約"_s);
   EXPECT_EQ(dayOf(form), QStringList({u"2024"_s, u"6"_s, u"15"_s})) << "a year that the list lacks";
@@ -27,8 +27,7 @@ TEST_F(BookingTest, ANewBookingStandsOnTodayAndNow) {
 }
 
 TEST_F(BookingTest, TakesThePatientHandedOver) {
-  screen::Screen& form =
-      fresh(newBookingOf({.serial = u"20240101003"_s, .number = u"17"_s, .name = u"見本　太郎"_s}));
+  screen::Screen& form = fresh(newBookingOf(patient(u"見本　太郎"_s, u"17"_s, u"20240101003"_s)));
   EXPECT_EQ(form.text(u"txtFields(1)"_s), u"17"_s);
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"見本　太郎"_s);
   EXPECT_EQ(form.focused(), u"Combo1"_s);
@@ -37,7 +36,7 @@ TEST_F(BookingTest, TakesThePatientHandedOver) {
   EXPECT_EQ(stored(u"テキスト1"_s), QStringList(u"20240101003"_s)) << "the patient's own serial";
 }
 
-TEST_F(BookingTest, TheListsRunAsTold) {
+TEST_F(BookingTest, ListsHaveTheirRanges) {
   screen::Screen& form = fresh();
   const auto ends = [&](const QString& list) {
     const QStringList items = form.items(list);
@@ -57,7 +56,7 @@ TEST_F(BookingTest, StoringFillsStampDateWeekdayAndSerial) {
   form.setText(u"txtFields(8)"_s, u"初めて"_s);
   type(form, u"2024"_s, u"6"_s, u"18"_s);
   form.trigger(u"cmdUpdate"_s);
-  EXPECT_EQ(told(), QStringList(kStored));
+  EXPECT_EQ(takeMessages(), QStringList(kStored));
   const std::pair<QString, QString> columns[] = {{u"予約患者"_s, u"例示　花子"_s},
                                                  {u"予約年"_s, u"2024"_s},
                                                  {u"予約月"_s, u"6"_s},
@@ -73,7 +72,7 @@ TEST_F(BookingTest, StoringFillsStampDateWeekdayAndSerial) {
   EXPECT_EQ(form.source().rows().absolutePosition(), 0) << "the row just stored is on view";
 }
 
-TEST_F(BookingTest, TheSecondOfADayGoesOnFromTheFirst) {
+TEST_F(BookingTest, SecondSerialOfADayFollowsTheFirst) {
   addBooking({{u"テキスト1"_s, u"20240614009"_s}});
   screen::Screen& form = fresh();
   form.setText(u"txtFields(2)"_s, u"見本"_s);
@@ -92,7 +91,7 @@ TEST_F(BookingTest, SerialIsReadFromTheFileAtTheTimeOfStoring) {
   EXPECT_EQ(stored(u"テキスト1"_s), QStringList(u"20240615012"_s));
 }
 
-TEST_F(BookingTest, AnImpossibleDateRollsInItsShadowOnly) {
+TEST_F(BookingTest, ImpossibleDateRollsOverInItsShadowOnly) {
   screen::Screen& form = fresh();
   form.setText(u"txtFields(2)"_s, u"見本"_s);
   type(form, u"2024"_s, u"02"_s, u"３１"_s);
@@ -118,18 +117,18 @@ TEST_F(BookingTest, NoDateInTheListsStoresNothing) {
   form.setText(u"txtFields(2)"_s, u"見本"_s);
   type(form, u"令和6"_s, u"6"_s, u"15"_s);
   form.trigger(u"cmdUpdate"_s);
-  EXPECT_EQ(told(), QStringList(kNoDate));
+  EXPECT_EQ(takeMessages(), QStringList(kNoDate));
   EXPECT_EQ(stored(u"ID"_s).size(), 0);
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"見本"_s);
   EXPECT_EQ(form.text(u"txtFields(7)"_s), QString()) << "not stamped as stored";
 }
 
-TEST_F(BookingTest, AMissingPatientFileIsToldAndNothingIsStored) {
+TEST_F(BookingTest, MissingPatientFileIsReportedAndNothingIsStored) {
   ASSERT_TRUE(QFile::remove(path(kPatients)));
   screen::Screen& form = fresh();
   form.setText(u"txtFields(2)"_s, u"見本"_s);
   form.trigger(u"cmdUpdate"_s);
-  const QStringList texts = told();
+  const QStringList texts = takeMessages();
   ASSERT_EQ(texts.size(), 1);
   EXPECT_TRUE(texts[0].startsWith(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"_s)) << texts[0].toStdString();
   EXPECT_TRUE(texts[0].contains(kPatients));
@@ -138,27 +137,27 @@ TEST_F(BookingTest, AMissingPatientFileIsToldAndNothingIsStored) {
   EXPECT_EQ(form.text(u"txtFields(7)"_s), QString());
 }
 
-TEST_F(BookingTest, AMissingBookIsToldByNameAndWhatWasTypedStays) {
+TEST_F(BookingTest, MissingBookIsReportedByNameAndTypedTextStays) {
   const QString away = path(kBookings) + u".away"_s;
   ASSERT_TRUE(QFile::rename(path(kBookings), away));
   screen::Screen& form = fresh();
-  EXPECT_TRUE(told().join(u' ').contains(kBookings));
+  EXPECT_TRUE(takeMessages().join(u' ').contains(kBookings));
   type(form, u"2024"_s, u"6"_s, u"15"_s);
   form.setText(u"txtFields(2)"_s, u"見本"_s);
   ASSERT_TRUE(QFile::rename(away, path(kBookings)));
   book(u"2024/6/1"_s, u"9 時 0 分"_s, u"架空"_s);
   form.trigger(u"cmdUpdate"_s);
-  EXPECT_EQ(told(), QStringList(kStored));
+  EXPECT_EQ(takeMessages(), QStringList(kStored));
   EXPECT_EQ(stored(u"予約患者"_s), QStringList({u"架空"_s, u"見本"_s})) << "a row of its own";
 }
 
-TEST_F(BookingTest, ARowChangedElsewhereIsRefusedAndWhatWasTypedStays) {
+TEST_F(BookingTest, RowChangedElsewhereIsRefusedAndTypedTextStays) {
   book(u"2024/6/15"_s, u"9 時 0 分"_s, u"見本"_s);
   screen::Screen& form = fresh(storedBooking(1));
   form.setText(u"txtFields(6)"_s, u"14 時 0 分"_s);
   elsewhere("UPDATE \"予約\" SET \"メモ1\"='電話あり'");
   form.trigger(u"cmdUpdate"_s);
-  const QStringList texts = told();
+  const QStringList texts = takeMessages();
   ASSERT_EQ(texts.size(), 1);
   EXPECT_TRUE(texts[0].startsWith(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"_s)) << texts[0].toStdString();
   EXPECT_EQ(form.text(u"txtFields(6)"_s), u"14 時 0 分"_s);
@@ -174,7 +173,7 @@ TEST_F(BookingTest, ShowsTheBookingAskedFor) {
   EXPECT_EQ(dayOf(form), QStringList({u"2031"_s, u"1"_s, u"2"_s}));
   EXPECT_EQ(form.text(u"txtFields(2)"_s), u"例示"_s);
   EXPECT_EQ(form.text(u"txtFields(6)"_s), u"朝"_s);
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
 }
 
 TEST_F(BookingTest, SaysWhatCameOnView) {
@@ -192,7 +191,7 @@ TEST_F(BookingTest, SaysWhatCameOnView) {
   EXPECT_EQ(form.focused(), u"txtFields(0)"_s);
 }
 
-TEST_F(BookingTest, TheDayStandsInItsHiddenFieldsToo) {
+TEST_F(BookingTest, HiddenFieldsHaveTheDayToo) {
   const QStringList hidden{u"txtFields(3)"_s, u"txtFields(4)"_s, u"txtFields(5)"_s};
   const auto shown = [&](const screen::Screen& form) {
     QStringList texts;
@@ -217,7 +216,7 @@ TEST_F(BookingTest, TheDayStandsInItsHiddenFieldsToo) {
 TEST_F(BookingTest, ABookingDeletedMeanwhileIsNotFound) {
   fresh(storedBooking(7));
   EXPECT_EQ(messages.titles(), QStringList(u"Not found"_s));
-  EXPECT_EQ(told(), QStringList(kNotFound));
+  EXPECT_EQ(takeMessages(), QStringList(kNotFound));
 }
 
 // ---- Date and time
@@ -243,7 +242,7 @@ TEST_F(BookingTest, WeekdayIsShownAndSaid) {
   EXPECT_EQ(form.text(u"Combo3"_s), u"30"_s);
   type(form, u""_s, u"2"_s, u"30"_s);
   form.trigger(u"Command4"_s);
-  EXPECT_EQ(told(), QStringList(kNoDate));
+  EXPECT_EQ(takeMessages(), QStringList(kNoDate));
 }
 
 TEST_F(BookingTest, TimeAndStampAreRewritten) {
@@ -263,15 +262,15 @@ TEST_F(BookingTest, BlankTimesStayBlank) {
   form.trigger(u"Command3"_s);
   EXPECT_EQ(form.text(u"txtFields(6)"_s), QString());
   EXPECT_EQ(form.text(u"txtFields(7)"_s), QString());
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
 }
 
-TEST_F(BookingTest, WhatIsNoTimeIsToldAndStays) {
+TEST_F(BookingTest, UnreadableTimeIsReportedAndStays) {
   screen::Screen& form = fresh();
   form.setText(u"txtFields(6)"_s, u"朝いちばん"_s);
   form.setText(u"txtFields(7)"_s, u"2024/6/5 9:05"_s);
   form.trigger(u"Command3"_s);
-  EXPECT_EQ(told(),
+  EXPECT_EQ(takeMessages(),
             QStringList(u"予約時間を時刻として読めません。9:30 または 14時30分 のように入力して下さい。"_s));
   EXPECT_EQ(form.text(u"txtFields(6)"_s), u"朝いちばん"_s);
   EXPECT_EQ(form.text(u"txtFields(7)"_s), u"2024/6/5 9:05"_s) << "all or nothing";
@@ -279,7 +278,7 @@ TEST_F(BookingTest, WhatIsNoTimeIsToldAndStays) {
   form.setText(u"txtFields(6)"_s, u"9時"_s);
   form.setText(u"txtFields(7)"_s, u"きのう"_s);
   form.trigger(u"Command3"_s);
-  EXPECT_EQ(told().size(), 1);
+  EXPECT_EQ(takeMessages().size(), 1);
   EXPECT_EQ(form.text(u"txtFields(6)"_s), u"9時"_s);
   EXPECT_EQ(form.focused(), u"txtFields(7)"_s);
 }

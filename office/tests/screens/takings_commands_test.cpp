@@ -28,7 +28,7 @@ TEST_F(TakingsCommandsTest, TheSumsAreOfTheRowsOnView) {
   const QStringList wanted = {u"2"_s, u"1,120"_s, u"480"_s, u"5,100"_s, u"2"_s, u"1"_s};
   for (int box = 0; box < wanted.size(); ++box)
     EXPECT_EQ(totals->text(u"txtFields(%1)"_s.arg(box)), wanted[box]) << box;
-  EXPECT_EQ(screen.source().rows().absolutePosition(), 1) << "the row is kept";
+  EXPECT_EQ(screen.source().rows().absolutePosition(), 1) << "the row stays";
 }
 
 TEST_F(TakingsCommandsTest, AnEmptyListGivesEmptyTotals) {
@@ -37,10 +37,10 @@ TEST_F(TakingsCommandsTest, AnEmptyListGivesEmptyTotals) {
   screen::Screen* totals = navigator.loaded(u"集計総合金額"_s);
   ASSERT_NE(totals, nullptr);
   for (int box = 0; box < 6; ++box) EXPECT_EQ(totals->text(u"txtFields(%1)"_s.arg(box)), QString()) << box;
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
 }
 
-TEST_F(TakingsCommandsTest, TheCalendarIsToldThatItServesTheTakings) {
+TEST_F(TakingsCommandsTest, CalendarServesTheTakings) {
   screen::Screen& screen = takings();
   ASSERT_EQ(run.calendarUse, frame::CalendarUse::Bookings);
   screen.trigger(u"Command4"_s);
@@ -61,17 +61,17 @@ TEST_F(TakingsCommandsTest, TheDayOfTheCalendarIsShown) {
   EXPECT_EQ(listed(), QStringList(u"見本 2"_s));
   screen.onActivate();
   settle();
-  EXPECT_EQ(told(), QStringList()) << "asked for once";
+  EXPECT_EQ(takeMessages(), QStringList()) << "asked for once";
 }
 
-TEST_F(TakingsCommandsTest, ADayWithoutVisitsIsToldOnlyWithTheKeyboard) {
+TEST_F(TakingsCommandsTest, DayWithoutVisitsIsReportedOnceTheScreenIsActive) {
   addDates({u"令和6年6月15日"_s});
   screen::Screen& screen = takings();
   screen.opened(routes::Takings{.day = QDate(2024, 5, 1)});
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
   screen.onActivate();
   settle();
-  EXPECT_EQ(told(), QStringList(kNotFound));
+  EXPECT_EQ(takeMessages(), QStringList(kNotFound));
 }
 
 TEST_F(TakingsCommandsTest, ThePatientOfTheRowIsFoundByTheSerial) {
@@ -86,20 +86,20 @@ TEST_F(TakingsCommandsTest, ThePatientOfTheRowIsFoundByTheSerial) {
   EXPECT_EQ(found->serial, u"20240601002"_s);
 }
 
-TEST_F(TakingsCommandsTest, AVisitWithoutItsLinkShowsNobody) {
+TEST_F(TakingsCommandsTest, VisitWithoutALinkOpensNobody) {
   addVisits({{{u"氏名"_s, u"見本 一"_s}}});
   takings().trigger(u"Command8"_s);
-  EXPECT_EQ(told(), QStringList(kNotFound));
+  EXPECT_EQ(takeMessages(), QStringList(kNotFound));
   EXPECT_FALSE(isShown(u"治療台帳4"));
 }
 
-TEST_F(TakingsCommandsTest, DeletingTakesTheVisitItselfAfterOk) {
+TEST_F(TakingsCommandsTest, DeletingRemovesTheVisitAfterOk) {
   addDates({u"令和6年6月13日"_s, u"令和6年6月14日"_s, u"令和6年6月15日"_s});
   screen::Screen& screen = takings();
   screen.source().moveTo(1);
   answer({true});
   screen.trigger(u"cmdDelete"_s);
-  EXPECT_EQ(told(), QStringList(u"　現在の表示の患者のカルテを削除しますか？"_s));
+  EXPECT_EQ(takeMessages(), QStringList(u"　現在の表示の患者のカルテを削除しますか？"_s));
   EXPECT_EQ(screen.text(u"Label4"_s), u"2"_s);
   EXPECT_TRUE(channel.heardWhole().contains(sentence({u"削除しました"_s, u"治療総数:"_s, u"2"_s})));
   screen.trigger(u"cmdRefresh"_s);
@@ -115,12 +115,12 @@ TEST_F(TakingsCommandsTest, CancelDeletesNothing) {
   EXPECT_EQ(listed().size(), 1);
 }
 
-TEST_F(TakingsCommandsTest, NothingToDeleteIsTold) {
+TEST_F(TakingsCommandsTest, NothingToDeleteIsReported) {
   screen::Screen& screen = takings();
   answer({true});
   screen.trigger(u"cmdDelete"_s);
-  EXPECT_EQ(told(), QStringList({u"　現在の表示の患者のカルテを削除しますか？"_s,
-                                 u"削除するデータがありません。"_s}));
+  EXPECT_EQ(takeMessages(), QStringList({u"　現在の表示の患者のカルテを削除しますか？"_s,
+                                         u"削除するデータがありません。"_s}));
 }
 
 TEST_F(TakingsCommandsTest, ThePrintAsksForItsDateOnItsOwnScreen) {

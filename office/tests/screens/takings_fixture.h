@@ -12,15 +12,15 @@ namespace office::test {
 
 using namespace Qt::Literals::StringLiterals;
 
-/// The takings over a file of visits, with the rooms around them stood in for. Today is 15 June 2024.
+/// The takings over a file of visits, with stand-ins for the screens around them. Today is 15 June 2024.
 class TakingsFixture : public frame::test::ScreenFixture {
  protected:
   using Visit = QHash<QString, QString>;
 
   TakingsFixture() {
     registerScreens(registry, run);
-    for (const QString& room : {u"選択3"_s, u"治療台帳4"_s, u"集計カレンダー"_s, u"集計年月"_s})
-      standIn(room);
+    for (const QString& name : {u"選択3"_s, u"治療台帳4"_s, u"集計カレンダー"_s, u"集計年月"_s})
+      standIn(name);
   }
 
   void SetUp() override {
@@ -64,7 +64,7 @@ class TakingsFixture : public frame::test::ScreenFixture {
   /// What is heard of the last thing said on: parts of a sentence, by their order.
   static QString sentence(const QStringList& parts) { return parts.join(voice::kSpeechSeparator); }
   /// The messages since the last call.
-  QStringList told() {
+  QStringList takeMessages() {
     const QStringList texts = messages.texts();
     messages.forget();
     return texts;

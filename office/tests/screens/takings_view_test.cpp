@@ -21,7 +21,7 @@ TEST_F(TakingsTest, OpensOnToday) {
   EXPECT_EQ(screen.items(u"Combo2"_s).size(), 12);
   EXPECT_EQ(screen.items(u"Combo3"_s).size(), 31);
   EXPECT_TRUE(channel.said().contains(sentence({u"集計"_s, u"治療総数:"_s, u"2"_s})));
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
 }
 
 TEST_F(TakingsTest, TheMainMenuLeadsToTheLastVisit) {
@@ -30,10 +30,10 @@ TEST_F(TakingsTest, TheMainMenuLeadsToTheLastVisit) {
   EXPECT_EQ(screen.source().rows().value(u"治療日時"_s), u"令和6年6月13日"_s);
 }
 
-TEST_F(TakingsTest, TheMainMenuMeetsAnEmptyFile) {
+TEST_F(TakingsTest, EmptyFileOpensFromTheMainMenu) {
   screen::Screen& screen = takings(routes::Takings{.lastRow = true});
   EXPECT_EQ(screen.text(u"Label4"_s), u"0"_s);
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
 }
 
 TEST_F(TakingsTest, ADayShowsItsVisitsAndSaysHowMany) {
@@ -45,13 +45,22 @@ TEST_F(TakingsTest, ADayShowsItsVisitsAndSaysHowMany) {
   EXPECT_TRUE(channel.heardWhole().contains(sentence({u"令和6年6月15日"_s, u"治療総数:"_s, u"2"_s})))
       << "not cut off by the list that has the keyboard now";
   EXPECT_EQ(screen.focused(), u"DBGrid1"_s);
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
 }
 
 TEST_F(TakingsTest, ADayMissesWhatWasTypedInWesternForm) {
   addDates({u"2024/6/15"_s, u"令和6年6月15日"_s, u"R6/6/15"_s});
   takings().trigger(u"Command1"_s);
   EXPECT_EQ(listed(), QStringList(u"見本 2"_s));
+}
+
+TEST_F(TakingsTest, TheListHasItsColumns) {
+  QStringList headers = headersOf(takings(), u"DBGrid1"_s);
+  for (const QString& column :
+       {u"治療日時"_s, u"氏名"_s, u"治療概略"_s, u"保険者負担金"_s, u"保険の一部負担金"_s, u"治療金額"_s,
+        u"領収証チェック"_s, u"新患"_s, u"生年月日"_s})
+    EXPECT_EQ(headers.removeAll(column), 1) << column.toStdString();
+  EXPECT_EQ(headers, QStringList());
 }
 
 struct DayRow {
@@ -104,7 +113,7 @@ TEST_F(TakingsTest, ABlankMonthIsAskedForAndChangesNothing) {
   screen.trigger(u"Command6"_s);
   EXPECT_EQ(listed().size(), 2);
   EXPECT_EQ(screen.focused(), u"Text1"_s);
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
   channel.clear();
   screen.trigger(u"Command6"_s);
   EXPECT_EQ(channel.lastSaid(), u"指定月:"_s) << "said also where the focus was there already";
@@ -120,24 +129,24 @@ TEST_F(TakingsTest, EnterInTheMonthShowsIt) {
   EXPECT_EQ(listed(), QStringList(u"見本 1"_s));
 }
 
-TEST_F(TakingsTest, NoHitIsToldAndLeavesTheListAsItWas) {
+TEST_F(TakingsTest, NoHitIsReportedAndLeavesTheListAsItWas) {
   addDates({u"令和6年6月14日"_s, u"令和6年6月13日"_s});
   screen::Screen& screen = takings(routes::Takings{.lastRow = true});
   screen.trigger(u"Command1"_s);
   EXPECT_EQ(messages.titles(), QStringList(u"Not found"_s));
-  EXPECT_EQ(told(), QStringList(kNotFound));
+  EXPECT_EQ(takeMessages(), QStringList(kNotFound));
   EXPECT_EQ(listed().size(), 2);
   EXPECT_EQ(screen.source().rows().absolutePosition(), 1);
   EXPECT_EQ(screen.text(u"Label4"_s), u"2"_s);
 }
 
-TEST_F(TakingsTest, AnEmptyListIsToldInTheWordsOfEachCommand) {
+TEST_F(TakingsTest, EmptyListIsReportedInTheWordsOfEachCommand) {
   screen::Screen& screen = takings();
   screen.trigger(u"Command1"_s);
-  EXPECT_EQ(told(), QStringList(u"検索データが０件です。「全表示に戻す」をクリックして下さい。"_s));
+  EXPECT_EQ(takeMessages(), QStringList(u"検索データが０件です。「全表示に戻す」をクリックして下さい。"_s));
   for (const QString& command : {u"Command6"_s, u"Command7"_s, u"Command8"_s}) {
     screen.trigger(command);
-    EXPECT_EQ(told(), QStringList(kNoRows)) << command.toStdString();
+    EXPECT_EQ(takeMessages(), QStringList(kNoRows)) << command.toStdString();
   }
   EXPECT_FALSE(isShown(u"ソート2"));
   EXPECT_FALSE(isShown(u"治療台帳4"));
@@ -192,7 +201,7 @@ TEST_P(TakingsExtractTest, FindsThePartOfTheText) {
   dialog.setText(u"Text1"_s, GetParam().typed);
   dialog.trigger(u"Command1"_s);
   EXPECT_EQ(listed(), GetParam().found);
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
 }
 
 const QStringList kOne{u"見本 一"_s}, kTwo{u"例示 二"_s};
@@ -218,7 +227,7 @@ TEST_F(TakingsTest, TheExtractionSaysHowManyWereFoundAndGoesBackToTheList) {
   EXPECT_FALSE(isShown(u"集計抽出"));
 }
 
-TEST_F(TakingsTest, AQuoteGivesTheEnginesTextAndNothingElse) {
+TEST_F(TakingsTest, QuoteGivesTheDatabaseErrorAndNothingElse) {
   addDates({u"令和6年6月15日"_s, u"令和6年6月14日"_s});
   screen::Screen& screen = takings();
   screen.setText(u"Text1"_s, u"令和' or '1'='1"_s);
@@ -250,7 +259,7 @@ TEST_F(TakingsTest, EveryColumnOfTheSortDialogIsAColumnOfTheTable) {
     screen::Screen& dialog = shown(u"ソート2");
     dialog.setText(u"Combo1"_s, column);
     dialog.trigger(u"Command1"_s);
-    EXPECT_EQ(told(), QStringList()) << column.toStdString();
+    EXPECT_EQ(takeMessages(), QStringList()) << column.toStdString();
   }
 }
 
@@ -263,13 +272,13 @@ TEST_F(TakingsTest, TheRecordKeysSayWhereTheyLedTo) {
   EXPECT_EQ(channel.lastSaid(), sentence({u"ﾚｺｰﾄﾞ: 2"_s, u"令和6年6月15日"_s, u"見本 2"_s}));
 }
 
-TEST_F(TakingsTest, AMissingFileIsToldByItsName) {
+TEST_F(TakingsTest, MissingFileIsReportedByName) {
   ASSERT_TRUE(QFile::remove(path(kFile)));
   screen::Screen& screen = takings();
   for (const QString& command : {u"Command1"_s, u"Command2"_s, u"cmdRefresh"_s}) {
     screen.trigger(command);
     EXPECT_TRUE(lastMessage().contains(kFile)) << command.toStdString();
-    EXPECT_EQ(told().size(), 1) << command.toStdString();
+    EXPECT_EQ(takeMessages().size(), 1) << command.toStdString();
   }
   EXPECT_FALSE(isShown(u"集計総合金額"));
 }

@@ -110,7 +110,7 @@ TEST_F(TodaysBookings, AnEmptyTableHasNoLastRow) {
     ASSERT_TRUE(rows.remove());
   }
   list(routes::TodaysBookings{.lastRow = true});
-  EXPECT_EQ(told(), QStringList());
+  EXPECT_EQ(takeMessages(), QStringList());
 }
 
 TEST_F(TodaysBookings, ADayIsShownInTheOrderOfItsTimesAsTexts) {
@@ -144,7 +144,7 @@ TEST_F(TodaysBookings, ADayWithoutBookingsLeavesTheListAsItWas) {
   screen.source().moveTo(2);
   showDay(screen, u"2024"_s, u"7"_s, u"15"_s);
   EXPECT_EQ(messages.titles(), QStringList(u"Not found"_s));
-  EXPECT_EQ(told(), QStringList(kNotFound));
+  EXPECT_EQ(takeMessages(), QStringList(kNotFound));
   EXPECT_EQ(listed(screen).size(), 4);
   EXPECT_EQ(screen.source().rows().absolutePosition(), 2);
   EXPECT_EQ(screen.text(u"Text1"_s), u"月曜日"_s);
@@ -156,7 +156,7 @@ TEST_F(TodaysBookings, ADayIsSoughtAmongTheRowsOnViewUntilAllAreShown) {
   screen::Screen& screen = list();
   showDay(screen, u"2024"_s, u"6"_s, u"15"_s);
   showDay(screen, u"2024"_s, u"6"_s, u"18"_s);
-  EXPECT_EQ(told(), QStringList(kNotFound));
+  EXPECT_EQ(takeMessages(), QStringList(kNotFound));
   EXPECT_EQ(channel.lastSaid(),
             spoken({u"令和6年6月18日火曜日の予約はありません。"_s,
                     u"表示中の予約の中から探しました。全表示に戻すと、すべての予約から探せます。"_s,
@@ -172,18 +172,18 @@ TEST_F(TodaysBookings, AnImpossibleDayIsFoundAsBooked) {
   book(u"2024/2/31"_s, u"9 時 0 分"_s, u"巡り　三郎"_s);
   screen::Screen& screen = list();
   showDay(screen, u"2024"_s, u"3"_s, u"2"_s);
-  EXPECT_EQ(told(), QStringList(kNotFound));
+  EXPECT_EQ(takeMessages(), QStringList(kNotFound));
   showDay(screen, u"2024"_s, u"2"_s, u"31"_s);
   EXPECT_EQ(listed(screen), QStringList(u"巡り　三郎"_s));
   EXPECT_EQ(screen.text(u"Text1"_s), u"土曜日"_s);  // of 2 March
 }
 
-TEST_F(TodaysBookings, NoDateInTheListsIsTold) {
+TEST_F(TodaysBookings, ListsWithoutADateAreReported) {
   screen::Screen& screen = list();
   for (const QString& command : {u"Command1"_s, u"Command2"_s}) {
     type(screen, u"2024"_s, u"六"_s, u"15"_s);
     screen.trigger(command);
-    EXPECT_EQ(told(), QStringList(kNoDate));
+    EXPECT_EQ(takeMessages(), QStringList(kNoDate));
   }
   EXPECT_EQ(listed(screen).size(), 4);
   EXPECT_EQ(run.dayAsked.year, 0) << "nothing was asked for";
@@ -203,19 +203,21 @@ TEST_F(TodaysBookings, AnEmptyListSaysSo) {
   showDay(screen, u"2024"_s, u"6"_s, u"18"_s);
   answer({true});
   screen.trigger(u"cmdDelete"_s);
-  told();
+  takeMessages();
   showDay(screen, u"2024"_s, u"6"_s, u"15"_s);
-  EXPECT_EQ(told(), QStringList(kNoRows));
+  EXPECT_EQ(takeMessages(), QStringList(kNoRows));
   screen.setText(u"txtFields(0)"_s, u"見本"_s);
   screen.trigger(u"Command3"_s);
-  EXPECT_EQ(told(), QStringList(kNoRows));
+  EXPECT_EQ(takeMessages(), QStringList(kNoRows));
   screen.trigger(u"Command8"_s);
-  EXPECT_EQ(told(), QStringList(u"代入するデータがありません。"_s));
+  EXPECT_EQ(takeMessages(), QStringList(u"代入するデータがありません。"_s));
   screen.trigger(u"Men_YE"_s);
-  EXPECT_EQ(told(), QStringList(u"編集データがありません。「全患者表示及び再表示」をクリックして下さい。"_s));
+  EXPECT_EQ(takeMessages(),
+            QStringList(u"編集データがありません。「全患者表示及び再表示」をクリックして下さい。"_s));
   answer({true});
   screen.trigger(u"cmdDelete"_s);
-  EXPECT_EQ(told(), QStringList({u"　現在の該当患者を削除しますか？"_s, u"削除するデータがありません。"_s}));
+  EXPECT_EQ(takeMessages(),
+            QStringList({u"　現在の該当患者を削除しますか？"_s, u"削除するデータがありません。"_s}));
 }
 
 // ---- 抽出
@@ -238,7 +240,7 @@ TEST_F(TodaysBookings, ExtractingNarrowsByAPartOfTheText) {
   EXPECT_EQ(listed(screen), QStringList(u"見本　花子"_s));
   screen.setText(u"txtFields(0)"_s, u"1999"_s);
   screen.trigger(u"Command3"_s);
-  EXPECT_EQ(told(), QStringList(kNotFound));
+  EXPECT_EQ(takeMessages(), QStringList(kNotFound));
   EXPECT_EQ(listed(screen).size(), 1);
 }
 
@@ -247,7 +249,7 @@ TEST_F(TodaysBookings, TheColumnThatIsNoneFailsInTheEngine) {
   screen.setText(u"Combo4"_s, u"予約日時"_s);
   screen.setText(u"txtFields(0)"_s, u"2024"_s);
   screen.trigger(u"Command3"_s);
-  const QStringList texts = told();
+  const QStringList texts = takeMessages();
   ASSERT_EQ(texts.size(), 1);
   EXPECT_TRUE(texts[0].startsWith(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"_s)) << texts[0].toStdString();
   EXPECT_EQ(listed(screen).size(), 4);
@@ -259,7 +261,7 @@ TEST_F(TodaysBookings, DeletingAsksAndMovesToTheLastRow) {
   screen::Screen& screen = list();
   answer({false});
   screen.trigger(u"cmdDelete"_s);
-  EXPECT_EQ(told(), QStringList(u"　現在の該当患者を削除しますか？"_s));
+  EXPECT_EQ(takeMessages(), QStringList(u"　現在の該当患者を削除しますか？"_s));
   EXPECT_EQ(stored(u"ID"_s).size(), 4);
   answer({true});
   screen.trigger(u"cmdDelete"_s);
@@ -328,7 +330,23 @@ TEST_F(TodaysBookings, WithoutAPatientListThereIsNoWayToTheMenu) {
   EXPECT_FALSE(isShown(u"今日の予約"));
 }
 
-TEST_F(TodaysBookings, TheMenuOffersWhatIsTold) {
+TEST_F(TodaysBookings, TheListsHaveAllColumnsOfABooking) {
+  for (const QString& name : {u"今日の予約"_s, u"予約週間表"_s}) {
+    QStringList headers = headersOf(open(name), u"DBGrid1"_s);
+    for (const QString& column : {u"予約時間"_s, u"予約患者"_s, u"予約年"_s, u"予約月"_s, u"予約日"_s,
+                                  u"予約曜日"_s, u"患者NO"_s, u"予約NO"_s, u"メモ1"_s, u"登録日時"_s})
+      EXPECT_EQ(headers.removeAll(column), 1) << column.toStdString();
+    EXPECT_EQ(headers, QStringList());
+  }
+}
+
+TEST_F(TodaysBookings, SearchOffersItsColumns) {
+  EXPECT_EQ(list().items(u"Combo4"_s),
+            (QStringList{u"予約患者"_s, u"予約時間"_s, u"予約月"_s, u"予約日"_s, u"予約年"_s, u"予約曜日"_s,
+                         u"患者NO"_s, u"予約日時"_s, u"予約NO"_s, u"メモ1"_s}));
+}
+
+TEST_F(TodaysBookings, MenuHasItsNineEntries) {
   screen::Screen& screen = list();
   ASSERT_EQ(screen.menuBar()->actions().size(), 1);
   QStringList captions;
@@ -349,10 +367,10 @@ TEST_F(TodaysBookings, ButtonsAndEntriesOpenTheirScreens) {
                                               {u"Men_YI"_s, u"予約週間表"_s}};
   screen::Screen& screen = list();
   run.calendarUse = frame::CalendarUse::Takings;
-  for (const auto& [command, room] : ways) {
+  for (const auto& [command, target] : ways) {
     screen.trigger(command);
-    EXPECT_TRUE(navigator.isShown(room)) << command.toStdString();
-    navigator.unload(room);
+    EXPECT_TRUE(navigator.isShown(target)) << command.toStdString();
+    navigator.unload(target);
   }
   EXPECT_EQ(run.calendarUse, frame::CalendarUse::Bookings) << "the calendar serves the book again";
 }
@@ -377,11 +395,11 @@ TEST_F(TodaysBookings, IsNamedSpokenAndReachable) {
   EXPECT_EQ(probe.faults(), QStringList());
 }
 
-TEST_F(TodaysBookings, AMissingBookIsToldByName) {
+TEST_F(TodaysBookings, MissingBookIsReportedByName) {
   ASSERT_TRUE(QFile::remove(path(kBookings)));
   screen::Screen& screen = list();
   ASSERT_EQ(messages.texts().size(), 1);
-  EXPECT_TRUE(told()[0].contains(kBookings));
+  EXPECT_TRUE(takeMessages()[0].contains(kBookings));
   for (const QString& command : {u"Command1"_s, u"Command8"_s, u"cmdRefresh"_s, u"Men_YE"_s})
     screen.trigger(command);
   EXPECT_FALSE(QFile::exists(path(kBookings)));

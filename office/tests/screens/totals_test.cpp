@@ -28,7 +28,7 @@ class TotalsTest : public test::TakingsFixture {
   const QString kNote = u"集計ウインドに表示された患者のみの集計です。"_s;
 };
 
-TEST_F(TotalsTest, TheSumsStandInGroupsOfThreeDigitsAndNothingIsEmpty) {
+TEST_F(TotalsTest, SumsHaveGroupsOfThreeDigitsAndZeroIsBlank) {
   EXPECT_EQ(boxes(ofTakings()),
             QStringList({u"1,234"_s, u"1,234,567,890"_s, QString(), u"5,100"_s, u"2"_s, u"1"_s}));
 }
@@ -52,7 +52,7 @@ TEST_F(TotalsTest, TheLedgerCountsTreatmentsAndHasNoSixthBox) {
        u"保険の一部負担金:"_s, u"なし"_s, u"治療金額:"_s, u"5,100円"_s, u"領収証発行数:"_s, u"2"_s})));
 }
 
-TEST_F(TotalsTest, TheTakingsTakeTheLedgersDressOffAndSayTheSumsAgain) {
+TEST_F(TotalsTest, ReopenedFromTakingsShowsAllBoxesAndSpeaksSums) {
   ofLedger();
   channel.clear();
   screen::Screen& screen = ofTakings();
@@ -85,7 +85,7 @@ TEST_F(TotalsTest, EscapeCloses) {
   EXPECT_FALSE(isShown(u"集計総合金額"));
 }
 
-TEST_F(TotalsTest, TheTwinOfTheClaimSideIsAScreenOfItsOwn) {
+TEST_F(TotalsTest, ClaimTotalsAreAScreenOfTheirOwn) {
   screen::Screen& screen = *navigator.show(routes::ClaimTotals{sums(false)});
   EXPECT_EQ(screen.objectName(), u"集計レセ総合金額"_s);
   EXPECT_EQ(screen.windowTitle(), u"集計レセ総合金額"_s);

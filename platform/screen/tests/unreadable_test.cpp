@@ -23,7 +23,7 @@ const QString kName = "txtFields(4)";
 class UnreadableRows : public ::testing::Test {
  protected:
   void SetUp() override {
-    path = desk.folder.filePath(kFile);
+    path = harness.folder.filePath(kFile);
     ASSERT_TRUE(store::createFresh(path, kFile));
     QList<QHash<QString, store::Value>> rows;
     for (const QString& name : names)
@@ -34,19 +34,19 @@ class UnreadableRows : public ::testing::Test {
     ASSERT_TRUE(screen.source().open(path, kTable));
     probe.open();
     screen.focusOn("DBGrid1");
-    desk.messages.forget();
+    harness.messages.forget();
     screen.log.clear();
   }
   QTableView* view() { return screen.findChild<QTableView*>("DBGrid1"); }
   QString cell(int row) { return view()->model()->index(row, 0).data().toString(); }
   /// The one message since the last call is the data control's, with the file's name and the cause.
   void expectFault(const QString& cause) {
-    const QStringList texts = desk.messages.texts();
-    desk.messages.forget();
+    const QStringList texts = harness.messages.texts();
+    harness.messages.forget();
     ASSERT_EQ(texts.size(), 1) << texts.join('\n').toStdString();
     EXPECT_TRUE(texts[0].startsWith(QString::fromUtf16(kDataControlText)));
     EXPECT_TRUE(texts[0].contains(kFile) && texts[0].contains(cause)) << texts[0].toStdString();
-    EXPECT_TRUE(desk.spy.said().contains(texts[0])) << "it is spoken too";
+    EXPECT_TRUE(harness.spy.said().contains(texts[0])) << "it is spoken too";
   }
   void expectOn(int row) {
     EXPECT_EQ(screen.source().rows().absolutePosition(), row);
@@ -57,10 +57,10 @@ class UnreadableRows : public ::testing::Test {
 
   const QStringList names{"見本患者一", "見本患者二", "見本患者三", "見本患者四", "見本患者五"};
   const QString busy = "使用中", damaged = "壊れている";
-  Desk desk;
+  Harness harness;
   QString path;
-  SampleScreen screen{desk.services};
-  ScreenProbe probe{screen, desk.spy};
+  SampleScreen screen{harness.services};
+  ScreenProbe probe{screen, harness.spy};
 };
 
 TEST_F(UnreadableRows, EveryMoveToALockedRowIsReportedAndStays) {
@@ -76,7 +76,7 @@ TEST_F(UnreadableRows, EveryMoveToALockedRowIsReportedAndStays) {
     other.release();
     (screen.source().*move)();
     EXPECT_NE(screen.source().rows().absolutePosition(), 2) << "the next try works";
-    EXPECT_TRUE(desk.messages.texts().isEmpty());
+    EXPECT_TRUE(harness.messages.texts().isEmpty());
     ASSERT_TRUE(screen.source().moveTo(2));
   }
 }
@@ -124,10 +124,10 @@ TEST_F(UnreadableRows, AFirstRowThatCannotBeReadIsReportedAtTheOpening) {
   expectFault(damaged);
   EXPECT_EQ(screen.text(kName), "別人") << "what was typed stays";
   screen.source().drop();
-  desk.messages.forget();
+  harness.messages.forget();
   screen.source().moveNext();
   EXPECT_EQ(screen.text(kName), names[1]);
-  EXPECT_TRUE(desk.messages.texts().isEmpty());
+  EXPECT_TRUE(harness.messages.texts().isEmpty());
 }
 
 TEST_F(UnreadableRows, ASearchThatCannotReadIsNoMiss) {

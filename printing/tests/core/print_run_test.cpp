@@ -85,7 +85,8 @@ TEST(PrintRun, MissingTemplateEndsWithAbortDoc) {
 
 TEST(PrintRun, ADocumentThatThePrinterDoesNotTakeIsNotPrinted) {
   Job run;
-  run.engine.documentResult = text::Fault{QStringLiteral("断り")};
+  const text::Done refused = text::Fault{QStringLiteral("断り")};
+  run.engine.documentResult = refused;
   EXPECT_EQ(runPrint(run.engine, run.job), RunEnd::NotTaken);
   EXPECT_EQ(run.engine.calls.last(), QStringLiteral("PR_EndDoc"));
   EXPECT_FALSE(run.steps.contains(QStringLiteral("clean"))) << "the printing screen stays open";

@@ -61,7 +61,7 @@ TEST_F(GridClaimTest, WritesTypedColumnsOfBothHalves) {
   EXPECT_TRUE(file().read(id)->ticked(u"yn2"_s));
 }
 
-TEST_F(GridClaimTest, AChangeOfAnotherComputerRefusesOnceAndIsKept) {
+TEST_F(GridClaimTest, AChangeOfAnotherComputerRefusesOnceAndSurvives) {
   const qint64 id = add(u"P1"_s, u"令和6年10月"_s);
   GridClaim claim = open();
   ASSERT_TRUE(claim.take(id));
@@ -87,7 +87,7 @@ TEST_F(GridClaimTest, AClaimThatIsGoneIsNotMadeAgain) {
   EXPECT_EQ(open().take(id)->recordCount(), 0);
 }
 
-TEST_F(GridClaimTest, NoClaimIsTakenWhereThereIsNone) {
+TEST_F(GridClaimTest, WithoutAClaimNoneIsTaken) {
   GridClaim claim = open();
   const auto none = claim.take(0);
   ASSERT_TRUE(none);

@@ -89,7 +89,7 @@ void expectInside(const LabelAddress& address, int place) {
   EXPECT_EQ(texts(lines).join(QString()), whole);
 }
 
-TEST(LabelLines, TwentyCharactersStandInOneLineAtFullSize) {
+TEST(LabelLines, TwentyCharactersFitOneLineAtFullSize) {
   const LabelAddress address{
       u"1"_s, {u"あ"_s.repeated(20), u"い"_s.repeated(20), u"う"_s.repeated(20)}, u"見本"_s};
   const auto lines = labelLines(address, 0);

@@ -36,7 +36,7 @@ TEST(PatientSerial, MonthAndDayHaveTwoDigits) {
   EXPECT_EQ(nextSerial(QString(), QDate(2025, 1, 2)), QStringLiteral("20250102001"));
 }
 
-TEST(JoinedAddress, StandsWholeUpTo39Characters) {
+TEST(JoinedAddress, IsWholeUpTo39Characters) {
   const QString half(QStringLiteral("あ").repeated(20));
   EXPECT_EQ(joinedAddress(half, half.left(19), QString()), half + half.left(19));
   EXPECT_EQ(joinedAddress(half, half, QStringLiteral("い")).size(), 39);

@@ -9,7 +9,7 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-TEST(PreviousVisitStore, HoldsTheVisitInTheOrderOfItsSlots) {
+TEST(PreviousVisitStore, HasTheVisitInTheOrderOfItsSlots) {
   const QStringList order{
       u"氏名"_s,     u"生年月日"_s,    u"治療概略"_s,    u"保険者負担金"_s, u"保険の一部負担金"_s,
       u"治療金額"_s, u"ETC1"_s,        u"d1"_s,          u"d4"_s,           u"d7"_s,

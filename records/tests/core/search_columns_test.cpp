@@ -7,18 +7,17 @@
 namespace records {
 namespace {
 
-TEST(SearchColumns, EveryColumnStandsInThePatientTable) {
+TEST(SearchColumns, EveryColumnIsInThePatientTable) {
   const store::TableRow* table = store::tableOfFile(QStringLiteral("臨床QV2000N.mdb"));
   ASSERT_NE(table, nullptr);
   for (const SearchColumn& row : searchColumns())
-    EXPECT_NE(store::findColumn(*table, row.column.toString()), nullptr)
-        << row.column.toString().toStdString();
+    EXPECT_NE(store::findColumn(*table, row.column.text()), nullptr) << row.column.text().toStdString();
 }
 
 TEST(SearchColumns, ThirtyThreeCaptionsFromIdToMemo) {
   ASSERT_EQ(searchColumns().size(), 33u);
-  EXPECT_EQ(searchColumns().front().caption.toString(), QStringLiteral("ID"));
-  EXPECT_EQ(searchColumns().back().caption.toString(), QStringLiteral("メモ1"));
+  EXPECT_EQ(searchColumns().front().caption, QStringLiteral("ID"));
+  EXPECT_EQ(searchColumns().back().caption, QStringLiteral("メモ1"));
 }
 
 TEST(SearchColumns, FuriganaIsTheColumnOfTheTable) {

@@ -40,7 +40,7 @@ TEST_F(VisitDatesTest, WhatCannotBeReadHasNoShadow) {
       EXPECT_FALSE(visitDateShadow(typed, era(capability))) << typed.toStdString();
 }
 
-TEST_F(VisitDatesTest, TodayIsToldInTheEraOfToday) {
+TEST_F(VisitDatesTest, TodayIsGivenInTheEraOfToday) {
   for (const EraCapability capability : {EraCapability::Supported, EraCapability::Unsupported}) {
     EXPECT_EQ(todayText(era(capability)), u"令和6年11月5日"_s);
     EXPECT_EQ(presentMonthText(era(capability)), u"令和6年11月"_s);

@@ -102,5 +102,17 @@ TEST_F(TotalsOf, AnotherTableIsAFault) {
   EXPECT_TRUE(sums.fault().message.contains(QStringLiteral("保険者負担金")));
 }
 
+TEST(TotalsRoute, HandsEverySumOver) {
+  const routes::Totals route = totalsRoute({1, 2, 3, 4, 5, 6}, true);
+  EXPECT_TRUE(route.ofOnePatient);
+  EXPECT_EQ(route.rows, 1);
+  EXPECT_EQ(route.insurer, 2);
+  EXPECT_EQ(route.share, 3);
+  EXPECT_EQ(route.treatment, 4);
+  EXPECT_EQ(route.receipts, 5);
+  EXPECT_EQ(route.newPatients, 6);
+  EXPECT_FALSE(totalsRoute({}, false).ofOnePatient);
+}
+
 }  // namespace
 }  // namespace records

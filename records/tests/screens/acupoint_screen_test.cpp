@@ -22,7 +22,7 @@ class AcupointScreenTest : public test::DictionaryFixture {
   static frame::CsvTable shipped() {
     return frame::readCsvTable(QStringLiteral(SOURCE_FOLDER "/data/acupoints.csv")).value();
   }
-  /// Names of the shipped points that hold the text in the column, in their order.
+  /// Names of the shipped points that have the text in the column, in their order.
   static QStringList holding(const QString& column, const QString& text) {
     const frame::CsvTable table = shipped();
     const qsizetype at = table.columns.indexOf(column);
@@ -161,7 +161,7 @@ TEST_F(AcupointScreenTest, ABlankSearchDoesNothing) {
   EXPECT_EQ(channel.lastSaid(), u"検索文字:"_s) << "the text is asked for";
 }
 
-TEST_F(AcupointScreenTest, ANewPointWithoutANameIsKeptWhenItsRowIsLeft) {
+TEST_F(AcupointScreenTest, ANewPointWithoutANameIsStoredWhenItsRowIsLeft) {
   screen::Screen& screen = points();
   screen.trigger(u"cmdAdd"_s);
   screen.setText(u"txtFields(2)"_s, u"架空の位置"_s);
@@ -179,7 +179,7 @@ TEST_F(AcupointScreenTest, ANewPointThatStayedBlankIsDropped) {
   EXPECT_EQ(open(kPointsFile, kTable).recordCount(), 361);
 }
 
-TEST_F(AcupointScreenTest, NoHitIsToldAndTheRowStays) {
+TEST_F(AcupointScreenTest, NoHitIsReportedAndTheRowStays) {
   screen::Screen& screen = points();
   screen.source().moveNext();
   search(screen, u"経穴名漢字"_s, u"見本"_s);

@@ -47,7 +47,7 @@ TEST(PatientDeclaration, BindsNoColumnThatCameLater) {
   const store::TableRow* table = store::tableOfFile(u"臨床QV2000N.mdb"_s);
   ASSERT_NE(table, nullptr);
   int bound = 0;
-  for (const screen::Row& row : kPatientDeclaration.rows) {
+  for (const screen::Row& row : patient_rows::kRows) {
     const auto* field = std::get_if<screen::TextField>(&row);
     if (!field || !field->bind.bound()) continue;
     const store::ColumnRow* column = store::findColumn(*table, QString::fromUtf16(field->bind.column()));

@@ -33,7 +33,7 @@ class DictionaryFixture : public RecordsFixture {
     makeFile(file);
     ASSERT_EQ(open(file, table).recordCount(), 0);
   }
-  /// Presses a key where the focus is.
+  /// Presses a key in the control that has the focus.
   void press(screen::Screen& screen, Qt::Key key) {
     screen::testing::ScreenProbe probe(screen, channel);
     probe.press(key);

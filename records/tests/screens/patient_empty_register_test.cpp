@@ -35,9 +35,9 @@ TEST_F(PatientScreenTest, TypedFirstPatientLeavesOneEnteredMeanwhileAlone) {
   EXPECT_EQ(stored(u"テキスト5"_s), (QStringList{u"20240615001"_s, u"20240615002"_s}));
 }
 
-TEST_F(PatientScreenTest, AnEmptyRegisterHasNobodyToOpenARoomFor) {
+TEST_F(PatientScreenTest, AnEmptyRegisterHasNobodyToOpenAScreenFor) {
   screen::Screen& screen = patients();
-  screen.trigger(u"Command8"_s);  // today's date stands on the screen
+  screen.trigger(u"Command8"_s);  // today's date is on the screen
   for (const char16_t* room :
        {u"Command2", u"Command4", u"Command5", u"Command6", u"Command7", u"Men_RA", u"Men_YD"}) {
     screen.trigger(QString::fromUtf16(room));
@@ -50,7 +50,7 @@ TEST_F(PatientScreenTest, AnEmptyRegisterHasNobodyToOpenARoomFor) {
   EXPECT_EQ(channel.lastSaid(), u"患者数:"_s + QChar(254) + u"0"_s);
 }
 
-TEST_F(PatientScreenTest, MissingFileIsToldByNameAndNothingIsMade) {
+TEST_F(PatientScreenTest, MissingFileIsReportedByNameAndNothingIsMade) {
   ASSERT_TRUE(QFile::remove(path(kFile)));
   patients();
   EXPECT_TRUE(lastMessage().startsWith(QString::fromUtf16(screen::kDataControlText)));

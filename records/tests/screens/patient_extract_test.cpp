@@ -1,7 +1,7 @@
 #include <QtWidgets/QtWidgets>
 
 #include "platform/screen/testing/screen_probe.h"
-#include "records/core/list_columns.h"
+#include "records/core/patient_columns.h"
 #include "records/tests/screens/patient_list_fixture.h"
 
 // 抽出2, 抽出3 and ソート1 over the list of patients.
@@ -19,7 +19,7 @@ TEST_F(PatientExtractTest, DialogsOfferTheThirtyColumns) {
   list().trigger(u"Command2"_s);
   list().trigger(u"Command7"_s);
   QStringList columns;
-  for (const char16_t* column : kListColumns) columns << QString::fromUtf16(column);
+  for (const store::Column& column : kPatientColumns) columns << column;
   EXPECT_EQ(columns.join(u' '),
             u"患者ID カルテ番号 ふりがな 氏名 性別 生年月日 年齢 職業 会社名 郵便番号 住所1 住所2 住所3 "
             u"電話1 電話2 携帯 "
@@ -92,7 +92,7 @@ TEST_F(PatientExtractTest, SortingAnEmptyTableSpeaksOfAllMembers) {
 
 // ---- 抽出3 ----
 
-TEST_F(PatientExtractTest, KindsBearTheirCaptionsAndTexts) {
+TEST_F(PatientExtractTest, KindsHaveTheirCaptionsAndTexts) {
   list().trigger(u"Command3"_s);
   screen::Screen& dialog = *navigator.loaded(u"抽出3"_s);
   EXPECT_EQ(dialog.windowTitle(), u"抽出"_s);
@@ -184,7 +184,7 @@ TEST_F(PatientExtractTest, TypingInAnInputChoosesItsKind) {
   EXPECT_EQ(names(), (QStringList{u"見本 二子"_s, u"例示 四子"_s}));
 }
 
-TEST_F(PatientExtractTest, TwoKindsGiveWhatBothHold) {
+TEST_F(PatientExtractTest, TwoKindsGiveWhatFitsBoth) {
   addFour();
   extractSex(u"男"_s);
   extractKind(u"年齢以上"_s, u"Text2"_s, u"70"_s);
@@ -195,7 +195,7 @@ TEST_F(PatientExtractTest, TwoKindsGiveWhatBothHold) {
   EXPECT_EQ(names(), QStringList{u"例示 三男"_s});
 }
 
-TEST_F(PatientExtractTest, WithoutAKindTheNoteIsTold) {
+TEST_F(PatientExtractTest, WithoutAKindTheNoteIsShown) {
   addFour();
   list().trigger(u"Command3"_s);
   screen::Screen& dialog = *navigator.loaded(u"抽出3"_s);
@@ -224,7 +224,7 @@ TEST_F(PatientExtractTest, BlankInputIsAskedFor) {
   EXPECT_EQ(names().size(), 4);
 }
 
-TEST_F(PatientExtractTest, QuoteGivesTheEnginesTextAndKeepsTheList) {
+TEST_F(PatientExtractTest, QuoteGivesTheDatabasesTextAndLeavesTheListAlone) {
   addFour();
   extractKind(u"住所"_s, u"Text5"_s, u"港' or 氏名 like '*"_s);
   EXPECT_TRUE(lastMessage().startsWith(QString::fromUtf16(screen::kDataControlText)));

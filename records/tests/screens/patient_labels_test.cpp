@@ -63,7 +63,7 @@ TEST_F(PatientLabelsTest, ThirteenLabelsTakeTwoSheets) {
   EXPECT_EQ(printedTexts().last(), u"見本 13  様"_s);
 }
 
-TEST_F(PatientLabelsTest, PrinterThatDoesNotStartIsTold) {
+TEST_F(PatientLabelsTest, PrinterThatDoesNotStartIsReported) {
   addNamed({u"見本"_s});
   engine.startResult = report::kStartFailureAbove + 1;
   answer({true});

@@ -23,7 +23,7 @@ TEST_F(PatientListTest, ShowsAllPatientsAndTheSerialOfTheRow) {
   EXPECT_EQ(list().text(u"Text3"_s), u"ﾚｺｰﾄﾞ: 2"_s);
 }
 
-TEST_F(PatientListTest, TheCommandsBearTheirCaptions) {
+TEST_F(PatientListTest, TheCommandsHaveTheirCaptions) {
   const std::pair<QString, QString> captions[] = {{u"Command2"_s, u"全般抽出"_s},
                                                   {u"Command3"_s, u"特定抽出"_s},
                                                   {u"Command7"_s, u"並び替え"_s},
@@ -57,13 +57,13 @@ TEST_F(PatientListTest, EndCloses) {
   EXPECT_FALSE(isShown(u"一覧表"));
 }
 
-TEST_F(PatientListTest, SpreadsheetIsToldByName) {
+TEST_F(PatientListTest, UnbuiltSpreadsheetIsReportedByName) {
   addNamed({u"見本"_s});
   list().trigger(u"Command5"_s);
   EXPECT_EQ(lastMessage(), notYet(u"CSVEXCEL"_s));
 }
 
-TEST_F(PatientListTest, MissingFileIsToldByName) {
+TEST_F(PatientListTest, MissingFileIsReportedByName) {
   ASSERT_TRUE(QFile::remove(path(kFile)));
   list();
   EXPECT_TRUE(lastMessage().contains(kFile));

@@ -16,9 +16,10 @@ const QString kGrown = u"正常に電子カルテのデータに新しいデー�
 
 class PatientOpeningTest : public test::RecordsFixture {
  protected:
+  using Register = routes::PatientRegister;
   /// Shows the screen as another screen does, and waits until it has the keyboard.
-  screen::Screen& enter(const screen::Request& request = {}) {
-    screen::Screen* screen = navigator.show(u"治療台帳4"_s, request);
+  screen::Screen& enter(const Register& route = {}) {
+    screen::Screen* screen = navigator.show(route);
     EXPECT_NE(screen, nullptr);
     screen->onActivate();
     settle();
@@ -87,7 +88,7 @@ TEST_F(PatientOpeningTest, ARowBeingEnteredOutlivesTheGrowth) {
   makeOlderFile();
   addNamed({u"見本 一郎"_s});
   answer({true, true});
-  screen::Screen& screen = enter({{u"新規"_s, true}});
+  screen::Screen& screen = enter({Register::NewPatient{}});
   EXPECT_EQ(messages.texts().last(), kGrown);
   ASSERT_TRUE(screen.source().rows().adding());
   screen.setText(u"txtFields(4)"_s, u"見本 二郎"_s);
@@ -105,7 +106,7 @@ TEST_F(PatientOpeningTest, WholeFileAsksNothing) {
 
 TEST_F(PatientOpeningTest, BookedPatientIsFound) {
   addNamed({u"見本 一郎"_s, u"例示 二郎"_s, u"例示 二郎"_s});
-  screen::Screen& screen = enter({{u"代入"_s, u"例示 二郎"_s}});
+  screen::Screen& screen = enter({Register::Booked{u"例示 二郎"_s, {}}});
   EXPECT_EQ(screen.text(u"Combo1"_s), u"氏名"_s);
   EXPECT_EQ(screen.text(u"Combo3"_s), u"例示 二郎"_s);
   EXPECT_EQ(screen.caption(u"Data1"_s), u"ﾚｺｰﾄﾞ: 2"_s) << "the first of the name";
@@ -117,13 +118,13 @@ TEST_F(PatientOpeningTest, BookedPatientIsFoundFromTheTopEachTime) {
   addNamed({u"例示 一"_s, u"見本 二"_s, u"例示 一"_s});
   screen::Screen& screen = enter();
   screen.goLast();
-  enter({{u"代入"_s, u"例示 一"_s}});
+  enter({Register::Booked{u"例示 一"_s, {}}});
   EXPECT_EQ(screen.caption(u"Data1"_s), u"ﾚｺｰﾄﾞ: 1"_s);
 }
 
 TEST_F(PatientOpeningTest, BookedPersonWhoIsNoPatientYetIsAdded) {
   addPatient({{u"氏名"_s, u"見本 一郎"_s}, {u"テキスト5"_s, u"20240615004"_s}});
-  screen::Screen& screen = *navigator.show(u"治療台帳4"_s, {{u"代入"_s, u"例示 花子"_s}});
+  screen::Screen& screen = *navigator.show(Register{Register::Booked{u"例示 花子"_s, {}}});
   EXPECT_TRUE(messages.texts().isEmpty()) << "told when the screen has the keyboard";
   screen.onActivate();
   settle();
@@ -138,23 +139,23 @@ TEST_F(PatientOpeningTest, BookedPersonWhoIsNoPatientYetIsAdded) {
 }
 
 TEST_F(PatientOpeningTest, BookedPersonOnAnEmptyRegisterIsTheFirst) {
-  screen::Screen& screen = enter({{u"代入"_s, u"例示 花子"_s}});
+  screen::Screen& screen = enter({Register::Booked{u"例示 花子"_s, {}}});
   EXPECT_EQ(screen.text(u"Text2"_s), u"20240615001"_s);
   EXPECT_EQ(screen.text(u"txtFields(4)"_s), u"例示 花子"_s);
 }
 
 TEST_F(PatientOpeningTest, ANameWithAQuoteAddsNobody) {
   addNamed({u"見本 一郎"_s});
-  screen::Screen& screen = enter({{u"代入"_s, u"O'x"_s}});
+  screen::Screen& screen = enter({Register::Booked{u"O'x"_s, {}}});
   EXPECT_TRUE(lastMessage().startsWith(QString::fromUtf16(screen::kDataControlText)));
   EXPECT_FALSE(screen.source().rows().adding());
 }
 
 // ---- From a claim, and from the search ----
 
-TEST_F(PatientOpeningTest, UnknownSerialOfAClaimIsToldWithTheKeyboardHere) {
+TEST_F(PatientOpeningTest, UnknownSerialOfAClaimIsReportedOnceTheScreenHasTheKeyboard) {
   addPatient({{u"氏名"_s, u"見本 一郎"_s}, {u"テキスト5"_s, u"A1"_s}});
-  screen::Screen& screen = *navigator.show(u"治療台帳4"_s, {{u"テキスト5"_s, u"A9"_s}});
+  screen::Screen& screen = *navigator.show(Register{Register::BySerial{u"A9"_s}});
   EXPECT_TRUE(messages.texts().isEmpty());
   screen.onActivate();
   settle();
@@ -165,7 +166,7 @@ TEST_F(PatientOpeningTest, UnknownSerialOfAClaimIsToldWithTheKeyboardHere) {
 
 TEST_F(PatientOpeningTest, OpeningSaysThePatientThenTheFourNotes) {
   addNamed({u"見本 一郎"_s});
-  enter({{u"表示患者"_s, true}});
+  enter({Register::Announced{}});
   const QStringList said = channel.heardWhole();
   ASSERT_GE(said.size(), 2);
   EXPECT_EQ(said[0], u"ﾚｺｰﾄﾞ: 1"_s + kPart + u"見本 一郎"_s);
@@ -182,20 +183,25 @@ TEST_F(PatientOpeningTest, ChartsAreHandedThePatient) {
   standIn(u"治療台帳3"_s);
   screen::Screen& screen = enter();
   screen.trigger(u"Command2"_s);
-  EXPECT_EQ(requestOf(u"治療台帳2"_s),
-            (screen::Request{{u"テキスト5"_s, u"A1"_s}, {u"氏名"_s, u"見本 太郎"_s}}));
+  const auto texts = routeTo<routes::PatientTexts>();
+  ASSERT_TRUE(texts);
+  EXPECT_EQ(texts->serial, u"A1"_s);
+  EXPECT_EQ(texts->name, u"見本 太郎"_s);
   screen.trigger(u"Men_FK2"_s);
-  EXPECT_EQ(requestOf(u"治療台帳3"_s), (screen::Request{{u"テキスト5"_s, u"A1"_s},
-                                                        {u"氏名"_s, u"見本 太郎"_s},
-                                                        {u"生年月日"_s, u"昭和28年3月5日"_s},
-                                                        {u"opener"_s, u"治療台帳4"_s}}));
+  const auto ledger = routeTo<routes::VisitLedger>();
+  const auto* of = ledger ? std::get_if<routes::VisitLedger::Of>(&ledger->what) : nullptr;
+  ASSERT_NE(of, nullptr);
+  EXPECT_EQ(of->serial, u"A1"_s);
+  EXPECT_EQ(of->name, u"見本 太郎"_s);
+  EXPECT_EQ(of->birth, u"昭和28年3月5日"_s);
+  EXPECT_EQ(of->opener, routes::PatientRegister::screen);
 }
 
 TEST_F(PatientOpeningTest, ChartsOfARowThatWasNotStoredStayClosed) {
   addNamed({u"見本 一郎"_s});
   standIn(u"治療台帳2"_s);
   standIn(u"治療台帳3"_s);
-  screen::Screen& screen = enter({{u"新規"_s, true}});
+  screen::Screen& screen = enter({Register::NewPatient{}});
   for (const QString& command : {u"Command2"_s, u"Command4"_s, u"Command5"_s}) {
     messages.forget();
     screen.trigger(command);
@@ -245,25 +251,26 @@ TEST_F(PatientOpeningTest, PatientWithoutASerialHasNoCharts) {
 }
 
 struct BookingCase {
-  QString entry, room;
+  QString entry, screen;
   bool patient;
 };
 class PatientBookingTest : public PatientOpeningTest, public testing::WithParamInterface<BookingCase> {};
 
 TEST_P(PatientBookingTest, AppointmentsKnowTheWayBack) {
   addPatient({{u"氏名"_s, u"見本 太郎"_s}, {u"テキスト5"_s, u"A1"_s}, {u"患者ID"_s, u"7"_s}});
-  standIn(GetParam().room);
+  standIn(GetParam().screen);
   run.callerMark = 2;
   enter().trigger(GetParam().entry);
   EXPECT_EQ(run.callerMark, 3);
-  const screen::Request request = requestOf(GetParam().room);
-  if (!GetParam().patient) {
-    EXPECT_TRUE(request.isEmpty());
-    return;
-  }
-  EXPECT_EQ(request.value(u"テキスト5"_s).toString(), u"A1"_s);
-  EXPECT_EQ(request.value(u"患者ID"_s).toString(), u"7"_s);
-  EXPECT_EQ(request.value(u"氏名"_s).toString(), u"見本 太郎"_s);
+  EXPECT_FALSE(requestOf(GetParam().screen).isEmpty());
+  const auto booking = routeTo<routes::Booking>();
+  const auto* fresh = booking ? std::get_if<routes::Booking::NewBooking>(&booking->what) : nullptr;
+  const std::optional<frame::Patient> patient = fresh ? fresh->patient : std::nullopt;
+  ASSERT_EQ(patient.has_value(), GetParam().patient);
+  if (!patient) return;
+  EXPECT_EQ(patient->serial, u"A1"_s);
+  EXPECT_EQ(patient->number, u"7"_s);
+  EXPECT_EQ(patient->name, u"見本 太郎"_s);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, PatientBookingTest,
@@ -274,13 +281,13 @@ INSTANTIATE_TEST_SUITE_P(Rows, PatientBookingTest,
 
 // ---- The search row and its words ----
 
-TEST_F(PatientOpeningTest, SearchRowKeepsTheWholeListWithItsNewWord) {
+TEST_F(PatientOpeningTest, ANewSearchWordDropsNoneOfTheOlderTen) {
   addNamed({u"見本 一郎"_s});
   QStringList older;
   for (int i = 1; i <= 10; ++i) older.prepend(u"語%1"_s.arg(i));
   const SearchHistory history(folder.path());
   for (const QString& word : QStringList(older.crbegin(), older.crend()))
-    ASSERT_TRUE(history.remember(word, SearchHistory::kWholeListKept));
+    ASSERT_TRUE(history.remember(word, SearchHistory::kMaxOlderOfRegister));
   screen::Screen& screen = enter();
   EXPECT_EQ(screen.items(u"Combo3"_s), older);
   for (int twice = 0; twice < 2; ++twice) {

@@ -4,7 +4,7 @@
 
 namespace records::test {
 
-/// A program folder with the patient screen.
+/// The patient screen.
 class PatientScreenTest : public RecordsFixture {
  protected:
   screen::Screen& patients() { return shown(u"治療台帳4"); }

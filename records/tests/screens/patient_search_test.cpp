@@ -22,7 +22,7 @@ TEST_F(PatientScreenTest, SearchGoesFromHitToHitAndRoundTheEnd) {
   EXPECT_TRUE(messages.texts().isEmpty());
 }
 
-TEST_F(PatientScreenTest, NoHitIsToldAndThePlaceRestored) {
+TEST_F(PatientScreenTest, NoHitIsReportedAndTheRowStays) {
   addNamed({u"見本 一郎"_s, u"見本 二郎"_s});
   screen::Screen& screen = patients();
   screen.trigger(u"Command18"_s);
@@ -44,7 +44,7 @@ TEST_F(PatientScreenTest, BlankWordSearchesNothingAndIsAskedFor) {
   EXPECT_TRUE(messages.texts().isEmpty());
 }
 
-TEST_F(PatientScreenTest, QuoteInTheWordGivesTheEnginesOwnText) {
+TEST_F(PatientScreenTest, QuoteInTheWordGivesTheDatabasesText) {
   addNamed({u"見本 一郎"_s, u"見本 二郎"_s});
   screen::Screen& screen = patients();
   screen.trigger(u"Command18"_s);

@@ -8,7 +8,7 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 using test::PatientScreenTest;
 
-TEST_F(PatientScreenTest, PracticesOwnCaptionsStandOnTheFields) {
+TEST_F(PatientScreenTest, FieldsShowThePracticesOwnCaptions) {
   run.settings[frame::slot::kCaptionText1] = u"紹介状:"_s;
   run.settings[frame::slot::kCaptionTreatment] = u"施術:"_s;
   screen::Screen& screen = patients();

@@ -139,7 +139,7 @@ TEST_P(PhraseScreenTest, StoringIntoAnEmptyTableMakesItsFirstRow) {
   EXPECT_EQ(stored(), QStringList(u"初めの文字"_s));
 }
 
-TEST_P(PhraseScreenTest, ABlankFieldStartsARowThatIsDroppedWhereNothingIsTyped) {
+TEST_P(PhraseScreenTest, ABlankFieldStartsARowThatIsDroppedIfNothingIsTyped) {
   screen::Screen& screen = threePhrases();
   screen.setText(kField, QString());
   screen.trigger(u"cmdAdd"_s);
@@ -216,7 +216,7 @@ TEST_P(PhraseScreenTest, ClosingStoresWhatWasTyped) {
   EXPECT_EQ(stored().first(), u"一の再度"_s);
 }
 
-TEST_P(PhraseScreenTest, AStoreOverARowThatIsGoneIsToldAndTheTextStays) {
+TEST_P(PhraseScreenTest, StoringARowThatIsGoneIsReportedAndTheTextStays) {
   screen::Screen& screen = threePhrases();
   screen.setText(kField, u"一の直し"_s);
   {
@@ -234,7 +234,7 @@ TEST_P(PhraseScreenTest, AStoreOverARowThatIsGoneIsToldAndTheTextStays) {
   EXPECT_EQ(stored(), (QStringList{u"見本二"_s, u"見本三"_s}));
 }
 
-TEST_P(PhraseScreenTest, AMissingFileIsToldByNameAndNothingBreaks) {
+TEST_P(PhraseScreenTest, AMissingFileIsReportedByNameAndNothingBreaks) {
   QFile::remove(path(GetParam().file));
   screen::Screen& screen = phrases();
   EXPECT_TRUE(lastMessage().startsWith(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"_s));

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "frame/core/routes.h"
 #include "frame/tests/screens/screen_fixture.h"
 #include "platform/report/recording_operations.h"
 #include "records/screens/records_screens.h"
 
 namespace records::test {
 
-/// A program folder with the screens of the patient records, and an empty patient table.
+/// The screens of patients and visits, and an empty patient table.
 class RecordsFixture : public frame::test::ScreenFixture {
  protected:
   RecordsFixture() { registerScreens(registry, run, engine); }
@@ -34,7 +35,7 @@ class RecordsFixture : public frame::test::ScreenFixture {
     for (const QString& name : names) addPatient({{QStringLiteral("氏名"), name}});
   }
 
-  /// All values of a column as the file holds them, in ID order.
+  /// All values of a column as they are in the file, in ID order.
   QStringList stored(const QString& column) const {
     store::RecordSet rows = table();
     QStringList values;

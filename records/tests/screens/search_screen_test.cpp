@@ -50,7 +50,7 @@ TEST_F(SearchScreenTest, RefusedNoticeOnlyCloses) {
   EXPECT_FALSE(navigator.loaded(u"治療台帳4"_s)->source().rows().adding());
 }
 
-TEST_F(SearchScreenTest, NewPatientStartsDirectlyWhereThereArePatients) {
+TEST_F(SearchScreenTest, NewPatientStartsDirectlyIfThereArePatients) {
   addPatient({{u"氏名"_s, u"見本"_s}, {u"テキスト5"_s, u"20240615004"_s}});
   shown(u"選択4").trigger(u"Command1"_s);
   EXPECT_TRUE(messages.texts().isEmpty());
@@ -101,7 +101,7 @@ TEST_F(SearchScreenTest, FuriganaAndBirthDateAreFoundByAPart) {
   EXPECT_EQ(onView(), u"甲"_s);
 }
 
-TEST_F(SearchScreenTest, NoHitKeepsTheRowAndTheDialog) {
+TEST_F(SearchScreenTest, AfterNoHitRowAndDialogStay) {
   addNamed({u"見本 一"_s, u"見本 二"_s});
   navigator.load(u"治療台帳4"_s)->source().moveLast();
   search(u"氏名"_s, u"ない"_s);
@@ -120,7 +120,7 @@ TEST_F(SearchScreenTest, BlankWordOpensTheRowOnViewWithoutHistory) {
   EXPECT_TRUE(SearchHistory(folder.path()).words().isEmpty());
 }
 
-TEST_F(SearchScreenTest, QuoteGivesTheEnginesText) {
+TEST_F(SearchScreenTest, QuoteGivesTheDatabasesText) {
   addNamed({u"見本 一"_s});
   search(u"氏名"_s, u"a' or '1"_s);
   EXPECT_TRUE(lastMessage().startsWith(QString::fromUtf16(screen::kDataControlText)));
@@ -161,7 +161,7 @@ TEST_F(SearchScreenTest, ANameHandedOverOnlyWaitsForEnter) {
   addNamed({u"見本 一"_s, u"例示 二"_s});
   screen::Screen& dialog = shown(u"選択4");
   dialog.choose(u"Frame1"_s, u"患者ID"_s);
-  navigator.show(u"選択4"_s, {{u"氏名"_s, u"例示 二"_s}});
+  navigator.show(routes::PatientSearch{u"例示 二"_s});
   EXPECT_EQ(dialog.chosen(u"Frame1"_s), u"氏名"_s);
   EXPECT_EQ(dialog.text(u"Combo1"_s), u"例示 二"_s);
   EXPECT_EQ(dialog.focused(), u"Combo1"_s);
@@ -190,7 +190,7 @@ TEST_F(SearchScreenTest, ElevenLinesAtMostAndAKnownWordKeepsItsPlace) {
   EXPECT_EQ(SearchHistory(folder.path()).words(), QStringList{u"見本"_s} + lines.mid(0, 9));
 }
 
-TEST_F(SearchScreenTest, MissingTableIsToldAndTheDialogStays) {
+TEST_F(SearchScreenTest, MissingTableIsReportedAndTheDialogStays) {
   ASSERT_TRUE(QFile::remove(path(kFile)));
   search(u"氏名"_s, u"見本"_s);
   EXPECT_TRUE(lastMessage().contains(kFile));

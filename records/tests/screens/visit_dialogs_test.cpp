@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 #include "platform/screen/testing/screen_probe.h"
 #include "platform/store/bulk.h"
+#include "platform/store/tables/visits.h"
 #include "records/tests/screens/records_fixture.h"
 
 // カルテ2の抽出 and ソート5 over a list of visits.
@@ -13,11 +16,11 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-constexpr screen::GridColumn kColumns[] = {{u"治療日時", u"治療日時"}};
+constexpr screen::GridColumn kColumns[] = {{visits::date, u"治療日時"}};
 constexpr screen::Row kListRows[] = {
     screen::Grid{.name = {u"DBGrid1"}, .caption = u"治療の一覧表", .columns = kColumns}};
-constexpr screen::ScreenRow kList{
-    .name = u"治療台帳3", .caption = u"カルテ", .rows = kListRows, .sources = visits::table};
+constexpr screen::ScreenRow kList = screen::declare(
+    {.name = routes::VisitLedger::screen, .caption = u"カルテ", .rows = kListRows, .sources = visits::table});
 
 /// A bare list of visits in the place of the ledger.
 class VisitList : public screen::ListScreen {
@@ -119,7 +122,7 @@ TEST_F(VisitDialogsTest, MarksAreSearchedByYesAndNo) {
   }
 }
 
-TEST_F(VisitDialogsTest, ABlankTextDoesNothingAndNoHitIsTold) {
+TEST_F(VisitDialogsTest, ABlankTextDoesNothingAndNoHitIsReported) {
   search(u"治療概略"_s, QString());
   EXPECT_EQ(dates().size(), 2);
   EXPECT_EQ(messages.texts(), QStringList());
@@ -152,9 +155,9 @@ TEST_F(VisitDialogsTest, TheOtherChoicesAreColumns) {
   EXPECT_EQ(messages.texts(), QStringList());
 }
 
-class VisitRoomTest : public VisitDialogsTest, public testing::WithParamInterface<QString> {};
+class VisitScreenTest : public VisitDialogsTest, public testing::WithParamInterface<QString> {};
 
-TEST_P(VisitRoomTest, EveryControlIsNamedSpokenAndReached) {
+TEST_P(VisitScreenTest, EveryControlIsNamedSpokenAndReached) {
   addNamed({u"見本 一"_s});
   screen::Screen* screen = navigator.show(GetParam());
   ASSERT_NE(screen, nullptr);
@@ -164,7 +167,7 @@ TEST_P(VisitRoomTest, EveryControlIsNamedSpokenAndReached) {
   EXPECT_EQ(probe.faults(), QStringList());
   EXPECT_EQ(probe.unknownColumns({kFile}), QStringList());
 }
-INSTANTIATE_TEST_SUITE_P(Screens, VisitRoomTest,
+INSTANTIATE_TEST_SUITE_P(Screens, VisitScreenTest,
                          testing::Values(u"治療台帳2"_s, u"カルテ2の抽出"_s, u"ソート5"_s));
 
 }  // namespace

@@ -17,10 +17,8 @@ void VisitLedgerFixture::SetUp() {
 }
 
 screen::Screen& VisitLedgerFixture::open(const QString& key, const QString& name) {
-  screen::Screen* screen = navigator.show(u"治療台帳3"_s, {{u"テキスト5"_s, key},
-                                                           {u"氏名"_s, name},
-                                                           {u"生年月日"_s, u"昭和28年3月5日"_s},
-                                                           {u"opener"_s, u"治療台帳4"_s}});
+  screen::Screen* screen = navigator.show(routes::VisitLedger{routes::VisitLedger::Of{
+      .serial = key, .name = name, .birth = u"昭和28年3月5日"_s, .opener = routes::PatientRegister::screen}});
   EXPECT_NE(screen, nullptr);
   activate();
   return *screen;

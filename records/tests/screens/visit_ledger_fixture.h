@@ -7,7 +7,7 @@
 
 namespace records::test {
 
-/// A program folder with the visit ledger: fresh files of visits and claims, a patient P1.
+/// The visit ledger: fresh files of visits and claims, a patient P1.
 class VisitLedgerFixture : public RecordsFixture {
  protected:
   void SetUp() override;
@@ -33,7 +33,7 @@ class VisitLedgerFixture : public RecordsFixture {
   void addOn(const QString& date, const QString& shadow, const QString& summary = {});
   /// What another computer does to the visits meanwhile: a process of its own.
   void elsewhere(const char* statement) const;
-  /// All values of a column of the visits as the file holds them.
+  /// All values of a column of the visits as they are in the file.
   QStringList visitsStored(const QString& column) const;
   /// The column of the rows on view, top to bottom.
   QStringList onView(const QString& column) const;

@@ -23,10 +23,10 @@ class FormStandIn : public screen::ConfirmPrompt {
   void opened(const screen::Request& request) override { m_requests << request; }
 
  private:
-  static constexpr screen::ConfirmRow kRow{.name = u"stand-in",
-                                           .caption = u"stand-in",
-                                           .lines = frame::test::kStandInLines,
-                                           .buttons = frame::test::kStandInButtons};
+  static constexpr screen::PromptButton kButtons[] = {
+      {.name = routes::ClaimForm::storeCommand, .caption = u"登録", .action = screen::kClosePrompt}};
+  static constexpr screen::ConfirmRow kRow{
+      .name = u"stand-in", .caption = u"stand-in", .lines = frame::test::kStandInLines, .buttons = kButtons};
   QList<screen::Request>& m_requests;
 };
 
@@ -90,7 +90,7 @@ TEST_F(VisitLedgerGrid, IsHiddenUntilTicked) {
   EXPECT_TRUE(told().isEmpty());
 }
 
-TEST_F(VisitLedgerGrid, WithoutAClaimItIsToldAndStaysHidden) {
+TEST_F(VisitLedgerGrid, WithoutAClaimItSaysSoAndStaysHidden) {
   const auto expectRefused = [&](const char* what) {
     EXPECT_EQ(told(), QStringList{kNoClaim}) << what;
     EXPECT_FALSE(isGridShown()) << what;
@@ -132,7 +132,7 @@ TEST_F(VisitLedgerGrid, SecondHalfIsTheOneOfTheClaim) {
   EXPECT_FALSE(ledger().checked(u"yn2"_s));
 }
 
-TEST_F(VisitLedgerGrid, AQuoteInTheMonthIsToldInTheEnginesWords) {
+TEST_F(VisitLedgerGrid, AQuoteInTheMonthGivesTheDatabasesText) {
   addClaim(u"令和6年6月", u"鍼灸");
   openGrid(u"令和'6年6月"_s);
   ASSERT_EQ(messages.texts().size(), 1);
@@ -247,8 +247,10 @@ TEST_F(VisitLedgerGrid, StoresBothHalvesAndInvitesToStoreOnTheForm) {
   EXPECT_TRUE(stored.ticked(u"yn2"_s));
   EXPECT_EQ(stored.get(u"保険者名称"_s), u"架空市"_s) << "nothing else is touched";
   ASSERT_FALSE(m_requests.isEmpty());
-  EXPECT_EQ(m_requests.first().value(u"ID"_s).toLongLong(), id);
-  EXPECT_EQ(m_requests.first().value(u"opener"_s).toString(), u"治療台帳3"_s);
+  const auto* route = m_requests.first().as<routes::ClaimForm>();
+  ASSERT_NE(route, nullptr);
+  EXPECT_EQ(route->id, id);
+  EXPECT_EQ(route->opener, routes::VisitLedger::screen);
   EXPECT_TRUE(navigator.isShown(kForm));
   EXPECT_TRUE(isGridShown());
 }
@@ -310,7 +312,7 @@ TEST_F(VisitLedgerGrid, AClaimThatChangedMeanwhileIsRefusedOnceAndTheCellsStay) 
 
 // ---- Leaving the claim ----
 
-TEST_F(VisitLedgerGrid, TypedDaysAreKeptWhenTheGridIsLeft) {
+TEST_F(VisitLedgerGrid, TypedDaysAreStoredWhenTheGridIsLeft) {
   const qint64 id = addClaim(u"令和6年10月", u"あマ");
   openGrid(u"令和6年10月"_s);
   type(u"Text5(0)", u"g1"_s);
@@ -359,7 +361,7 @@ TEST_F(VisitLedgerGrid, TheClaimIsReadAgainAfterTheFormStoredIt) {
   EXPECT_EQ(claim(id).code(3), u"g2"_s);
 }
 
-TEST_F(VisitLedgerGrid, AMissingClaimFileIsToldByName) {
+TEST_F(VisitLedgerGrid, AMissingClaimFileIsReportedByName) {
   ASSERT_TRUE(QFile::remove(path(u"保険申請2000_2.mdb"_s)));
   openGrid(u"令和6年10月"_s);
   ASSERT_EQ(messages.texts().size(), 1);

@@ -30,7 +30,7 @@ TEST_F(VisitLedgerLife, OpensOnTheVisitsOfThePatientInTheOrderOfTheirDates) {
   EXPECT_EQ(ledger().windowTitle(), u"カルテ"_s);
 }
 
-TEST_F(VisitLedgerLife, KeyIsFoundWhereverItStandsInTheLink) {
+TEST_F(VisitLedgerLife, VisitsAreFoundByASerialAnywhereInTheirLink) {
   addVisit({{u"氏名"_s, u"見本　太郎"_s}}, u"xP1x"_s);
   open();
   EXPECT_EQ(onView(u"ETC1"_s), QStringList{u"xP1x"_s});
@@ -44,7 +44,7 @@ TEST_F(VisitLedgerLife, AnnouncesThePatientAndTakesThePresentMonth) {
   EXPECT_EQ(value(u"txtFields(115)"), u"令和6年6月"_s);
 }
 
-TEST_F(VisitLedgerLife, MonthIsTheProgramsOwnWhereThePlatformLacksTheEra) {
+TEST_F(VisitLedgerLife, MonthIsTheProgramsOwnIfThePlatformLacksTheEra) {
   run.eraCapability = frame::EraCapability::Unsupported;
   addOn(u"令和6年6月1日"_s, u"2024/6/1"_s);
   open();
@@ -118,7 +118,7 @@ TEST_F(VisitLedgerLife, AnotherPatientComesWithHisVisitsAndWithoutThePreviousSto
   type(u"txtFields(3)", u"書きかけ"_s);
   channel.clear();
   open(u"Q9"_s, u"例示　花子"_s);
-  EXPECT_EQ(visitsStored(u"治療概略"_s).last(), u"書きかけ"_s) << "what was typed is kept";
+  EXPECT_EQ(visitsStored(u"治療概略"_s).last(), u"書きかけ"_s) << "what was typed is stored";
   EXPECT_TRUE(heard(u"例示　花子カルテ２を開きました。"_s));
   EXPECT_EQ(onView(u"氏名"_s), QStringList{u"例示　花子"_s});
   press(u"Command4");
@@ -149,7 +149,7 @@ TEST_F(VisitLedgerLife, CloseBoxIsRefusedInEveryState) {
   expectRefused("new row");
 }
 
-TEST_F(VisitLedgerLife, PendingNewVisitKeepsItOpenUntilStored) {
+TEST_F(VisitLedgerLife, ItStaysOpenUntilANewVisitIsStored) {
   standIn(u"治療台帳4"_s);
   addOn(u"令和6年6月1日"_s, u"2024/6/1"_s);
   open();
@@ -289,7 +289,7 @@ TEST_F(VisitLedgerLife, WithoutAPatientItShowsAllVisits) {
   EXPECT_EQ(label(u"Label14"), u"2"_s);
 }
 
-TEST_F(VisitLedgerLife, MissingFileIsToldByNameOnceAndNothingIsMade) {
+TEST_F(VisitLedgerLife, MissingFileIsReportedByNameOnceAndNothingIsMade) {
   ASSERT_TRUE(QFile::remove(path(kVisitFile)));
   open();
   ASSERT_EQ(messages.texts().size(), 1);

@@ -1,3 +1,4 @@
+#include "frame/core/routes_unbuilt.h"
 #include "platform/screen/list_screen.h"
 #include "records/tests/screens/visit_ledger_fixture.h"
 
@@ -59,7 +60,7 @@ TEST_F(VisitLedgerView, HitsAreSaid) {
       << channel.heardWhole().join(u'|').toStdString();
 }
 
-TEST_F(VisitLedgerView, NoHitIsToldAndTheViewStays) {
+TEST_F(VisitLedgerView, NoHitIsReportedAndTheViewStays) {
   addSome();
   open();
   ledger().goLast();
@@ -87,7 +88,7 @@ TEST_F(VisitLedgerView, ABlankMonthIsIgnored) {
   EXPECT_EQ(label(u"Label14"), u"3"_s);
 }
 
-TEST_F(VisitLedgerView, AQuoteInTheMonthIsToldAndHarmsNothing) {
+TEST_F(VisitLedgerView, AQuoteInTheMonthIsReportedAndHarmsNothing) {
   addSome();
   open();
   type(u"Text1", u"令和2年' or 治療概略 like '他"_s);
@@ -134,7 +135,7 @@ TEST_F(VisitLedgerView, WholeViewOfThePatientComesBackInOrder) {
   EXPECT_EQ(onView(u"治療概略"_s), (QStringList{u"一"_s, u"西暦"_s, u"二"_s})) << "8 January before the 20th";
 }
 
-TEST_F(VisitLedgerView, NoVisitOfThePatientIsToldByTheWholeView) {
+TEST_F(VisitLedgerView, TheWholeViewReportsAPatientWithoutVisits) {
   addVisit({{u"氏名"_s, u"例示　花子"_s}}, u"Q9"_s);
   open();
   navigator.loaded(u"カルテ2の新規"_s)->trigger(u"Command2"_s);
@@ -162,13 +163,10 @@ TEST_F(VisitLedgerView, AllPatientsAreCountedAndSummed) {
   open();
   const auto totals = [&] {
     press(u"Men_VS");
-    const screen::Request request = requestOf(u"集計総合金額"_s);
-    QList<qint64> sums;
-    for (const QString& key :
-         {u"rows"_s, u"insurer"_s, u"share"_s, u"treatment"_s, u"receipts"_s, u"newPatients"_s})
-      sums << request.value(key).toLongLong();
-    EXPECT_EQ(request.value(u"opener"_s).toString(), u"治療台帳3"_s);
-    return sums;
+    const routes::Totals route = routeTo<routes::Totals>().value_or(routes::Totals{});
+    EXPECT_TRUE(route.ofOnePatient);
+    return QList<qint64>{route.rows,      route.insurer,  route.share,
+                         route.treatment, route.receipts, route.newPatients};
   };
   ledger().goLast();
   EXPECT_EQ(totals(), (QList<qint64>{2, 700, 300, 1500, 1, 0}));
@@ -185,7 +183,7 @@ TEST_F(VisitLedgerView, SortingAndExtractingWorkOnTheViewByItsListName) {
   EXPECT_EQ(onView(u"治療概略"_s), (QStringList{u"二"_s, u"西暦"_s, u"一"_s}));
   EXPECT_TRUE(list().narrowBy(u"治療概略 like '*一*' "_s));
   EXPECT_EQ(onView(u"治療概略"_s), QStringList{u"一"_s});
-  EXPECT_FALSE(list().sortBy(u"治療概要 ASC"_s)) << "kept: not a column";
+  EXPECT_FALSE(list().sortBy(u"治療概要 ASC"_s)) << "not a column";
   EXPECT_TRUE(lastMessage().startsWith(QString::fromUtf16(screen::kDataControlText)));
   press(u"Command13");
   EXPECT_TRUE(isShown(u"ソート5"));
@@ -193,7 +191,7 @@ TEST_F(VisitLedgerView, SortingAndExtractingWorkOnTheViewByItsListName) {
   EXPECT_TRUE(isShown(u"カルテ2の抽出"));
 }
 
-// ---- Other rooms ----
+// ---- Other screens ----
 
 TEST_F(VisitLedgerView, DetailIsGatedByThePendingVisitAndAsksFirst) {
   addOn(u"令和6年6月1日"_s, u"2024/6/1"_s);
@@ -218,21 +216,42 @@ TEST_F(VisitLedgerView, DetailGetsItsVisitAndIsNotOpenedTwice) {
   open();
   answer({true, true});
   press(u"Command14");
-  EXPECT_EQ(requestOf(u"治療台帳detail"_s).value(u"ID"_s).toLongLong(), 1);
-  EXPECT_EQ(requestOf(u"治療台帳detail"_s).value(u"ETC1"_s).toString(), u"P1"_s);
+  const auto chart = routeTo<routes::unbuilt::DetailChart>();
+  ASSERT_TRUE(chart);
+  EXPECT_EQ(chart->visit, 1);
+  EXPECT_EQ(chart->serial, u"P1"_s);
   press(u"Command14");
   EXPECT_EQ(lastMessage(),
             u"すでにカルテ２詳細データ(治療台帳detail)の窓が開いています。"
             u"開いているカルテ２詳細データ(治療台帳detail)を閉じて下さい。"_s);
 }
 
-TEST_F(VisitLedgerView, ReceiptsAreToldByNameUntilTheyAreThere) {
+TEST_F(VisitLedgerView, UnbuiltReceiptsAreReportedByName) {
   addOn(u"令和6年6月1日"_s, u"2024/6/1"_s);
   open();
   press(u"Command12");
   press(u"Men_RP");
   press(u"Command10");
   EXPECT_EQ(told(), (QStringList{notYet(u"領収証選択"_s), notYet(u"領収証選択"_s), notYet(u"明細領収"_s)}));
+}
+
+TEST_F(VisitLedgerView, ReceiptsAreHandedThePatientOfTheVisitAndTheWayBack) {
+  standIn(u"領収証選択"_s);
+  standIn(u"明細領収"_s);
+  addOn(u"令和6年6月1日"_s, u"2024/6/1"_s);
+  open();
+  press(u"Command12");
+  press(u"Command10");
+  const auto receipt = routeTo<routes::unbuilt::ReceiptChoice>();
+  const auto detailed = routeTo<routes::unbuilt::DetailedReceipt>();
+  ASSERT_TRUE(receipt && receipt->patient && detailed);
+  for (const frame::Patient& patient : {*receipt->patient, detailed->patient}) {
+    EXPECT_EQ(patient.serial, u"P1"_s);
+    EXPECT_EQ(patient.name, u"見本　太郎"_s);
+    EXPECT_EQ(patient.birth, u"昭和28年3月5日"_s);
+  }
+  EXPECT_EQ(receipt->opener, routes::VisitLedger::screen);
+  EXPECT_EQ(detailed->opener, routes::VisitLedger::screen);
 }
 
 }  // namespace

@@ -247,7 +247,7 @@ TEST_F(VisitLedgerVisit, OneFilledAmountIsEnoughToRefuse) {
   }
 }
 
-TEST_F(VisitLedgerVisit, AStoreThatWasNeverFilledCopiesNothing) {
+TEST_F(VisitLedgerVisit, APreviousVisitThatWasNeverTakenCopiesNothing) {
   addOn(u"令和6年6月1日"_s, u"2024/6/1"_s);
   open();
   press(u"Command4");

@@ -1,6 +1,6 @@
 #include "records/tests/screens/patient_screen_fixture.h"
 
-// The ways from the patient screen to other rooms and back to the menu.
+// The ways from the patient screen to other screens and back to the menu.
 
 namespace records {
 namespace {
@@ -13,9 +13,9 @@ TEST_F(PatientScreenTest, AClaimOpensItsOwnPatient) {
        {std::pair(u"A1"_s, u"見本 一郎"_s), std::pair(u"A2"_s, u"見本 二郎"_s)})
     addPatient({{u"テキスト5"_s, serial}, {u"氏名"_s, patient}});
   screen::Screen& screen = patients();
-  navigator.show(u"治療台帳4"_s, {{u"テキスト5"_s, u"A2"_s}});
+  navigator.show(routes::PatientRegister{routes::PatientRegister::BySerial{u"A2"_s}});
   EXPECT_EQ(name(screen), u"見本 二郎"_s);
-  navigator.show(u"治療台帳4"_s, {{u"テキスト5"_s, u"A2"_s}});
+  navigator.show(routes::PatientRegister{routes::PatientRegister::BySerial{u"A2"_s}});
   EXPECT_EQ(name(screen), u"見本 二郎"_s);
 }
 
@@ -56,7 +56,6 @@ TEST_F(PatientScreenTest, ARowThatCannotBeWrittenDoesNotLockTheUserIn) {
   EXPECT_EQ(
       messages.texts().count(u"登録出来ませんでした。入力した内容を捨てて、メインメニューへ戻りますか？"_s),
       2);
-  EXPECT_EQ(run.lastAnswer, 1);
   EXPECT_EQ(stored(u"氏名"_s), QStringList{u"見本 二郎"_s});
 }
 
@@ -68,17 +67,28 @@ TEST_F(PatientScreenTest, NewClaimIsHandedThePatient) {
               {u"住所1"_s, u"あ"_s.repeated(30)},
               {u"住所2"_s, u"い"_s.repeated(30)},
               {u"電話1"_s, u"00-0000-0001"_s},
+              {u"電話2"_s, u"00-0000-0002"_s},
+              {u"患者ID"_s, u"17"_s},
+              {u"カルテ番号"_s, u"K-4"_s},
+              {u"郵便番号"_s, u"000-0001"_s},
+              {u"初診日"_s, u"令和6年4月1日"_s},
               {u"テキスト5"_s, u"20240401001"_s}});
   standIn(u"新規レセプト"_s);
   patients().trigger(u"Command6"_s);
-  const screen::Request request = requestOf(u"新規レセプト"_s);
-  EXPECT_EQ(request.value(u"氏名"_s).toString(), u"見本 太郎"_s);
-  EXPECT_EQ(request.value(u"ふりがな"_s).toString(), u"ﾐﾎﾝ ﾀﾛｳ"_s);
-  EXPECT_EQ(request.value(u"生年月日"_s).toString(), u"昭和28年3月5日"_s);
-  EXPECT_EQ(request.value(u"性別"_s).toString(), u"男"_s);
-  EXPECT_EQ(request.value(u"電話1"_s).toString(), u"00-0000-0001"_s);
-  EXPECT_EQ(request.value(u"テキスト5"_s).toString(), u"20240401001"_s);
-  EXPECT_EQ(request.value(u"住所1"_s).toString(), u"あ"_s.repeated(30) + u"い"_s.repeated(9));
+  const auto route = routeTo<routes::NewClaim>();
+  ASSERT_TRUE(route);
+  const frame::Patient& patient = route->patient;
+  EXPECT_EQ(patient.name, u"見本 太郎"_s);
+  EXPECT_EQ(patient.kana, u"ﾐﾎﾝ ﾀﾛｳ"_s);
+  EXPECT_EQ(patient.birth, u"昭和28年3月5日"_s);
+  EXPECT_EQ(patient.sex, u"男"_s);
+  EXPECT_EQ(patient.telephone, u"00-0000-0001"_s);
+  EXPECT_EQ(patient.serial, u"20240401001"_s);
+  EXPECT_EQ(patient.address, u"あ"_s.repeated(30) + u"い"_s.repeated(9));
+  EXPECT_EQ(patient.number, u"17"_s);
+  EXPECT_EQ(patient.chartNumber, u"K-4"_s);
+  EXPECT_EQ(patient.zip, u"000-0001"_s);
+  EXPECT_EQ(patient.firstVisit, u"令和6年4月1日"_s);
 }
 
 TEST_F(PatientScreenTest, ClaimsOfThePatientGoByTheSerialElseByTheName) {
@@ -87,10 +97,10 @@ TEST_F(PatientScreenTest, ClaimsOfThePatientGoByTheSerialElseByTheName) {
   standIn(u"レセプト一覧表"_s);
   screen::Screen& screen = patients();
   screen.trigger(u"Men_FR"_s);
-  EXPECT_EQ(requestOf(u"レセプト一覧表"_s).value(u"criteria"_s).toString(), u"番号1 ='20240401001' "_s);
+  EXPECT_EQ(routeTo<routes::ClaimList>().value().criteria, u"番号1 ='20240401001' "_s);
   screen.trigger(u"Command17"_s);
   screen.trigger(u"Command7"_s);
-  EXPECT_EQ(requestOf(u"レセプト一覧表"_s).value(u"criteria"_s).toString(), u"氏名='見本 次郎' "_s);
+  EXPECT_EQ(routeTo<routes::ClaimList>().value().criteria, u"氏名='見本 次郎' "_s);
 }
 
 TEST_F(PatientScreenTest, ChartOneNeedsASerial) {
@@ -99,37 +109,37 @@ TEST_F(PatientScreenTest, ChartOneNeedsASerial) {
   EXPECT_TRUE(messages.texts().isEmpty());
 }
 
-struct RoomCase {
-  QString command, room;
+struct CommandCase {
+  QString command, screen;
 };
-class PatientRoomTest : public PatientScreenTest, public testing::WithParamInterface<RoomCase> {};
+class PatientCommandTest : public PatientScreenTest, public testing::WithParamInterface<CommandCase> {};
 
-TEST_P(PatientRoomTest, CommandOpensItsRoom) {
+TEST_P(PatientCommandTest, CommandOpensItsScreen) {
   addPatient({{u"テキスト5"_s, u"20240401001"_s}});
-  standIn(GetParam().room);
+  standIn(GetParam().screen);
   patients().trigger(GetParam().command);
-  EXPECT_TRUE(navigator.isShown(GetParam().room)) << GetParam().command.toStdString();
+  EXPECT_TRUE(navigator.isShown(GetParam().screen)) << GetParam().command.toStdString();
   EXPECT_TRUE(messages.texts().isEmpty());
 }
 
-TEST_F(PatientScreenTest, RoomThatIsNotThereYetIsToldByName) {
+TEST_F(PatientScreenTest, UnbuiltScreenIsReportedByName) {
   addPatient({{u"テキスト5"_s, u"20240401001"_s}});
   patients().trigger(u"Command5"_s);
   EXPECT_EQ(messages.texts(), QStringList{notYet(u"GEDIT"_s)});
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Rows, PatientRoomTest,
-    testing::Values(RoomCase{u"Command2"_s, u"治療台帳2"_s}, RoomCase{u"Men_FK1"_s, u"治療台帳2"_s},
-                    RoomCase{u"Command4"_s, u"治療台帳3"_s}, RoomCase{u"Men_FK2"_s, u"治療台帳3"_s},
-                    RoomCase{u"Command5"_s, u"GEDIT"_s}, RoomCase{u"cmdAdd"_s, u"frm経穴"_s},
-                    RoomCase{u"Men_FJ3"_s, u"frm経穴"_s}, RoomCase{u"Men_FJ1"_s, u"frmCLmoji"_s},
-                    RoomCase{u"Men_FJ2"_s, u"frmCl2moji"_s}, RoomCase{u"Men_FO"_s, u"一覧表"_s},
-                    RoomCase{u"Men_RA"_s, u"領収証選択"_s}, RoomCase{u"Men_YD"_s, u"予約2"_s},
-                    RoomCase{u"Men_YY"_s, u"予約2"_s}, RoomCase{u"Men_YK"_s, u"今日の予約"_s},
-                    RoomCase{u"Men_YI"_s, u"予約週間表"_s}, RoomCase{u"Men_AT"_s, u"登録"_s},
-                    RoomCase{u"Men_ALF"_s, u"LANフォルダ指定"_s}, RoomCase{u"Men_ACHK"_s, u"txtbox"_s},
-                    RoomCase{u"Men_Am"_s, u"データ送"_s}, RoomCase{u"Men_Amml"_s, u"データ送2"_s}));
+    Rows, PatientCommandTest,
+    testing::Values(CommandCase{u"Command2"_s, u"治療台帳2"_s}, CommandCase{u"Men_FK1"_s, u"治療台帳2"_s},
+                    CommandCase{u"Command4"_s, u"治療台帳3"_s}, CommandCase{u"Men_FK2"_s, u"治療台帳3"_s},
+                    CommandCase{u"Command5"_s, u"GEDIT"_s}, CommandCase{u"cmdAdd"_s, u"frm経穴"_s},
+                    CommandCase{u"Men_FJ3"_s, u"frm経穴"_s}, CommandCase{u"Men_FJ1"_s, u"frmCLmoji"_s},
+                    CommandCase{u"Men_FJ2"_s, u"frmCl2moji"_s}, CommandCase{u"Men_FO"_s, u"一覧表"_s},
+                    CommandCase{u"Men_RA"_s, u"領収証選択"_s}, CommandCase{u"Men_YD"_s, u"予約2"_s},
+                    CommandCase{u"Men_YY"_s, u"予約2"_s}, CommandCase{u"Men_YK"_s, u"今日の予約"_s},
+                    CommandCase{u"Men_YI"_s, u"予約週間表"_s}, CommandCase{u"Men_AT"_s, u"登録"_s},
+                    CommandCase{u"Men_ALF"_s, u"LANフォルダ指定"_s}, CommandCase{u"Men_ACHK"_s, u"txtbox"_s},
+                    CommandCase{u"Men_Am"_s, u"データ送"_s}, CommandCase{u"Men_Amml"_s, u"データ送2"_s}));
 
 }  // namespace
 }  // namespace records
