@@ -35,7 +35,7 @@ constexpr bool itemsAreComplete(AmountItems items) {
     if (item.counter == nullptr && !item.fee.fees().empty()) return false;
     if (item.counter != nullptr && item.charged && item.fee.fees().empty()) return false;
     for (const Fee fee : item.fee.fees())
-      if (fee < Fee{} || fee >= Fee::Count) return false;
+      if (static_cast<size_t>(fee) >= kFees.size()) return false;
     if (!isOfClaim(item.tick) || !isOfClaim(item.columns.amount) || !isOfClaim(item.columns.count))
       return false;
     if (anyBox && item.field.first == 0) return false;

@@ -3,11 +3,13 @@
 #include <QString>
 #include <array>
 
+#include "claims/core/claim_record.h"
 #include "platform/store/tables/fees.h"
 
 namespace claims {
 
-/// A fee: a column of table 料金設定, in the order of the table.
+/// A fee: a column of table 料金設定, in the order of the table behind ID. These are the fees that rules
+/// name; a further column of the table is a fee too, see feeOf().
 enum class Fee {
   Hari,
   HariFirst,
@@ -39,7 +41,7 @@ enum class Fee {
   Report,
   HariVisit,                     ///< the first of eight, see hariVisitFee
   MassageVisit = HariVisit + 8,  ///< the first of twenty, see massageVisitFee
-  Count = MassageVisit + 20
+  Count = MassageVisit + 20      ///< of the fees with names
 };
 
 /// はり訪問施術 by form 0 to 3 (①, ②, ③ of 3 to 9 patients, ③ of 10 and more) and arts 1 or 2.
@@ -51,14 +53,35 @@ constexpr Fee massageVisitFee(int form, int areas) {
   return static_cast<Fee>(static_cast<int>(Fee::MassageVisit) + form * 5 + areas - 1);
 }
 
-/// A fee and its column.
+/// The fee of a column of table 料金設定; a column of another table does not compile.
+constexpr Fee feeOf(const store::Column& column) {
+  const auto columns = fees::table.columns();
+  for (size_t i = 1; i < columns.size(); ++i)
+    if (columns[i].name == column.name()) return static_cast<Fee>(i - 1);
+  throw "no fee";
+}
+
+/// A fee and the name of its column.
 struct FeeRow {
+  Fee fee;
+  const char16_t* column;
+};
+
+/// All fees: the columns of the table but ID.
+inline constexpr auto kFees = [] {
+  std::array<FeeRow, fees::table.columns().size() - 1> rows{};
+  for (size_t i = 0; i < rows.size(); ++i) rows[i] = {static_cast<Fee>(i), fees::table.columns()[i + 1].name};
+  return rows;
+}();
+
+namespace detail {
+
+/// The fees with names and their columns, which have to agree with the order of the table.
+struct NamedFee {
   Fee fee;
   store::Column column;
 };
-
-/// All fees, in the order of the enumeration.
-inline constexpr auto kFees = std::to_array<FeeRow>({
+inline constexpr auto kNamedFees = std::to_array<NamedFee>({
     {Fee::Hari, fees::hari},
     {Fee::HariFirst, fees::hariFirst},
     {Fee::HariElectric, fees::hariElectric},
@@ -117,17 +140,17 @@ inline constexpr auto kFees = std::to_array<FeeRow>({
     {massageVisitFee(3, 5), fees::massageVisit10[5]},
 });
 
-/// Whether row n is fee n and column n + 1 of the table (behind ID), so that a fee is the index of its row
-/// and no column of the table is forgotten.
-consteval bool feesAreTheTable() {
-  const auto columns = fees::table.columns();
-  for (size_t i = 0; i < kFees.size(); ++i)
-    if (kFees[i].fee != static_cast<Fee>(i) || kFees[i].column.name() != columns[i + 1].name) return false;
-  return kFees.size() == static_cast<size_t>(Fee::Count) && columns.size() == kFees.size() + 1;
+consteval bool namesAreInOrder() {
+  for (size_t i = 0; i < kNamedFees.size(); ++i)
+    if (kNamedFees[i].fee != static_cast<Fee>(i) || feeOf(kNamedFees[i].column) != kNamedFees[i].fee)
+      return false;
+  return kNamedFees.size() == static_cast<size_t>(Fee::Count);
 }
-static_assert(feesAreTheTable());
+static_assert(namesAreInOrder());
+
+}  // namespace detail
 
 /// Column name of a fee.
-inline QString feeColumn(Fee fee) { return kFees[static_cast<size_t>(fee)].column; }
+inline QString feeColumn(Fee fee) { return columnName(kFees[static_cast<size_t>(fee)].column); }
 
 }  // namespace claims

@@ -14,6 +14,7 @@ class FeeRule {
  public:
   constexpr FeeRule() = default;
   constexpr FeeRule(Fee fee) : FeeRule({fee}) {}
+  constexpr FeeRule(store::Column column) : FeeRule(feeOf(column)) {}
   /// The fees of the numbers 1, 2 ...
   constexpr FeeRule(std::initializer_list<Fee> fees) {
     for (const Fee fee : fees) m_fees.at(m_size++) = fee;

@@ -10,6 +10,8 @@ namespace {
 using namespace counters;
 using Fields = RecordFields;
 
+constexpr RecordVersion kVersions[] = {{u"鍼データ集結ver9.0", rule::kVisitTreatment}};
+
 constexpr AmountItem kItems[] = {
     {.label = u"初回施術",
      .counter = firstTreatment,
@@ -102,8 +104,6 @@ constexpr AmountItem kItems[] = {
     {.label = u"一部負担金", .figure = Figure::Share, .field = {47, Fields::Amount}, .boxes = {.amount = 47}},
     {.label = u"請求額", .figure = Figure::Claim, .field = {48, Fields::Amount}, .boxes = {.amount = 48}},
 };
-
-constexpr RecordVersion kVersions[] = {{u"鍼データ集結ver9.0", rule::kVisitTreatment}};
 
 static_assert(itemsAreComplete(kItems));
 static_assert(fieldsAreContiguous(kItems, kVersions));

@@ -24,6 +24,8 @@ constexpr AmountItem areaBox(int box, const char16_t* label) {
           .boxes = {.count = box + 1}};
 }
 
+constexpr RecordVersion kVersions[] = {{u"あマデータ集結ver9.0", rule::kVisitTreatment}};
+
 constexpr AmountItem kItems[] = {
     areaBox(0, u"施術回数 躯幹"),
     areaBox(1, u"施術回数 右上肢"),
@@ -149,8 +151,6 @@ constexpr AmountItem kItems[] = {
     {.label = u"一部負担金", .figure = Figure::Share, .field = {59, Fields::Amount}, .boxes = {.amount = 59}},
     {.label = u"請求額", .figure = Figure::Claim, .field = {60, Fields::Amount}, .boxes = {.amount = 60}},
 };
-
-constexpr RecordVersion kVersions[] = {{u"あマデータ集結ver9.0", rule::kVisitTreatment}};
 
 static_assert(itemsAreComplete(kItems));
 static_assert(fieldsAreContiguous(kItems, kVersions));

@@ -18,10 +18,9 @@ QList<QStringList> readTable() {
 FeeEdition editionOf(const QStringList& header, const QStringList& row) {
   FeeEdition edition;
   edition.id = row[1].toLongLong();
-  for (int i = 0; i < static_cast<int>(Fee::Count); ++i) {
-    const auto fee = static_cast<Fee>(i);
-    const qsizetype at = header.indexOf(feeColumn(fee));
-    if (at >= 0 && !row[at].isEmpty()) edition.set(fee, row[at].toInt());
+  for (const FeeRow& fee : kFees) {
+    const qsizetype at = header.indexOf(feeColumn(fee.fee));
+    if (at >= 0 && !row[at].isEmpty()) edition.set(fee.fee, row[at].toInt());
   }
   return edition;
 }

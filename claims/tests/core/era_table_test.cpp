@@ -88,7 +88,7 @@ TEST(EraTable, AWrongRowIsNotSound) {
       {"a cell of three items", [](auto& items) { itemOf(items, 16).boxes.alone = 51; }},
       {"middle boxes that are others'", [](auto& items) { itemOf(items, 16).boxes.alone = 58; }},
       {"a box without a field", [](auto& items) { items[0].field = {}; }},
-      {"an unknown fee", [](auto& items) { itemOf(items, 34).fee = Fee::Count; }},
+      {"an unknown fee", [](auto& items) { itemOf(items, 34).fee = static_cast<Fee>(kFees.size()); }},
       {"a tick of another table", [](auto& items) { itemOf(items, 37).tick = fees::specialArea; }},
       {"a charge without a fee", [](auto& items) { itemOf(items, 34).fee = {}; }},
       {"an item that neither counts nor is a figure",

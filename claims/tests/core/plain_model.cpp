@@ -12,8 +12,8 @@ struct Model {
   qint64 total = 0;
 
   void add(const char16_t* column, qint64 times = 1) {
-    for (int i = 0; i < static_cast<int>(Fee::Count); ++i)
-      if (feeColumn(static_cast<Fee>(i)) == column) total += times * fees.yen(static_cast<Fee>(i));
+    for (const FeeRow& fee : kFees)
+      if (feeColumn(fee.fee) == column) total += times * fees.yen(fee.fee);
   }
   void add(const QString& column, qint64 times = 1) {
     add(reinterpret_cast<const char16_t*>(column.utf16()), times);
