@@ -15,11 +15,11 @@ using Values = QHash<QString, store::Value>;
 class BoundValues : public ::testing::Test {
  protected:
   void SetUp() override {
-    ASSERT_TRUE(screen.source().open(desk.patientsFile({"見本一", "見本二"})));
+    ASSERT_TRUE(screen.source().open(harness.patientsFile({"見本一", "見本二"})));
     screen.log.clear();
   }
-  Desk desk;
-  SampleScreen screen{desk.services};
+  Harness harness;
+  SampleScreen screen{harness.services};
 };
 
 TEST_F(BoundValues, AClearedFieldIsBlankNotNull) {
