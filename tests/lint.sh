@@ -58,6 +58,8 @@ rule "only the screen kit makes input widgets" \
 rule "messages go through the one door" "$(grep -nE 'QMessageBox' $(printf '%s\n' $code | grep -v '^platform/screen/'))"
 rule "statements of the engine stand in the store alone" \
   "$(grep -nE 'u?"[^"]*\b(SELECT|INSERT INTO|DELETE FROM|CREATE TABLE|ALTER TABLE)\b|u?"UPDATE [^"]*SET' $(printf '%s\n' $code | grep -v '^platform/store/') | grep -vE '//.*(SELECT|UPDATE|ALTER)')"
+rule "handlers name no control, column or screen by a string" \
+  "$(grep -nE '\b(text|setText|checked|setChecked|chosen|choose|items|setItems|chosenItem|setRows|setShown|isControlShown|setEnabledControl|setCaption|caption|setTip|setCaptionRed|focusOn|askFor|trigger|day|setDay)\((u"|QStringLiteral|")|\b(value|valueAt|readAt|setValue|likeCriterion|equalCriterion|prefixCriterion|patternCriterion|spanCriterion|ticked|blank)\((u"|QStringLiteral)|navigator\(\)\.(show|load|loaded|isShown|unload)\((u"|QStringLiteral)' $(printf '%s\n' $code | grep -vE '^(platform|app)/'))"
 rule "today comes from the clock" "$(grep -nE 'QDate(Time)?::current' $(printf '%s\n' $code | grep -v '^platform/text/clock.h'))"
 rule "names of files are ASCII" "$(git -c core.quotepath=off ls-files | LC_ALL=C grep -nP '[^\x00-\x7F]')"
 rule "each header guards itself" "$(for f in $(sources '*' | grep '\.h$'); do grep -q '#pragma once' "$f" || echo "$f"; done)"

@@ -18,7 +18,7 @@ FeeEdition editionAt(const store::Cursor& row) {
     const QString value = row.value(feeColumn(fee.fee));
     if (text::isNumeric(value)) edition.set(fee.fee, static_cast<int>(text::intOf(value)));
   }
-  edition.id = row.value(QStringLiteral("ID")).toLongLong();
+  edition.id = row.value(fees::id).toLongLong();
   return edition;
 }
 
