@@ -5,6 +5,7 @@
 
 #include "claims/core/claim_record.h"
 #include "platform/store/tables/fees.h"
+#include "platform/text/utf16.h"
 
 namespace claims {
 
@@ -151,6 +152,6 @@ static_assert(namesAreInOrder());
 }  // namespace detail
 
 /// Column name of a fee.
-inline QString feeColumn(Fee fee) { return columnName(kFees[static_cast<size_t>(fee)].column); }
+inline QString feeColumn(Fee fee) { return text::utf16(kFees[static_cast<size_t>(fee)].column); }
 
 }  // namespace claims
