@@ -60,8 +60,8 @@ text::Result<QList<ConsentEnd>> rowsOf(store::Cursor& claims, const Ends& ends) 
     const QString name = claims.value(claim::name);
     if (listed.contains(name)) continue;
     listed.insert(name);
-    rows.append({name, claims.value(claim::insuranceKind), *end,
-                 claims.value(claim::treatmentKind), ends.later.value(consentOf(claims))});
+    rows.append({name, claims.value(claim::insuranceKind), *end, claims.value(claim::treatmentKind),
+                 ends.later.value(consentOf(claims))});
   }
 }
 
