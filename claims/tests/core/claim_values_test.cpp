@@ -1,6 +1,8 @@
 // Small tables and derived values of a claim.
 #include <gtest/gtest.h>
 
+#include <QSet>
+
 #include "claims/core/insurance.h"
 #include "claims/core/kinds.h"
 #include "claims/core/print_fields.h"
@@ -110,6 +112,21 @@ TEST(ShareTicks, ReadFromTheText) {
   EXPECT_FALSE(shareTicksOf(claim)[2]);
 }
 
+TEST(ShareTicks, EachTickHasItsColumnAndItsWord) {
+  const std::pair<const char16_t*, const char16_t*> ticks[] = {{u"本人", u"本人"},   {u"就学前", u"三歳未満"},
+                                                               {u"家族", u"家族"},   {u"高齢9", u"高齢9"},
+                                                               {u"高齢8", u"高齢8"}, {u"高齢7", u"高齢7"}};
+  ClaimRecord all;
+  QString words;
+  for (const auto& [column, word] : ticks) {
+    ClaimRecord claim;
+    for (ClaimRecord* each : {&claim, &all}) each->setNamed(QString::fromUtf16(column), QStringLiteral("-1"));
+    words += QString::fromUtf16(word) + u',';
+    EXPECT_EQ(shareTicksText(tickValuesOf(claim)), QString::fromUtf16(word) + u',');
+  }
+  EXPECT_EQ(shareTicksText(tickValuesOf(all)), words);
+}
+
 TEST(PrintSettings, OneRowASwitch) {
   const char16_t* columns[] = {u"txt dummy1",  u"txt dummy2",  u"txt dummy3",  u"txt dummy4", u"txt dummy9",
                                u"txt dummy10", u"txt dummy11", u"txt dummy13", u"txtdummy26", u"c8",
@@ -128,6 +145,23 @@ TEST(PrintSettings, ChosenByTheColumnElseTheDefault) {
   EXPECT_EQ(chosen(claim, setting, {}), 0);
   claim.setNamed(QStringLiteral("txt dummy1"), QStringLiteral("77"));  // the ID of a repaired half
   EXPECT_EQ(chosen(claim, Setting::PeriodFrom, {}), 1);
+}
+
+TEST(PrintFields, AreSixColumnsAndTheOldSymbolOfEmployeesInsurance) {
+  ClaimRecord claim;
+  for (const store::ColumnRow& column : claim::firstHalf.columns())
+    claim.setNamed(QString::fromUtf16(column.name), QString::fromUtf16(column.name));
+  const QStringList columns =
+      QStringLiteral("保険証番号,保険証記号2,区市町村番号,受給者番号,被保険者の生年月日,被保険者の郵便番号")
+          .split(u',');
+  const auto fieldsOf = [&](const char16_t* kind) {
+    claim.set(claim::insuranceKind, QString::fromUtf16(kind));
+    const QStringList names = printFields(claim).keys();
+    return QSet<QString>(names.begin(), names.end());
+  };
+  QSet<QString> expected(columns.begin(), columns.end());
+  EXPECT_EQ(fieldsOf(u"国保"), expected);
+  EXPECT_EQ(fieldsOf(u"共済"), expected << QStringLiteral("保険証記号1"));
 }
 
 TEST(PrintFields, FullWidthNumbersByKind) {

@@ -277,7 +277,7 @@ TEST_F(ClaimFormPages, PrintSettingsAreThoseOfTheRules) {
 
 TEST_F(ClaimFormPages, TicksForPrintingAreTheCheckBoxesOfTheForm) {
   QStringList boxes, unbound, known;
-  for (const screen::Row& row : claimFormDeclaration().rows)
+  for (const screen::Row& row : kClaimFormScreen.rows)
     if (const auto* check = std::get_if<screen::Check>(&row)) {
       boxes << qs(check->name.family());
       if (!check->bind.bound()) unbound << boxes.last();

@@ -1,4 +1,6 @@
 #include "claims/tests/screens/claim_form_fixture.h"
+#include "platform/screen/bound_values.h"
+#include "platform/screen/control.h"
 
 // What the form shows of a claim, by kind and by month.
 
@@ -192,6 +194,38 @@ TEST_F(ClaimFormShow, TheInsuredsFlagLeavesARelativesRelationPrinted) {
   claim.setNamed(qs(u"被保険者との続柄"), qs(u"妻"));
   openNew(claim);
   EXPECT_EQ(m_form->chosen(qs(u"FrameSet(9)")), qs(u"0"));  // 続柄を印刷する
+}
+
+TEST_F(ClaimFormShow, TheListsOfTheAccountsAreThoseOfTheirFields) {
+  openNew(acupuncture());
+  const QStringList deposits{qs(u""), qs(u"普通"), qs(u"当座"), qs(u"通知"), qs(u"別段")};
+  const QStringList banks{qs(u""), qs(u"銀行"), qs(u"金庫"), qs(u"農協")};
+  const QStringList branches{qs(u""), qs(u"本店"), qs(u"支店"), qs(u"出張所")};
+  const std::pair<const char16_t*, QStringList> lists[] = {
+      {u"支払い機関区分", {qs(u""), qs(u"振込"), qs(u"銀行送金"), qs(u"郵便局送金"), qs(u"当地払")}},
+      {u"預金の種類", deposits},
+      {u"金融機関名種類", banks},
+      {u"本店支店名種類", branches},
+      {u"代表者預金の種類", deposits},
+      {u"代表者金融機関名種類", banks},
+      {u"代表者本店支店名種類", branches}};
+  for (const auto& [column, items] : lists) {
+    const screen::Control* list = screen::controlOf(*m_form, qs(column), {1});
+    ASSERT_NE(list, nullptr);
+    EXPECT_EQ(list->items(), items) << qs(column).toStdString();
+  }
+}
+
+TEST_F(ClaimFormShow, TheFieldsOfTheReportAreClosedBefore2018October) {
+  openNew(acupuncture());
+  for (const bool open : {false, true}) {
+    type(qs(u"txtFields(1)"), open ? qs(u"平成30年10月") : qs(u"平成30年9月"));
+    m_form->monthLeft();
+    for (const char16_t* control :
+         {u"Check10", u"Check11", u"Check12", u"Check14", u"Check15", u"Check17", u"txtFields(107)",
+          u"txtFields(108)", u"TextStart(1)", u"TextStart(31)", u"TextSame(1)", u"TextSame(31)"})
+      EXPECT_EQ(m_form->findChild<QWidget*>(qs(control))->isEnabled(), open) << qs(control).toStdString();
+  }
 }
 
 }  // namespace
