@@ -58,7 +58,7 @@ TEST_F(GridClaimTest, WritesTypedColumnsOfBothHalves) {
   EXPECT_EQ(claim.with(change).get(claim::patientSerial), u"P1"_s);
   ASSERT_TRUE(claim.write(change));
   EXPECT_EQ(file().read(id)->code(1), u"a"_s);
-  EXPECT_TRUE(file().read(id)->ticked(u"yn2"_s));
+  EXPECT_TRUE(file().read(id)->ticked(claim::report));
 }
 
 TEST_F(GridClaimTest, AChangeOfAnotherComputerRefusesOnceAndSurvives) {

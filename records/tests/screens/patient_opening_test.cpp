@@ -259,9 +259,10 @@ class PatientBookingTest : public PatientOpeningTest, public testing::WithParamI
 TEST_P(PatientBookingTest, AppointmentsKnowTheWayBack) {
   addPatient({{u"氏名"_s, u"見本 太郎"_s}, {u"テキスト5"_s, u"A1"_s}, {u"患者ID"_s, u"7"_s}});
   standIn(GetParam().screen);
-  run.callerMark = 2;
+  run.bookingsCaller = routes::MainMenu::screen;
   enter().trigger(GetParam().entry);
-  EXPECT_EQ(run.callerMark, 3);
+  ASSERT_TRUE(run.bookingsCaller);
+  EXPECT_EQ(run.bookingsCaller->text(), u"治療台帳4"_s);
   EXPECT_FALSE(requestOf(GetParam().screen).isEmpty());
   const auto booking = routeTo<routes::Booking>();
   const auto* fresh = booking ? std::get_if<routes::Booking::NewBooking>(&booking->what) : nullptr;
