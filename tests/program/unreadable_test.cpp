@@ -1,6 +1,7 @@
 // Every list and form over a file that cannot be read for a while: the engine's text with the file's name is
 // shown and spoken, the row on the screen stays, and the next try works when the cause is gone.
 
+#include "frame/core/routes.h"
 #include "platform/store/bulk.h"
 #include "platform/store/testing/broken_file.h"
 #include "tests/program/program_fixture.h"
@@ -67,9 +68,11 @@ class UnreadableScreens : public ProgramTest, public testing::WithParamInterface
   }
   screen::Request request() const {
     const QStringView name(GetParam().screen);
-    if (name == u"治療台帳3") return {{u"テキスト5"_s, u"P1"_s}, {u"氏名"_s, u"見本"_s}};
-    if (name == u"frmレセプトフォーム") return {{u"ID"_s, 2}};
-    if (name == u"治療台帳2") return {{u"テキスト5"_s, u""_s}};
+    if (name == u"治療台帳3")
+      return routes::VisitLedger{
+          routes::VisitLedger::Of{.serial = u"P1"_s, .name = u"見本"_s, .birth = {}, .opener = {}}};
+    if (name == u"frmレセプトフォーム") return routes::ClaimForm{.id = 2};
+    if (name == u"治療台帳2") return routes::PatientTexts{};
     return {};
   }
   static QString nameOf(int row) { return u"見本の行%1番"_s.arg(row); }
