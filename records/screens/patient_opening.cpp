@@ -105,8 +105,8 @@ void PatientScreen::takeBooked(const QString& patientName) {
   const text::Done read = rows.moveAndRead([&](store::RecordSet&) {
     if (found) found = rows.findFirst(store::equalCriterion(u"氏名"_s, patientName));
   });
-  source().show();
   if (!found || !read) return noteFound((!found ? found : read).fault());
+  source().show();
   if (!rows.noMatch()) return noteFound(true);
   if (startRow(patientName)) m_notice = {name(kBookedIsNew), QString()};
 }
