@@ -1,6 +1,8 @@
 // Every list and form over a file that cannot be read for a while: the engine's text with the file's name is
 // shown and spoken, the row on the screen stays, and the next try works when the cause is gone.
 
+#include <QCoreApplication>
+
 #include "platform/store/bulk.h"
 #include "platform/store/testing/broken_file.h"
 #include "tests/program/program_fixture.h"
