@@ -27,9 +27,9 @@ text::Result<bool> seekRow(DataSource& source, const QString& criteria) {
     hit = found && !rows.noMatch();
     if (!hit) rows.setBookmark(seen);
   });
+  if (!read) return read.fault();
   source.show();
   if (!found) return found.fault();
-  if (!read) return read.fault();
   return hit;
 }
 

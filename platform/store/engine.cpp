@@ -136,6 +136,7 @@ void Engine::rowWritten(const QString& table, qint64 id, quint32 before) {
   noteOwnWrite(before);
   m_lastWrites.insert({table, id}, m_writes);
   const auto place = m_copies.find(table.toStdU16String());
+  // The write itself is done: a copy that cannot take it over is read again by whoever needs it next.
   if (place != m_copies.end() && !place->second.rowWritten(id)) m_copies.clear();
 }
 

@@ -102,8 +102,8 @@ void PatientScreen::enter(const Route::Booked& person) {
   const text::Done read = rows.moveAndRead([&](store::RecordSet&) {
     if (found) found = rows.findFirst(store::equalCriterion(patients::name, person.name));
   });
-  source().show();
   if (!found || !read) return noteFound((!found ? found : read).fault());
+  source().show();
   if (!rows.noMatch()) return noteFound(true);
   if (startRow(person.name)) m_notice = {text::utf16(kBookedIsNew), QString()};
 }

@@ -1,6 +1,8 @@
 // Every list and form over a file that cannot be read for a while: the engine's text with the file's name is
 // shown and spoken, the row on the screen stays, and the next try works when the cause is gone.
 
+#include <QCoreApplication>
+
 #include "frame/core/routes.h"
 #include "platform/store/bulk.h"
 #include "platform/store/testing/broken_file.h"
@@ -60,7 +62,13 @@ class UnreadableScreens : public ProgramTest, public testing::WithParamInterface
     QList<QHash<QString, store::Value>> rows;
     for (int row = 1; row <= kRows; ++row) {
       QHash<QString, store::Value> values{{marker, nameOf(row)}, {u"ETC1"_s, u"P1"_s}, {u"番号1"_s, u"P1"_s}};
-      // A claim is checked before the form leaves it: only its remarks are filled.
+      // A claim is checked before the form leaves it: only its remarks are filled up.
+      for (const auto& [column, value] :
+           {std::pair(u"申請年月"_s, u"令和6年10月"_s), std::pair(u"施術内容"_s, u"鍼灸"_s),
+            std::pair(u"保険の種類"_s, u"国保"_s), std::pair(u"保険の種類3"_s, u"国民健保"_s),
+            std::pair(u"初療年月日"_s, u"令和6年9月2日"_s), std::pair(u"一部負担金"_s, u"3割"_s),
+            std::pair(u"治療内容1"_s, u"a"_s)})
+        values.insert(column, value);
       for (int remark = 1; remark <= 6; ++remark) values.insert(u"摘要%1"_s.arg(remark), QString(250, u'見'));
       rows += name.startsWith(u"保険申請") ? values : store::broken::pageOfRow(table, values);
     }

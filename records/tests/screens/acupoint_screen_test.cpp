@@ -202,9 +202,8 @@ TEST_F(AcupointScreenTest, AnOlderFileWithoutMeridianCodesStillWorks) {
   screen::Screen& screen = points();
   EXPECT_TRUE(messages.texts().isEmpty());
   search(screen, u"経絡コード"_s, u"CV24"_s);
-  ASSERT_EQ(messages.texts().size(), 1);
-  EXPECT_TRUE(lastMessage().startsWith(u"ﾃﾞｰﾀ ｺﾝﾄﾛｰﾙで次のｴﾗｰが発生しました :"_s));
-  EXPECT_TRUE(lastMessage().contains(u"経絡コード"_s));
+  // The column is added when the file is opened: it is there, and empty.
+  EXPECT_EQ(messages.texts(), QStringList(u"該当がありません。"_s));
   EXPECT_EQ(screen.text(kName), u"中府"_s);
   search(screen, u"経穴名漢字"_s, u"雲門"_s);
   EXPECT_EQ(screen.text(kName), u"雲門"_s);
