@@ -1,6 +1,7 @@
 #include "app/application.h"
 
 #include "claims/screens/claims_screens.h"
+#include "frame/core/routes.h"
 #include "frame/screens/frame_screens.h"
 #include "office/screens/office_screens.h"
 #include "platform/report/font_store.h"
@@ -29,9 +30,8 @@ void Application::registerAllScreens() {
   office::registerScreens(m_registry, m_run);
   claims::registerScreens(m_registry, m_run, m_claims);
   printing::registerScreens(m_registry, m_printing);
-  m_engine.setPrinterDialog([this](quintptr, report::PrinterChoice&) {
-    m_navigator.show(QString::fromUtf16(printing::kPrinterOptions));
-  });
+  m_engine.setPrinterDialog(
+      [this](quintptr, report::PrinterChoice&) { m_navigator.show(routes::PrinterOptions{}); });
 }
 
 frame::Started Application::start() {

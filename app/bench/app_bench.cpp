@@ -16,6 +16,7 @@
 #include <cstdio>
 
 #include "app/application.h"
+#include "frame/core/routes.h"
 #include "platform/store/database.h"
 #include "platform/store/record_set.h"
 #include "platform/voice/silent_library.h"
@@ -124,7 +125,7 @@ int focus(const QString& folder) {
   QApplication::processEvents();
   if (auto* menu = navigator.loaded(QStringLiteral("選択3")))
     measureTabs("focus_to_speech_menu", *menu, program, 100);
-  if (auto* form = navigator.show(QStringLiteral("frmレセプトフォーム"), {{"ID", "1"}})) {
+  if (auto* form = navigator.show(routes::ClaimForm{.id = 1})) {
     QApplication::processEvents();
     measureTabs("focus_to_speech_claim_form", *form, program, 300);
   }
@@ -164,7 +165,7 @@ int list(const QString& folder) {
   for (int run = 0; run < kRuns; ++run) {
     screen::Screen* window = nullptr;
     opened += untilSaid(program, first, [&] {
-      window = navigator.show(name, {});
+      window = navigator.show(name);
       if (window == nullptr) return;
       QApplication::setActiveWindow(window);
       if (auto* view = window->findChild<QWidget*>(grid)) view->setFocus();

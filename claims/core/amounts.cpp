@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "claims/core/share_rate.h"
+#include "platform/text/utf16.h"
 
 namespace claims {
 namespace {
@@ -19,7 +20,7 @@ void tallyInto(ClaimAmounts& result, const ClaimRecord& claim) {
 }
 
 QString labelOf(const AmountItem& item, int number) {
-  const QString label = columnName(item.label);
+  const QString label = text::utf16(item.label);
   return label.contains(u'%') ? label.arg(number) : label;
 }
 

@@ -5,6 +5,8 @@
 #include "platform/text/number.h"
 
 namespace claims {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 template <class Column>
@@ -15,8 +17,8 @@ void copy(const ClaimRecord& from, ClaimRecord& to, const Column& column) {
 }  // namespace
 
 QString carryForwardRefusal(const ClaimRecord& claim) {
-  if (claim.blank(claim::requestCount)) return QStringLiteral("申請回数が空欄です。記入してください。");
-  if (claim.blank(claim::month)) return QStringLiteral("申請年月が空欄です。記入してください。");
+  if (claim.blank(claim::requestCount)) return u"申請回数が空欄です。記入してください。"_s;
+  if (claim.blank(claim::month)) return u"申請年月が空欄です。記入してください。"_s;
   return {};
 }
 
@@ -25,14 +27,13 @@ ClaimRecord carryForward(const ClaimRecord& claim) {
   for (const store::Column& column : carriedColumns()) copy(claim, next, column);
   for (const PrintSetting& setting : kPrintSettings) copy(claim, next, setting.column);
   // 社保 and 政管健保 were taken over by 全国健康保険協会 in 2008; old claims pass on the new name.
-  if (claim.get(claim::insuranceKind) == u"社保")
-    next.set(claim::insuranceKind, QStringLiteral("全国健康保険協会"));
+  if (claim.get(claim::insuranceKind) == u"社保") next.set(claim::insuranceKind, u"全国健康保険協会"_s);
   if (claim.get(claim::printedInsurance) == u"政管健保")
-    next.set(claim::printedInsurance, QStringLiteral("全国健康保険協会"));
-  next.set(claim::requestKind, QStringLiteral("継続"));
-  next.set(claim::workRelated, QStringLiteral("その他"));
-  next.set(claim::thirdParty, QStringLiteral("いいえ"));
-  next.set(claim::hospitalised, QStringLiteral("入院外"));
+    next.set(claim::printedInsurance, u"全国健康保険協会"_s);
+  next.set(claim::requestKind, u"継続"_s);
+  next.set(claim::workRelated, u"その他"_s);
+  next.set(claim::thirdParty, u"いいえ"_s);
+  next.set(claim::hospitalised, u"入院外"_s);
   if (const auto month = nextMonth(claim.get(claim::month))) {
     next.set(claim::month, month->month);
     next.set(claim::monthNumber, month->number);
@@ -41,18 +42,18 @@ ClaimRecord carryForward(const ClaimRecord& claim) {
   return next;
 }
 
-QString clinicBoxText(const QString& clinicName) { return QStringLiteral("施術所（") + clinicName + u'）'; }
+QString clinicBoxText(const QString& clinicName) { return u"施術所（"_s + clinicName + u'）'; }
 
 QStringList secondCarryMessages() {
-  return {QStringLiteral("連続した「翌月への継続」は行えません。"),
-          QStringLiteral("「閉じる」でレセプト一覧へ戻り、レセプト一覧の「更新」を押して、改めて選択して、"),
-          QStringLiteral("レセプトデータへ戻って下さい。")};
+  return {u"連続した「翌月への継続」は行えません。"_s,
+          u"「閉じる」でレセプト一覧へ戻り、レセプト一覧の「更新」を押して、改めて選択して、"_s,
+          u"レセプトデータへ戻って下さい。"_s};
 }
 
 QStringList carryQuestion() {
-  return {QStringLiteral("この患者の新しいレセプトを追加しますか？"),
-          QStringLiteral("追加されるデータは閉じるボタンを押してもレセプト一覧表には最初表示されません。"),
-          QStringLiteral("表示させるにはレセプト一覧表の画面での「更新」ボタンを押して下さい。")};
+  return {u"この患者の新しいレセプトを追加しますか？"_s,
+          u"追加されるデータは閉じるボタンを押してもレセプト一覧表には最初表示されません。"_s,
+          u"表示させるにはレセプト一覧表の画面での「更新」ボタンを押して下さい。"_s};
 }
 
 }  // namespace claims

@@ -15,7 +15,7 @@ GridCodes gridCodes(const ClaimRecord& claim);
 
 // The checks of the day grid. Each gives the message of its first failure, null where it passes.
 
-/// No day holds a code; needles and massage are mixed.
+/// No day has a code; needles and massage are mixed.
 QString gridFilledMessage(const GridCodes& codes);
 QString gridMixedMessage(const GridCodes& codes);
 /// The rule of the claim's month on codes without numbers and on manipulation. Warnings, after which the

@@ -7,6 +7,8 @@
 
 namespace claims {
 
+using namespace Qt::StringLiterals;
+
 using text::utf16;
 
 namespace {
@@ -73,15 +75,14 @@ QString monthNumberMessage(const ClaimRecord& claim) {
   if (number.isEmpty()) return {};
   for (int month = 1; month <= 12; ++month)
     if (number == QString::number(month)) return {};
-  return QStringLiteral("申請月が正しく入力されていません。");
+  return u"申請月が正しく入力されていません。"_s;
 }
 
 QString reportDateMessage(const ClaimRecord& claim, const frame::EraDates& era) {
   if (!claim.ticked(claim::report)) return {};
   const QString date = claim.get(claim::reportDate);
-  if (date.isEmpty()) return QStringLiteral("施術報告書交付年月日（必須）の欄に日付が入力されていません。");
-  if (!era.isDateOk(date))
-    return QStringLiteral("施術報告書交付年月日（必須）の欄に日付が正確ではありません。");
+  if (date.isEmpty()) return u"施術報告書交付年月日（必須）の欄に日付が入力されていません。"_s;
+  if (!era.isDateOk(date)) return u"施術報告書交付年月日（必須）の欄に日付が正確ではありません。"_s;
   return {};
 }
 
@@ -91,9 +92,8 @@ QString previousReportMessage(const ClaimRecord& claim, bool full) {
   const QString month = claim.get(claim::lastReportMonth);
   if (month.isEmpty()) return {};
   if (month.endsWith(u'日') || month.startsWith(u'2')) {
-    return full ? QStringLiteral(
-                      "前回の施術報告書交付年月が正しく入力されていません。日まで入れずに、"
-                      "令和6年5月のように月までにして、和暦で入力してください。")
+    return full ? u"前回の施術報告書交付年月が正しく入力されていません。日まで入れずに、"
+                  u"令和6年5月のように月までにして、和暦で入力してください。"_s
                 : utf16(kPreviousReportWrong);
   }
   return month.startsWith(u"平成") || month.startsWith(u"令和") ? QString() : utf16(kPreviousReportWrong);
@@ -140,7 +140,7 @@ CheckResult checkClaimFast(const ClaimRecord& claim, const frame::EraDates& era,
 
 QString insurerNumberMessage(const QString& printedInsurance, const QString& number) {
   return printedInsurance == u"後期高齢" && number.startsWith(u"39")
-             ? QStringLiteral("後期高齢の場合､保険者番号の頭にある39は削除してください")
+             ? u"後期高齢の場合､保険者番号の頭にある39は削除してください"_s
              : QString();
 }
 

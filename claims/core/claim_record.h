@@ -2,7 +2,6 @@
 
 #include <QHash>
 #include <QString>
-#include <string>
 #include <utility>
 
 #include "platform/store/tables/claims.h"
@@ -42,29 +41,10 @@ class ClaimRecord {
   /// Makes space for the given number of columns.
   void reserve(int columns) { m_columns.reserve(columns); }
 
-  // ---- Deprecated: names in program code. These go as soon as the last caller uses columns. ----
-  QString get(const QString& column) const { return named(column); }
-  QString get(const char16_t* column) const { return named(QString::fromUtf16(column)); }
-  void set(const QString& column, const QString& value) { setNamed(column, value); }
-  void set(const char16_t* column, const QString& value) { setNamed(QString::fromUtf16(column), value); }
-  void clear(const QString& column) { setNamed(column, QString()); }
-  bool has(const QString& column) const { return m_columns.contains(column); }
-  bool has(const char16_t* column) const { return has(QString::fromUtf16(column)); }
-  bool blank(const QString& column) const { return named(column).isEmpty(); }
-  bool ticked(const QString& column) const { return means(named(column)); }
-  static QString codeColumn(int day) { return claim::dayCode[day]; }
-  static QString visitColumn(int day) { return claim::dayVisit[day]; }
-
  private:
   static bool means(const QString& value) { return value == u"-1" || value == u"1" || value == u"true"; }
 
   QHash<QString, QString> m_columns;
 };
-
-/// Deprecated, as the functions above: a column's name from a literal, without a copy.
-inline QString columnName(const char16_t* literal) {
-  return QString::fromRawData(reinterpret_cast<const QChar*>(literal),
-                              static_cast<qsizetype>(std::char_traits<char16_t>::length(literal)));
-}
 
 }  // namespace claims

@@ -8,6 +8,8 @@
 #include "platform/store/tables/claims.h"
 
 namespace claims {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr store::Column kCalculated[] = {claim::hariSum,
@@ -53,7 +55,7 @@ class Writer {
 
   QString get(const store::Column& column) const { return m_stored.claim.get(column); }
   void set(const store::Column& column, const QString& value) {
-    m_stored.claim.set(column, value);
+    m_stored.claim.setNamed(column, value);
     m_stored.written.append(column);
   }
   /// Sets the calculated columns to NULL; fill() puts the values in afterwards.
@@ -74,8 +76,8 @@ class Writer {
 void rewriteInsurance(Writer& writer) {
   const QString kind = writer.get(claim::insuranceKind);
   const QString printed = writer.get(claim::printedInsurance);
-  if (printed == u"後期高齢" && kind == u"老人") writer.set(claim::insuranceKind, QStringLiteral("後期高齢"));
-  if (printed == u"国民健保" && kind == u"退職国保") writer.set(claim::insuranceKind, QStringLiteral("国保"));
+  if (printed == u"後期高齢" && kind == u"老人") writer.set(claim::insuranceKind, u"後期高齢"_s);
+  if (printed == u"国民健保" && kind == u"退職国保") writer.set(claim::insuranceKind, u"国保"_s);
 }
 
 void writeDerived(const ClaimRecord& claim, Writer& writer) {
@@ -154,8 +156,8 @@ StoredClaim storeClaim(const ClaimRecord& claim, const StoreContext& context,
   StoredClaim stored;
   stored.claim = claim;
   Writer writer(stored);
-  // Never NULL, so that the list's order has no gap.
-  if (claim.blank(claim::insuredKana)) writer.set(claim::insuredKana, QStringLiteral(" "));
+  // Never NULL, so that the claim has its place in the order of the lists.
+  if (claim.blank(claim::insuredKana)) writer.set(claim::insuredKana, u" "_s);
   const AreaBoxes boxes = boxesFor(claim, given);
   const MonthFlags flags = monthFlags(claim.get(claim::month), context.era);
   if (flags.month) {

@@ -13,7 +13,7 @@ namespace claims {
 class ClaimOnDisplay {
  public:
   virtual ~ClaimOnDisplay() = default;
-  /// All columns as they stand on the screen.
+  /// All columns as the form shows them.
   virtual ClaimRecord record() const = 0;
   /// The form's ticks for printing.
   virtual FormTicks checks() const = 0;

@@ -9,8 +9,11 @@
 #include "platform/store/connection.h"
 #include "platform/store/sources.h"
 #include "platform/store/tables/claims.h"
+#include "platform/text/utf16.h"
 
 namespace claims {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// Whose consent it is, and for what.
@@ -57,24 +60,24 @@ text::Result<QList<ConsentEnd>> rowsOf(store::Cursor& claims, const Ends& ends) 
     const QString name = claims.value(claim::name);
     if (listed.contains(name)) continue;
     listed.insert(name);
-    rows.append({name, claims.value(claim::insuranceKind), *end,
-                 claims.value(claim::treatmentKind), ends.later.value(consentOf(claims))});
+    rows.append({name, claims.value(claim::insuranceKind), *end, claims.value(claim::treatmentKind),
+                 ends.later.value(consentOf(claims))});
   }
 }
 
 }  // namespace
 
 QString consentEndText(QDate end) {
-  return QStringLiteral("%1年%2月%3日").arg(end.year()).arg(end.month()).arg(end.day());
+  return u"%1年%2月%3日"_s.arg(end.year()).arg(end.month()).arg(end.day());
 }
 
 text::Result<QList<ConsentEnd>> consentsRunningOut(const QString& claimsPath, const frame::EraDates& dates) {
   store::Connection connection;
   if (const text::Done opened = connection.open(store::connectionString(claimsPath)); !opened)
     return opened.fault();
-  auto byConsent = store::Cursor::open(connection, QString::fromUtf16(store::source::kClaimsByConsent));
+  auto byConsent = store::Cursor::open(connection, text::utf16(store::source::kClaimsByConsent));
   if (!byConsent) return byConsent.fault();
-  auto newestFirst = store::Cursor::open(connection, QString::fromUtf16(store::source::kClaimsNewestFirst));
+  auto newestFirst = store::Cursor::open(connection, text::utf16(store::source::kClaimsNewestFirst));
   if (!newestFirst) return newestFirst.fault();
 
   const QDate today = dates.clock().today();

@@ -2,6 +2,8 @@
 
 namespace claims {
 
+using namespace Qt::StringLiterals;
+
 DayCode::DayCode(const QString& code) : m_blank(code.isEmpty()) {
   if (code.size() == 1 && code[0] >= u'a' && code[0] <= u'j') m_exact = m_leading = code[0].unicode();
   for (qsizetype at = 0; at + 1 < code.size(); ++at) {
@@ -44,17 +46,17 @@ QString codeEntryMessage(const QString& code, Kind kind) {
   const char16_t letter = code.size() == 1 ? code[0].unicode() : 0;
   const bool wrong = kind == Kind::Acupuncture ? letter >= u'g' && letter <= u'j'
                                                : kind == Kind::Massage && letter >= u'a' && letter <= u'f';
-  return wrong ? QStringLiteral("治療内容が正しくありません。") : QString();
+  return wrong ? u"治療内容が正しくありません。"_s : QString();
 }
 
 QString visitEntryMessage(const QString& entry, bool isAfter202410) {
   if (entry.isEmpty()) return {};
   if (isAfter202410) {
     return visitForm(entry) == VisitForm::Unknown
-               ? QStringLiteral("往療距離が正しくありません。「記入の仕方」をクリックし、ご確認ください。")
+               ? u"往療距離が正しくありません。「記入の仕方」をクリックし、ご確認ください。"_s
                : QString();
   }
-  return visitDistance(entry) == 0 ? QStringLiteral("往療距離が正しくありません。") : QString();
+  return visitDistance(entry) == 0 ? u"往療距離が正しくありません。"_s : QString();
 }
 
 }  // namespace claims

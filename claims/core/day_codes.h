@@ -8,10 +8,10 @@
 
 namespace claims {
 
-/// What one day's code holds. Letters are lower case and half width; nothing else is read as one.
+/// What one day's code says. Letters are lower case and half width; nothing else is read as one.
 ///
 /// A code that is exactly one letter a to j is that letter; besides, each token of a letter g, h, i, j and
-/// a digit 1 to 5 counts where it stands anywhere in the code, and once however often it stands there.
+/// a digit 1 to 5 counts anywhere in the code, and once however often it occurs.
 class DayCode {
  public:
   explicit DayCode(const QString& code);
@@ -19,10 +19,10 @@ class DayCode {
   bool blank() const { return m_blank; }
   /// The one letter that the code consists of, 0 where it is anything else.
   char16_t exact() const { return m_exact; }
-  /// Whether the token stands in the code: letter g, h, i or j, number 1 to 5.
+  /// Whether the code contains the token: letter g, h, i or j, number 1 to 5.
   bool has(char16_t letter, int number) const { return (m_tokens >> bit(letter, number)) & 1U; }
   bool hasToken() const { return m_tokens != 0; }
-  /// The exact letter, else the letter of the token that stands first; 0: neither.
+  /// The exact letter, else the letter of the first token; 0: neither.
   char16_t leadingLetter() const { return m_leading; }
 
  private:
@@ -42,7 +42,7 @@ VisitForm visitForm(const QString& entry);
 /// Distance entry of the older row 往療距離: 1 to 20, 0 for any other text.
 int visitDistance(const QString& entry);
 
-/// Checks on leaving a cell of the day grid; the message, or null where the entry stands.
+/// Checks on leaving a cell of the day grid; the message, or null: the entry is right.
 QString codeEntryMessage(const QString& code, Kind kind);
 QString visitEntryMessage(const QString& entry, bool isAfter202410);
 

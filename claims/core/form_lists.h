@@ -2,7 +2,7 @@
 
 #include <array>
 
-// The fixed lists behind the combo boxes of the claim form, in their order.
+// The fixed lists of the combo boxes of the claim form, in their order.
 namespace claims::list {
 
 inline constexpr std::array kShare = {u"1割", u"2割", u"3割"};
@@ -51,7 +51,7 @@ inline constexpr std::array kRegionalInsurance = {u"後期高齢者医療保険 
 inline constexpr std::array kRegionalWelfare = {u"福祉医療 ひとり親",   u"福祉医療 障害",
                                                 u"福祉医療 老人医療",   u"福祉医療 乳幼児",
                                                 u"福祉医療 健康管理費", u"生活保護"};
-/// What a list says whose table is empty.
+/// What the list of an empty register says.
 inline constexpr char16_t kNoDoctors[] = u"同意医師のデータがありません";
 inline constexpr char16_t kNoInsurerNames[] = u"名称のデータがありません";
 inline constexpr char16_t kNoInsurerNumbers[] = u"番号のデータがありません";

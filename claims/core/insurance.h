@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <array>
 #include <span>
 
 namespace claims {
@@ -26,8 +27,8 @@ QString summaryCode(const QString& kind, const QString& relation);
 /// 官職宛名 that the form sets where c6 is blank; null: none.
 QString defaultAddressee(const QString& kind);
 
-/// Column of the summary code. The sheets' code never had a column name of its own; the number column
-/// numdummy16 of the second half is taken for it, which nothing else uses.
-inline constexpr char16_t kSummaryCodeColumn[] = u"numdummy16";
+/// The kinds that a new claim is made with, in the order of レセプト選択.
+inline constexpr std::array kNewClaimInsurance = {u"全国健康保険協会", u"共済",     u"組合",    u"国保",
+                                                  u"退職国保",         u"特別国保", u"後期高齢"};
 
 }  // namespace claims

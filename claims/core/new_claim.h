@@ -15,7 +15,7 @@ enum class CardHolder { Insured, Family, InsuredNotHead };
 
 /// The answers of レセプト選択.
 struct NewClaimChoice {
-  QString insurance;  ///< one of kNewClaimInsurance
+  QString insurance;  ///< one of the seven kinds
   Kind treatment = Kind::Acupuncture;
   CardHolder holder = CardHolder::Insured;
 };

@@ -52,7 +52,7 @@ std::optional<NextMonth> nextMonth(const QString& claimMonth) {
   const int year = from->month == 12 ? from->year + 1 : from->year;
   const QDate first(from->era->baseYear() + year, month, 1);
   const frame::Era* now = frame::eraOf(first);
-  // Beyond its last day an era gives way to the next; before its first day what was typed stands.
+  // After its last day an era gives way to the next; before its first day it remains as typed.
   const bool past = now && now->begin() > from->era->begin();
   const frame::Era& era = past ? *now : *from->era;
   const QString text = eraMonthText(era.nameText(), first.year() - era.baseYear(), month);

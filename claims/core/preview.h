@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "claims/core/claim_record.h"
+#include "frame/core/routes.h"
 
 namespace claims {
 
@@ -20,20 +20,23 @@ enum class Preview {
 /// A preview and the name of its screen.
 struct PreviewRow {
   Preview preview;
-  const char16_t* screen;
+  screen::ScreenName screen;
 };
 
-/// All previews. 施術料金2108A is the screen's own name, not a slip of ours.
+/// All previews.
 inline constexpr PreviewRow kPreviews[] = {
-    {Preview::StepsAcupuncture, u"施術料金1"},       {Preview::StepsMassage, u"施術料金2"},
-    {Preview::TwoBandAcupuncture, u"施術料金2018H"}, {Preview::TwoBandMassage, u"施術料金2108A"},
-    {Preview::VisitsAcupuncture, u"施術料金2024H"},  {Preview::VisitsMassage, u"施術料金2024A"},
+    {Preview::StepsAcupuncture, routes::FeesSteps1::screen},
+    {Preview::StepsMassage, routes::FeesSteps2::screen},
+    {Preview::TwoBandAcupuncture, routes::Fees2018Acupuncture::screen},
+    {Preview::TwoBandMassage, routes::Fees2018Massage::screen},
+    {Preview::VisitsAcupuncture, routes::Fees2024Acupuncture::screen},
+    {Preview::VisitsMassage, routes::Fees2024Massage::screen},
 };
 
 /// The screen of a preview; null for none.
 inline QString previewScreen(Preview preview) {
   for (const PreviewRow& row : kPreviews)
-    if (row.preview == preview) return columnName(row.screen);
+    if (row.preview == preview) return row.screen;
   return {};
 }
 

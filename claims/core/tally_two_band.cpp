@@ -72,7 +72,7 @@ void addVisit(TwoBandTally& tally, const QString& entry) {
 
 TwoBandTally tallyTwoBand(const ClaimRecord& claim) {
   TwoBandTally tally;
-  const bool firstTicked = claim.ticked(QStringLiteral("初回有無"));
+  const bool firstTicked = claim.ticked(claim::hasFirst);
   for (int day = 1; day <= 31; ++day) {
     const DayCode code(claim.code(day));
     if (code.blank()) continue;

@@ -1,8 +1,5 @@
 #include "claims/screens/claim_choice_screen.h"
 
-#include <array>
-#include <utility>
-
 #include "claims/core/claim_file.h"
 #include "claims/core/insurance.h"
 #include "frame/core/routes.h"
@@ -19,13 +16,15 @@ constexpr const char16_t* kMassage = u"あマ";
 constexpr const char16_t* kFamily = u"家族";
 constexpr const char16_t* kNotHead = u"世帯主でない本人";
 
-template <std::size_t... Index>
-consteval auto insuranceChoices(std::index_sequence<Index...>) {
-  return std::array{Choice{.name = {u"Option1", int(Index)},
-                           .caption = kNewClaimInsurance[Index],
-                           .value = kNewClaimInsurance[Index]}...};
-}
-constexpr auto kInsurance = insuranceChoices(std::make_index_sequence<kNewClaimInsurance.size()>());
+constexpr Choice kInsurance[] = {
+    {.name = {u"Option1", 0}, .caption = u"全国健康保険協会", .value = u"全国健康保険協会"},
+    {.name = {u"Option1", 1}, .caption = u"共済", .value = u"共済"},
+    {.name = {u"Option1", 2}, .caption = u"組合", .value = u"組合"},
+    {.name = {u"Option1", 3}, .caption = u"国保", .value = u"国保"},
+    {.name = {u"Option1", 4}, .caption = u"退職国保", .value = u"退職国保"},
+    {.name = {u"Option1", 5}, .caption = u"特別国保", .value = u"特別国保"},
+    {.name = {u"Option1", 6}, .caption = u"後期高齢", .value = u"後期高齢"},
+};
 constexpr Choice kTreatment[] = {
     {.name = {u"Option2", 0}, .caption = u"鍼灸治療", .value = u"鍼灸"},
     {.name = {u"Option2", 1}, .caption = u"マッサージ治療", .value = kMassage},

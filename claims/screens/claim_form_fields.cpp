@@ -115,7 +115,7 @@ void ClaimFormScreen::fillSiblings(const screen::ControlRef& list, const store::
     put(sibling, value);
     if (!value.isEmpty()) brought << value;
   }
-  // Heard after the list has said the entry itself: it tells two entries of one name apart.
+  // Heard after the list has said the entry itself: so two entries of one name can be distinguished.
   const auto tell = [this, brought] { voice().speakText(brought.join(voice::kSpeechSeparator)); };
   QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }

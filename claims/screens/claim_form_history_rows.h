@@ -25,7 +25,7 @@ inline constexpr Row kHistory[] = {
 };
 
 // Columns that came over the years and that the later reports and route sheets fill. They are shown here,
-// so that nothing that is kept with a claim is out of reach.
+// so that nothing that is stored with a claim is out of reach.
 /// Page 既往症, the reserve columns.
 inline constexpr Row kReserve[] = {
     Group{{u"FrameReserve"}, u"予備", 3},

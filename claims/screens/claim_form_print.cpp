@@ -2,7 +2,6 @@
 #include "claims/core/carry_forward.h"
 #include "claims/screens/claim_form_screen.h"
 #include "claims/screens/claim_form_texts.h"
-#include "claims/screens/preview_screen.h"
 #include "frame/core/routes_unbuilt.h"
 #include "platform/text/utf16.h"
 
@@ -13,9 +12,8 @@ namespace claims {
 using text::utf16;
 
 void ClaimFormScreen::closePreview() {
-  for (const screen::ScreenRow& preview : previewScreens())
-    if (const QString name = utf16(preview.name.get()); navigator().loaded(name) != nullptr)
-      navigator().unload(name);
+  for (const PreviewRow& row : kPreviews)
+    if (navigator().loaded(row.screen) != nullptr) navigator().unload(row.screen);
 }
 
 void ClaimFormScreen::previewFees() {

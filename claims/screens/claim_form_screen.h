@@ -144,7 +144,7 @@ class ClaimFormScreen : public screen::RecordScreen {
   void announce() { voice().speakHeading(rowInWords()); }
   void print(PrintKind kind);
   void closePreview();
-  /// Shows the warning on differing numbers of areas where it holds; spoken when it comes up by an edit.
+  /// Shows the warning on differing numbers of areas if they differ; spoken when an edit brings it up.
   void applyAreaWarning(bool spoken);
   /// Whether a window of which only one may be open can be opened: refused, with a message, while one of them
   /// is, and for months before 2018/10 where `since201810`.
@@ -155,7 +155,7 @@ class ClaimFormScreen : public screen::RecordScreen {
   }
   void convertDates(QString (frame::EraDates::*conversion)(const QString&) const);
   /// Fills the other fields of a register's row from the entry chosen in a list; the list itself stays as it
-  /// is, so that two entries of one text are told apart.
+  /// is, so that two entries of one text remain two.
   void fillSiblings(const screen::ControlRef& list, const store::Column& column, const Register& from,
                     const RegisterRows& rows);
   void leaveTo(std::optional<screen::ScreenName> next);

@@ -179,7 +179,7 @@ bool ClaimFormScreen::showPair() {
 }
 
 std::optional<store::RecordSet> ClaimFormScreen::secondHalf(qint64 id) {
-  m_secondAll.setFilter(QStringLiteral("Id = %1").arg(id));
+  m_secondAll.setFilter(u"Id = %1"_s.arg(id));
   auto half = m_secondAll.openRecordset();
   if (half && half->recordCount() == 0) {  // a first half whose second half is missing
     text::Done repaired = m_file->repairSecond(id);
@@ -228,7 +228,8 @@ void ClaimFormScreen::applyKind() {
 
 void ClaimFormScreen::applyPrintDefaults() {
   for (const PrintSetting& row : kPrintSettings)
-    if (screen::Control* group = screen::controlOf(*this, row.column, kHalves); group && group->text().isEmpty())
+    if (screen::Control* group = screen::controlOf(*this, row.column, kHalves);
+        group && group->text().isEmpty())
       group->putText(utf16(row.stored[claims::chosen(m_read, row.setting, m_run.profile)]));
 }
 

@@ -46,7 +46,7 @@ void ClaimListScreen::opened(const screen::Request& request) {
     }
     if (holdsRows()) focusOn(kGrid);
   }
-  if (!holdsRows() || !m_growthFault.isEmpty()) m_onceActive.set([this] { tellOpening(); });
+  if (!holdsRows() || !m_growthFault.isEmpty()) m_whenActivated.set([this] { tellOpening(); });
 }
 
 // The second file of an older version gets its new columns. Where it cannot, the list works with those that
@@ -63,7 +63,7 @@ void ClaimListScreen::growSecondFile() {
   }
 }
 
-void ClaimListScreen::onActivate() { m_onceActive.run(*this); }
+void ClaimListScreen::onActivate() { m_whenActivated.run(*this); }
 
 void ClaimListScreen::tellOpening() {
   if (!m_growthFault.isEmpty()) messages().tellDataFault(std::exchange(m_growthFault, {}));

@@ -6,7 +6,7 @@
 #include "claims/core/claims_state.h"
 #include "frame/core/run_state.h"
 #include "platform/screen/list_screen.h"
-#include "platform/screen/once_active.h"
+#include "platform/screen/run_when_activated.h"
 
 namespace claims {
 
@@ -52,7 +52,7 @@ class ClaimListScreen : public screen::ListScreen {
   frame::RunState& m_run;
   ClaimsState& m_state;
   QString m_growthFault;  ///< until it was reported
-  screen::OnceActive m_onceActive;
+  screen::RunWhenActivated m_whenActivated;
 };
 
 }  // namespace claims

@@ -4,7 +4,7 @@ namespace claims::help {
 
 namespace {
 
-// What the letters mean has never changed; the numbers behind them and the visit row have.
+// What the letters mean has never changed; the numbers after them and the visit row have.
 #define CLAIM_HELP_LETTERS                                                                                 \
   u"治療内容の記号です。1日に1つの欄を使い、治療をしなかった日は空白にします。",                           \
       u"アルファベットは小文字で記入して下さい。", u"a は、はりです。", u"b は、はりと電気鍼の併用です。", \

@@ -14,6 +14,7 @@
 #include "platform/store/bulk.h"
 #include "platform/store/catalogue.h"
 #include "platform/store/database.h"
+#include "platform/store/tables/fees.h"
 #include "platform/text/whole_file.h"
 
 namespace frame {
@@ -32,7 +33,7 @@ constexpr FilledFile kDictionaries[] = {{u"Keiraku2000.mdb", u"acupoints.csv"},
                                         {u"CLmoji2000.mdb", u"phrases1.csv"},
                                         {u"CL2moji2000.mdb", u"phrases2.csv"}};
 constexpr char16_t kFees[] = u"fees/editions.csv";
-constexpr char16_t kFeeTable[] = u"料金設定";
+constexpr const char16_t* kFeeTable = fees::table.name();
 constexpr QStringView kFirstDay = u"effective_from";
 
 /// Whether the user fills the file: the patients, visits, claims and the other registers. The dictionaries

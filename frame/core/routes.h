@@ -6,7 +6,7 @@
 #include <variant>
 
 #include "frame/core/patient.h"
-#include "platform/screen/route.h"
+#include "platform/route/route.h"
 
 // The ways to all screens: each route is a screen's name with what its opener hands over. Screens know each
 // other by these alone.

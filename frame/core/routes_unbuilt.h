@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "frame/core/patient.h"
-#include "platform/screen/route.h"
+#include "platform/route/route.h"
 
 // Routes to screens that this program does not have yet. Commands that lead to them say so by the screen's
 // name. A route moves to routes.h when its screen is built; a test holds this list against the registered
@@ -150,39 +150,17 @@ struct MonthPrint2024Aichi : MonthRun {
 
 /// Names of them all.
 inline constexpr ScreenName kAll[] = {
-    ReceiptChoice::screen,
-    DetailedReceipt::screen,
-    BlankForms::screen,
-    DetailChart::screen,
-    PictureChart::screen,
-    ExportPatients::screen,
-    PrintPictures::screen,
-    CollectiveTables::screen,
-    RouteSheets::screen,
-    SummaryConditions::screen,
-    SummarySheets::screen,
-    TakingsMonth::screen,
-    MemoForMail::screen,
-    MemoForMail2::screen,
-    TreatmentReport::screen,
-    ReportCopy::screen,
-    VisitBreakdown::screen,
-    ReasonSheetAcupuncture::screen,
-    ReasonSheetMassage::screen,
-    FrequentPlan::screen,
-    NewRemarks::screen,
-    MemoConversion::screen,
-    VisitAddresses::screen,
-    VisitDates::screen,
-    StartPointAddresses::screen,
-    StartPoints::screen,
-    RouteHelp::screen,
-    TreatmentRecord::screen,
-    TreatmentRecord2024::screen,
-    MonthPrint::screen,
-    MonthPrint2018::screen,
-    MonthPrint2018Aichi::screen,
-    MonthPrint2024::screen,
+    ReceiptChoice::screen,       DetailedReceipt::screen,     BlankForms::screen,
+    DetailChart::screen,         PictureChart::screen,        ExportPatients::screen,
+    PrintPictures::screen,       CollectiveTables::screen,    RouteSheets::screen,
+    SummaryConditions::screen,   SummarySheets::screen,       TakingsMonth::screen,
+    MemoForMail::screen,         MemoForMail2::screen,        TreatmentReport::screen,
+    ReportCopy::screen,          VisitBreakdown::screen,      ReasonSheetAcupuncture::screen,
+    ReasonSheetMassage::screen,  FrequentPlan::screen,        NewRemarks::screen,
+    MemoConversion::screen,      VisitAddresses::screen,      VisitDates::screen,
+    StartPointAddresses::screen, StartPoints::screen,         RouteHelp::screen,
+    TreatmentRecord::screen,     TreatmentRecord2024::screen, MonthPrint::screen,
+    MonthPrint2018::screen,      MonthPrint2018Aichi::screen, MonthPrint2024::screen,
     MonthPrint2024Aichi::screen,
 };
 

@@ -7,7 +7,7 @@
 #include "frame/core/data_folders.h"
 #include "frame/core/era_date.h"
 #include "frame/core/settings_slots.h"
-#include "platform/screen/route.h"
+#include "platform/route/route.h"
 #include "platform/text/clock.h"
 
 namespace frame {

@@ -18,11 +18,11 @@ BookingList::BookingList(const screen::ScreenRow& declaration, screen::ControlRe
                          screen::Services& services, frame::RunState& run)
     : ListScreen(declaration, services), m_run(run), m_list(list) {}
 
-void BookingList::onActivate() { m_onceActive.run(*this); }
+void BookingList::onActivate() { m_whenActivated.run(*this); }
 
 void BookingList::whenActive(std::function<void()> work) {
-  m_onceActive.set(std::move(work));
-  if (isActiveWindow()) m_onceActive.run(*this);
+  m_whenActivated.set(std::move(work));
+  if (isActiveWindow()) m_whenActivated.run(*this);
 }
 
 bool BookingList::openWhole() { return source().open(m_run.folders[frame::folder::kAppointments]); }
@@ -54,7 +54,7 @@ QStringList BookingList::countOnView() const {
 
 void BookingList::sayWithCount(const QStringList& parts) {
   // The sentence that a window opens with is not cut.
-  if (!voice().isHeld()) messages().holdSpeech();
+  if (!voice().isHeld()) messages().interruptAndProtectNext();
   voice().speakText((parts + countOnView()).join(voice::kSpeechSeparator));
 }
 

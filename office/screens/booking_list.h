@@ -6,7 +6,7 @@
 #include "office/core/booking.h"
 #include "platform/screen/declare.h"
 #include "platform/screen/list_screen.h"
-#include "platform/screen/once_active.h"
+#include "platform/screen/run_when_activated.h"
 
 namespace office {
 
@@ -48,7 +48,7 @@ class BookingList : public screen::ListScreen {
   /// The booking on view.
   Booking booking() const { return store::readRecord<Booking>(source().rows()); }
   const screen::ControlRef m_list;
-  screen::OnceActive m_onceActive;
+  screen::RunWhenActivated m_whenActivated;
 };
 
 /// The screen that the appointment book goes back to. The main menu only if the patients have a file.

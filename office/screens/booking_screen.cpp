@@ -66,7 +66,7 @@ QStringList BookingScreen::openingTexts() const {
   return texts + bookingOnView();
 }
 
-void BookingScreen::onActivate() { m_onceActive.run(*this); }
+void BookingScreen::onActivate() { m_whenActivated.run(*this); }
 
 bool BookingScreen::openTable() { return source().open(m_run.folders[frame::folder::kAppointments]); }
 
@@ -99,7 +99,7 @@ void BookingScreen::showBooking(qint64 id) {
   auto hit = rows.openRecordset();
   rows.setFilter(QString());
   if (!hit) return messages().tellDataFault(hit.fault().message);
-  if (hit->recordCount() == 0) m_onceActive.set([this] { screen::tellNotFound(*this); });
+  if (hit->recordCount() == 0) m_whenActivated.set([this] { screen::tellNotFound(*this); });
   source().assign(std::move(*hit));
 }
 

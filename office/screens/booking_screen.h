@@ -3,8 +3,8 @@
 #include "frame/core/patient.h"
 #include "frame/core/run_state.h"
 #include "office/screens/day_lists.h"
-#include "platform/screen/once_active.h"
 #include "platform/screen/record_screen.h"
+#include "platform/screen/run_when_activated.h"
 
 namespace office {
 
@@ -62,7 +62,7 @@ class BookingScreen : public screen::RecordScreen {
   frame::RunState& m_run;
   std::optional<screen::ScreenName> m_opener;  ///< shown again by 閉じる, before the caller of the book
   QStringList m_shown;  ///< the fields as they were shown or filled in, before the user typed
-  screen::OnceActive m_onceActive;
+  screen::RunWhenActivated m_whenActivated;
 };
 
 }  // namespace office

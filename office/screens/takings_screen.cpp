@@ -43,10 +43,10 @@ void TakingsScreen::opened(const screen::Request& request) {
   if (asked->lastRow) source().moveLast();
   if (!asked->day.isValid()) return;
   putDayLists(*this, kDay, numbersOf(asked->day));
-  m_onceActive.set([this] { showDay(); });
+  m_whenActivated.set([this] { showDay(); });
 }
 
-void TakingsScreen::onActivate() { m_onceActive.run(*this); }
+void TakingsScreen::onActivate() { m_whenActivated.run(*this); }
 
 QStringList TakingsScreen::openingTexts() const { return QStringList{windowTitle()} + countOnView(); }
 

@@ -2,7 +2,7 @@
 
 #include "frame/core/run_state.h"
 #include "platform/screen/list_screen.h"
-#include "platform/screen/once_active.h"
+#include "platform/screen/run_when_activated.h"
 
 namespace office {
 
@@ -36,7 +36,7 @@ class TakingsScreen : public screen::ListScreen {
 
  private:
   frame::RunState& m_run;
-  screen::OnceActive m_onceActive;
+  screen::RunWhenActivated m_whenActivated;
 };
 
 }  // namespace office

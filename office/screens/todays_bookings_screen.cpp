@@ -145,9 +145,8 @@ void TodaysBookingsScreen::newBooking() {
 
 void TodaysBookingsScreen::editBooking() {
   if (emptySet(u"編集データがありません。「全患者表示及び再表示」をクリックして下さい。"_s)) return;
-  navigator().show(
-      routes::Booking{.what = routes::Booking::Stored{source().rows().bookmark()},
-                      .opener = routes::TodaysBookings::screen});
+  navigator().show(routes::Booking{.what = routes::Booking::Stored{source().rows().bookmark()},
+                                   .opener = routes::TodaysBookings::screen});
 }
 
 }  // namespace office

@@ -33,7 +33,7 @@ void ConfirmPrompt::press() {
   const QPointer<ConfirmPrompt> alive(this);
   for (const PromptButton& button : m_prompt.buttons) {
     if (screen::objectName(button.name) != runningCommand()) continue;
-    messages().holdSpeech();
+    messages().interruptAndProtectNext();
     const QString action = QString::fromUtf16(button.action.get());
     if (const auto found = m_actions.constFind(action); found != m_actions.constEnd())
       found.value()(*this);

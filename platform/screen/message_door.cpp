@@ -76,7 +76,7 @@ void MessageDoor::answerFromQueue(const QList<bool>& answers) {
   m_answers += answers;
 }
 
-void MessageDoor::holdSpeech() {
+void MessageDoor::interruptAndProtectNext() {
   m_voice.stopSpeech();
   m_hold->begin();
 }

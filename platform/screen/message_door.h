@@ -43,7 +43,7 @@ class MessageDoor {
 
   /// What is said next is heard to its end: until the user presses a key, the focus waits for it. For a
   /// result that is spoken while a window closes and the focus goes back.
-  void holdSpeech();
+  void interruptAndProtectNext();
 
   /// Tests: answers for the coming questions, in order. With a queue (even an empty one after
   /// answerFromQueue()) nothing is shown; an unanswered question is refused.

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "platform/screen/route.h"
+#include "platform/route/route.h"
 
 namespace screen {
 

@@ -17,8 +17,7 @@ class ScreenRegistry {
 
   void add(const QString& screenName, Factory factory) { m_factories[screenName] = std::move(factory); }
   template <class S, class... State>
-    requires(!Route<S>)
-  void add(const QString& screenName, State&... state) {
+  requires(!Route<S>) void add(const QString& screenName, State&... state) {
     add(screenName,
         Factory([&state...](Services& services) { return std::make_unique<S>(services, state...); }));
   }

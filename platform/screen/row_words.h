@@ -4,7 +4,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "platform/screen/route.h"
+#include "platform/route/route.h"
 #include "platform/store/column.h"
 
 // What rows are written with: texts, names, columns and actions. These types have no default constructor and

@@ -116,7 +116,7 @@ void Screen::focusOn(const QString& control) {
 }
 
 void Screen::sayResult(const QStringList& parts) {
-  messages().holdSpeech();
+  messages().interruptAndProtectNext();
   say(parts);
 }
 

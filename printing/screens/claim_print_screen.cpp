@@ -49,8 +49,8 @@ ClaimPrintScreen::ClaimPrintScreen(Services& services, const PrintForm& form, fr
 void ClaimPrintScreen::onLoad() {
   const claims::ClaimRecord claim =
       m_state.display == nullptr ? claims::ClaimRecord() : m_state.display->record();
-  const Edition preset = presetEdition(m_screen, m_run.eraDates(), claim.get(claim::month),
-                                       claim.get(claim::summaryKind));
+  const Edition preset =
+      presetEdition(m_screen, m_run.eraDates(), claim.get(claim::month), claim.get(claim::summaryKind));
   if (const char16_t* option = rowOf(m_screen).controlOf(preset))
     choose(editionGroup(), QString::fromUtf16(option));
   const PrintTicks set = presetTicks(frame::prefectureOf(m_run.prefectureCode));

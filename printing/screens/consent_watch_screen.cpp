@@ -1,5 +1,7 @@
 #include "printing/screens/consent_watch_screen.h"
 
+#include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 #include "printing/contract/hand_print.h"
 #include "printing/contract/prompts.h"
 #include "printing/core/consent_page.h"
@@ -33,10 +35,13 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{.name = u"同意期限一ヶ月",
-                                 .caption = u"同意期限一ヶ月以内",
-                                 .rows = kRows,
-                                 .heading = u"同意期限一ヶ月以内"};
+constexpr ScreenRow kDeclaration = declare({.name = routes::ConsentWatch::screen,
+                                            .caption = u"同意期限一ヶ月以内",
+                                            .rows = kRows,
+                                            .heading = u"同意期限一ヶ月以内"});
+
+constexpr ControlRef kCount = ref(kRows, u"Label1"), kList = ref(kRows, u"List1"),
+                     kAdvice = ref(kRows, u"Label2");
 
 constexpr char16_t kNoRows[] = u"同意期限が一ヶ月以内の患者はいません。";
 constexpr char16_t kNothingToPrint[] = u"印刷するデータがありません。";
@@ -52,23 +57,23 @@ ConsentWatchScreen::ConsentWatchScreen(Services& services, frame::RunState& run,
 
 void ConsentWatchScreen::opened(const Request&) {
   auto found = claims::consentsRunningOut(m_run.folders[frame::folder::kClaims1], m_run.eraDates());
-  if (!found) m_onceActive.set([this, fault = found.fault().message] { messages().tellDataFault(fault); });
+  if (!found) m_whenActivated.set([this, fault = found.fault().message] { messages().tellDataFault(fault); });
   m_rows = found ? *found : QList<claims::ConsentEnd>();
   QList<QStringList> texts;
   for (const claims::ConsentEnd& row : m_rows)
     texts.append({row.name, row.insurance, claims::consentEndText(row.end), row.treatment,
                   row.later.isValid() ? claims::consentEndText(row.later) : QString()});
-  setRows(u"List1"_s, texts);
+  setRows(kList, texts);
   QString count = u"同意期限が一ヶ月以内の患者は、%1名です。"_s.arg(m_rows.size());
   if (m_rows.isEmpty()) count = QString::fromUtf16(found ? kNoRows : kNotRead);
-  setCaption(u"Label1"_s, count);
+  setCaption(kCount, count);
   if (std::exchange(m_openedBefore, true)) voice().speakText(count);
 }
 
-void ConsentWatchScreen::onActivate() { m_onceActive.run(*this); }
+void ConsentWatchScreen::onActivate() { m_whenActivated.run(*this); }
 
 QStringList ConsentWatchScreen::openingTexts() const {
-  return {QString::fromUtf16(kDeclaration.heading), caption(u"Label1"_s), caption(u"Label2"_s)};
+  return {QString::fromUtf16(kDeclaration.heading), caption(kCount), caption(kAdvice)};
 }
 
 void ConsentWatchScreen::print() {

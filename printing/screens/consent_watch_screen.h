@@ -3,7 +3,7 @@
 #include "claims/core/consent_watch.h"
 #include "frame/core/run_state.h"
 #include "platform/report/report_operations.h"
-#include "platform/screen/once_active.h"
+#include "platform/screen/run_when_activated.h"
 #include "platform/screen/screen.h"
 
 namespace printing {
@@ -26,7 +26,7 @@ class ConsentWatchScreen : public screen::Screen {
   frame::RunState& m_run;
   report::ReportOperations& m_engine;
   QList<claims::ConsentEnd> m_rows;
-  screen::OnceActive m_onceActive;
+  screen::RunWhenActivated m_whenActivated;
   bool m_openedBefore = false;
 };
 

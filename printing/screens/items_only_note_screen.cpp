@@ -1,6 +1,7 @@
 #include "printing/screens/items_only_note_screen.h"
 
 #include "frame/core/routes.h"
+#include "platform/screen/declare.h"
 
 namespace printing {
 
@@ -43,21 +44,23 @@ constexpr Row kRows[] = {
     EndBar{},
 };
 
-constexpr ScreenRow kDeclaration{.name = u"項目のみ印刷の注意事項",
-                                 .caption = u"項目のみ印刷の注意事項",
-                                 .rows = kRows,
-                                 .heading = u"項目のみ印刷の注意事項"};
+constexpr ScreenRow kDeclaration = declare({.name = routes::ItemsOnlyNote::screen,
+                                            .caption = u"項目のみ印刷の注意事項",
+                                            .rows = kRows,
+                                            .heading = u"項目のみ印刷の注意事項"});
+
+constexpr ControlRef kSilence = ref(kRows, u"Check1");
 
 }  // namespace
 
 ItemsOnlyNoteScreen::ItemsOnlyNoteScreen(Services& services, frame::RunState& run)
     : Screen(kDeclaration, services), m_run(run) {}
 
-void ItemsOnlyNoteScreen::onLoad() { setChecked(u"Check1"_s, m_run.itemsOnlyNoteSilenced); }
+void ItemsOnlyNoteScreen::onLoad() { setChecked(kSilence, m_run.itemsOnlyNoteSilenced); }
 
 void ItemsOnlyNoteScreen::speakNote() { voice().speakHeading(openingTexts()); }
 
-void ItemsOnlyNoteScreen::rememberTick() { m_run.itemsOnlyNoteSilenced = checked(u"Check1"_s); }
+void ItemsOnlyNoteScreen::rememberTick() { m_run.itemsOnlyNoteSilenced = checked(kSilence); }
 
 void ItemsOnlyNoteScreen::finish() { navigator().unload(routes::ItemsOnlyNote::screen); }
 

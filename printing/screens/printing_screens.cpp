@@ -19,7 +19,7 @@ void registerScreens(screen::ScreenRegistry& registry, PrintingRoom& room) {
     registry.add<UnbuiltPrintScreen>(nameOf(form.screen), form);
   registry.add<routes::ConsentWatch, ConsentWatchScreen>(room.run, room.engine);
   registry.add<routes::ItemsOnlyNote, ItemsOnlyNoteScreen>(room.run);
-  registry.add<PrinterOptionsScreen>(QString::fromUtf16(kPrinterOptions), room.choice);
+  registry.add<routes::PrinterOptions, PrinterOptionsScreen>(room.choice);
   room.claims.printing = &room.buttons;
 }
 

@@ -22,7 +22,4 @@ struct PrintingRoom {
 /// the screen プリンターオプション (printerDialog). `room` must outlive the registry and stay in its place.
 void registerScreens(screen::ScreenRegistry& registry, PrintingRoom& room);
 
-/// Name of the screen that PR_PrinterSetupDlg shows.
-inline constexpr char16_t kPrinterOptions[] = u"プリンターオプション";
-
 }  // namespace printing

@@ -66,7 +66,7 @@ text::Result<store::RecordSet> GridClaim::secondHalf(qint64 id) {
 claims::ClaimRecord GridClaim::with(const claims::ClaimRecord& typed) const {
   claims::ClaimRecord claim = m_seen;
   for (auto column = typed.columns().cbegin(); column != typed.columns().cend(); ++column)
-    claim.set(column.key(), column.value());
+    claim.setNamed(column.key(), column.value());
   return claim;
 }
 

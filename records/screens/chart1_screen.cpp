@@ -46,7 +46,7 @@ void Chart1Screen::opened(const screen::Request& request) {
   if (isVisible()) sayResult(openingTexts());
 }
 
-void Chart1Screen::onActivate() { m_onceActive.run(*this); }
+void Chart1Screen::onActivate() { m_whenActivated.run(*this); }
 
 QStringList Chart1Screen::openingTexts() const {
   QStringList texts{m_called, u"カルテ1を起動しました"_s};
@@ -64,7 +64,7 @@ void Chart1Screen::find(const QString& serial) {
   else
     found = screen::seekRow(source(), store::likeCriterion(patients::serial, serial));
   if (found && *found) return;
-  m_onceActive.set([this, found] {
+  m_whenActivated.set([this, found] {
     if (found) return screen::tellNotFound(*this);
     messages().tellDataFault(found.fault().message);
   });

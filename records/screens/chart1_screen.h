@@ -1,8 +1,8 @@
 #pragma once
 
 #include "frame/core/run_state.h"
-#include "platform/screen/once_active.h"
 #include "platform/screen/record_screen.h"
+#include "platform/screen/run_when_activated.h"
 
 namespace records {
 
@@ -36,7 +36,7 @@ class Chart1Screen : public screen::RecordScreen {
   void store();
   frame::RunState& m_run;
   QString m_called;  ///< name of the patient whose chart was asked for
-  screen::OnceActive m_onceActive;
+  screen::RunWhenActivated m_whenActivated;
 };
 
 }  // namespace records

@@ -114,7 +114,7 @@ void PatientListScreen::printLabels() {
                  .title = u"タック印刷"_s,
                  .pages = labelSheets(labels),
                  .draw = [&](report::ReportOperations& paper, int sheet) { drawSheet(paper, all, sheet); }});
-  if (end == printing::RunEnd::NotStarted) 
+  if (end == printing::RunEnd::NotStarted)
     messages().tell(u"タック印刷を開始できませんでした。プリンタを確認して下さい。"_s);
   if (end == printing::RunEnd::NotTaken) messages().tell(m_engine.lastDocument().fault().message);
   if (end == printing::RunEnd::Printed)

@@ -52,20 +52,20 @@ void VisitLedgerScreen::enter(const Route::Of& patient) {
   if (patient.serial != m_patient.serial) m_previous.clear();
   m_patient = patient;
   m_newRowPending = false;
-  m_onceActive.set(nullptr);
+  m_whenActivated.set(nullptr);
   hideGrid();
   for (const screen::ControlRef& month : {kMonthOnView, kMonthOfClaim})
     setText(month, presentMonthText(m_run.eraDates()));
   {
     const screen::Hourglass counting;
     if (!openWhole()) return;
-    if (!putPatient() || !holdsRows()) m_onceActive.set([this] { offerFirstVisit(); });
+    if (!putPatient() || !holdsRows()) m_whenActivated.set([this] { offerFirstVisit(); });
   }
   if (isVisible()) sayResult(openingTexts());
 }
 
 void VisitLedgerScreen::onActivate() {
-  m_onceActive.run(*this);
+  m_whenActivated.run(*this);
   // The claim form may have stored the claim of the grid meanwhile.
   if (onClaim() && !claimPending()) readClaimAgain();
 }

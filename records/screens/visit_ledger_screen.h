@@ -6,7 +6,7 @@
 #include "frame/core/routes.h"
 #include "frame/core/run_state.h"
 #include "platform/screen/list_screen.h"
-#include "platform/screen/once_active.h"
+#include "platform/screen/run_when_activated.h"
 #include "records/core/grid_claim.h"
 #include "records/core/previous_visit.h"
 #include "records/core/visit.h"
@@ -119,10 +119,10 @@ class VisitLedgerScreen : public screen::ListScreen {
 
   frame::RunState& m_run;
   PreviousVisit& m_previous;
-  Route::Of m_patient;               ///< whose visits are shown
-  bool m_newRowPending = false;      ///< from 新規追加 until 登録
-  screen::OnceActive m_onceActive;   ///< the question for a first visit
-  std::optional<GridClaim> m_claim;  ///< while the grid is shown
+  Route::Of m_patient;                       ///< whose visits are shown
+  bool m_newRowPending = false;              ///< from 新規追加 until 登録
+  screen::RunWhenActivated m_whenActivated;  ///< the question for a first visit
+  std::optional<GridClaim> m_claim;          ///< while the grid is shown
   claims::MonthFlags m_flags;
 };
 

@@ -95,11 +95,11 @@ TEST_F(JourneyTest, FromAnEmptyFolderToThePrintedFormAndTheNextMonth) {
   press(kForm, u"cmdUpdate"_s);
   EXPECT_EQ(told(), QStringList{u"       \u3000\u3000    更新しますか？"_s});
   const claims::ClaimRecord claim = stored(1);
-  EXPECT_EQ(claim.get(u"合計"_s), u"4990"_s);
-  EXPECT_EQ(claim.get(u"一部負担金2"_s), u"1497"_s);
-  EXPECT_EQ(claim.get(u"請求額"_s), u"3493"_s);
-  EXPECT_EQ(claim.get(u"施術科目"_s), u"鍼灸"_s);
-  EXPECT_TRUE(claim.get(u"h1"_s).startsWith(u"鍼データ集結ver9.0,"_s));
+  EXPECT_EQ(claim.get(claim::total), u"4990"_s);
+  EXPECT_EQ(claim.get(claim::share), u"1497"_s);
+  EXPECT_EQ(claim.get(claim::claimed), u"3493"_s);
+  EXPECT_EQ(claim.get(claim::subject), u"鍼灸"_s);
+  EXPECT_TRUE(claim.get(claim::hariRecord).startsWith(u"鍼データ集結ver9.0,"_s));
 
   press(kForm, u"Command5"_s);
   ASSERT_TRUE(isOpen(u"レセプト印刷2024"_s));
@@ -117,11 +117,11 @@ TEST_F(JourneyTest, FromAnEmptyFolderToThePrintedFormAndTheNextMonth) {
   ASSERT_FALSE(questions.isEmpty());
   EXPECT_TRUE(questions.first().startsWith(u"この患者の新しいレセプトを追加しますか？"_s));
   const claims::ClaimRecord next = stored(2);
-  EXPECT_EQ(next.get(u"申請年月"_s), u"令和6年11月"_s);
-  EXPECT_EQ(next.get(u"申請月"_s), u"11"_s);
-  EXPECT_EQ(next.get(u"請求回数"_s), u"2"_s);
-  EXPECT_EQ(next.get(u"請求区分"_s), u"継続"_s);
-  EXPECT_EQ(next.get(u"保険者名称"_s), u"みほん市"_s);
+  EXPECT_EQ(next.get(claim::month), u"令和6年11月"_s);
+  EXPECT_EQ(next.get(claim::monthNumber), u"11"_s);
+  EXPECT_EQ(next.get(claim::requestCount), u"2"_s);
+  EXPECT_EQ(next.get(claim::requestKind), u"継続"_s);
+  EXPECT_EQ(next.get(claim::insurerName), u"みほん市"_s);
   EXPECT_TRUE(next.code(2).isEmpty());
 }
 

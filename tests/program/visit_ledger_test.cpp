@@ -27,7 +27,7 @@ class VisitLedgerHandOver : public ProgramTest {
           std::pair(u"保険の種類"_s, u"国保"_s), std::pair(u"保険の種類3"_s, u"国民健保"_s),
           std::pair(u"保険者名称"_s, u"みほん市"_s), std::pair(u"初療年月日"_s, u"令和6年9月2日"_s),
           std::pair(u"一部負担金"_s, u"3割"_s)})
-      claim.set(column, value);
+      claim.setNamed(column, value);
     m_id = file().add(claim).value();
     m_application->navigator().show(routes::VisitLedger{
         routes::VisitLedger::Of{.serial = u"P1"_s, .name = u"見本　太郎"_s, .birth = {}, .opener = {}}});
@@ -56,14 +56,14 @@ TEST_F(VisitLedgerHandOver, OnlyTheFormsOwnStoreTurnsTheDaysIntoAmounts) {
   EXPECT_EQ(screen(kForm).text(u"Text5(2)"_s), u"a"_s);
   EXPECT_EQ(screen(kForm).text(u"Text5(5)"_s), u"a"_s);
   EXPECT_EQ(stored().code(5), u"a"_s);
-  EXPECT_TRUE(stored().get(u"合計"_s).isEmpty()) << "the grid alone is no finished claim";
+  EXPECT_TRUE(stored().get(claim::total).isEmpty()) << "the grid alone is no finished claim";
 
   answer({true});
   press(kForm, u"cmdUpdate"_s);
   // 1,610 yen on two days; three tenths are 966.
-  EXPECT_EQ(stored().get(u"合計"_s), u"3220"_s);
-  EXPECT_EQ(stored().get(u"一部負担金2"_s), u"966"_s);
-  EXPECT_EQ(stored().get(u"請求額"_s), u"2254"_s);
+  EXPECT_EQ(stored().get(claim::total), u"3220"_s);
+  EXPECT_EQ(stored().get(claim::share), u"966"_s);
+  EXPECT_EQ(stored().get(claim::claimed), u"2254"_s);
   EXPECT_EQ(m_application->navigator().front(), &screen(kLedger));
 }
 

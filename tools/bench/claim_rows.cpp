@@ -99,7 +99,7 @@ class Maker {
 
  private:
   static void set(claims::ClaimRecord& claim, QStringView column, const QString& text) {
-    claim.set(column.toString(), text);
+    claim.setNamed(column.toString(), text);
   }
   int roll(int sides) { return static_cast<int>(m_random() % static_cast<unsigned>(sides)); }
   template <size_t N>

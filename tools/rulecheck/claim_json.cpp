@@ -14,7 +14,7 @@ QString textOf(const QJsonValue& value) {
 claims::ClaimRecord claimOf(const QJsonObject& request) {
   claims::ClaimRecord claim;
   const QJsonObject columns = request["claim"].toObject();
-  for (auto it = columns.begin(); it != columns.end(); ++it) claim.set(it.key(), textOf(it.value()));
+  for (auto it = columns.begin(); it != columns.end(); ++it) claim.setNamed(it.key(), textOf(it.value()));
   return claim;
 }
 

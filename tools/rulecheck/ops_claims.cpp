@@ -43,9 +43,9 @@ QJsonObject entry(const QJsonObject& request, Context&) {
   const QString cell = request["cell"].toString();
   QString message;
   if (cell == u"code") {
-    message = claims::codeEntryMessage(text, claims::kindOf(claim.get(QStringLiteral("施術内容"))));
+    message = claims::codeEntryMessage(text, claims::kindOf(claim.get(claim::treatmentKind)));
   } else if (cell == u"visit") {
-    const auto flags = claims::monthFlags(claim.get(QStringLiteral("申請年月")), eraDates());
+    const auto flags = claims::monthFlags(claim.get(claim::month), eraDates());
     message = claims::visitEntryMessage(text, flags.isAfter202410);
   } else {
     return error(QStringLiteral("cell: code or visit"));
@@ -60,7 +60,7 @@ QJsonObject trim(const QJsonObject& request, Context&) {
       claimOf(request), form == u"claim" ? claims::TrimForm::Claim : claims::TrimForm::TreatmentRecord);
   // Ticks and numbers go back as they came; only what was cut is another text.
   QJsonObject claim = request["claim"].toObject();
-  for (const QString& column : result.cut) claim[column] = result.claim.get(column);
+  for (const QString& column : result.cut) claim[column] = result.claim.named(column);
   return {{"claim", claim}, {"cut", jsonOf(result.cut)}};
 }
 

@@ -48,7 +48,7 @@ QJsonObject replyOf(const claims::ClaimAmounts& amounts, const QJsonObject& colu
 }
 
 QJsonObject previewReply(const claims::ClaimRecord& claim, Context& context) {
-  const auto flags = claims::monthFlags(claim.get(QStringLiteral("申請年月")), eraDates());
+  const auto flags = claims::monthFlags(claim.get(claim::month), eraDates());
   const auto computed =
       claims::amounts(claim, flags, claims::Path::Preview, feeFilesOf(context), storedFees());
   return computed ? replyOf(computed.value(), {}) : error(computed.fault().message);
@@ -59,7 +59,7 @@ QJsonObject storeReply(const claims::ClaimRecord& claim, Context& context) {
   const auto stored = claims::storeClaim(claim, {eraDates(), files, storedFees()});
   if (stored.calculation) return error(stored.calculation->message);
   QJsonObject columns;
-  for (const QString& column : stored.written) columns[column] = jsonOf(stored.claim.get(column));
+  for (const QString& column : stored.written) columns[column] = jsonOf(stored.claim.named(column));
   return replyOf(stored.amounts, columns);
 }
 

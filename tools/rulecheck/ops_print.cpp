@@ -22,7 +22,7 @@ namespace {
 /// The claim as it stands after 登録, unless the request brings its record of amounts.
 claims::ClaimRecord storedClaim(const QJsonObject& request, const Context& context) {
   const claims::ClaimRecord claim = claimOf(request);
-  if (!claim.blank(QStringLiteral("h1")) || !claim.blank(QStringLiteral("m1"))) return claim;
+  if (!claim.blank(claim::hariRecord) || !claim.blank(claim::massageRecord)) return claim;
   const claims::FeeFiles files(context.programFolder,
                                context.programFolder + QStringLiteral("/料金設定2000.mdb"));
   static claims::StoredFees fees;
@@ -50,7 +50,7 @@ printing::PrintSource sourceOf(const QJsonObject& request, const frame::RunState
   printing::PrintSource source;
   printing::addClinicData(source, run);
   source.claim = storedClaim(request, context);
-  const bool massage = claims::kindOf(source.claim.get(QStringLiteral("施術内容"))) == claims::Kind::Massage;
+  const bool massage = claims::kindOf(source.claim.get(claim::treatmentKind)) == claims::Kind::Massage;
   source.kind = massage ? printing::PrintKind::Massage : printing::PrintKind::Acupuncture;
   // A name that both screens have is the printing screen's.
   for (const QJsonValue& name : request["checks"].toArray())
@@ -62,11 +62,10 @@ printing::PrintSource sourceOf(const QJsonObject& request, const frame::RunState
 
 /// Edition and ticks on the screen: those of the request, else the presets.
 void chooseOnScreen(const QJsonObject& request, printing::PrintScreen screen, printing::PrintSource& source) {
-  source.edition =
-      request.contains("option")
-          ? printing::editionNamed(screen, request["option"].toString())
-          : printing::presetEdition(screen, eraDates(), source.claim.get(QStringLiteral("申請年月")),
-                                    source.claim.get(claim::summaryKind));
+  source.edition = request.contains("option")
+                       ? printing::editionNamed(screen, request["option"].toString())
+                       : printing::presetEdition(screen, eraDates(), source.claim.get(claim::month),
+                                                 source.claim.get(claim::summaryKind));
   if (!request.contains("checks")) source.ticks = printing::presetTicks(source.prefecture);
 }
 

@@ -65,7 +65,7 @@ QJsonObject visitsByToken(const claims::VisitsTally& tally) {
 
 QJsonObject tally(const QJsonObject& request, Context&) {
   const claims::ClaimRecord claim = claimOf(request);
-  const auto flags = claims::monthFlags(claim.get(QStringLiteral("申請年月")), eraDates());
+  const auto flags = claims::monthFlags(claim.get(claim::month), eraDates());
   if (!flags.month) return error(QStringLiteral("申請年月: not an era month"));
   if (claims::eraOf(flags.month, claims::Path::Store)->regime != claims::Regime::Visits)
     return {{"regime", "old"}, {"counters", twoBandCounters(claim)}};

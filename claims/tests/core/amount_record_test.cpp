@@ -12,7 +12,7 @@ using testing::makeClaim;
 QString recordOf(const ClaimRecord& claim) {
   testing::CsvFees fees;
   const FeeEdition edition = fees.load(QStringLiteral("料金設定2000.mdb")).value();
-  const auto flags = monthFlags(claim.get(QStringLiteral("申請年月")), testing::era());
+  const auto flags = monthFlags(claim.get(claim::month), testing::era());
   return amountRecord(amounts(claim, edition, flags, Path::Store), areaBoxes(claim));
 }
 

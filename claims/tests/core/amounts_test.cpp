@@ -14,7 +14,7 @@ using testing::makeClaim;
 ClaimAmounts amountsOf(const ClaimRecord& claim, Path path) {
   testing::CsvFees fees;
   const FeeFiles files(QStringLiteral("/program"), QStringLiteral("/program/料金設定2000.mdb"));
-  const auto flags = monthFlags(claim.get(QStringLiteral("申請年月")), era());
+  const auto flags = monthFlags(claim.get(claim::month), era());
   auto computed = amounts(claim, flags, path, files, fees);
   EXPECT_TRUE(computed.ok());
   return computed.value();
@@ -68,8 +68,7 @@ TEST(Preview, StepsOfTwoKilometresBefore201806) {
               {u"10", 1800 + 2310}, {u"12", 1800 + 2310}, {u"14", 1800 + 2310}, {u"16", 1800 + 2310}};
   for (const auto& row : rows) {
     ClaimRecord claim = makeClaim(u"平成28年10月", u"鍼", u"3割", u"1-3=a");
-    for (int day = 1; day <= 3; ++day)
-      claim.set(ClaimRecord::visitColumn(day), QString::fromUtf16(row.visit));
+    for (int day = 1; day <= 3; ++day) claim.set(claim::dayVisit[day], QString::fromUtf16(row.visit));
     EXPECT_EQ(amountsOf(claim, Path::Preview).total, 3 * 1300 + 3 * row.perVisit);
   }
 }

@@ -28,9 +28,9 @@ constexpr char16_t kTwoLimbs[] =
 
 CheckResult checkOf(const char16_t* month, const char16_t* grid, std::initializer_list<Set> columns = {}) {
   ClaimRecord claim = testing::makeClaim(month, u"あマ", u"1割", grid, columns);
-  claim.set(QStringLiteral("保険者名称"), QStringLiteral("見本組合"));
-  claim.set(QStringLiteral("保険の種類3"), QStringLiteral("組合健保"));
-  claim.set(QStringLiteral("初療年月日"), QStringLiteral("令和2年1月5日"));
+  claim.setNamed(QStringLiteral("保険者名称"), QStringLiteral("見本組合"));
+  claim.setNamed(QStringLiteral("保険の種類3"), QStringLiteral("組合健保"));
+  claim.setNamed(QStringLiteral("初療年月日"), QStringLiteral("令和2年1月5日"));
   return checkClaimFull(claim, era());
 }
 

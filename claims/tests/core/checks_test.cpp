@@ -22,7 +22,8 @@ ClaimRecord soundClaim(const char16_t* month = u"令和6年10月", const char16_
 }
 
 ClaimRecord with(ClaimRecord claim, std::initializer_list<Set> columns) {
-  for (const Set& set : columns) claim.set(QString::fromUtf16(set.column), QString::fromUtf16(set.value));
+  for (const Set& set : columns)
+    claim.setNamed(QString::fromUtf16(set.column), QString::fromUtf16(set.value));
   return claim;
 }
 
@@ -87,7 +88,7 @@ TEST(BothChecks, TheEarlierFieldSpeaksFirst) {
   ClaimRecord claim = soundClaim();
   for (auto row = std::rbegin(kCommon); row != std::rend(kCommon); ++row) {
     SCOPED_TRACE(row->name);
-    claim.set(QString::fromUtf16(row->column), QString::fromUtf16(row->value));
+    claim.setNamed(QString::fromUtf16(row->column), QString::fromUtf16(row->value));
     expectStop(checkClaimFull(claim, era()), row->message);
     expectStop(checkClaimFast(claim, era(), {}), row->message);
   }
@@ -96,7 +97,7 @@ TEST(BothChecks, TheEarlierFieldSpeaksFirst) {
 TEST(BothChecks, BlankDatesPassButTwo) {
   ClaimRecord claim = soundClaim();
   for (const FailRow& row : kCommon)
-    if (QStringView(row.value) == u"x") claim.set(QString::fromUtf16(row.column), QStringLiteral(""));
+    if (QStringView(row.value) == u"x") claim.setNamed(QString::fromUtf16(row.column), QStringLiteral(""));
   expectPass(checkClaimFull(claim, era()));
 }
 
@@ -140,7 +141,7 @@ TEST(FastCheck, KindOfInsuranceComesFirst) {
 TEST(FullCheck, MonthNumber) {
   for (int month = 1; month <= 12; ++month) {
     ClaimRecord claim = soundClaim();
-    claim.set(QStringLiteral("申請月"), QString::number(month));
+    claim.setNamed(QStringLiteral("申請月"), QString::number(month));
     expectPass(checkClaimFull(claim, era()));
   }
   for (const char16_t* text : {u"0", u"13", u"01", u"１", u"10月"}) {

@@ -32,8 +32,8 @@ void setGrid(ClaimRecord& claim, const char16_t* grid) {
     const QStringList sides = part.split(u'=');
     const QStringList days = sides[0].split(u'-'), entry = sides[1].split(u'/');
     for (int day = days.first().toInt(); day <= days.last().toInt(); ++day) {
-      claim.set(ClaimRecord::codeColumn(day), entry[0]);
-      if (entry.size() > 1) claim.set(ClaimRecord::visitColumn(day), entry[1]);
+      claim.set(claim::dayCode[day], entry[0]);
+      if (entry.size() > 1) claim.set(claim::dayVisit[day], entry[1]);
     }
   }
 }
@@ -41,11 +41,12 @@ void setGrid(ClaimRecord& claim, const char16_t* grid) {
 ClaimRecord makeClaim(const char16_t* month, const char16_t* kind, const char16_t* share,
                       const char16_t* grid, std::initializer_list<Set> columns) {
   ClaimRecord claim;
-  claim.set(QStringLiteral("申請年月"), QString::fromUtf16(month));
-  claim.set(QStringLiteral("施術内容"), QString::fromUtf16(kind));
-  claim.set(QStringLiteral("一部負担金"), QString::fromUtf16(share));
+  claim.set(claim::month, QString::fromUtf16(month));
+  claim.set(claim::treatmentKind, QString::fromUtf16(kind));
+  claim.set(claim::shareRate, QString::fromUtf16(share));
   setGrid(claim, grid);
-  for (const Set& set : columns) claim.set(QString::fromUtf16(set.column), QString::fromUtf16(set.value));
+  for (const Set& set : columns)
+    claim.setNamed(QString::fromUtf16(set.column), QString::fromUtf16(set.value));
   return claim;
 }
 

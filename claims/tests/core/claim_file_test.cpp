@@ -34,14 +34,14 @@ TEST_F(ClaimFiles, AddReadStoreRemove) {
   const auto id = file.add(claim);
   ASSERT_TRUE(id.ok());
   const ClaimRecord seen = file.read(*id).value();
-  EXPECT_EQ(seen.get(QStringLiteral("ID")), QString::number(*id));
+  EXPECT_EQ(seen.named(QStringLiteral("ID")), QString::number(*id));
   EXPECT_EQ(seen.code(1), u"g2");
   EXPECT_EQ(seen.visit(1), u"v1");
-  EXPECT_EQ(seen.get(QStringLiteral("d12")), u"自宅");
-  EXPECT_TRUE(seen.ticked(QStringLiteral("yn2")));
-  EXPECT_TRUE(seen.ticked(QStringLiteral("躯幹")));
-  EXPECT_EQ(seen.get(QStringLiteral("txt dummy1")), QString::number(*id));
-  EXPECT_TRUE(seen.get(QStringLiteral("施術科目")).isNull());
+  EXPECT_EQ(seen.named(QStringLiteral("d12")), u"自宅");
+  EXPECT_TRUE(seen.ticked(claim::report));
+  EXPECT_TRUE(seen.ticked(claim::trunk));
+  EXPECT_EQ(seen.named(QStringLiteral("txt dummy1")), QString::number(*id));
+  EXPECT_TRUE(seen.named(QStringLiteral("施術科目")).isNull());
 
   testing::CsvFees fees;
   const FeeFiles files(QStringLiteral("/p"), QStringLiteral("/p/料金設定2000.mdb"));
@@ -49,12 +49,12 @@ TEST_F(ClaimFiles, AddReadStoreRemove) {
   ASSERT_TRUE(file.store(*id, seen, stored.claim).ok());
   const ClaimRecord again = file.read(*id).value();
   for (const QString& column : stored.written)
-    EXPECT_EQ(again.get(column), stored.claim.get(column)) << column.toStdString();
-  EXPECT_EQ(again.get(QStringLiteral("合計")), u"3680");  // 3200 + 480
-  EXPECT_EQ(again.get(QStringLiteral("m4")), u"2944");    // 3680 - 736
+    EXPECT_EQ(again.named(column), stored.claim.named(column)) << column.toStdString();
+  EXPECT_EQ(again.named(QStringLiteral("合計")), u"3680");  // 3200 + 480
+  EXPECT_EQ(again.named(QStringLiteral("m4")), u"2944");    // 3680 - 736
 
   ASSERT_TRUE(file.remove(*id).ok());
-  EXPECT_TRUE(file.read(*id).value().get(QStringLiteral("ID")).isEmpty());
+  EXPECT_TRUE(file.read(*id).value().named(QStringLiteral("ID")).isEmpty());
 }
 
 TEST_F(ClaimFiles, EveryColumnThatTheStoreWritesIsAColumnOfTheFiles) {
@@ -66,26 +66,27 @@ TEST_F(ClaimFiles, EveryColumnThatTheStoreWritesIsAColumnOfTheFiles) {
     const auto stored = storeClaim(claim, {testing::era(), files, fees});
     const auto id = file.add(ClaimRecord());
     const ClaimRecord empty = file.read(id.value()).value();
-    for (const QString& column : stored.written) EXPECT_TRUE(empty.has(column)) << column.toStdString();
+    for (const QString& column : stored.written)
+      EXPECT_TRUE(empty.columns().contains(column)) << column.toStdString();
   }
 }
 
-TEST_F(ClaimFiles, ABlankSubjectTellsThatTheClaimWasStored) {
+TEST_F(ClaimFiles, ABlankSubjectMeansThatTheClaimWasStored) {
   ClaimFile file = open();
   const qint64 id = file.add(ClaimRecord()).value();
   const ClaimRecord seen = file.read(id).value();
   ClaimRecord changed = seen;
-  changed.set(QStringLiteral("施術科目"), QStringLiteral(""));
+  changed.setNamed(QStringLiteral("施術科目"), QStringLiteral(""));
   ASSERT_TRUE(file.store(id, seen, changed).ok());
-  EXPECT_FALSE(file.read(id).value().get(QStringLiteral("施術科目")).isNull());
+  EXPECT_FALSE(file.read(id).value().named(QStringLiteral("施術科目")).isNull());
 }
 
 TEST_F(ClaimFiles, APrintSettingTakesTheLinkColumnOver) {
   ClaimFile file = open();
   ClaimRecord claim;
-  claim.set(QStringLiteral("txt dummy1"), QStringLiteral("1"));
+  claim.setNamed(QStringLiteral("txt dummy1"), QStringLiteral("1"));
   const qint64 id = file.add(claim).value();
-  EXPECT_EQ(file.read(id).value().get(QStringLiteral("txt dummy1")), u"1");
+  EXPECT_EQ(file.read(id).value().named(QStringLiteral("txt dummy1")), u"1");
 }
 
 TEST_F(ClaimFiles, AClaimChangedMeanwhileIsRefused) {
@@ -93,14 +94,14 @@ TEST_F(ClaimFiles, AClaimChangedMeanwhileIsRefused) {
   const qint64 id = mine.add(testing::makeClaim(u"令和6年10月", u"鍼", u"1割", u"1=a")).value();
   const ClaimRecord seen = mine.read(id).value();
   ClaimRecord theirs = seen, ours = seen;
-  theirs.set(QStringLiteral("備考"), QStringLiteral("x"));
-  ours.set(QStringLiteral("d12"), QStringLiteral("y"));
+  theirs.setNamed(QStringLiteral("備考"), QStringLiteral("x"));
+  ours.setNamed(QStringLiteral("d12"), QStringLiteral("y"));
   ASSERT_TRUE(other.store(id, seen, theirs).ok());
   EXPECT_FALSE(mine.store(id, seen, ours).ok());
-  EXPECT_EQ(mine.read(id).value().get(QStringLiteral("備考")), u"x");
-  EXPECT_TRUE(mine.read(id).value().get(QStringLiteral("d12")).isNull());
+  EXPECT_EQ(mine.read(id).value().named(QStringLiteral("備考")), u"x");
+  EXPECT_TRUE(mine.read(id).value().named(QStringLiteral("d12")).isNull());
   ClaimRecord anew = mine.read(id).value();
-  anew.set(QStringLiteral("d12"), QStringLiteral("y"));
+  anew.setNamed(QStringLiteral("d12"), QStringLiteral("y"));
   EXPECT_TRUE(mine.store(id, mine.read(id).value(), anew).ok());
 }
 
@@ -110,15 +111,15 @@ TEST_F(ClaimFiles, AMissingSecondHalfIsMade) {
                                {QStringLiteral("氏名"), QStringLiteral("見本")}}})
                   .ok());
   ClaimFile file = open();
-  EXPECT_FALSE(file.read(5).value().has(QStringLiteral("d12")));
+  EXPECT_FALSE(file.read(5).value().has(claim::treatmentPlace));
   ASSERT_TRUE(file.repairSecond(5).ok());
   const ClaimRecord claim = file.read(5).value();
-  EXPECT_EQ(claim.get(QStringLiteral("txt dummy1")), u"5");
-  for (int n = 1; n <= 4; ++n) EXPECT_EQ(claim.get(QStringLiteral("memo dummy%1").arg(n)), u" ");
-  EXPECT_EQ(claim.get(QStringLiteral("氏名")), u"見本");
+  EXPECT_EQ(claim.named(QStringLiteral("txt dummy1")), u"5");
+  for (int n = 1; n <= 4; ++n) EXPECT_EQ(claim.named(QStringLiteral("memo dummy%1").arg(n)), u" ");
+  EXPECT_EQ(claim.named(QStringLiteral("氏名")), u"見本");
 }
 
-TEST_F(ClaimFiles, AMissingFileIsToldByName) {
+TEST_F(ClaimFiles, AMissingFileIsReportedByName) {
   const auto none = ClaimFile::open(path(QStringLiteral("none.mdb")), path(secondName));
   ASSERT_FALSE(none.ok());
   EXPECT_TRUE(none.fault().message.contains(u"none.mdb"));

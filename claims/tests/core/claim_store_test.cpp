@@ -19,7 +19,7 @@ StoredClaim storedOf(const ClaimRecord& claim, const std::optional<AreaBoxes>& b
 
 void expectColumns(const ClaimRecord& claim, std::initializer_list<Set> columns) {
   for (const Set& set : columns) {
-    const QString value = claim.get(QString::fromUtf16(set.column));
+    const QString value = claim.named(QString::fromUtf16(set.column));
     if (set.value) {
       EXPECT_EQ(value, set.value) << QString::fromUtf16(set.column).toStdString();
     } else {
@@ -96,7 +96,7 @@ TEST(StoreClaim, TwoNumbersOfAreasAndDistancesShowNone) {
 
 TEST(StoreClaim, ClaimsFrom202410KeepTheirRecordInOneLine) {
   const auto stored = storedOf(makeClaim(u"令和6年10月", u"鍼", u"1割", u"1=a", {{u"m1", u"old"}}));
-  EXPECT_TRUE(stored.claim.get(QStringLiteral("h1")).startsWith(u"鍼データ集結ver9.0,0,1,0,1610,1,1610,"));
+  EXPECT_TRUE(stored.claim.named(QStringLiteral("h1")).startsWith(u"鍼データ集結ver9.0,0,1,0,1610,1,1610,"));
   expectColumns(stored.claim, {{u"h2", u"1610"},
                                {u"h3", u"161"},
                                {u"h4", u"1449"},
@@ -114,13 +114,13 @@ TEST(StoreClaim, WithoutAShareTheClaimIsTheTotal) {
 TEST(StoreClaim, ABlankMonthLeavesTheAmounts) {
   const auto stored = storedOf(makeClaim(u"", u"鍼", u"3割", u"1=a", {{u"合計", u"77"}, {u"h1", u"old"}}));
   expectColumns(stored.claim, {{u"合計", u"77"}, {u"h1", u"old"}});
-  EXPECT_FALSE(stored.claim.has(QStringLiteral("施術科目")));
+  EXPECT_FALSE(stored.claim.has(claim::subject));
 }
 
 TEST(StoreClaim, ATotalOfNothingLeavesNull) {
   const auto stored = storedOf(makeClaim(u"令和6年10月", u"鍼灸", u"3割", u"", {{u"合計", u"77"}}));
   expectColumns(stored.claim, {{u"合計", nullptr}, {u"一部負担金2", nullptr}, {u"請求額", nullptr}});
-  EXPECT_FALSE(stored.claim.get(QStringLiteral("施術科目")).isNull());  // stored, though blank
+  EXPECT_FALSE(stored.claim.named(QStringLiteral("施術科目")).isNull());  // stored, though blank
 }
 
 TEST(StoreClaim, AMissingFeeFileClearsAndIsTold) {
@@ -130,7 +130,7 @@ TEST(StoreClaim, AMissingFeeFileClearsAndIsTold) {
                                  {testing::era(), files, fees});
   ASSERT_TRUE(stored.calculation);
   expectColumns(stored.claim, {{u"合計", nullptr}, {u"h2", nullptr}});
-  EXPECT_FALSE(stored.claim.get(QStringLiteral("施術科目")).isNull());  // it was stored, and may be closed
+  EXPECT_FALSE(stored.claim.named(QStringLiteral("施術科目")).isNull());  // it was stored, and may be closed
 }
 
 TEST(StoreClaim, AMissingFeeFileLeavesTheSubjectOfTheLastStore) {
@@ -164,7 +164,7 @@ TEST(StoreClaim, KeysAndKinds) {
                                             {u"保険証番号", u"55"}}));
     expectColumns(stored.claim, {{u"保険の種類", row.storedKind},
                                  {u"保険順位", row.order},
-                                 {kSummaryCodeColumn, row.code},
+                                 {u"numdummy16", row.code},
                                  {u"保険証番号1", u"55"}});
   }
 }
@@ -172,7 +172,7 @@ TEST(StoreClaim, KeysAndKinds) {
 TEST(StoreClaim, TheListsKanaIsNeverNull) {
   expectColumns(storedOf(ClaimRecord()).claim, {{u"被保険者のフリガナ", u" "}});
   ClaimRecord claim;
-  claim.set(QStringLiteral("被保険者のフリガナ"), QStringLiteral("ﾐﾎﾝ"));
+  claim.setNamed(QStringLiteral("被保険者のフリガナ"), QStringLiteral("ﾐﾎﾝ"));
   expectColumns(storedOf(claim).claim, {{u"被保険者のフリガナ", u"ﾐﾎﾝ"}});
 }
 
@@ -200,7 +200,7 @@ TEST(StoreClaim, CorrectedBoxesAreKept) {
   typed.areas[4] = QStringLiteral("3");
   const auto stored = storedOf(claim, typed);
   expectColumns(stored.claim, {{u"d3", nullptr}, {u"d4", nullptr}, {u"d7", u"3"}});
-  EXPECT_TRUE(stored.claim.get(QStringLiteral("m1"))
+  EXPECT_TRUE(stored.claim.named(QStringLiteral("m1"))
                   .startsWith(u"あマデータ集結ver9.0,0,0,0,0,3,0,0,0,0,450,2,900,"));
 }
 

@@ -103,9 +103,9 @@ TEST(ShareTicks, ReadFromTheText) {
   EXPECT_EQ(shareTicksText(ticks), u"三歳未満,高齢8,");
   EXPECT_EQ(shareTicksOf(QString()), ShareTicks{});
   ClaimRecord claim;
-  claim.set(QStringLiteral("負担割合"), QStringLiteral("家族,"));
+  claim.setNamed(QStringLiteral("負担割合"), QStringLiteral("家族,"));
   EXPECT_TRUE(shareTicksOf(claim)[2]);
-  claim.set(QStringLiteral("本人"), QStringLiteral("-1"));
+  claim.setNamed(QStringLiteral("本人"), QStringLiteral("-1"));
   EXPECT_TRUE(shareTicksOf(claim)[0]);
   EXPECT_FALSE(shareTicksOf(claim)[2]);
 }
@@ -124,9 +124,9 @@ TEST(PrintSettings, ChosenByTheColumnElseTheDefault) {
   ClaimRecord claim;
   const Setting setting = Setting::ProxyWords;
   EXPECT_EQ(chosen(claim, setting, {}), 1);
-  claim.set(QStringLiteral("c10"), QStringLiteral("0"));
+  claim.setNamed(QStringLiteral("c10"), QStringLiteral("0"));
   EXPECT_EQ(chosen(claim, setting, {}), 0);
-  claim.set(QStringLiteral("txt dummy1"), QStringLiteral("77"));  // the ID of a repaired half
+  claim.setNamed(QStringLiteral("txt dummy1"), QStringLiteral("77"));  // the ID of a repaired half
   EXPECT_EQ(chosen(claim, Setting::PeriodFrom, {}), 1);
 }
 

@@ -55,7 +55,7 @@ class ConsentWatch : public ::testing::Test {
 
 TEST_F(ConsentWatch, EmptyFileGivesNobody) { EXPECT_EQ(shown(), QStringList()); }
 
-TEST_F(ConsentWatch, ARowTellsNameInsuranceEndAndTreatment) {
+TEST_F(ConsentWatch, ARowHasNameInsuranceEndAndTreatment) {
   add({{u"見本　太郎", u"令和6年11月20日", u"あマ", u"後期高齢"}});
   const QList<ConsentEnd> expected = {{u"見本　太郎"_s, u"後期高齢"_s, QDate(2024, 11, 20), u"あマ"_s, {}}};
   EXPECT_EQ(rows({2024, 11, 5}), expected);
@@ -105,20 +105,20 @@ TEST_F(ConsentWatch, PlatformsWithoutTheEraReadItAllTheSame) {
       QStringList({u"甲 2024年11月20日 鍼灸"_s, u"乙 2024年11月21日 鍼灸"_s, u"丙 2024年11月22日 鍼灸"_s}));
 }
 
-TEST_F(ConsentWatch, TheNearestEndStandsFirstWhateverTheCalendar) {
+TEST_F(ConsentWatch, TheNearestEndComesFirstWhateverTheCalendar) {
   add({{u"甲", u"令和6年11月30日"}, {u"乙", u"2024/11/9"}, {u"丙", u"令和6年11月10日"}});
   EXPECT_EQ(shown(), QStringList({u"乙 2024年11月9日 鍼灸"_s, u"丙 2024年11月10日 鍼灸"_s,
                                   u"甲 2024年11月30日 鍼灸"_s}));
 }
 
-TEST_F(ConsentWatch, APatientIsToldOnceByTheNewestClaim) {
+TEST_F(ConsentWatch, APatientIsListedOnceByTheNewestClaim) {
   add({{u"見本", u"令和6年11月20日", u"鍼灸", u"国保"}, {u"見本", u"R6/11/20", u"鍼灸", u"後期高齢"}});
   const QList<ConsentEnd> expected = {{u"見本"_s, u"後期高齢"_s, QDate(2024, 11, 20), u"鍼灸"_s, {}}};
   EXPECT_EQ(rows({2024, 11, 5}), expected);
 }
 
 // A later consent is told beside the end and does not take the warning back.
-TEST_F(ConsentWatch, ARenewedConsentTellsItsLaterEnd) {
+TEST_F(ConsentWatch, ARenewedConsentGivesItsLaterEnd) {
   add({{u"見本", u"令和6年11月20日"}, {u"見本", u"令和7年5月20日"}, {u"例示", u"令和6年11月21日"}});
   const QList<ConsentEnd> found = rows({2024, 11, 5});
   ASSERT_EQ(found.size(), 2);
@@ -143,7 +143,7 @@ TEST_F(ConsentWatch, AcupunctureAndMassageHaveAConsentEach) {
   EXPECT_EQ(found[1].later, QDate(2025, 5, 20)) << "鍼 and 鍼灸 are one consent";
 }
 
-TEST_F(ConsentWatch, OfTwoEndsTheNewestClaimIsTold) {
+TEST_F(ConsentWatch, OfTwoEndsTheOneOfTheNewestClaimIsListed) {
   add({{u"甲", u"令和6年11月10日", u"あマ"}, {u"甲", u"令和6年12月1日", u"鍼灸"}});
   EXPECT_EQ(shown(), QStringList{u"甲 2024年12月1日 鍼灸"_s});
 }

@@ -32,12 +32,12 @@ void expectStored(const FullClaim& row) {
   const qint64 sums[] = {row.total, row.share, row.total - row.share};
   const char16_t* columns[] = {u"合計", u"一部負担金2", u"請求額"};
   for (int i = 0; i < 3; ++i) {
-    EXPECT_EQ(claim.get(QString::fromUtf16(columns[i])), numberText(sums[i]));
-    EXPECT_EQ(claim.get(own + QString::number(i + 2)), numberText(sums[i]));
-    EXPECT_TRUE(claim.get(other + QString::number(i + 2)).isNull());
+    EXPECT_EQ(claim.named(QString::fromUtf16(columns[i])), numberText(sums[i]));
+    EXPECT_EQ(claim.named(own + QString::number(i + 2)), numberText(sums[i]));
+    EXPECT_TRUE(claim.named(other + QString::number(i + 2)).isNull());
   }
-  EXPECT_EQ(claim.get(QStringLiteral("施術科目")), QString::fromUtf16(row.subject));
-  EXPECT_FALSE(claim.get(QStringLiteral("施術科目")).isNull());
+  EXPECT_EQ(claim.get(claim::subject), QString::fromUtf16(row.subject));
+  EXPECT_FALSE(claim.get(claim::subject).isNull());
 }
 
 std::string nameOf(const ::testing::TestParamInfo<FullClaim>& info) { return info.param.name; }

@@ -18,9 +18,12 @@ struct Model {
   void add(const QString& column, qint64 times = 1) {
     add(reinterpret_cast<const char16_t*>(column.utf16()), times);
   }
-  bool ticked(const char16_t* column) const { return claim.ticked(QString::fromUtf16(column)); }
+  bool ticked(const char16_t* column) const {
+    const QString value = claim.named(QString::fromUtf16(column));
+    return value == u"-1" || value == u"1" || value == u"true";
+  }
   qint64 numberIn(const char16_t* column) const {
-    return claim.get(QString::fromUtf16(column)).trimmed().toLongLong();  // 0 for what is no number
+    return claim.named(QString::fromUtf16(column)).trimmed().toLongLong();  // 0 for what is no number
   }
   int reports() const { return !ticked(u"yn2") ? 0 : ticked(u"yn4") ? 3 : ticked(u"yn3") ? 2 : 1; }
 };
@@ -174,7 +177,7 @@ void addVisitSurcharges(Model& model) {
 qint64 plainTotal(const ClaimRecord& claim, const FeeEdition& fees, const MonthFlags& flags, bool preview) {
   Model model{claim, fees};
   if (flags.isAfter202410) {
-    claim.get(QStringLiteral("施術内容")) == u"あマ" ? addMassageDays(model) : addNeedleDays(model);
+    claim.get(claim::treatmentKind) == u"あマ" ? addMassageDays(model) : addNeedleDays(model);
     addVisitSurcharges(model);
     return model.total;
   }

@@ -51,13 +51,12 @@ ClaimRecord randomClaim(Dice& dice) {
   const size_t codes = dice.below(std::size(kCodes)), visits = dice.below(std::size(kVisits));
   const size_t codeCount = 1 + dice.below(std::size(kCodes)), visitCount = 1 + dice.below(std::size(kVisits));
   for (int day = 1; day <= 31; ++day) {
-    if (dice.once(2))
-      claim.set(ClaimRecord::codeColumn(day), QString::fromUtf16(dice.of(kCodes, codes, codeCount)));
+    if (dice.once(2)) claim.set(claim::dayCode[day], QString::fromUtf16(dice.of(kCodes, codes, codeCount)));
     if (dice.once(3))
-      claim.set(ClaimRecord::visitColumn(day), QString::fromUtf16(dice.of(kVisits, visits, visitCount)));
+      claim.set(claim::dayVisit[day], QString::fromUtf16(dice.of(kVisits, visits, visitCount)));
   }
   for (const char16_t* tick : {u"初回有無", u"yn2", u"yn3", u"yn4", u"d2"})
-    if (dice.once(2)) claim.set(QString::fromUtf16(tick), QStringLiteral("1"));
+    if (dice.once(2)) claim.setNamed(QString::fromUtf16(tick), QStringLiteral("1"));
   return claim;
 }
 
@@ -68,13 +67,13 @@ TEST(RandomClaims, AgreeWithThePlainModel) {
   Dice dice(20241001);
   for (int round = 0; round < 3000; ++round) {
     const ClaimRecord claim = randomClaim(dice);
-    const MonthFlags flags = monthFlags(claim.get(QStringLiteral("申請年月")), testing::era());
+    const MonthFlags flags = monthFlags(claim.get(claim::month), testing::era());
     const QString path = files.path(*flags.month);
     if (!editions.contains(path)) editions.insert(path, fees.load(path).value());
     for (const Path way : {Path::Store, Path::Preview}) {
       const ClaimAmounts computed = amounts(claim, editions[path], flags, way);
       const qint64 total = testing::plainTotal(claim, editions[path], flags, way == Path::Preview);
-      const qint64 share = testing::plainShare(total, claim.get(QStringLiteral("一部負担金")));
+      const qint64 share = testing::plainShare(total, claim.get(claim::shareRate));
       ASSERT_EQ(computed.total, total) << round;
       ASSERT_EQ(computed.share, share) << round;
       ASSERT_EQ(computed.claim, total - share) << round;

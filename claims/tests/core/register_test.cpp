@@ -34,7 +34,7 @@ TEST(Register, FieldsGoToTheirColumnsOfTheClaim) {
   const auto pairs = [](const Register& list) {
     QStringList all;
     for (const RegisterField& field : list.fields)
-      all << QString::fromUtf16(field.column) + u'>' + QString::fromUtf16(field.claimColumn);
+      all << field.column.text() + u'>' + field.claimColumn.text();
     return all;
   };
   EXPECT_EQ(pairs(kDoctorRegister),
@@ -42,6 +42,12 @@ TEST(Register, FieldsGoToTheirColumnsOfTheClaim) {
                          u"住所>同意医師住所"_s, u"TEL>同意医師の電話番号"_s}));
   EXPECT_EQ(pairs(kInsurerRegister),
             (QStringList{u"名称>保険者名称"_s, u"番号>保険者番号"_s, u"所在地>保険者住所"_s}));
+}
+
+TEST(Register, FieldsAreLabelledByTheirColumn) {
+  for (const Register* list : {&kDoctorRegister, &kInsurerRegister})
+    for (const RegisterField& field : list->fields)
+      EXPECT_EQ(QString::fromUtf16(field.label), field.column.text());
 }
 
 class RegisterFile : public testing::Test {

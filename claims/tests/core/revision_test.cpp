@@ -30,7 +30,7 @@ class Revision : public ::testing::Test {
     return storeClaim(claim, {era(), files, revision});
   }
   QStringList read(const StoredClaim& stored) {
-    return amountRecordFields(stored.claim.get(QStringLiteral("h1")), revision.table());
+    return amountRecordFields(stored.claim.get(claim::hariRecord), revision.table());
   }
   InventedRevision revision;
 };
@@ -90,8 +90,8 @@ TEST_F(Revision, MassageIsNotTouched) {
 }
 
 TEST_F(Revision, ARecordIsReadByTheVersionOfItsMark) {
-  const QString older = store(needleClaim(u"令和13年5月", u"1")).claim.get(QStringLiteral("h1"));
-  const QString newer = store(needleClaim(u"令和13年6月", u"1")).claim.get(QStringLiteral("h1"));
+  const QString older = store(needleClaim(u"令和13年5月", u"1")).claim.get(claim::hariRecord);
+  const QString newer = store(needleClaim(u"令和13年6月", u"1")).claim.get(claim::hariRecord);
   const auto readOlder = readAmountRecord(older, Kind::Acupuncture, revision.table());
   const auto readNewer = readAmountRecord(newer, Kind::Acupuncture, revision.table());
   ASSERT_TRUE(readOlder && readNewer);

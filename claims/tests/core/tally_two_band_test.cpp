@@ -127,7 +127,7 @@ TEST(TwoBandTally, VisitBandsOnDaysWithACode) {
   EXPECT_EQ(t.nearVisits, 3);  // 1 and 4 km, and the day of z, which holds a code
   EXPECT_EQ(t.farVisits, 2);
   ClaimRecord bare;
-  bare.set(ClaimRecord::visitColumn(9), QStringLiteral("3"));
+  bare.set(claim::dayVisit[9], QStringLiteral("3"));
   EXPECT_EQ(tallyTwoBand(bare).nearVisits, 0);
 }
 

@@ -41,8 +41,8 @@ TEST(VisitsTally, AVisitLeavesThePlainCountersUntouchedButNotTheSurcharges) {
 TEST(VisitsTally, BandsOfPatients) {
   for (int patients = 1; patients <= 20; ++patients) {
     ClaimRecord claim;
-    claim.set(ClaimRecord::codeColumn(5), QStringLiteral("g3"));
-    claim.set(ClaimRecord::visitColumn(5), QStringLiteral("v%1").arg(patients));
+    claim.set(claim::dayCode[5], QStringLiteral("g3"));
+    claim.set(claim::dayVisit[5], QStringLiteral("v%1").arg(patients));
     const VisitsTally t = tallyVisits(claim);
     const int form = patients <= 2 ? patients - 1 : patients <= 9 ? 2 : 3;
     for (int other = 0; other < 4; ++other)
@@ -90,7 +90,7 @@ TEST(VisitsTally, WhatFitsNoRuleIsADayAndNothingElse) {
 
 TEST(VisitsTally, AVisitWithoutACodeIsNoDay) {
   ClaimRecord claim;
-  claim.set(ClaimRecord::visitColumn(5), QStringLiteral("t"));
+  claim.set(claim::dayVisit[5], QStringLiteral("t"));
   EXPECT_EQ(tallyVisits(claim).suddenDays, 0);
   EXPECT_EQ(tallyVisits(claim).treatmentDays, 0);
 }

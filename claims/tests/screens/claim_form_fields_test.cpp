@@ -50,7 +50,7 @@ TEST_F(ClaimFormFields, AVisitIsCheckedByTheMonth) {
   for (const VisitCase& visit : visits) {
     m_form.reset();
     ClaimRecord claim = acupuncture();
-    claim.set(qs(u"申請年月"), qs(visit.month));
+    claim.setNamed(qs(u"申請年月"), qs(visit.month));
     openNew(claim);
     goTo(qs(u"Text6(1)"));
     type(qs(u"Text6(1)"), qs(visit.entry));
@@ -61,10 +61,10 @@ TEST_F(ClaimFormFields, AVisitIsCheckedByTheMonth) {
   }
 }
 
-TEST_F(ClaimFormFields, ALeading39IsToldForTheAgedOnly) {
+TEST_F(ClaimFormFields, ALeading39IsReportedForLateElderlyInsuranceOnly) {
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"保険の種類3"), qs(u"後期高齢"));
-  claim.set(qs(u"保険者番号"), qs(u"39123456"));
+  claim.setNamed(qs(u"保険の種類3"), qs(u"後期高齢"));
+  claim.setNamed(qs(u"保険者番号"), qs(u"39123456"));
   openNew(claim);
   m_form->insurerNumberLeft();
   EXPECT_EQ(told(), QStringList(qs(u"後期高齢の場合､保険者番号の頭にある39は削除してください")));
@@ -74,9 +74,9 @@ TEST_F(ClaimFormFields, ALeading39IsToldForTheAgedOnly) {
   EXPECT_TRUE(told().isEmpty());
 }
 
-TEST_F(ClaimFormFields, BothConsentReceiversClearedIsTold) {
+TEST_F(ClaimFormFields, BothConsentReceiversClearedIsReported) {
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"同意_施術者"), qs(u"-1"));
+  claim.setNamed(qs(u"同意_施術者"), qs(u"-1"));
   openNew(claim);
   toggle(qs(u"chkFields(20)"));
   EXPECT_EQ(told(), QStringList(qs(u"「同意を受けた者」のチェックが両方共外れています。")));
@@ -84,7 +84,7 @@ TEST_F(ClaimFormFields, BothConsentReceiversClearedIsTold) {
   EXPECT_TRUE(told().isEmpty());
 }
 
-TEST_F(ClaimFormFields, TickingTheReportTellsWhatBelongsToIt) {
+TEST_F(ClaimFormFields, TickingTheReportSaysWhatElseIsNeeded) {
   openNew(acupuncture());
   toggle(qs(u"Check11"));
   EXPECT_EQ(told(), QStringList(qs(
@@ -109,9 +109,9 @@ TEST_F(ClaimFormFields, ItemsOnlyOpensItsNoteUnlessSilenced) {
 
 TEST_F(ClaimFormFields, DatesTurnToTheOtherCalendarAndBack) {
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"被保険者の生年月日"), qs(u"昭和30年4月5日"));
-  claim.set(qs(u"療養を受ける者の生年月日"), qs(u"平成2年1月8日"));
-  claim.set(qs(u"実際の同意の年月日"), qs(u"読めない日付"));
+  claim.setNamed(qs(u"被保険者の生年月日"), qs(u"昭和30年4月5日"));
+  claim.setNamed(qs(u"療養を受ける者の生年月日"), qs(u"平成2年1月8日"));
+  claim.setNamed(qs(u"実際の同意の年月日"), qs(u"読めない日付"));
   openNew(claim);
   press(qs(u"Command4"));
   EXPECT_EQ(m_form->text(qs(u"txtFields(28)")), qs(u"1955/4/5"));
@@ -138,8 +138,8 @@ TEST_F(ClaimFormFields, TheRepresentativeIsBlankedOnYesOnly) {
 
 TEST_F(ClaimFormFields, BoxesFollowTheGridOfAMassageClaimOnly) {
   ClaimRecord claim = massage();
-  claim.set(qs(u"右上肢"), qs(u"-1"));
-  claim.set(qs(u"徒手左下肢"), qs(u"-1"));
+  claim.setNamed(qs(u"右上肢"), qs(u"-1"));
+  claim.setNamed(qs(u"徒手左下肢"), qs(u"-1"));
   openNew(claim);
   type(qs(u"Text5(9)"), qs(u"g2h1"));
   EXPECT_EQ(m_form->text(qs(u"Text31(1)")), qs(u"3"));
@@ -164,10 +164,10 @@ TEST_F(ClaimFormFields, DifferingNumbersOfAreasAreWarnedOfOnce) {
 
 TEST_F(ClaimFormFields, HelperWindowsPutTextsIntoColumns) {
   openNew(acupuncture());
-  m_state.display->put(qs(u"摘要4"), qs(u"例示 架空市"));
-  m_state.display->put(qs(u"c2"), qs(u"架空駅"));
+  m_state.display->put(claim::remark[4], qs(u"例示 架空市"));
+  m_state.display->put(claim::startPoint[2], qs(u"架空駅"));
   EXPECT_EQ(m_form->text(qs(u"txtFields(81)")), qs(u"例示 架空市"));
-  EXPECT_EQ(m_state.display->record().get(qs(u"c2")), qs(u"架空駅"));
+  EXPECT_EQ(m_state.display->record().named(qs(u"c2")), qs(u"架空駅"));
   EXPECT_FALSE(m_form->checkChanged());
 }
 

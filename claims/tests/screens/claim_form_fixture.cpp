@@ -85,17 +85,17 @@ ClaimRecord ClaimFormTest::acupuncture() {
                                                                  {u"治療内容1", u"a"},
                                                                  {u"治療内容8", u"a"},
                                                                  {u"治療内容15", u"e"}};
-  for (const auto& [column, value] : columns) claim.set(qs(column), qs(value));
+  for (const auto& [column, value] : columns) claim.setNamed(qs(column), qs(value));
   return claim;
 }
 
 ClaimRecord ClaimFormTest::massage() {
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"施術内容"), qs(u"あマ"));
-  claim.set(qs(u"一部負担金"), qs(u"1割"));
-  claim.set(qs(u"治療内容1"), qs(u"g2"));
-  claim.set(qs(u"治療内容8"), qs(u"g2"));
-  claim.clear(qs(u"治療内容15"));
+  claim.setNamed(qs(u"施術内容"), qs(u"あマ"));
+  claim.setNamed(qs(u"一部負担金"), qs(u"1割"));
+  claim.setNamed(qs(u"治療内容1"), qs(u"g2"));
+  claim.setNamed(qs(u"治療内容8"), qs(u"g2"));
+  claim.clear(claim::dayCode[15]);
   return claim;
 }
 
@@ -117,13 +117,13 @@ ClaimRecord ClaimFormTest::stored(qint64 id) {
   return claim ? claim.value() : ClaimRecord();
 }
 
-ClaimFormScreen& ClaimFormTest::open(qint64 id, const QString& opener) {
+ClaimFormScreen& ClaimFormTest::open(qint64 id, std::optional<screen::ScreenName> opener) {
   if (!m_form) {
     m_form = std::make_unique<ClaimFormScreen>(m_services, m_run, m_state);
     m_form->onLoad();
     m_navigator.screens.insert(qs(u"frmレセプトフォーム"), m_form.get());
   }
-  m_form->opened({{qs(u"ID"), id}, {qs(u"opener"), opener}});
+  m_form->opened(routes::ClaimForm{.id = id, .opener = opener});
   return *m_form;
 }
 

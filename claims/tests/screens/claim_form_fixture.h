@@ -12,6 +12,8 @@
 #include "claims/core/claim_file.h"
 #include "claims/core/claims_state.h"
 #include "claims/screens/claim_form_screen.h"
+#include "frame/core/routes.h"
+#include "frame/core/routes_unbuilt.h"
 #include "platform/screen/testing/print_text.h"
 #include "platform/store/database.h"
 #include "platform/voice/recording_channel.h"
@@ -33,6 +35,14 @@ class RecordingNavigator final : public screen::Navigator {
   bool isShown(const QString& name) const override { return open.contains(name); }
   void unload(const QString& name) override { unloads << name; }
   void quit() override {}
+
+  /// The route of the last show of this kind; fails the test where there was none.
+  template <screen::Route R>
+  R lastRoute() const {
+    const R* route = requests.isEmpty() ? nullptr : requests.last().as<R>();
+    EXPECT_NE(route, nullptr) << R::screen.text().toStdString();
+    return route ? *route : R{};
+  }
 
   QStringList shows, unloads;
   QList<screen::Request> requests;
@@ -71,7 +81,7 @@ class ClaimFormTest : public ::testing::Test {
 
   qint64 add(const ClaimRecord& claim);
   ClaimRecord stored(qint64 id);
-  ClaimFormScreen& open(qint64 id, const QString& opener = QString());
+  ClaimFormScreen& open(qint64 id, std::optional<screen::ScreenName> opener = {});
   ClaimFormScreen& openNew(const ClaimRecord& claim) { return open(add(claim)); }
 
   // What a user does.

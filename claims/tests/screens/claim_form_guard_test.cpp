@@ -36,7 +36,7 @@ TEST_F(ClaimFormGuard, AChangedDayCellStopsEveryCommandButStoreAndDelete) {
   }
 }
 
-TEST_F(ClaimFormGuard, HelperWindowsOpenBesideAnEditedGrid) {
+TEST_F(ClaimFormGuard, HelperWindowsOpenWhileTheGridIsEdited) {
   openNew(acupuncture());
   type(qs(u"Text5(3)"), qs(u"b"));
   press(qs(u"Command8"));
@@ -64,14 +64,14 @@ TEST_F(ClaimFormGuard, APrintSettingIsWrittenAtOnceAndStillStopsUntilStored) {
   const qint64 id = add(acupuncture());
   open(id);
   m_form->findChild<QAbstractButton*>(qs(u"Option9(1)"))->click();
-  EXPECT_EQ(stored(id).get(qs(u"c8")), qs(u"1"));
+  EXPECT_EQ(stored(id).named(qs(u"c8")), qs(u"1"));
   press(qs(u"Command5"));
   EXPECT_EQ(told(), QStringList(kCheckChanged));
   answer({true});
   press(qs(u"cmdUpdate"));
   told();
   EXPECT_FALSE(m_form->checkChanged());
-  EXPECT_EQ(stored(id).get(qs(u"c8")), qs(u"1"));
+  EXPECT_EQ(stored(id).named(qs(u"c8")), qs(u"1"));
 }
 
 TEST_F(ClaimFormGuard, TextFieldsSetNoMark) {
@@ -90,7 +90,7 @@ TEST_F(ClaimFormGuard, TextsAreLostWhenTheRecordIsLeftWithoutStore) {
   press(qs(u"Command17"));
   press(qs(u"Command16"));
   EXPECT_EQ(m_form->text(qs(u"txtFields(27)")), qs(u"見本 太郎"));
-  EXPECT_EQ(stored(first).get(qs(u"被保険者の氏名")), qs(u"見本 太郎"));
+  EXPECT_EQ(stored(first).named(qs(u"被保険者の氏名")), qs(u"見本 太郎"));
 }
 
 TEST_F(ClaimFormGuard, MovesBringBothHalvesToTheSameClaim) {
@@ -124,7 +124,7 @@ TEST_F(ClaimFormGuard, MovingOnFromTheLastClaimLeavesThePairAsItWas) {
 TEST_F(ClaimFormGuard, AMoveSaysWhoseClaimAndMonthItIs) {
   const qint64 first = add(acupuncture());
   ClaimRecord claim = massage();
-  claim.set(qs(u"氏名"), qs(u"例示 花子"));
+  claim.setNamed(qs(u"氏名"), qs(u"例示 花子"));
   add(claim);
   open(first);
   m_channel.clear();
@@ -132,7 +132,7 @@ TEST_F(ClaimFormGuard, AMoveSaysWhoseClaimAndMonthItIs) {
   EXPECT_EQ(m_channel.lastSaid(), qs(u"氏名:\u00fe例示 花子\u00fe※申請年月:\u00fe令和6年10月"));
 }
 
-TEST_F(ClaimFormGuard, AFormWithoutItsFilesTellsItAndCloses) {
+TEST_F(ClaimFormGuard, AFormWithoutItsFilesReportsItAndCloses) {
   QFile::remove(m_run.folders[frame::folder::kClaims2]);
   open(1);
   EXPECT_EQ(told().size(), 1);
@@ -203,7 +203,7 @@ TEST_F(ClaimFormGuard, ASecondCopyOfAWindowIsRefused) {
 
 TEST_F(ClaimFormGuard, TheCopyWindowStopsCloseButNotTheWalkToAnotherMonth) {
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"施術科目"), qs(u"鍼灸"));
+  claim.setNamed(qs(u"施術科目"), qs(u"鍼灸"));
   const qint64 first = add(claim);
   const qint64 second = add(claim);
   m_navigator.open = {qs(u"施術報告書コピー")};
@@ -231,13 +231,13 @@ TEST_F(ClaimFormGuard, AClaimThatWasNeverStoredCannotBeClosed) {
 
 TEST_F(ClaimFormGuard, AClaimWhoseDaysFitNoKindIsClosedOnceItIsStored) {
   ClaimRecord claim = acupuncture();
-  for (const int day : {1, 8, 15}) claim.set(ClaimRecord::codeColumn(day), qs(u"z"));
+  for (const int day : {1, 8, 15}) claim.set(claim::dayCode[day], qs(u"z"));
   const qint64 id = add(claim);
   open(id);
   answer({true});
   press(qs(u"cmdUpdate"));
   told();
-  EXPECT_EQ(stored(id).get(qs(u"施術科目")), qs(u""));
+  EXPECT_EQ(stored(id).named(qs(u"施術科目")), qs(u""));
   press(qs(u"cmdClose"));
   EXPECT_TRUE(told().isEmpty());
   EXPECT_EQ(m_navigator.unloads, QStringList(qs(u"frmレセプトフォーム")));
@@ -250,7 +250,7 @@ TEST_F(ClaimFormGuard, AClaimThatWasNeverStoredCanBeDeleted) {
   answer({true});
   press(qs(u"cmdDelete"));
   EXPECT_EQ(told(), QStringList(qs(u"　現在の表示の患者を削除しますか？")));
-  EXPECT_TRUE(stored(second).blank(qs(u"氏名")));
+  EXPECT_TRUE(stored(second).blank(claim::name));
   EXPECT_EQ(m_form->text(qs(u"Text9(0)")), QString::number(first));
   EXPECT_EQ(m_form->text(qs(u"Text9(1)")), QString::number(first));
 }
@@ -260,7 +260,7 @@ TEST_F(ClaimFormGuard, DeleteRefusedKeepsTheClaim) {
   open(id);
   answer({false});
   press(qs(u"cmdDelete"));
-  EXPECT_EQ(stored(id).get(qs(u"氏名")), qs(u"見本 太郎"));
+  EXPECT_EQ(stored(id).named(qs(u"氏名")), qs(u"見本 太郎"));
 }
 
 TEST_F(ClaimFormGuard, DeletingTheOnlyClaimClosesTheForm) {
@@ -281,8 +281,8 @@ TEST_F(ClaimFormGuard, TheWindowsOwnCloseBoxIsRefused) {
 
 TEST_F(ClaimFormGuard, CloseGivesTheFocusBackToTheOpener) {
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"施術科目"), qs(u"鍼灸"));
-  open(add(claim), qs(u"治療台帳3"));
+  claim.setNamed(qs(u"施術科目"), qs(u"鍼灸"));
+  open(add(claim), routes::VisitLedger::screen);
   m_navigator.screens.insert(qs(u"治療台帳3"), m_form.get());
   press(qs(u"cmdClose"));
   EXPECT_EQ(m_navigator.shows, QStringList(qs(u"治療台帳3")));

@@ -7,7 +7,7 @@ namespace {
 
 class ClaimFormListsTest : public RegisterTest {
  protected:
-  QString shown(const char16_t* column) const { return m_form->record().get(qs(column)); }
+  QString shown(const char16_t* column) const { return m_form->record().named(qs(column)); }
   /// The arrow key in a list of the form, as a user chooses.
   void arrow(int list, Qt::Key key = Qt::Key_Down) {
     QTest::keyClick(m_form->findChild<QComboBox*>(QStringLiteral("Combo1(%1)").arg(list)), key);
@@ -75,7 +75,7 @@ TEST_F(ClaimFormListsTest, ATypedNameThatTheRegisterLacksBringsNothing) {
 
 TEST_F(ClaimFormListsTest, EmptyRegistersSaySoAndBringNothing) {
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"同意医師住所"), qs(u"架空市9"));
+  claim.setNamed(qs(u"同意医師住所"), qs(u"架空市9"));
   openNew(claim);
   const std::pair<int, const char16_t*> sentences[] = {{24, u"同意医師のデータがありません"},
                                                        {25, u"同意医師のデータがありません"},
@@ -109,12 +109,12 @@ TEST_F(ClaimFormListsTest, ChoosingLeavesTheDirtyMarksAlone) {
 }
 
 TEST_F(ClaimFormListsTest, TheButtonsOpenTheRegistersWithTheirHints) {
-  const qint64 id = add(acupuncture());
-  open(id);
+  openNew(acupuncture());
   press(qs(u"Command12"));
+  EXPECT_TRUE(m_navigator.lastRoute<routes::DoctorRegister>().fromClaim);
   press(qs(u"Command14"));
+  EXPECT_TRUE(m_navigator.lastRoute<routes::InsurerRegister>().fromClaim);
   EXPECT_EQ(m_navigator.shows, QStringList({qs(u"登録2"), qs(u"登録3")}));
-  EXPECT_EQ(m_navigator.requests[0].value(qs(u"ID")).toLongLong(), id);
   EXPECT_EQ(m_form->findChild<QPushButton*>(qs(u"Command12"))->toolTip(),
             qs(u"同意医師の各項目に入力後押してください。"));
   EXPECT_EQ(m_form->findChild<QPushButton*>(qs(u"Command14"))->toolTip(),

@@ -2,6 +2,7 @@
 #include "claims/core/print_settings.h"
 #include "claims/screens/claim_form_rows.h"
 #include "claims/tests/screens/claim_form_fixture.h"
+#include "platform/screen/control_book.h"
 #include "platform/screen/testing/screen_probe.h"
 #include "platform/store/catalogue.h"
 
@@ -48,9 +49,10 @@ bool isUnshown(int half, const QString& column) {
 }
 
 TEST_F(ClaimFormPages, EveryColumnOfBothHalvesIsOnAControlOrHasItsReason) {
+  openNew(acupuncture());
   QHash<int, QSet<QString>> shown;
-  for (const BoundControl& bound : boundControls(claimFormDeclaration().rows))
-    shown[bound.half].insert(bound.column);
+  for (const int half : {1, 2})
+    for (const screen::Control* bound : m_form->controls().boundTo(half)) shown[half].insert(bound->column());
   for (const store::TableRow& table : store::catalogue()) {
     const int half = qs(table.file) == u"保険申請2000_1.mdb" && qs(table.table) == u"保険申請"   ? 1
                      : qs(table.file) == u"保険申請2000_2.mdb" && qs(table.table) == u"保険申請" ? 2
@@ -64,23 +66,149 @@ TEST_F(ClaimFormPages, EveryColumnOfBothHalvesIsOnAControlOrHasItsReason) {
   }
 }
 
-TEST_F(ClaimFormPages, EveryBoundColumnStandsInItsTableOnce) {
+TEST_F(ClaimFormPages, EveryBoundColumnIsInItsTableAndBoundOnce) {
   QHash<QString, QString> seen;
-  for (const BoundControl& bound : boundControls(claimFormDeclaration().rows)) {
-    const QString file = bound.half == 1 ? qs(u"保険申請2000_1.mdb") : qs(u"保険申請2000_2.mdb");
+  openNew(acupuncture());
+  for (const int half : {1, 2}) {
+    const QString file = half == 1 ? qs(u"保険申請2000_1.mdb") : qs(u"保険申請2000_2.mdb");
     const store::TableRow* table = store::tableOfFile(file);
     ASSERT_NE(table, nullptr);
-    EXPECT_NE(store::findColumn(*table, bound.column), nullptr)
-        << bound.control.toStdString() << " " << bound.column.toStdString();
-    const QString key = QString::number(bound.half) + bound.column;
-    EXPECT_FALSE(seen.contains(key)) << bound.column.toStdString();
-    seen.insert(key, bound.control);
+    for (const screen::Control* bound : m_form->controls().boundTo(half)) {
+      EXPECT_NE(store::findColumn(*table, bound->column()), nullptr)
+          << bound->name().toStdString() << " " << bound->column().toStdString();
+      const QString key = QString::number(half) + bound->column();
+      EXPECT_FALSE(seen.contains(key)) << bound->column().toStdString();
+      seen.insert(key, bound->name());
+    }
   }
 }
 
-TEST_F(ClaimFormPages, TheSevenPagesStandInTheirOrder) {
+/// Controls whose caption is not the name of their column.
+constexpr std::pair<const char16_t*, const char16_t*> kOtherNames[] = {
+    // Insurance card.
+    {u"世帯主でない本人", u"保険の種類2"},
+    {u"施術録の保険の種類", u"保険の種類3"},
+    {u"公費負担（乳・障・母）", u"公費負担"},
+    {u"三歳未満", u"就学前"},
+    {u"保険証記号１", u"保険証記号1"},
+    {u"保険証記号２", u"保険証記号2"},
+    {u"申請欄名称", u"c6"},
+    {u"公費の申請欄名称及び左欄外の名称", u"c18"},
+    {u"後期高齢の登録番号（鍼灸）", u"c14"},
+    {u"後期高齢の登録番号（あマ）", u"c15"},
+    {u"台帳の生年月日", u"生年月日"},
+    // Consent.
+    {u"神経痛", u"傷病名1"},
+    {u"リウマチ", u"傷病名2"},
+    {u"頸腕症候群", u"傷病名3"},
+    {u"五十肩", u"傷病名4"},
+    {u"腰痛症", u"傷病名5"},
+    {u"頸椎捻挫後遺症", u"傷病名6"},
+    {u"傷病名 その他", u"傷病名7"},
+    {u"傷病名 付記", u"傷病名8"},
+    {u"業務上外のもの その他の内容", u"d13"},
+    {u"入院期間（自）", u"入院期間1"},
+    {u"入院期間（至）", u"入院期間2"},
+    {u"実際にレセプトへ記入する同意の年月日", u"実際の同意の年月日"},
+    {u"同意の傷病名の追記", u"memodummy11"},
+    {u"要加療期間（自）", u"要加療期間1"},
+    {u"要加療期間（至）", u"要加療期間2"},
+    {u"同意を受けた者 施術者", u"同意_施術者"},
+    {u"同意を受けた者 患者", u"同意_患者"},
+    {u"マッサージ 躯幹", u"躯幹"},
+    {u"マッサージ 右上肢", u"右上肢"},
+    {u"マッサージ 左上肢", u"左上肢"},
+    {u"マッサージ 右下肢", u"右下肢"},
+    {u"マッサージ 左下肢", u"左下肢"},
+    {u"徒手矯正 右上肢", u"徒手右上肢"},
+    {u"徒手矯正 左上肢", u"徒手左上肢"},
+    {u"徒手矯正 右下肢", u"徒手右下肢"},
+    {u"徒手矯正 左下肢", u"徒手左下肢"},
+    {u"マッサージ 躯幹 施術回数", u"d3"},
+    {u"マッサージ 右上肢 施術回数", u"d4"},
+    {u"マッサージ 左上肢 施術回数", u"d5"},
+    {u"マッサージ 右下肢 施術回数", u"d6"},
+    {u"マッサージ 左下肢 施術回数", u"d7"},
+    {u"徒手矯正 右上肢 施術回数", u"d8"},
+    {u"徒手矯正 左上肢 施術回数", u"d9"},
+    {u"徒手矯正 右下肢 施術回数", u"d10"},
+    {u"徒手矯正 左下肢 施術回数", u"d11"},
+    // Treatment.
+    {u"※特別地域（加算）での施術", u"d2"},
+    {u"１．電気鍼", u"c21"},
+    {u"２．電気温灸器", u"c22"},
+    {u"３．電気光線器具", u"c23"},
+    {u"施術した場所", u"d12"},
+    {u"往療又は訪問の理由", u"d15"},
+    {u"往療又は訪問の理由 その他の内容", u"d14"},
+    {u"施術報告書交付", u"yn2"},
+    {u"施術報告書を２通交付した", u"yn3"},
+    {u"３通の施術報告書を交付した", u"yn4"},
+    {u"施術報告書交付年月日（必須）", u"txtdummy27"},
+    {u"前回の施術報告書交付年月", u"txtdummy28"},
+    {u"往療内訳の表示", u"yn1"},
+    {u"右欄外に印刷する", u"yn5"},
+    // Prints and print settings.
+    {u"往療起点の登録1", u"c1"},
+    {u"往療起点の登録2", u"c2"},
+    {u"往療起点の登録3", u"c3"},
+    {u"新摘要欄の内容", u"memodummy14"},
+    {u"施術期間（自）", u"txt dummy1"},
+    {u"施術期間（至）", u"txt dummy2"},
+    {u"左欄外保険者名の印字", u"txt dummy3"},
+    {u"公費負担番号の印字", u"txt dummy4"},
+    {u"男女の印字", u"txt dummy9"},
+    {u"委任欄（償還払い時）", u"txt dummy10"},
+    {u"申請欄（保険者の頭に○）", u"txt dummy11"},
+    {u"委任欄の被保険者の氏名の印字", u"txt dummy13"},
+    {u"続柄の印字", u"txtdummy26"},
+    {u"申請欄の氏名の印字", u"c8"},
+    {u"右上の給付割合の○", u"c9"},
+    {u"施術証明欄に代表者委任の印字", u"c10"},
+    {u"一部負担金を", u"c11"},
+    {u"施術証明欄・申請欄・委任欄の年月日", u"c13"},
+    {u"別添1（様式第6号）の印字", u"c16"},
+    {u"支払機関欄の口座", u"txt dummy5"},
+    {u"施術証明欄の住所・氏名", u"txt dummy6"},
+    {u"同意医師欄の印字", u"txt dummy7"},
+    {u"金額欄の印字", u"txt dummy8"},
+    {u"総括表の種別", u"c12"},
+    {u"受領委任", u"c24"},
+};
+
+/// The column that a caption means: the one of its name, of a day, of a reserve field, or of the table above.
+QString columnOfCaption(const QString& caption) {
+  if (caption.startsWith(u'※') && !caption.contains(u'（')) return columnOfCaption(caption.mid(1));
+  for (const auto& [name, column] : kOtherNames)
+    if (caption == qs(name)) return qs(column);
+  static const QRegularExpression cell(qs(u"^(\\d+)日 (.+)$"));
+  if (const auto day = cell.match(caption); day.hasMatch()) {
+    const QHash<QString, QString> stems = {{qs(u"治療内容"), qs(u"治療内容")},
+                                           {qs(u"往療人数"), qs(u"往療距離")},
+                                           {qs(u"往療起点"), qs(u"a")},
+                                           {qs(u"同一建物"), qs(u"b")}};
+    return stems.value(day.captured(2)) + day.captured(1);
+  }
+  if (caption.startsWith(u"予備 ")) return caption.mid(3);
+  return caption;
+}
+
+TEST_F(ClaimFormPages, EveryControlShowsTheColumnThatItsCaptionNames) {
+  openNew(acupuncture());
+  int bound = 0;
+  for (const int half : {1, 2})
+    for (const screen::Control* control : m_form->controls().boundTo(half)) {
+      QString caption = control->caption();
+      if (caption.endsWith(u':')) caption.chop(1);
+      EXPECT_EQ(control->column(), columnOfCaption(caption)) << control->name().toStdString();
+      ++bound;
+    }
+  EXPECT_GT(bound, 300);
+}
+
+TEST_F(ClaimFormPages, TheSevenPagesAreInTheirOrder) {
   QStringList pages;
-  for (const screen::Row& row : claimFormDeclaration().rows)
+  for (const screen::Row& row : kClaimFormScreen.rows)
     if (const auto* page = std::get_if<screen::Page>(&row)) pages << qs(page->caption.get());
   EXPECT_EQ(pages, QStringList({qs(u"保険証"), qs(u"同意書"), qs(u"治療"), qs(u"各種印刷"), qs(u"印刷設定"),
                                 qs(u"既往症"), qs(u"申請者の確認")}));
@@ -94,7 +222,7 @@ struct SettingGroup {
 
 TEST_F(ClaimFormPages, PrintSettingsAreThoseOfTheRules) {
   QHash<QString, const screen::Options*> groups;
-  for (const screen::Row& row : claimFormDeclaration().rows)
+  for (const screen::Row& row : kClaimFormScreen.rows)
     if (const auto* options = std::get_if<screen::Options>(&row))
       groups.insert(qs(options->bind.column()), options);
   const SettingGroup rows[] = {
@@ -178,7 +306,7 @@ TEST_F(ClaimFormPages, EachTickReachesPrintingUnderItsOwnName) {
 TEST_F(ClaimFormPages, EveryControlOfEitherKindIsNamedSpokenAndReached) {
   for (ClaimRecord claim : {acupuncture(), massage()}) {
     m_form.reset();
-    claim.set(qs(u"yn1"), qs(u"-1"));  // with the rows of the visit table
+    claim.setNamed(qs(u"yn1"), qs(u"-1"));  // with the rows of the visit table
     openNew(claim);
     screen::testing::ScreenProbe probe(*m_form, m_channel);
     probe.open();

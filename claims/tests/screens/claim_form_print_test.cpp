@@ -23,8 +23,8 @@ TEST_F(ClaimFormPrint, TheMonthAndTheKindChooseThePreview) {
     m_form.reset();
     m_navigator.shows.clear();
     ClaimRecord claim = row.massageClaim ? massage() : acupuncture();
-    claim.set(qs(u"申請年月"), qs(row.month));
-    claim.set(qs(u"初療年月日"), qs(u"平成30年1月5日"));
+    claim.setNamed(qs(u"申請年月"), qs(row.month));
+    claim.setNamed(qs(u"初療年月日"), qs(u"平成30年1月5日"));
     openNew(claim);
     press(qs(u"Command2"));
     EXPECT_EQ(told(), QStringList());
@@ -51,7 +51,7 @@ TEST_F(ClaimFormPrint, ThePrintButtonsOpenTheChosenScreen) {
 
 TEST_F(ClaimFormPrint, ThePrintOfANationalClaimTrimsItsTexts) {
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"傷病名8"), QString(11, QChar(u'病')));
+  claim.setNamed(qs(u"傷病名8"), QString(11, QChar(u'病')));
   openNew(claim);
   press(qs(u"Command5"));
   EXPECT_EQ(told().size(), 1);
@@ -65,7 +65,7 @@ TEST_F(ClaimFormPrint, TheChoiceSeesTheClaimAndTheTicks) {
   openNew(acupuncture());
   toggle(qs(u"Check7"));
   press(qs(u"Command5"));
-  EXPECT_EQ(m_printing.claim.get(qs(u"申請年月")), qs(u"令和6年10月"));
+  EXPECT_EQ(m_printing.claim.get(claim::month), qs(u"令和6年10月"));
   EXPECT_EQ(m_printing.ticks, FormTicks{.publicAid = true});
   EXPECT_EQ(m_navigator.shows, QStringList(qs(u"東京助成レセプト印刷2024")));
 }
@@ -90,7 +90,7 @@ TEST_F(ClaimFormPrint, HelpGoesByTheMonth) {
 
 TEST_F(ClaimFormPrint, ReportAndTableAreClosedBefore2018October) {
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"申請年月"), qs(u"平成30年9月"));
+  claim.setNamed(qs(u"申請年月"), qs(u"平成30年9月"));
   openNew(claim);
   for (const char16_t* command : {u"Command23", u"Command24"}) {
     press(qs(command));
@@ -138,7 +138,10 @@ TEST_F(ClaimFormPrint, ThePictureChartOffersToMakeAMissingPicture) {
   press(qs(u"Command7"));
   EXPECT_EQ(told(), QStringList(qs(u"　　　 　新規で作成しますか？")));
   EXPECT_EQ(m_navigator.shows, QStringList({qs(u"治療台帳4"), qs(u"GEDIT")}));
-  EXPECT_EQ(m_navigator.requests.value(0).value(qs(u"テキスト5")).toString(), qs(u"P0001"));
+  EXPECT_EQ(
+      std::get<routes::PatientRegister::BySerial>(m_navigator.requests[0].as<routes::PatientRegister>()->who)
+          .serial,
+      qs(u"P0001"));
 }
 
 TEST_F(ClaimFormPrint, CarryForwardMakesTheNextMonthsClaim) {
@@ -159,7 +162,7 @@ TEST_F(ClaimFormPrint, CarryForwardMakesTheNextMonthsClaim) {
   EXPECT_EQ(m_form->text(qs(u"TextClinic")), qs(u"施術所（見本治療院）"));
   EXPECT_NE(m_form->text(qs(u"Text9(0)")), QString::number(id));
   EXPECT_EQ(m_form->text(qs(u"Text9(0)")), m_form->text(qs(u"Text9(1)")));
-  EXPECT_EQ(stored(id).get(qs(u"申請年月")), qs(u"令和6年10月"));
+  EXPECT_EQ(stored(id).named(qs(u"申請年月")), qs(u"令和6年10月"));
 }
 
 TEST_F(ClaimFormPrint, CarryForwardIsAllowedOncePerOpening) {
@@ -177,7 +180,7 @@ TEST_F(ClaimFormPrint, CarryForwardIsAllowedOncePerOpening) {
 
 TEST_F(ClaimFormPrint, CarryForwardNeedsTheNumberOfTheRequest) {
   ClaimRecord claim = acupuncture();
-  claim.clear(qs(u"請求回数"));
+  claim.clear(claim::requestCount);
   openNew(claim);
   press(qs(u"Command1"));
   EXPECT_EQ(told(), QStringList(qs(u"申請回数が空欄です。記入してください。")));
@@ -195,11 +198,34 @@ TEST_F(ClaimFormPrint, CarryForwardRefusedAddsNothing) {
 TEST_F(ClaimFormPrint, TheDisplayServesThePrintingScreens) {
   openNew(acupuncture());
   type(qs(u"txtFields(27)"), qs(u"例示 花子"));
-  EXPECT_EQ(m_state.display->record().get(qs(u"被保険者の氏名")), qs(u"例示 花子"));
-  EXPECT_EQ(m_state.display->record().get(qs(u"治療内容15")), qs(u"e"));
+  EXPECT_EQ(m_state.display->record().named(qs(u"被保険者の氏名")), qs(u"例示 花子"));
+  EXPECT_EQ(m_state.display->record().named(qs(u"治療内容15")), qs(u"e"));
   EXPECT_NE(m_state.display->window(), 0u);
   m_form.reset();
   EXPECT_EQ(m_state.display, nullptr);
+}
+
+TEST_F(ClaimFormPrint, HelperScreensAreOpenedOnTheClaimOnDisplay) {
+  namespace unbuilt = routes::unbuilt;
+  add(acupuncture());
+  const qint64 id = add(acupuncture());
+  open(id);
+  const auto expectClaim = [&]<class R>(const char16_t* command, const R&) {
+    press(qs(command));
+    EXPECT_EQ(m_navigator.lastRoute<R>().claim, id) << qs(command).toStdString();
+  };
+  expectClaim(u"Command23", unbuilt::TreatmentReport());
+  expectClaim(u"Command24", unbuilt::VisitBreakdown());
+  expectClaim(u"Command21", unbuilt::ReasonSheetAcupuncture());
+  expectClaim(u"Command30", unbuilt::FrequentPlan());
+  expectClaim(u"Command34", unbuilt::NewRemarks());
+  expectClaim(u"Command22", unbuilt::ReceiptChoice());
+  expectClaim(u"Command33", unbuilt::MemoConversion());
+  expectClaim(u"Command8", unbuilt::VisitAddresses());
+  expectClaim(u"Command19", unbuilt::VisitDates());
+  expectClaim(u"Command25", unbuilt::StartPointAddresses());
+  expectClaim(u"Command26", unbuilt::StartPoints());
+  expectClaim(u"Command20", unbuilt::RouteHelp());
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ using ClaimFormShow = ClaimFormTest;
 
 TEST_F(ClaimFormShow, BothHalvesShowTheClaimOfTheId) {
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"c1"), qs(u"架空駅"));
+  claim.setNamed(qs(u"c1"), qs(u"架空駅"));
   add(acupuncture());
   const qint64 id = add(claim);
   open(id);
@@ -32,13 +32,13 @@ TEST_F(ClaimFormShow, AMissingSecondHalfIsMadeAtOpening) {
   }
   open(id);
   EXPECT_EQ(m_form->text(qs(u"Text9(1)")), QString::number(id));
-  EXPECT_EQ(stored(id).get(qs(u"memo dummy1")), qs(u" "));
-  EXPECT_EQ(stored(id).get(qs(u"txt dummy1")), QString::number(id));
+  EXPECT_EQ(stored(id).named(qs(u"memo dummy1")), qs(u" "));
+  EXPECT_EQ(stored(id).named(qs(u"txt dummy1")), QString::number(id));
 }
 
 TEST_F(ClaimFormShow, TheTicksComeFromTheJoinedText) {
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"負担割合"), qs(u"三歳未満,高齢8,"));
+  claim.setNamed(qs(u"負担割合"), qs(u"三歳未満,高齢8,"));
   openNew(claim);
   QStringList ticked;
   for (int i = 0; i < 6; ++i)
@@ -59,12 +59,12 @@ TEST_F(ClaimFormShow, ABlankAddresseeIsSetByTheKindOfInsurance) {
       {u"後期高齢", u"後期高齢者医療広域連合長"}};
   for (const auto& [kind, addressee] : rows) {
     ClaimRecord claim = acupuncture();
-    claim.set(qs(u"保険の種類"), qs(kind));
+    claim.setNamed(qs(u"保険の種類"), qs(kind));
     openNew(claim);
     EXPECT_EQ(m_form->text(qs(u"Combo1(6)")), qs(addressee)) << qs(kind).toStdString();
   }
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"c6"), qs(u"村長"));
+  claim.setNamed(qs(u"c6"), qs(u"村長"));
   openNew(claim);
   EXPECT_EQ(m_form->text(qs(u"Combo1(6)")), qs(u"村長"));
 }
@@ -99,7 +99,7 @@ TEST_F(ClaimFormShow, TheMonthDecidesTheSecondRowAndTheReportFields) {
                               {u"令和6年10月", u"往療人数", true, true}};
   for (const MonthCase& month : months) {
     ClaimRecord claim = acupuncture();
-    claim.set(qs(u"申請年月"), qs(month.month));
+    claim.setNamed(qs(u"申請年月"), qs(month.month));
     openNew(claim);
     const std::string name = qs(month.month).toStdString();
     EXPECT_EQ(m_form->caption(qs(u"Label9")), qs(month.row)) << name;
@@ -111,7 +111,7 @@ TEST_F(ClaimFormShow, TheMonthDecidesTheSecondRowAndTheReportFields) {
   }
 }
 
-TEST_F(ClaimFormShow, TheFreeVisitTickTellsTheRuleOfTheMonth) {
+TEST_F(ClaimFormShow, TheFreeVisitTickNamesTheRuleOfTheMonth) {
   openNew(acupuncture());
   EXPECT_EQ(m_form->caption(qs(u"Check8")),
             qs(u"訪問で同一患者の場合で、訪問料金を加算しない場合は、チェックを入れてください。"
@@ -181,7 +181,7 @@ TEST_F(ClaimFormShow, ThePracticesOwnFlagsGoBeforeTheDefaults) {
   openNew(claim);
   EXPECT_EQ(m_form->chosen(qs(u"FrameSet(9)")), qs(u"1"));   // 続柄を印刷しない
   EXPECT_EQ(m_form->chosen(qs(u"FrameSet(10)")), qs(u"0"));  // 申請欄の氏名を印刷する
-  claim.set(qs(u"txtdummy26"), qs(u"0"));                    // what the claim keeps rules
+  claim.setNamed(qs(u"txtdummy26"), qs(u"0"));               // what the claim keeps rules
   openNew(claim);
   EXPECT_EQ(m_form->chosen(qs(u"FrameSet(9)")), qs(u"0"));
 }
@@ -189,7 +189,7 @@ TEST_F(ClaimFormShow, ThePracticesOwnFlagsGoBeforeTheDefaults) {
 TEST_F(ClaimFormShow, TheInsuredsFlagLeavesARelativesRelationPrinted) {
   m_run.profile[frame::profile::kRelationPrinted] = qs(u"0");
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"被保険者との続柄"), qs(u"妻"));
+  claim.setNamed(qs(u"被保険者との続柄"), qs(u"妻"));
   openNew(claim);
   EXPECT_EQ(m_form->chosen(qs(u"FrameSet(9)")), qs(u"0"));  // 続柄を印刷する
 }

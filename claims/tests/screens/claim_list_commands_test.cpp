@@ -43,21 +43,21 @@ TEST_F(ClaimListCommands, OpensTheClaimOfTheRow) {
   m_list->source().moveTo(2);
   press(u"Command1");
   EXPECT_EQ(m_navigator.shows, QStringList({qs(u"frmレセプトフォーム"), qs(u"frmレセプトフォーム")}));
-  EXPECT_EQ(m_navigator.requests[0][qs(u"ID")].toLongLong(), 3);
-  EXPECT_EQ(m_navigator.requests[1][qs(u"ID")].toLongLong(), 1);
+  EXPECT_EQ(m_navigator.requests[0].as<routes::ClaimForm>()->id, 3);
+  EXPECT_EQ(m_navigator.requests[1].as<routes::ClaimForm>()->id, 1);
 }
 
 TEST_F(ClaimListCommands, OpensTheRowOfASortedAndOfANarrowedList) {
   addClaim({{u"申請年月", u"令和6年9月"}, {u"氏名", u"見本 太郎"}});
   addClaim({{u"申請年月", u"令和6年8月"}, {u"氏名", u"例示 花子"}});
   openList();
-  m_list->opened({{qs(u"sort"), qs(u"申請年月 ASC")}});
+  m_list->opened(routes::ClaimList{.criteria = {}, .order = qs(u"申請年月 ASC")});
   press(u"Command1");
   search(u"氏名", qs(u"太郎"));
   press(u"Command1");
   ASSERT_EQ(m_navigator.requests.size(), 2);
-  EXPECT_EQ(m_navigator.requests[0][qs(u"ID")].toLongLong(), 2) << "令和6年8月 stands first";
-  EXPECT_EQ(m_navigator.requests[1][qs(u"ID")].toLongLong(), 1);
+  EXPECT_EQ(m_navigator.requests[0].as<routes::ClaimForm>()->id, 2) << "令和6年8月 stands first";
+  EXPECT_EQ(m_navigator.requests[1].as<routes::ClaimForm>()->id, 1);
 }
 
 TEST_F(ClaimListCommands, EnterOnTheRowOpensItToo) {
@@ -69,7 +69,7 @@ TEST_F(ClaimListCommands, EnterOnTheRowOpensItToo) {
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   ASSERT_EQ(m_navigator.shows, QStringList(qs(u"frmレセプトフォーム")));
-  EXPECT_EQ(m_navigator.requests[0][qs(u"ID")].toLongLong(), 1);
+  EXPECT_EQ(m_navigator.requests[0].as<routes::ClaimForm>()->id, 1);
 }
 
 TEST_F(ClaimListCommands, AMissingSecondHalfIsMadeAtOpening) {
@@ -90,11 +90,11 @@ TEST_F(ClaimListCommands, AMissingSecondHalfIsMadeAtOpening) {
 
 TEST_F(ClaimListCommands, AnExistingSecondHalfIsLeftAlone) {
   ClaimRecord claim = acupuncture();
-  claim.set(qs(u"memo dummy1"), qs(u"頸腕の所見"));
+  claim.setNamed(qs(u"memo dummy1"), qs(u"頸腕の所見"));
   const qint64 id = add(claim);
   openList();
   press(u"Command1");
-  EXPECT_EQ(stored(id).get(qs(u"memo dummy1")), qs(u"頸腕の所見"));
+  EXPECT_EQ(stored(id).named(qs(u"memo dummy1")), qs(u"頸腕の所見"));
 }
 
 TEST_F(ClaimListCommands, DeleteTakesBothHalvesAfterYes) {

@@ -11,7 +11,7 @@ ClaimListScreen& ClaimListTest::openList(const screen::Request& request) {
 
 qint64 ClaimListTest::addClaim(const QList<std::pair<const char16_t*, const char16_t*>>& columns) {
   ClaimRecord claim;
-  for (const auto& [column, value] : columns) claim.set(qs(column), qs(value));
+  for (const auto& [column, value] : columns) claim.setNamed(qs(column), qs(value));
   return add(claim);
 }
 

@@ -5,13 +5,13 @@
 
 namespace claims {
 
-/// The claim list over fresh files. Claims are made in the files behind its back, as other screens do.
+/// The claim list over fresh files. Claims are made in the files without its knowledge, as other screens do.
 class ClaimListTest : public ClaimFormTest {
  protected:
   /// Opens the list as the main menu does.
-  ClaimListScreen& openList(const screen::Request& request = {
-                                {QStringLiteral("sort"), QStringLiteral("ID DESC")}});
-  /// A claim that bears the texts in the columns.
+  ClaimListScreen& openList(const screen::Request& request = routes::ClaimList{.criteria = {},
+                                                                               .order = qs(u"ID DESC")});
+  /// A claim with the texts in the columns.
   qint64 addClaim(const QList<std::pair<const char16_t*, const char16_t*>>& columns);
   qint64 addNamed(const char16_t* name) { return addClaim({{u"氏名", name}}); }
   /// The column of all rows of the list, top to bottom.

@@ -37,13 +37,13 @@ TEST_F(ClaimListGrowth, GrowsAtItsLoadWithoutAQuestion) {
   EXPECT_EQ(told(), QStringList());
   EXPECT_FALSE(needed(store::GrowthRun::Claim1));
   EXPECT_FALSE(needed(store::GrowthRun::Claim2));
-  EXPECT_EQ(stored(1).get(qs(u"c1")), qs(u"架空町"));
+  EXPECT_EQ(stored(1).named(qs(u"c1")), qs(u"架空町"));
   ClaimRecord changed;
-  changed.set(qs(u"d1"), qs(u"1"));
-  changed.set(qs(u"h1"), qs(u"2"));
+  changed.setNamed(qs(u"d1"), qs(u"1"));
+  changed.setNamed(qs(u"h1"), qs(u"2"));
   ASSERT_TRUE(file().store(1, stored(1), changed).ok());
-  EXPECT_EQ(stored(1).get(qs(u"d1")), qs(u"1"));
-  EXPECT_EQ(stored(1).get(qs(u"h1")), qs(u"2"));
+  EXPECT_EQ(stored(1).named(qs(u"d1")), qs(u"1"));
+  EXPECT_EQ(stored(1).named(qs(u"h1")), qs(u"2"));
 }
 
 TEST_F(ClaimListGrowth, AGrownFileIsLeftAlone) {
@@ -56,7 +56,7 @@ TEST_F(ClaimListGrowth, AGrownFileIsLeftAlone) {
   EXPECT_EQ(grown.readAll(), before);
 }
 
-TEST_F(ClaimListGrowth, ARefusalIsToldOnceAndTheListWorks) {
+TEST_F(ClaimListGrowth, ARefusalIsReportedOnceAndTheListWorks) {
   QFile::setPermissions(second(), QFile::ReadOwner);
   openList();
   EXPECT_EQ(told(), QStringList()) << "before the list has the keyboard nothing is told";
@@ -73,7 +73,7 @@ TEST_F(ClaimListGrowth, ARefusalIsToldOnceAndTheListWorks) {
   EXPECT_EQ(shown(), QStringList(qs(u"1")));
 }
 
-TEST_F(ClaimListGrowth, AFileHeldElsewhereIsToldAndGrowsAtTheNextLoad) {
+TEST_F(ClaimListGrowth, AFileLockedElsewhereIsReportedAndGrowsAtTheNextLoad) {
   const auto held = store::Database::open(second());
   ASSERT_TRUE(held.ok());
   sqlite3_busy_timeout((*held)->handle(), 10);

@@ -30,7 +30,7 @@ const QStringList kKeys = {qs(u"申請年月"),
                            qs(u"申請月"),
                            qs(u"要加療期間2")};
 
-TEST_F(ClaimListTest, TheNewestClaimStandsAtTheTop) {
+TEST_F(ClaimListTest, TheNewestClaimIsAtTheTop) {
   for (int i = 0; i < 3; ++i) add(acupuncture());
   openList();
   EXPECT_EQ(shown(), QStringList({qs(u"3"), qs(u"2"), qs(u"1")}));
@@ -52,7 +52,7 @@ TEST_P(ClaimListKeys, FindsThePartOfTheTextInIdOrder) {
   const QString key = kKeys[GetParam()];
   for (const char16_t* value : {u"甲見本乙", u"別", u"見本"}) {
     ClaimRecord claim;
-    claim.set(key, qs(value));
+    claim.setNamed(key, qs(value));
     add(claim);
   }
   openList();
@@ -83,7 +83,7 @@ TEST_F(ClaimListTest, ASearchSeesNoDifferenceOfWidthAndKana) {
   EXPECT_EQ(shown(), QStringList(qs(u"1")));
 }
 
-TEST_F(ClaimListTest, NoHitIsToldAndLeavesTheListAsItWas) {
+TEST_F(ClaimListTest, NoHitIsReportedAndTheListStays) {
   addNamed(u"見本 太郎");
   addNamed(u"例示 花子");
   openList();
@@ -99,7 +99,7 @@ TEST_F(ClaimListTest, NoHitIsToldAndLeavesTheListAsItWas) {
   EXPECT_EQ(shown(), QStringList(qs(u"2"))) << "the search that failed is forgotten";
 }
 
-TEST_F(ClaimListTest, AMissingFileIsToldByNameAndNotAsAnEmptyList) {
+TEST_F(ClaimListTest, AMissingFileIsReportedByNameNotAsAnEmptyList) {
   ASSERT_TRUE(QFile::remove(path(qs(u"保険申請2000_1.mdb"))));
   openList();
   activate();
@@ -159,12 +159,12 @@ TEST_F(ClaimListTest, SortsBothWaysWhatIsOnView) {
   addClaim({{u"氏名", u"あ"}, {u"申請月", u"1"}});
   addClaim({{u"氏名", u"う"}, {u"申請月", u"2"}});
   openList();
-  m_list->opened({{qs(u"sort"), qs(u"氏名 ASC")}});
+  m_list->opened(routes::ClaimList{.criteria = {}, .order = qs(u"氏名 ASC")});
   EXPECT_EQ(shown(u"氏名"), QStringList({qs(u"あ"), qs(u"い"), qs(u"う")}));
-  m_list->opened({{qs(u"sort"), qs(u"氏名 DESC")}});
+  m_list->opened(routes::ClaimList{.criteria = {}, .order = qs(u"氏名 DESC")});
   EXPECT_EQ(shown(u"氏名"), QStringList({qs(u"う"), qs(u"い"), qs(u"あ")}));
   search(u"申請月", qs(u"1"));
-  m_list->opened({{qs(u"sort"), qs(u"氏名 ASC")}});
+  m_list->opened(routes::ClaimList{.criteria = {}, .order = qs(u"氏名 ASC")});
   EXPECT_EQ(shown(u"氏名"), QStringList({qs(u"あ"), qs(u"い")}));
 }
 
@@ -172,13 +172,13 @@ TEST_F(ClaimListTest, ThePatientsScreenOpensItNarrowed) {
   addClaim({{u"番号1", u"20240401001"}});
   addClaim({{u"番号1", u"20240401002"}});
   addClaim({{u"番号1", u"20240401001"}});
-  openList({{qs(u"criteria"), qs(u"番号1 ='20240401001' ")}});
+  openList(routes::ClaimList{.criteria = qs(u"番号1 ='20240401001' "), .order = {}});
   EXPECT_EQ(shown(), QStringList({qs(u"3"), qs(u"1")})) << "newest first";
 }
 
 TEST_F(ClaimListTest, APatientWithoutClaimsGivesAnEmptyList) {
   addClaim({{u"番号1", u"20240401001"}});
-  openList({{qs(u"criteria"), qs(u"番号1 ='20240401009' ")}});
+  openList(routes::ClaimList{.criteria = qs(u"番号1 ='20240401009' "), .order = {}});
   EXPECT_EQ(shown(), QStringList());
   activate();
   EXPECT_EQ(told(), QStringList(qs(kNoRows)));
@@ -196,17 +196,17 @@ TEST_F(ClaimListTest, ANewRowComesInWithRefreshOnly) {
   EXPECT_EQ(shown(), QStringList({qs(u"2"), qs(u"1")}));
 }
 
-TEST_F(ClaimListTest, WhatTheFormStoredStandsInTheListAtOnce) {
+TEST_F(ClaimListTest, WhatTheFormStoredIsInTheListAtOnce) {
   const qint64 id = add(acupuncture());
   openList();
   ASSERT_EQ(shown(u"合計"), QStringList(QString()));
   ClaimRecord changed;
-  changed.set(qs(u"合計"), qs(u"4990"));
+  changed.setNamed(qs(u"合計"), qs(u"4990"));
   ASSERT_TRUE(file().store(id, stored(id), changed).ok());
   EXPECT_EQ(shown(u"合計"), QStringList(qs(u"4990")));
 }
 
-TEST_F(ClaimListTest, AnEmptyListTellsSoToEveryCommandOfRows) {
+TEST_F(ClaimListTest, AnEmptyListAnswersSoToEveryCommandOnRows) {
   openList();
   told();
   for (const char16_t* command : {u"Command7", u"Command3", u"Command1"}) {
@@ -218,7 +218,7 @@ TEST_F(ClaimListTest, AnEmptyListTellsSoToEveryCommandOfRows) {
   EXPECT_EQ(told(), QStringList(qs(u"削除するデータがありません。")));
 }
 
-TEST_F(ClaimListTest, AnEmptyListTellsSoOnceItHasTheKeyboard) {
+TEST_F(ClaimListTest, AnEmptyListSaysSoOnceItHasTheKeyboard) {
   openList();
   EXPECT_EQ(told(), QStringList());
   activate();
@@ -228,7 +228,7 @@ TEST_F(ClaimListTest, AnEmptyListTellsSoOnceItHasTheKeyboard) {
   EXPECT_EQ(told(), QStringList()) << "once for each opening";
 }
 
-TEST_F(ClaimListTest, AMissingSecondFileIsToldAtOpening) {
+TEST_F(ClaimListTest, AMissingSecondFileIsReportedAtOpening) {
   add(acupuncture());
   ASSERT_TRUE(QFile::remove(path(qs(u"保険申請2000_2.mdb"))));
   openList();
@@ -237,6 +237,26 @@ TEST_F(ClaimListTest, AMissingSecondFileIsToldAtOpening) {
   EXPECT_TRUE(texts[0].contains(qs(u"保険申請2000_2.mdb"))) << texts[0].toStdString();
   EXPECT_FALSE(QFile::exists(path(qs(u"保険申請2000_2.mdb")))) << "nothing is made in its place";
   EXPECT_EQ(shown(), QStringList(qs(u"1")));
+}
+
+/// Columns of the grid whose heading is not the name of their column.
+const QHash<QString, QString> kOtherHeadings = {{qs(u"一部負担金"), qs(u"一部負担金2")},
+                                                {qs(u"続柄"), qs(u"被保険者との続柄")}};
+
+TEST_F(ClaimListTest, EveryCellOfTheGridIsOfTheColumnThatItsHeadingNames) {
+  ClaimRecord claim;
+  for (const store::ColumnRow& column : claim::firstHalf.columns())
+    if (column.type == store::ColumnType::Text255)
+      claim.setNamed(qs(column.name), u'<' + qs(column.name) + u'>');
+  const qint64 id = add(claim);
+  const QAbstractItemModel* grid = openList().findChild<QTableView*>(qs(u"DBGrid1"))->model();
+  ASSERT_EQ(grid->columnCount(), 29);
+  for (int column = 0; column < grid->columnCount(); ++column) {
+    const QString heading = grid->headerData(column, Qt::Horizontal).toString();
+    const QString value =
+        heading == u"ID" ? QString::number(id) : u'<' + kOtherHeadings.value(heading, heading) + u'>';
+    EXPECT_EQ(grid->index(0, column).data().toString(), value) << heading.toStdString();
+  }
 }
 
 }  // namespace

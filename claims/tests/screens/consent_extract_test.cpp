@@ -84,7 +84,7 @@ TEST_F(ConsentExtract, AQuoteGivesTheEnginesText) {
   EXPECT_TRUE(stays());
 }
 
-TEST_F(ConsentExtract, AnEmptyListTellsSo) {
+TEST_F(ConsentExtract, AnEmptyListSaysSo) {
   for (int i = 0; i < 5; ++i) {
     answer({true});
     press(u"cmdDelete");

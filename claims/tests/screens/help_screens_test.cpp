@@ -16,7 +16,7 @@ QString helpText(screen::Services& services, frame::RunState& run, ClaimsState& 
   return help.text(qs(u"Text1"));
 }
 
-TEST_F(HelpScreens, EachTellsTheEntriesOfItsMonths) {
+TEST_F(HelpScreens, EachExplainsTheEntriesOfItsMonths) {
   QStringList oldest, middle, newest;
   const QString text1 = helpText<FillingHelpScreen>(m_services, m_run, m_state, oldest);
   const QString text2 = helpText<FillingHelp2018Screen>(m_services, m_run, m_state, middle);

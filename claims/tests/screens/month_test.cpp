@@ -5,6 +5,9 @@
 // 年月: which month is printed, and by which screen.
 
 namespace claims {
+
+namespace unbuilt = routes::unbuilt;
+
 namespace {
 
 class Month : public ClaimFormTest {
@@ -37,15 +40,17 @@ TEST_F(Month, IsReachableAndSaysWhatToWrite) {
 
 TEST_F(Month, EachButtonHandsTheMonthToItsScreen) {
   const std::pair<const char16_t*, const char16_t*> wanted[] = {
-      {u"年月印刷2024", u"5"}, {u"年月印刷2024", u"6"}, {u"年月印刷", u"7"}, {u"年月印刷", u"8"}};
+      {u"年月印刷2024", u"鍼灸"}, {u"年月印刷2024", u"あマ"}, {u"年月印刷", u"鍼灸"}, {u"年月印刷", u"あマ"}};
   for (int button = 0; button < 4; ++button) {
     print(button);
     EXPECT_EQ(m_navigator.shows.last(), qs(wanted[button].first));
-    const screen::Request& request = m_navigator.requests.last();
-    EXPECT_EQ(request[qs(u"申請年月")], qs(u"令和6年10月"));
-    EXPECT_EQ(request[qs(u"PrintKind")], qs(wanted[button].second));
-    EXPECT_EQ(request[qs(u"局所別計算用紙")], false);
-    EXPECT_EQ(request[qs(u"元号")], false);
+    const unbuilt::MonthRun run = button < 2
+                                      ? unbuilt::MonthRun(m_navigator.lastRoute<unbuilt::MonthPrint2024>())
+                                      : unbuilt::MonthRun(m_navigator.lastRoute<unbuilt::MonthPrint>());
+    EXPECT_EQ(run.month, qs(u"令和6年10月"));
+    EXPECT_EQ(run.kind, qs(wanted[button].second));
+    EXPECT_FALSE(run.byArea);
+    EXPECT_FALSE(run.withEra);
   }
   EXPECT_EQ(told(), QStringList());
 }
@@ -56,8 +61,9 @@ TEST_F(Month, TicksAndPaperAreHandedOn) {
   m_month->choose(qs(u"Frame1"), qs(u"局所別計算用紙"));
   print(1);
   EXPECT_EQ(m_navigator.shows, QStringList(qs(u"年月印刷2018")));
-  EXPECT_EQ(m_navigator.requests.last()[qs(u"局所別計算用紙")], true);
-  EXPECT_EQ(m_navigator.requests.last()[qs(u"元号")], true);
+  const auto run = m_navigator.lastRoute<unbuilt::MonthPrint2018>();
+  EXPECT_TRUE(run.byArea);
+  EXPECT_TRUE(run.withEra);
 }
 
 TEST_F(Month, TheAssociationHasItsOwnScreens) {
@@ -72,7 +78,7 @@ TEST_F(Month, TheAssociationHasItsOwnScreens) {
             QStringList({qs(u"年月印刷2024aimakai"), qs(u"年月印刷2018aimakai"), qs(u"年月印刷2018")}));
 }
 
-TEST_F(Month, AMonthThatNoClaimBearsIsToldAndStays) {
+TEST_F(Month, AMonthThatNoClaimHasIsReportedAndStays) {
   for (const char16_t* month : {u"", u"10月", u"令和6年9月", u"令和6年１０月", u"令和6年10月'"}) {
     print(0, month);
     EXPECT_EQ(told(), QStringList(qs(u"年月が正しくありません。"))) << qs(month).toStdString();
@@ -82,7 +88,7 @@ TEST_F(Month, AMonthThatNoClaimBearsIsToldAndStays) {
   EXPECT_TRUE(m_month->isVisible());
 }
 
-TEST_F(Month, AMissingFileIsToldByName) {
+TEST_F(Month, AMissingFileIsReportedByName) {
   ASSERT_TRUE(QFile::remove(path(qs(u"保険申請2000_1.mdb"))));
   print(0);
   const QStringList texts = told();

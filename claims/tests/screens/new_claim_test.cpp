@@ -8,16 +8,25 @@
 namespace claims {
 namespace {
 
-const screen::Request kPatient = {{qs(u"テキスト5"), qs(u"20240401001")},
-                                  {qs(u"カルテ番号"), qs(u"K001")},
-                                  {qs(u"氏名"), qs(u"見本 太郎")},
-                                  {qs(u"ふりがな"), qs(u"ﾐﾎﾝ ﾀﾛｳ")},
-                                  {qs(u"性別"), qs(u"男")},
-                                  {qs(u"生年月日"), qs(u"昭和28年3月5日")},
-                                  {qs(u"郵便番号"), qs(u"000-0001")},
-                                  {qs(u"住所1"), qs(u"架空県みほん市")},
-                                  {qs(u"住所2"), qs(u"見本町１")},
-                                  {qs(u"電話1"), qs(u"00-0000-0001")}};
+frame::Patient somePatient() {
+  frame::Patient patient;
+  patient.serial = qs(u"20240401001");
+  patient.chartNumber = qs(u"K001");
+  patient.name = qs(u"見本 太郎");
+  patient.kana = qs(u"ﾐﾎﾝ ﾀﾛｳ");
+  patient.sex = qs(u"男");
+  patient.birth = qs(u"昭和28年3月5日");
+  patient.zip = qs(u"000-0001");
+  patient.address = qs(u"架空県みほん市");
+  patient.address2 = qs(u"見本町１");
+  patient.telephone = qs(u"00-0000-0001");
+  return patient;
+}
+frame::Patient anotherPatient() {
+  frame::Patient patient;
+  patient.name = qs(u"例示 花子");
+  return patient;
+}
 const char16_t* kPersonColumns[] = {u"フリガナ", u"氏名", u"生年月日", u"性別",
                                     u"郵便番号", u"住所", u"電話番号"};
 const char16_t* kPersonValues[] = {u"ﾐﾎﾝ ﾀﾛｳ",     u"見本 太郎", u"昭和28年3月5日",
@@ -29,7 +38,7 @@ class NewClaimTest : public ClaimFormTest {
   void ask() {
     m_question = std::make_unique<NewClaimScreen>(m_services, m_state);
     m_question->onLoad();
-    m_question->opened(kPatient);
+    m_question->opened(routes::NewClaim{somePatient()});
     m_question->show();
   }
   ClaimChoiceScreen& choice() {
@@ -42,11 +51,11 @@ class NewClaimTest : public ClaimFormTest {
   }
   void expectPerson(const ClaimRecord& claim, const char16_t* person, bool filled) {
     for (size_t i = 0; i < std::size(kPersonColumns); ++i)
-      EXPECT_EQ(claim.get(qs(person) + qs(kPersonColumns[i])), filled ? qs(kPersonValues[i]) : QString())
+      EXPECT_EQ(claim.named(qs(person) + qs(kPersonColumns[i])), filled ? qs(kPersonValues[i]) : QString())
           << qs(person).toStdString() << qs(kPersonColumns[i]).toStdString();
   }
   qint64 newest() {
-    return m_navigator.requests.isEmpty() ? 0 : m_navigator.requests.last()[qs(u"ID")].toLongLong();
+    return m_navigator.requests.isEmpty() ? 0 : m_navigator.lastRoute<routes::ClaimForm>().id;
   }
   std::unique_ptr<NewClaimScreen> m_question;
   std::unique_ptr<ClaimChoiceScreen> m_choice;
@@ -59,14 +68,14 @@ TEST_F(NewClaimTest, TheQuestionLeadsToTheChoices) {
   m_question->trigger(qs(u"Command1"));
   EXPECT_EQ(m_navigator.shows, QStringList(qs(u"レセプト選択")));
   EXPECT_FALSE(m_question->isVisible());
-  EXPECT_EQ(m_state.newClaim.get(qs(u"氏名")), qs(u"見本 太郎"));
+  EXPECT_EQ(m_state.newClaim.name, qs(u"見本 太郎"));
 }
 
-TEST_F(NewClaimTest, ThePatientBeforeLeavesNothingBehind) {
+TEST_F(NewClaimTest, NothingOfThePreviousPatientRemains) {
   ask();
-  m_question->opened({{qs(u"氏名"), qs(u"例示 花子")}});
-  EXPECT_EQ(m_state.newClaim.get(qs(u"氏名")), qs(u"例示 花子"));
-  EXPECT_TRUE(m_state.newClaim.blank(qs(u"住所1")));
+  m_question->opened(routes::NewClaim{anotherPatient()});
+  EXPECT_EQ(m_state.newClaim.name, qs(u"例示 花子"));
+  EXPECT_TRUE(m_state.newClaim.address.isEmpty());
 }
 
 TEST_F(NewClaimTest, CancelMakesNothing) {
@@ -76,7 +85,7 @@ TEST_F(NewClaimTest, CancelMakesNothing) {
   choice().trigger(qs(u"Command2"));
   EXPECT_TRUE(m_navigator.shows.isEmpty());
   EXPECT_FALSE(m_choice->isVisible());
-  EXPECT_FALSE(file().read(1).value().has(qs(u"ID")));
+  EXPECT_FALSE(file().read(1).value().has(claim::id));
 }
 
 struct InsuranceCase {
@@ -119,12 +128,12 @@ TEST_P(NewClaimChoices, WriteTheirColumns) {
 
   const ClaimRecord claim = stored(newest());
   const bool family = holder == 1;
-  EXPECT_EQ(claim.get(qs(u"保険の種類")), qs(row.kind));
-  EXPECT_EQ(claim.get(qs(u"保険順位")), qs(row.order));
-  EXPECT_EQ(claim.get(qs(kSummaryCodeColumn)), qs(family ? row.ofFamily : row.ofInsured));
-  EXPECT_EQ(claim.get(qs(u"施術内容")), qs(kTreatments[treatment].second));
-  EXPECT_EQ(claim.get(qs(u"被保険者との続柄")), family ? QString() : qs(u"本人"));
-  EXPECT_EQ(claim.ticked(qs(u"保険の種類2")), holder == 2) << "世帯主でない本人";
+  EXPECT_EQ(claim.named(qs(u"保険の種類")), qs(row.kind));
+  EXPECT_EQ(claim.named(qs(u"保険順位")), qs(row.order));
+  EXPECT_EQ(claim.get(claim::summaryCode), qs(family ? row.ofFamily : row.ofInsured));
+  EXPECT_EQ(claim.named(qs(u"施術内容")), qs(kTreatments[treatment].second));
+  EXPECT_EQ(claim.named(qs(u"被保険者との続柄")), family ? QString() : qs(u"本人"));
+  EXPECT_EQ(claim.ticked(claim::notHead), holder == 2) << "世帯主でない本人";
   expectPerson(claim, u"被保険者の", !family);
   expectPerson(claim, u"療養を受ける者の", true);
   const std::pair<const char16_t*, const char16_t*> fixed[] = {
@@ -132,7 +141,7 @@ TEST_P(NewClaimChoices, WriteTheirColumns) {
       {u"生年月日", u"昭和28年3月5日"}, {u"業務上外のもの", u"その他"}, {u"第三者行為によるもの", u"いいえ"},
       {u"入院入院外の別", u"入院外"},   {u"申請年月", nullptr}};
   for (const auto& [column, value] : fixed)
-    EXPECT_EQ(claim.get(qs(column)), value ? qs(value) : QString()) << qs(column).toStdString();
+    EXPECT_EQ(claim.named(qs(column)), value ? qs(value) : QString()) << qs(column).toStdString();
 }
 INSTANTIATE_TEST_SUITE_P(All, NewClaimChoices,
                          testing::Combine(testing::Range(0, 7), testing::Range(0, 2), testing::Range(0, 3)));
@@ -146,8 +155,8 @@ TEST_F(NewClaimTest, ThePractitionersDataOfTheDayAreCopied) {
   m_choice->choose(qs(u"Frame3"), qs(u"本人"));
   m_choice->trigger(qs(u"Command1"));
   const ClaimRecord claim = stored(newest());
-  EXPECT_EQ(claim.get(qs(u"施術者氏名")), qs(u"見本 施術"));
-  EXPECT_EQ(claim.get(qs(u"施術所の名称")), qs(u"見本治療院"));
+  EXPECT_EQ(claim.named(qs(u"施術者氏名")), qs(u"見本 施術"));
+  EXPECT_EQ(claim.named(qs(u"施術所の名称")), qs(u"見本治療院"));
 }
 
 TEST_F(NewClaimTest, EveryGroupMustBeAnswered) {
@@ -166,7 +175,7 @@ TEST_F(NewClaimTest, EveryGroupMustBeAnswered) {
   }
 }
 
-TEST_F(NewClaimTest, AFileThatCannotBeWrittenIsTold) {
+TEST_F(NewClaimTest, AFileThatCannotBeWrittenIsReported) {
   choice();
   for (const auto& [group, value] :
        {std::pair{u"Frame1", u"国保"}, {u"Frame2", u"鍼灸"}, {u"Frame3", u"本人"}})

@@ -180,10 +180,10 @@ class Preview : public ::testing::TestWithParam<PreviewCase> {
   PreviewScreen& open(const PreviewCase& row) {
     m_run.programFolder = s_folder->path();
     m_run.folders[frame::folder::kFees] = s_folder->filePath(qs(u"料金設定2000.mdb"));
-    m_shown.claim.set(qs(u"申請年月"), qs(row.month));
-    m_shown.claim.set(qs(u"施術内容"), qs(row.kind));
-    m_shown.claim.set(qs(u"一部負担金"), qs(row.rate));
-    for (const auto& [column, entry] : row.days) m_shown.claim.set(qs(column), qs(entry));
+    m_shown.claim.set(claim::month, qs(row.month));
+    m_shown.claim.set(claim::treatmentKind, qs(row.kind));
+    m_shown.claim.set(claim::shareRate, qs(row.rate));
+    for (const auto& [column, entry] : row.days) m_shown.claim.setNamed(qs(column), qs(entry));
     m_state.display = &m_shown;
     m_messages.answerFromQueue();
     for (const screen::ScreenRow& declaration : previewScreens())
@@ -310,7 +310,7 @@ TEST_P(PreviewCommands, AnInventedSurchargeHasItsLine) {
   const InventedRevision revision;
   const QString last = QStringLiteral("Text1(%1)").arg(GetParam().lines.size());
   EXPECT_FALSE(m_screen->isControlShown(last));
-  m_shown.claim.set(qs(u"申請年月"), qs(u"令和13年6月"));
+  m_shown.claim.set(claim::month, qs(u"令和13年6月"));
   m_shown.claim.set(InventedRevision::kTick, qs(u"1"));
   PreviewScreen screen(previewScreens()[4], m_services, m_run, m_state, revision.table());
   screen.opened({});

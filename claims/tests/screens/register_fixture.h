@@ -1,7 +1,6 @@
 #pragma once
 
 #include "claims/core/register.h"
-#include "claims/screens/register_rows.h"
 #include "claims/screens/register_screen.h"
 #include "claims/tests/screens/claim_form_fixture.h"
 
@@ -12,14 +11,14 @@ class RegisterTest : public ClaimFormTest {
  protected:
   store::RecordSet rowsOf(const Register& list) const {
     auto database = store::Database::open(m_run.folders[size_t(list.folder)]);
-    return std::move(store::RecordSet::open(database.value(), qs(list.table)).value());
+    return std::move(store::RecordSet::open(database.value(), qs(list.table.name())).value());
   }
   /// Adds a row; values in the order of the register's fields.
   void add(const Register& list, const QStringList& values) {
     store::RecordSet rows = rowsOf(list);
     ASSERT_TRUE(rows.addNew());
     for (size_t i = 0; i < list.fields.size(); ++i)
-      ASSERT_TRUE(rows.setValue(qs(list.fields[i].column), values.value(qsizetype(i))));
+      ASSERT_TRUE(rows.setValue(list.fields[i].column, values.value(qsizetype(i))));
     ASSERT_TRUE(rows.update());
   }
   /// All rows as the file holds them.
@@ -28,7 +27,7 @@ class RegisterTest : public ClaimFormTest {
     QList<QStringList> all;
     for (int row = 0; row < rows.recordCount(); ++row) {
       QStringList values;
-      for (const RegisterField& field : list.fields) values << rows.valueAt(row, qs(field.column));
+      for (const RegisterField& field : list.fields) values << rows.valueAt(row, field.column);
       all << values;
     }
     return all;
@@ -38,8 +37,8 @@ class RegisterTest : public ClaimFormTest {
 
   RegisterScreen& openRegister(const Register& list, const screen::Request& request = {}) {
     const bool doctors = &list == &kDoctorRegister;
-    m_register = std::make_unique<RegisterScreen>(doctors ? kDoctorRegisterScreen : kInsurerRegisterScreen,
-                                                  list, m_services, m_run, m_state);
+    m_register = std::make_unique<RegisterScreen>(doctors ? kDoctorRegisterForm : kInsurerRegisterForm,
+                                                  m_services, m_run, m_state);
     m_register->onLoad();
     m_register->opened(request);
     return *m_register;

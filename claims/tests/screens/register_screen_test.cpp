@@ -26,7 +26,7 @@ TEST_F(RegisterScreenTest, EveryControlIsNamedSpokenAndReached) {
   }
 }
 
-TEST_F(RegisterScreenTest, EachWindowTellsHowARowIsEntered) {
+TEST_F(RegisterScreenTest, EachWindowSaysHowARowIsEntered) {
   const QString hint = qs(u"新規ボタンを押してから下記に正確に書き込んだ上、登録ボタンを押して下さい。");
   EXPECT_EQ(doctors().windowTitle(), qs(u"同意医師の登録"));
   EXPECT_TRUE(m_register->openingTexts().contains(hint));
@@ -84,7 +84,7 @@ TEST_F(RegisterScreenTest, ANewRowIsStored) {
   EXPECT_TRUE(told().isEmpty());
 }
 
-TEST_F(RegisterScreenTest, EachBlankFieldIsToldInTurnAndGetsTheFocus) {
+TEST_F(RegisterScreenTest, EachBlankFieldIsReportedInTurnAndGetsTheFocus) {
   struct Case {
     const Register& list;
     QStringList values;
@@ -153,7 +153,7 @@ TEST_F(RegisterScreenTest, WhatWasTypedIntoAnEmptyRegisterIsNotLost) {
   EXPECT_EQ(m_register->text(qs(u"txtFields(0)")), kDoctor[0]) << "新規 after the first field was typed";
 }
 
-TEST_F(RegisterScreenTest, ARowThatAnotherProgramDeletedIsToldAndTheTextStays) {
+TEST_F(RegisterScreenTest, ARowThatAnotherProgramDeletedIsReportedAndTheTextStays) {
   add(kInsurerRegister, kInsurer);
   insurers();
   const QStringList typed{qs(u"架空町"), qs(u"654321"), qs(u"架空町2")};
@@ -271,7 +271,7 @@ TEST_F(RegisterScreenTest, EachKeySearchesTheWholeRegister) {
   EXPECT_TRUE(m_channel.lastSaid().startsWith(qs(u"2件"))) << m_channel.lastSaid().toStdString();
 }
 
-TEST_F(RegisterScreenTest, NoHitIsToldAndTheListStays) {
+TEST_F(RegisterScreenTest, NoHitIsReportedAndTheListStays) {
   add(kInsurerRegister, kInsurer);
   insurers();
   searchFor(u"番号", u"9999");
@@ -287,7 +287,7 @@ TEST_F(RegisterScreenTest, NoHitIsToldAndTheListStays) {
 
 // ---- The claim ----
 
-TEST_F(RegisterScreenTest, TheRowIsPutOnTheClaimAndKeptByStoringThere) {
+TEST_F(RegisterScreenTest, TheRowIsPutOnTheClaimAndStoredThere) {
   add(kDoctorRegister, kDoctor);
   add(kInsurerRegister, kInsurer);
   const qint64 id = add(acupuncture());
@@ -303,17 +303,17 @@ TEST_F(RegisterScreenTest, TheRowIsPutOnTheClaimAndKeptByStoringThere) {
       {u"同意医師住所", kDoctor[3]}, {u"同意医師の電話番号", kDoctor[4]}, {u"保険者名称", kInsurer[0]},
       {u"保険者番号", kInsurer[1]},  {u"保険者住所", kInsurer[2]}};
   for (const auto& [column, value] : expected) {
-    EXPECT_EQ(shown.get(qs(column)), value) << qs(column).toStdString();
+    EXPECT_EQ(shown.named(qs(column)), value) << qs(column).toStdString();
   }
   EXPECT_FALSE(m_form->checkChanged());
   EXPECT_FALSE(m_form->treatmentChanged());
-  EXPECT_TRUE(stored(id).blank(qs(u"同意医師氏名"))) << "not stored by itself";
+  EXPECT_TRUE(stored(id).blank(claim::doctorName)) << "not stored by itself";
   answer({true});
   press(qs(u"cmdUpdate"));
-  for (const auto& [column, value] : expected) EXPECT_EQ(stored(id).get(qs(column)), value);
+  for (const auto& [column, value] : expected) EXPECT_EQ(stored(id).named(qs(column)), value);
 }
 
-TEST_F(RegisterScreenTest, WithoutAClaimOrARowTheCopyIsToldAndChangesNothing) {
+TEST_F(RegisterScreenTest, WithoutAClaimOrARowTheCopyIsRefused) {
   insurers();
   push(u"Command2");
   EXPECT_EQ(told(), QStringList(qs(u"代入するデータがありません。")));
@@ -328,15 +328,15 @@ TEST_F(RegisterScreenTest, OpenedFromTheClaimANewDoctorIsReadyToBeStored) {
   add(kDoctorRegister, kNamesake);
   ClaimRecord claim = acupuncture();
   for (size_t i = 0; i < kDoctorRegister.fields.size(); ++i)
-    claim.set(qs(kDoctorRegister.fields[i].claimColumn), kDoctor[qsizetype(i)]);
+    claim.set(kDoctorRegister.fields[i].claimColumn, kDoctor[qsizetype(i)]);
   open(add(claim));
-  doctors({{qs(u"ID"), 1}});
+  doctors(routes::DoctorRegister{.fromClaim = true});
   EXPECT_EQ(fields(), kDoctor);
   EXPECT_EQ(stored(kDoctorRegister).size(), 1) << "登録 alone stores";
   push(u"cmdUpdate");
   EXPECT_EQ(stored(kDoctorRegister), QList<QStringList>({kNamesake, kDoctor}));
   searchFor(u"病院名", u"例示");
-  m_register->opened({{qs(u"ID"), 1}});
+  m_register->opened(routes::DoctorRegister{.fromClaim = true});
   EXPECT_FALSE(m_register->source().rows().adding()) << "the register holds it by now";
   EXPECT_EQ(fields(), kDoctor);
 }
@@ -345,7 +345,7 @@ TEST_F(RegisterScreenTest, WhatTheClaimLeavesBlankMakesNoNewRow) {
   add(kInsurerRegister, {qs(u"例示市"), qs(u"2"), qs(u"例示")});
   add(kInsurerRegister, kInsurer);
   open(add(acupuncture()));  // 架空市, 123456, no address
-  insurers({{qs(u"ID"), 1}});
+  insurers(routes::InsurerRegister{.fromClaim = true});
   EXPECT_FALSE(m_register->source().rows().adding());
   EXPECT_EQ(fields(), kInsurer);
 }
@@ -353,7 +353,7 @@ TEST_F(RegisterScreenTest, WhatTheClaimLeavesBlankMakesNoNewRow) {
 TEST_F(RegisterScreenTest, OpenedFromAClaimWithoutADoctorItJustOpens) {
   add(kDoctorRegister, kNamesake);
   open(add(acupuncture()));
-  doctors({{qs(u"ID"), 1}});
+  doctors(routes::DoctorRegister{.fromClaim = true});
   EXPECT_FALSE(m_register->source().rows().adding());
   EXPECT_EQ(fields(), kNamesake);
   m_navigator.open.insert(qs(u"frmレセプトフォーム"));
@@ -362,7 +362,7 @@ TEST_F(RegisterScreenTest, OpenedFromAClaimWithoutADoctorItJustOpens) {
   EXPECT_EQ(m_navigator.unloads, QStringList(qs(u"登録2")));
 }
 
-TEST_F(RegisterScreenTest, AMissingFileIsToldByNameAndNothingBreaks) {
+TEST_F(RegisterScreenTest, AMissingFileIsReportedByNameAndNothingBreaks) {
   QFile::remove(m_run.folders[frame::folder::kDoctors]);
   doctors();
   const QStringList texts = told();

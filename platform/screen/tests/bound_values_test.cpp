@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/screen/control_book.h"
 #include "platform/screen/shown_record.h"
 #include "platform/store/tables/patients.h"
 #include "sample_screen.h"
@@ -14,12 +15,37 @@ using Values = QHash<QString, store::Value>;
 class BoundValues : public ::testing::Test {
  protected:
   void SetUp() override {
-    ASSERT_TRUE(screen.source().open(desk.patientsFile({"見本一", "見本二"})));
+    ASSERT_TRUE(screen.source().open(harness.patientsFile({"見本一", "見本二"})));
     screen.log.clear();
   }
-  Desk desk;
-  SampleScreen screen{desk.services};
+  Harness harness;
+  SampleScreen screen{harness.services};
 };
+
+TEST_F(BoundValues, AClearedFieldIsBlankNotNull) {
+  showValues(screen, {{"氏名", "見本一"}, {"区分", "一"}}, {1});
+  screen.setText("txtFields(4)", QString());
+  screen.setText("Combo2", QString());
+  const Values values = changedValues(screen, {1});
+  ASSERT_EQ(values.size(), 2);
+  for (const store::Value& value : values) {
+    EXPECT_TRUE(value.isEmpty());
+    EXPECT_FALSE(value.isNull());
+  }
+}
+
+TEST_F(BoundValues, AGroupWithoutAChoiceChangesNothing) {
+  showValues(screen, {{"性別", "2"}}, {1});
+  screen.choose("Frame1", QString());
+  EXPECT_EQ(changedValues(screen, {1}), Values());
+}
+
+TEST_F(BoundValues, TheControlOfAColumnIsFoundAmongTheSources) {
+  ASSERT_NE(controlOf(screen, "氏名", {1}), nullptr);
+  EXPECT_EQ(controlOf(screen, "氏名", {1})->name(), "txtFields(4)");
+  EXPECT_EQ(controlOf(screen, "氏名", {2}), nullptr);
+  EXPECT_EQ(controlOf(screen, "無い", {1}), nullptr);
+}
 
 TEST_F(BoundValues, OnlyWhatWasChangedIsGivenAsItIsStored) {
   EXPECT_EQ(changedValues(screen, {1}), Values());

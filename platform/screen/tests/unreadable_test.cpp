@@ -31,7 +31,7 @@ class UnreadableRows : public ::testing::Test {
     ASSERT_TRUE(store::addRows(path, kTable, rows));
   }
   void open() {
-    ASSERT_TRUE(screen.source().open(path, kTable));
+    ASSERT_TRUE(screen.source().open(path));
     probe.open();
     screen.focusOn("DBGrid1");
     harness.messages.forget();
@@ -114,7 +114,7 @@ TEST_F(UnreadableRows, ALockedListSaysSoInItsCellsAndFillsAfterTheNextMove) {
 
 TEST_F(UnreadableRows, AFirstRowThatCannotBeReadIsReportedAtTheOpening) {
   DamagedPage page(path, names[0]);
-  ASSERT_TRUE(screen.source().open(path, kTable)) << "the others can be read";
+  ASSERT_TRUE(screen.source().open(path)) << "the others can be read";
   expectFault(damaged);
   EXPECT_EQ(screen.text(kName), "");
   EXPECT_FALSE(screen.source().ensureRead());

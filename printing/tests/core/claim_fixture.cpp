@@ -8,7 +8,7 @@ Filled& Filled::record(std::initializer_list<std::pair<int, int>> fields) {
   for (int i = 0; i <= (acupuncture ? 48 : 60); ++i) numbers << QStringLiteral("0");
   numbers[0] = acupuncture ? QStringLiteral("鍼データ集結ver9.0") : QStringLiteral("あマデータ集結ver9.0");
   for (const auto& [field, value] : fields) numbers[field] = QString::number(value);
-  source.claim.set(acupuncture ? QStringLiteral("h1") : QStringLiteral("m1"), numbers.join(u','));
+  source.claim.setNamed(acupuncture ? QStringLiteral("h1") : QStringLiteral("m1"), numbers.join(u','));
   return *this;
 }
 

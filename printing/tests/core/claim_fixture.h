@@ -18,7 +18,7 @@ class Filled {
 
   Filled& set(Columns columns) {
     for (const auto& [column, text] : columns)
-      source.claim.set(QString::fromUtf16(column), QString::fromUtf16(text));
+      source.claim.setNamed(QString::fromUtf16(column), QString::fromUtf16(text));
     return *this;
   }
   /// The amount record with these fields; all others are 0.

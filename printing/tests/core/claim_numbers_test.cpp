@@ -141,7 +141,7 @@ TEST(AmountBoxes, EachFieldGoesToItsBox) {
   Filled hari;
   QStringList record{QStringLiteral("鍼データ集結ver9.0")};
   for (int field = 1; field <= 48; ++field) record << QString::number(1000 + field);
-  hari.source.claim.set(QStringLiteral("h1"), record.join(u','));
+  hari.source.claim.set(claim::hariRecord, record.join(u','));
   QStringList expected;
   for (int field = 1; field <= 48; ++field) {
     if (field == 43 || field == 44) continue;  // unit fee and count of the report are not printed
@@ -156,7 +156,7 @@ TEST(AmountBoxes, MassageFieldsAreNotCrossed) {
   Filled massage(PrintKind::Massage);
   QStringList record{QStringLiteral("あマデータ集結ver9.0")};
   for (int field = 1; field <= 60; ++field) record << QString::number(1000 + field);
-  massage.source.claim.set(QStringLiteral("m1"), record.join(u','));
+  massage.source.claim.set(claim::massageRecord, record.join(u','));
   QStringList expected;
   for (int field = 1; field <= 60; ++field)
     if (field != 55 && field != 56)

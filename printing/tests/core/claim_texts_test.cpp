@@ -67,7 +67,7 @@ TEST(Sizes, LengthPicksTheItemAtEachBound) {
   for (const SizeRow& row : rows) {
     Filled filled(row.kind);
     const QString text(row.length, u'漢');
-    filled.source.claim.set(QString::fromUtf16(row.column), text);
+    filled.source.claim.setNamed(QString::fromUtf16(row.column), text);
     EXPECT_EQ(filled[row.item], text) << row.item << ' ' << row.length;
     // One size only: the variants of a place never print over each other.
     const QString family = QString::fromUtf8(row.item).section(u'_', 0, 0);
@@ -82,7 +82,7 @@ TEST(Sizes, CauseDetailAndReasonDetail) {
   Filled filled;
   filled.set({{u"業務上外のもの", u"その他"}, {u"d15", u"その他"}});
   const auto with = [&](const char16_t* column, int length, const char* item) {
-    filled.source.claim.set(QString::fromUtf16(column), QString(length, u'字'));
+    filled.source.claim.setNamed(QString::fromUtf16(column), QString(length, u'字'));
     return filled[item] == QString(length, u'字');
   };
   EXPECT_TRUE(with(u"d13", 10, "dai3_ta"));
@@ -211,7 +211,7 @@ TEST(DayGrid, EndsWithTheMonth) {
     Filled filled;
     filled.set({{u"申請年月", row.month}});
     for (int day = 1; day <= 31; ++day)
-      filled.source.claim.set(QStringLiteral("治療内容%1").arg(day), QStringLiteral("a"));
+      filled.source.claim.setNamed(QStringLiteral("治療内容%1").arg(day), QStringLiteral("a"));
     EXPECT_EQ(filled["Name16"], QString::number(row.last));
     EXPECT_EQ(filled.engine.marked(QStringLiteral("day31")), row.last == 31);
   }

@@ -51,7 +51,7 @@ class ChoiceOfClaim : public ::testing::Test {
   }
   QString screenOf(const char* month, const claims::FormTicks& ticks = {}) {
     claims::ClaimRecord claim;
-    claim.set(QStringLiteral("申請年月"), QString::fromUtf8(month));
+    claim.set(claim::month, QString::fromUtf8(month));
     return PrintButtons(run, engine).screenOf(claim, ticks);
   }
   text::FixedClock clock{QDate(2024, 11, 5)};

@@ -20,7 +20,7 @@ class ClaimOnTable final : public claims::ClaimOnDisplay {
   quintptr window() const override { return 42; }
 
   void set(const char16_t* column, const char16_t* text) {
-    claim.set(QString::fromUtf16(column), QString::fromUtf16(text));
+    claim.setNamed(QString::fromUtf16(column), QString::fromUtf16(text));
   }
   claims::ClaimRecord claim;
   claims::FormTicks ticks;

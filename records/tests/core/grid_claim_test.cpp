@@ -55,7 +55,7 @@ TEST_F(GridClaimTest, WritesTypedColumnsOfBothHalves) {
   EXPECT_EQ(claim.id(), id);
   const auto change = typed({{u"治療内容1"_s, u"a"_s}, {u"yn2"_s, u"-1"_s}});
   EXPECT_EQ(claim.with(change).code(1), u"a"_s);
-  EXPECT_EQ(claim.with(change).get(u"番号1"_s), u"P1"_s);
+  EXPECT_EQ(claim.with(change).get(claim::patientSerial), u"P1"_s);
   ASSERT_TRUE(claim.write(change));
   EXPECT_EQ(file().read(id)->code(1), u"a"_s);
   EXPECT_TRUE(file().read(id)->ticked(u"yn2"_s));

@@ -167,8 +167,8 @@ TEST_F(LedgerTables, TheDayGridShowsTheColumnsOfTheClaim) {
       valuesNamedAfter(fields + Pairs{{{}, u"請求区分"_s}, {{}, u"txtdummy27"_s}, {{}, u"txtdummy28"_s}}),
       {{u"番号1"_s, u"P1"_s}, {u"申請年月"_s, u"令和6年10月"_s}}};
   for (int day = 1; day <= 31; ++day) {
-    claim.set(claims::ClaimRecord::codeColumn(day), u"c%1"_s.arg(day));
-    claim.set(claims::ClaimRecord::visitColumn(day), u"v%1"_s.arg(day));
+    claim.set(claim::dayCode[day], u"c%1"_s.arg(day));
+    claim.set(claim::dayVisit[day], u"v%1"_s.arg(day));
   }
   ASSERT_TRUE(claims::ClaimFile::open(run.folders)->add(claim));
   addOn(u"令和6年6月1日"_s, u"2024/6/1"_s);

@@ -87,9 +87,8 @@ qint64 VisitLedgerFixture::addClaim(const char16_t* month, const char16_t* kind,
       {u"保険者名称", u"架空市"}, {u"被保険者との続柄", u"本人"}, {u"初療年月日", u"令和6年9月2日"},
       {u"一部負担金", u"3割"}};
   for (const auto& [column, value] : columns)
-    claim.set(QString::fromUtf16(column), QString::fromUtf16(value));
-  for (const auto& [day, code] : codes)
-    claim.set(claims::ClaimRecord::codeColumn(day), QString::fromUtf16(code));
+    claim.setNamed(QString::fromUtf16(column), QString::fromUtf16(value));
+  for (const auto& [day, code] : codes) claim.set(claim::dayCode[day], QString::fromUtf16(code));
   auto file = claims::ClaimFile::open(run.folders);
   EXPECT_TRUE(file);
   const auto id = file->add(claim);

@@ -122,8 +122,8 @@ TEST_F(VisitLedgerGrid, SecondHalfIsTheOneOfTheClaim) {
   const qint64 id = addClaim(u"令和6年6月", u"鍼灸");
   auto file = claims::ClaimFile::open(run.folders);
   claims::ClaimRecord changed;
-  changed.set(u"d2"_s, u"1"_s);
-  changed.set(u"yn3"_s, u"-1"_s);
+  changed.set(claim::specialArea, u"1"_s);
+  changed.set(claim::reportTwice, u"-1"_s);
   ASSERT_TRUE(file->store(id, claim(id), changed));
   openGrid(u"令和6年6月"_s);
   EXPECT_EQ(ledger().source(2).rows().value(u"ID"_s), QString::number(id));
@@ -242,10 +242,10 @@ TEST_F(VisitLedgerGrid, StoresBothHalvesAndInvitesToStoreOnTheForm) {
   const claims::ClaimRecord stored = claim(id);
   EXPECT_EQ(stored.code(1), u"g2"_s);
   EXPECT_EQ(stored.visit(1), u"v1"_s);
-  EXPECT_EQ(stored.get(u"初療年月日"_s), u"令和6年10月1日"_s);
-  EXPECT_EQ(stored.get(u"d2"_s), u"1"_s);
-  EXPECT_TRUE(stored.ticked(u"yn2"_s));
-  EXPECT_EQ(stored.get(u"保険者名称"_s), u"架空市"_s) << "nothing else is touched";
+  EXPECT_EQ(stored.get(claim::firstTreatment), u"令和6年10月1日"_s);
+  EXPECT_EQ(stored.get(claim::specialArea), u"1"_s);
+  EXPECT_TRUE(stored.ticked(claim::report));
+  EXPECT_EQ(stored.get(claim::insurerName), u"架空市"_s) << "nothing else is touched";
   ASSERT_FALSE(m_requests.isEmpty());
   const auto* route = m_requests.first().as<routes::ClaimForm>();
   ASSERT_NE(route, nullptr);
@@ -286,8 +286,8 @@ TEST_F(VisitLedgerGrid, AMissingSecondHalfIsMade) {
   ledger().setChecked(u"yn4"_s, true);
   answer({true});
   press(u"Command11");
-  EXPECT_EQ(claim(id).get(u"txt dummy1"_s), QString::number(id));
-  EXPECT_TRUE(claim(id).ticked(u"yn4"_s));
+  EXPECT_EQ(claim(id).get(claim::periodFrom), QString::number(id));
+  EXPECT_TRUE(claim(id).ticked(claim::reportThrice));
 }
 
 TEST_F(VisitLedgerGrid, AClaimThatChangedMeanwhileIsRefusedOnceAndTheCellsStay) {
@@ -296,7 +296,7 @@ TEST_F(VisitLedgerGrid, AClaimThatChangedMeanwhileIsRefusedOnceAndTheCellsStay) 
   type(u"Text5(4)", u"g1"_s);
   auto file = claims::ClaimFile::open(run.folders);
   claims::ClaimRecord other;
-  other.set(u"治療内容9"_s, u"g2"_s);
+  other.set(claim::dayCode[9], u"g2"_s);
   ASSERT_TRUE(file->store(id, claim(id), other));
   press(u"Command11");
   ASSERT_EQ(messages.texts().size(), 1);
@@ -320,7 +320,7 @@ TEST_F(VisitLedgerGrid, TypedDaysAreStoredWhenTheGridIsLeft) {
   tickGrid();
   EXPECT_FALSE(isGridShown());
   EXPECT_EQ(claim(id).code(1), u"g1"_s);
-  EXPECT_TRUE(claim(id).ticked(u"yn2"_s));
+  EXPECT_TRUE(claim(id).ticked(claim::report));
   tickGrid();
   type(u"Text5(1)", u"g1"_s);
   press(u"cmdClose");
@@ -346,8 +346,8 @@ TEST_F(VisitLedgerGrid, TheClaimIsReadAgainAfterTheFormStoredIt) {
   openGrid(u"令和6年10月"_s);
   auto file = claims::ClaimFile::open(run.folders);
   claims::ClaimRecord other;
-  other.set(u"施術科目"_s, u"マ術"_s);
-  other.set(u"治療内容2"_s, u"g2"_s);
+  other.set(claim::subject, u"マ術"_s);
+  other.set(claim::dayCode[2], u"g2"_s);
   ASSERT_TRUE(file->store(id, claim(id), other));
   navigator.show(kForm);
   screen::testing::ScreenProbe(*navigator.loaded(kForm), channel).open();
