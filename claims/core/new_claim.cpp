@@ -77,8 +77,8 @@ ClaimRecord newClaim(const frame::Patient& patient, const NewClaimChoice& choice
   claim.set(claim::summaryCode, summaryCode(choice.insurance, claim.get(claim::relation)));
   for (const frame::ProfileField& field : frame::profileFields())
     if (field.claimColumn) claim.set(*field.claimColumn, profile[field.slot]);
-  claim.set(claim::registrationHari, profile[frame::profile::kElderlyHari]);
-  claim.set(claim::registrationMassage, profile[frame::profile::kElderlyMassage]);
+  claim.set(claim::registrationHari, profile[frame::slot::kElderlyHari]);
+  claim.set(claim::registrationMassage, profile[frame::slot::kElderlyMassage]);
   setDefaults(claim);
   return claim;
 }

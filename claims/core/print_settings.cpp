@@ -4,7 +4,7 @@ namespace claims {
 namespace {
 
 bool flagRules(const PrintSetting& row, const ClaimRecord& record) {
-  if (row.flag != frame::profile::kRelationPrinted) return row.flag >= 0;
+  if (row.flag != frame::slot::kRelationPrinted) return row.flag >= 0;
   return record.get(claim::relation) == u"本人" || record.ticked(claim::notHead);
 }
 

@@ -125,7 +125,7 @@ inline constexpr PrintSetting kPrintSettings[] = {
      0,
      nullptr,
      Unset::AsOnForm,
-     frame::profile::kRelationPrinted},
+     frame::slot::kRelationPrinted},
     {Setting::ApplicantName,
      claim::printApplicantName,
      u"申請欄の氏名の印字",

@@ -29,7 +29,4 @@ class ClinicProfile {
   std::array<QString, slot::kCount> m_values;
 };
 
-/// The slots of the profile under their former name.
-namespace profile = slot;
-
 }  // namespace frame

@@ -12,7 +12,7 @@ constexpr ItemSize kInsurer[] = {{12, u"Name48"}, {16, u"Name48_1"}, {kAnyLength
 
 /// The insured, or for a late-elderly claim, where the practice has chosen so, the person treated.
 QString applicantName(const Sheet& sheet) {
-  const QString flag = sheet.source.profile[frame::profile::kElderlyNamePrinted];
+  const QString flag = sheet.source.profile[frame::slot::kElderlyNamePrinted];
   const bool treated = sheet.lateElderly() && (flag == u"1" || flag == u"11" || flag == u"111");
   return sheet.value(treated ? claim::treatedName : claim::insuredName);
 }

@@ -36,8 +36,8 @@ QString registrationNumber(const Sheet& sheet) {
 QString associationNumber(const Sheet& sheet) {
   const QString own = sheet.value(claim::institutionNumber);
   if (!own.isEmpty()) return own;
-  return sheet.source.profile[sheet.source.acupuncture() ? frame::profile::kInstitutionHari
-                                                         : frame::profile::kInstitutionMassage];
+  return sheet.source
+      .profile[sheet.source.acupuncture() ? frame::slot::kInstitutionHari : frame::slot::kInstitutionMassage];
 }
 
 /// Mie chooses the institution items again: a late-elderly claim prints the late-elderly number.
@@ -49,8 +49,8 @@ void institutionCodeOfMie(Sheet& sheet, bool registered) {
     sheet.hide(u"KikanCode");
     sheet.hide(u"KikanCode1");
     sheet.print(u"KoukiCode",
-                sheet.source.profile[sheet.source.acupuncture() ? frame::profile::kElderlyHari
-                                                                : frame::profile::kElderlyMassage]);
+                sheet.source.profile[sheet.source.acupuncture() ? frame::slot::kElderlyHari
+                                                                : frame::slot::kElderlyMassage]);
   }
 }
 

@@ -48,7 +48,7 @@ void fillPeriodOfSaitama(Sheet& sheet) {
 
 void relabelVisitingPracticeOfAichi(Sheet& sheet) {
   if (sheet.source.prefecture != frame::Prefecture::Aichi ||
-      sheet.source.profile[frame::profile::kHealthOffice] != u"出張専門施術者住所地")
+      sheet.source.profile[frame::slot::kHealthOffice] != u"出張専門施術者住所地")
     return;
   sheet.mark(u"Text66");
   sheet.print(u"Text67", QStringLiteral("住　所"));

@@ -39,9 +39,9 @@ QString numberOfPractitioner(const Sheet& sheet) {
   const frame::ClinicProfile& profile = sheet.source.profile;
   if (delegated(sheet))
     return sheet.insuranceIs({u"共済", u"組合"}) ? licenceNumbers(sheet)
-                                                 : profile[frame::profile::kPractitionerNumber];
+                                                 : profile[frame::slot::kPractitionerNumber];
   if (profile[frame::slot::kPrintLicence] == kLicencePrinted) return licenceNumbers(sheet);
-  return profile[frame::profile::kRegistration];
+  return profile[frame::slot::kRegistration];
 }
 
 }  // namespace
@@ -49,7 +49,7 @@ QString numberOfPractitioner(const Sheet& sheet) {
 void fillPractitionerNumber(Sheet& sheet) { sheet.print(u"sejutuNO", numberOfPractitioner(sheet)); }
 
 void markHealthOffice(Sheet& sheet) {
-  const QString kind = sheet.source.profile[frame::profile::kHealthOffice];
+  const QString kind = sheet.source.profile[frame::slot::kHealthOffice];
   sheet.markIf(kind == u"施術所所在地", u"tkkubun1");
   sheet.markIf(kind == u"出張専門施術者住所地", u"tkkubun2");
 }

@@ -30,8 +30,8 @@ frame::Patient patient() {
 
 ClaimRecord claimFor(const char16_t* insurance, Kind treatment, CardHolder holder) {
   frame::ClinicProfile profile;
-  profile[frame::profile::kPractitioner] = QStringLiteral("見本 施術");
-  profile[frame::profile::kElderlyMassage] = QStringLiteral("E-2");
+  profile[frame::slot::kPractitioner] = QStringLiteral("見本 施術");
+  profile[frame::slot::kElderlyMassage] = QStringLiteral("E-2");
   return newClaim(patient(), {QString::fromUtf16(insurance), treatment, holder}, profile);
 }
 

@@ -175,7 +175,7 @@ TEST_F(ClaimFormShow, PrintSettingsWithoutAValueShowTheirDefault) {
 }
 
 TEST_F(ClaimFormShow, ThePracticesOwnFlagsGoBeforeTheDefaults) {
-  m_run.profile[frame::profile::kRelationPrinted] = qs(u"0");
+  m_run.profile[frame::slot::kRelationPrinted] = qs(u"0");
   m_run.profile[frame::slot::kPrintApplicantName] = qs(u"1");
   ClaimRecord claim = acupuncture();
   openNew(claim);
@@ -187,7 +187,7 @@ TEST_F(ClaimFormShow, ThePracticesOwnFlagsGoBeforeTheDefaults) {
 }
 
 TEST_F(ClaimFormShow, TheInsuredsFlagLeavesARelativesRelationPrinted) {
-  m_run.profile[frame::profile::kRelationPrinted] = qs(u"0");
+  m_run.profile[frame::slot::kRelationPrinted] = qs(u"0");
   ClaimRecord claim = acupuncture();
   claim.setNamed(qs(u"被保険者との続柄"), qs(u"妻"));
   openNew(claim);

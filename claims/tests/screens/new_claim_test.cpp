@@ -147,8 +147,8 @@ INSTANTIATE_TEST_SUITE_P(All, NewClaimChoices,
                          testing::Combine(testing::Range(0, 7), testing::Range(0, 2), testing::Range(0, 3)));
 
 TEST_F(NewClaimTest, ThePractitionersDataOfTheDayAreCopied) {
-  m_run.profile[frame::profile::kPractitioner] = qs(u"見本 施術");
-  m_run.profile[frame::profile::kClinicName] = qs(u"見本治療院");
+  m_run.profile[frame::slot::kPractitioner] = qs(u"見本 施術");
+  m_run.profile[frame::slot::kClinicName] = qs(u"見本治療院");
   choice();
   m_choice->choose(qs(u"Frame1"), qs(u"国保"));
   m_choice->choose(qs(u"Frame2"), qs(u"鍼灸"));

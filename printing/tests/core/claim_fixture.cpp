@@ -25,8 +25,8 @@ namespace {
 
 void practice(Filled& filled) {
   frame::ClinicProfile& profile = filled.source.profile;
-  profile[frame::profile::kRegistration] = QStringLiteral("登録第０００１号");
-  profile[frame::profile::kHealthOffice] = QStringLiteral("施術所所在地");
+  profile[frame::slot::kRegistration] = QStringLiteral("登録第０００１号");
+  profile[frame::slot::kHealthOffice] = QStringLiteral("施術所所在地");
   filled.source.prefecture = frame::Prefecture::Hokkaido;
   filled.source.aichi = frame::AichiSubmission::AcupunctureAssociation;
   filled.source.edition = Edition::From202410;

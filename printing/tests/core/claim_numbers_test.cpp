@@ -66,8 +66,8 @@ TEST(InstitutionCode, RegistrationNumberInFullWidthElseTheAssociations) {
 TEST(InstitutionCode, KindsOwnNumberWhereTheCommonOneIsBlank) {
   Filled hari, massage(PrintKind::Massage);
   for (Filled* filled : {&hari, &massage}) {
-    filled->source.profile[frame::profile::kInstitutionHari] = QStringLiteral("H1");
-    filled->source.profile[frame::profile::kInstitutionMassage] = QStringLiteral("M1");
+    filled->source.profile[frame::slot::kInstitutionHari] = QStringLiteral("H1");
+    filled->source.profile[frame::slot::kInstitutionMassage] = QStringLiteral("M1");
   }
   EXPECT_EQ(hari["KikanCode1"], QStringLiteral("H1"));
   EXPECT_EQ(massage["KikanCode1"], QStringLiteral("M1"));
@@ -76,7 +76,7 @@ TEST(InstitutionCode, KindsOwnNumberWhereTheCommonOneIsBlank) {
 TEST(InstitutionCode, MieChoosesAgain) {
   Filled filled;
   filled.source.prefecture = frame::Prefecture::Mie;
-  filled.source.profile[frame::profile::kElderlyHari] = QStringLiteral("E-9");
+  filled.source.profile[frame::slot::kElderlyHari] = QStringLiteral("E-9");
   filled.set({{u"保険の種類", u"後期高齢"}, {u"師会等の機関番号", u"K-001"}});
   EXPECT_EQ(filled["KoukiCode"], QStringLiteral("E-9"));
   EXPECT_FALSE(filled.marked("KikanCode"));
@@ -95,8 +95,8 @@ class PractitionerNumber : public ::testing::Test {
       f->source.profile[18] = QStringLiteral("はり1");
       f->source.profile[19] = QStringLiteral("きゅう2");
       f->source.profile[20] = QStringLiteral("マ3");
-      f->source.profile[frame::profile::kPractitionerNumber] = QStringLiteral("施術者4");
-      f->source.profile[frame::profile::kRegistration] = QStringLiteral("登録5");
+      f->source.profile[frame::slot::kPractitionerNumber] = QStringLiteral("施術者4");
+      f->source.profile[frame::slot::kRegistration] = QStringLiteral("登録5");
     }
   }
   Filled hari, massage{PrintKind::Massage};

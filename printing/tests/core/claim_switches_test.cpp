@@ -109,7 +109,7 @@ TEST(Switches, PublicAidSetsTheShareToZero) {
 
 TEST(Switches, PracticesFlagsRuleWhereTheClaimIsBlank) {
   Filled filled = fullAcupuncture();
-  filled.source.profile[frame::profile::kRelationPrinted] = QStringLiteral("0");
+  filled.source.profile[frame::slot::kRelationPrinted] = QStringLiteral("0");
   EXPECT_EQ(filled["Zokugara"], QStringLiteral("妻"));  // the flag is 本人の続柄印刷
   filled.set({{u"被保険者との続柄", u"本人"}});
   EXPECT_FALSE(filled.marked("Zokugara"));
@@ -119,7 +119,7 @@ TEST(Switches, PracticesFlagsRuleWhereTheClaimIsBlank) {
 
 TEST(Switches, TheFlagOfTheInsuredRulesOnesNotHeadOfTheHousehold) {
   Filled filled = fullAcupuncture();
-  filled.source.profile[frame::profile::kRelationPrinted] = QStringLiteral("0");
+  filled.source.profile[frame::slot::kRelationPrinted] = QStringLiteral("0");
   filled.set({{u"保険の種類2", u"-1"}});  // prints as 本人
   EXPECT_FALSE(filled.marked("Zokugara"));
 }
@@ -163,7 +163,7 @@ TEST(Person, LateElderlyNameByTheClinicsFlag) {
   filled.set({{u"保険の種類", u"後期高齢"}});
   EXPECT_EQ(filled["Name5_3"], QStringLiteral("見本太郎"));
   for (const char* flag : {"1", "11", "111"}) {
-    filled.source.profile[frame::profile::kElderlyNamePrinted] = QString::fromUtf8(flag);
+    filled.source.profile[frame::slot::kElderlyNamePrinted] = QString::fromUtf8(flag);
     EXPECT_EQ(filled["Name5_3"], QStringLiteral("見本花子")) << flag;
     EXPECT_EQ(filled["Name5_6"], QStringLiteral("見本花子")) << flag;
   }
@@ -213,7 +213,7 @@ TEST(Prefectures, AichiRelabelsAVisitingPractice) {
   Filled filled = fullAcupuncture();
   filled.source.prefecture = frame::Prefecture::Aichi;
   EXPECT_TRUE(filled.marked("semeisyou1"));
-  filled.source.profile[frame::profile::kHealthOffice] = QStringLiteral("出張専門施術者住所地");
+  filled.source.profile[frame::slot::kHealthOffice] = QStringLiteral("出張専門施術者住所地");
   EXPECT_TRUE(filled.marked("Text66"));
   EXPECT_EQ(filled["Text67"], QStringLiteral("住　所"));
   EXPECT_FALSE(filled.marked("semeisyou1"));
