@@ -33,6 +33,18 @@ bool aloneInCell(const claims::AmountRecord& record, const AmountItem& item) {
   });
 }
 
+/// The recorded items: single boxes, then lines that share a cell, then the other lines, by their fields.
+std::vector<const AmountItem*> inPrintOrder(const claims::AmountRecord& record) {
+  std::vector<const AmountItem*> items;
+  for (const AmountItem& item : record.rules->items)
+    if (record.version->records(item)) items.push_back(&item);
+  std::ranges::sort(items, {}, [](const AmountItem* item) {
+    const int group = !item->boxes.wholeLine() ? 0 : item->boxes.alone != 0 ? 1 : 2;
+    return std::pair(group, item->field.first);
+  });
+  return items;
+}
+
 }  // namespace
 
 claims::Kind recordKind(PrintKind kind) {
@@ -40,11 +52,10 @@ claims::Kind recordKind(PrintKind kind) {
 }
 
 void printRecord(ReportFields& fields, const claims::AmountRecord& record) {
-  for (const AmountItem& item : record.rules->items) {
-    if (!record.version->records(item)) continue;
-    if (item.boxes.wholeLine() && !record.counted(item)) continue;
-    const bool alone = aloneInCell(record, item);
-    putItem(fields, record, item, alone ? claims::lineBoxes(item.boxes.alone) : item.boxes);
+  for (const AmountItem* item : inPrintOrder(record)) {
+    if (item->boxes.wholeLine() && !record.counted(*item)) continue;
+    const bool alone = aloneInCell(record, *item);
+    putItem(fields, record, *item, alone ? claims::lineBoxes(item->boxes.alone) : item->boxes);
   }
 }
 
