@@ -94,6 +94,11 @@ QStringList RegisterScreen::rowInWords() const {
   return {caption(kFields[0]), text(kFields[0])};
 }
 
+void RegisterScreen::sayStored() { say({utf16(words().stored), text(kFields[0])}); }
+
+// After a deletion: how many are left, and the one that is on view now.
+void RegisterScreen::sayDone(const QString& done) { say({done, count(), text(kFields[0])}); }
+
 bool RegisterScreen::mayLeaveRow() {
   if (!source().pending()) return true;
   if (!source().rows().adding() || texts() != m_offered) return RecordScreen::mayLeaveRow();

@@ -40,6 +40,8 @@ class RegisterScreen final : public screen::RecordScreen {
 
  protected:
   QStringList rowInWords() const override;
+  void sayStored() override;
+  void sayDone(const QString& done) override;
   bool readyToStore() override;
   bool mayLeaveRow() override;
 

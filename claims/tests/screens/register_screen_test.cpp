@@ -244,6 +244,8 @@ TEST_F(RegisterScreenTest, DeletingANewRowLeavesTheStoredOnes) {
   push(u"cmdAdd");
   answer({true});
   push(u"cmdDelete");
+  EXPECT_EQ(m_channel.lastSaid(),
+            QStringList({qs(u"削除しました"), qs(u"1件"), kInsurer[0]}).join(QChar(254)));
   EXPECT_EQ(stored(kInsurerRegister), QList<QStringList>({kInsurer}));
   EXPECT_EQ(fields(), kInsurer);
 }
