@@ -16,7 +16,7 @@ struct ShareLine {
 inline constexpr std::array<int, 6> kShareTenths = {1, 2, 3, 7, 8, 9};
 
 /// The table for Int(base), reckoned in whole numbers so that no product is off by a binary fraction. It
-/// serves the user's own checking and changes no claim: a claim's share is told in amounts.h.
+/// serves the user's own checking and changes no claim: a claim's share is computed by amounts.h.
 std::array<ShareLine, 6> shareTable(qint64 base);
 
 }  // namespace claims

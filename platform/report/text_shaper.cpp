@@ -51,7 +51,7 @@ struct Draft {
     bonded.push_back(bond && run.glyphs.size() > 1);
   }
 
-  // Readers of PDF drop blanks and put their own guess of one where a gap is wide. A blank that is told
+  // Readers of PDF drop blanks and put their own guess of one where a gap is wide. A blank that is written
   // together with its neighbours comes back as it was typed.
   void bondBlanks() {
     for (size_t i = 0; i < texts.size(); ++i) {

@@ -23,9 +23,9 @@ class ListScreen : public Screen {
   using Screen::Screen;
 
   /// Puts the rows of the set on view that meet the criteria in its place. False: an empty set, no hit or
-  /// criteria that the engine refuses, each told; the list is as it was.
+  /// criteria that the database refuses, each reported; the list is as it was.
   virtual bool narrowBy(const QString& criteria);
-  /// Puts the set on view in the order ("<column> ASC"). False: told, the list is as it was.
+  /// Puts the set on view in the order ("<column> ASC"). False: reported, the list is as it was.
   virtual bool sortBy(const QString& order);
 
   bool holdsRows() const { return source().isOpen() && source().rows().recordCount() > 0; }
@@ -37,7 +37,7 @@ class ListScreen : public Screen {
   void goLast() override;
 
  protected:
-  /// Opens the table and shows it as the list begins: whole, in its own order. False: a fault was told.
+  /// Opens the table and shows it as the list begins: whole, in its own order. False: a fault was reported.
   virtual bool openWhole() = 0;
   /// What an empty set says to a search, and to sorting.
   virtual QString noRowsText() const { return QString::fromUtf16(kNoRowsText); }
@@ -55,10 +55,10 @@ class ListScreen : public Screen {
   /// narrowBy() with its own words for what was done.
   bool narrow(const QString& criteria, const QString& done);
   /// Tells the text where the set is empty; true where it was. A file that could not be opened is tried again
-  /// and told by name instead.
+  /// and reported by name instead.
   bool emptySet(const QString& text);
   bool emptySet() { return emptySet(noRowsText()); }
-  /// The narrowed or sorted copy of the set on view. What the engine refuses is told in its words.
+  /// The narrowed or sorted copy of the set on view. What the database refuses is reported in its words.
   std::optional<store::RecordSet> setOf(const QString& criteria, const QString& order);
   /// Puts that copy in the list's place, also without rows; false where it was refused.
   bool put(const QString& criteria, const QString& order);

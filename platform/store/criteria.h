@@ -61,7 +61,7 @@ Result<Criteria> parseCriteria(const QString& text, Wildcard wildcard = Wildcard
 /// Reads "<column> ASC", "<column> DESC" or a comma-separated list of such.
 Result<Order> parseOrder(const QString& text);
 
-/// The columns that criteria need in memory; an unknown one is told.
+/// The columns that criteria need in memory; an unknown one is a fault.
 Result<QVector<int>> searchedColumns(const Criteria& criteria, const TableSchema& schema);
 
 /// Numbers, in ID order, of the rows of the memory copy that fit; among these rows where some are given.

@@ -29,9 +29,9 @@ class Engine {
   Done write(const std::function<Done()>& work);
   /// Runs the work while the file stays as it is: in one reading transaction, or in the one that is open.
   Done read(const std::function<Done()>& work);
-  /// The file's counter at the beginning of a transaction that holds the write lock, to be told with the rows
-  /// that it wrote. Copies of another moment are dropped: a counter that other hands set back (a copy put in
-  /// the place of the file's bytes) may come to theirs again.
+  /// The file's counter at the beginning of a transaction that holds the write lock, to be passed on with the
+  /// rows that it wrote. Copies of another moment are dropped: a counter that other hands set back (a copy
+  /// put in the place of the file's bytes) may come to theirs again.
   quint32 counterAtBegin();
   /// Rows that this handle has changed since it was opened.
   int rowsChanged() const { return sqlite3_total_changes(handle()); }

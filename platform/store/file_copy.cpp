@@ -117,7 +117,7 @@ class CopyBatch::Copying {
     endReadBack();  // of a copy that failed as well: the thread goes on to the next
   }
   /// Syncs the copy, with syncfs() all that was written to its disk. The errno, 0: synced. A slow disk takes
-  /// its time here; who looks on is told meanwhile that nothing more came to stand.
+  /// its time here; the progress callback hears meanwhile that nothing more was copied.
   int sync(int (*syncOf)(int)) const {
     if (const int error = stepsOn(DiskStep::Sync)) return error;
     const OpenedFile file(m_beside, O_RDONLY);

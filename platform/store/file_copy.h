@@ -37,8 +37,8 @@ class HeldFile {
  public:
   /// A database file under a read lock: unfinished writes of a program that died are taken back first, other
   /// programs may read on, and one that writes waits, or has us wait. A missing, empty, alien or torn file is
-  /// told by name. Two files that are written together stand at one moment while both are held; take them in
-  /// the order in which they are written.
+  /// reported by name. Two files that are written together stand at one moment while both are held; take them
+  /// in the order in which they are written.
   static Result<std::unique_ptr<HeldFile>> database(const QString& path);
   /// Any other file; whoever replaces it does so by a rename.
   static Result<std::unique_ptr<HeldFile>> plain(const QString& path);
@@ -92,7 +92,7 @@ Done putInPlace(const QString& target, const CopyWatch& watch = {});
 /// would be taken back into the new one by whoever opens it first.
 void dropJournal(const QString& target);
 
-/// The target becomes the same file as the one that stands: by a second name where the folder knows such,
+/// The target becomes the same file as the one that stands: by a hard link where the file system has them,
 /// else as a copy. The file that stands stays.
 Done pushOnto(const QString& standing, const QString& target, const CopyWatch& watch = {});
 /// Whether both names are names of one file.

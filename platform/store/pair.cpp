@@ -24,7 +24,7 @@ struct Half {
   std::shared_ptr<Database> database;
   TableFile file;
   quint32 before = 0;           ///< the file's counter when the transaction began
-  std::vector<qint64> written;  ///< told to the file's record sets after the commit
+  std::vector<qint64> written;  ///< passed to the file's record sets after the commit
   std::vector<qint64> removed;
 };
 
@@ -155,7 +155,7 @@ PairStore::~PairStore() = default;
 
 Result<std::unique_ptr<PairStore>> PairStore::open(const QString& firstPath, const QString& secondPath,
                                                    const QString& table) {
-  // The two files are checked and told by name as any other; the joined handle comes after.
+  // The two files are checked and reported by name as any other; the joined handle comes after.
   for (const QString& path : {firstPath, secondPath})
     if (const Result<std::shared_ptr<Database>> checked = Database::open(path); !checked)
       return checked.fault();

@@ -53,7 +53,7 @@ struct RecordSet::State {
   Result<RowValues> bufferedValues() const;
   Done write(const std::function<Result<qint64>()>& work);
   Result<qint64> writeEdited(const RowValues& values);
-  /// The columns of the names; an unknown one is told.
+  /// The columns of the names; an unknown one is a fault.
   Result<QVector<int>> columns(const QStringList& names) const;
   /// updateAll(): the last of the columns is the one to write.
   Done writeColumn(const QVector<int>& columns,

@@ -12,7 +12,7 @@ namespace store {
 /// What the engine says of its last call on the handle, in plain words and with the file's name.
 Fault engineFault(sqlite3* handle, const QString& path);
 
-/// What is told where a file that may only be read is to be written.
+/// The fault of a write to a file that may only be read.
 Fault readOnly(const QString& path);
 
 /// A text between double quotes, for the names of tables and columns in statements.

@@ -49,8 +49,8 @@ class TableFile {
   Result<qint64> insert(const RowValues& values) const;
   /// The statement that adds a row with these columns, their values bound from 1 on.
   QString insertText(const RowValues& values) const;
-  /// The values that differ from the row as it stands. A write that changes nothing must not be told as one:
-  /// it does not advance the file's counter.
+  /// The values that differ from the row as it stands. A write that changes nothing must not be reported as
+  /// one: it does not advance the file's counter.
   static RowValues differing(const Row& now, const RowValues& values);
   Done update(qint64 id, const RowValues& values) const;
   Done remove(qint64 id) const;
@@ -68,9 +68,9 @@ class TableFile {
 
 /// What a store is refused with when the row is another one than was read.
 Fault changedMeanwhile();
-/// What is told of a row that is no longer there.
+/// The fault of a row that is no longer there.
 Fault rowIsGone();
-/// What is told of a column that the table lacks.
+/// The fault of a column that the table lacks.
 Fault unknownColumn(const QString& column, const QString& table);
 
 }  // namespace store

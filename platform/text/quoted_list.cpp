@@ -66,7 +66,7 @@ class Reader {
 
   bool followedByQuote() const { return m_at + 1 < m_text.size() && m_text[m_at + 1] == kQuote; }
 
-  /// A quote closes its field only before a comma, a line's end or the end; then the reader stands there.
+  /// A quote closes its field only before a comma, a line's end or the end; then that is where the reader is.
   bool endsField() {
     qsizetype next = m_at + 1;
     while (next < m_text.size() && isBlank(m_text[next])) ++next;

@@ -62,7 +62,7 @@ void fillPrintDate(Sheet& sheet) {
 
 void fillClaimMonth(Sheet& sheet) {
   const DateWords words = dateWords(sheet.value(claim::month), sheet.dates);
-  // On paper that is printed already the era word stands there.
+  // On preprinted paper the era word is there already.
   if (!sheet.source.form.itemsOnly) sheet.print(u"GG4", words.era);
   sheet.print(u"YY4", words.year);
   sheet.print(u"MM4", words.month);

@@ -61,7 +61,7 @@ void fillTreatedPerson(Sheet& sheet) {
 
 void fillOnset(Sheet& sheet) {
   printDate(sheet, kOnsetDate, sheet.value(claim::onset));
-  // The massage form has a box for the cause; on the acupuncture form the consented illness stands there.
+  // The massage form has a box for the cause; on the acupuncture form the consented illness is printed there.
   if (!sheet.source.acupuncture()) sheet.copy(u"Name6", claim::cause);
 }
 

@@ -12,7 +12,7 @@ constexpr DateItems kClaimed = {u"GG12", u"YY12", u"MM12", u"DD12"};
 constexpr DateItems kMandated = {u"GG13", u"YY13", u"MM13", u"DD13"};
 constexpr char16_t kLicencePrinted[] = u"2";  ///< 免許番号 in the place of 登録記号番号
 
-/// Columns of whoever stands on the paper: the practitioner or the representative.
+/// Columns of the person named on the paper: the practitioner or the representative.
 struct Signer {
   store::Column name, zip, address, telephone;
 };

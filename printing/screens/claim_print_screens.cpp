@@ -28,7 +28,7 @@ consteval Check tickRow(bool PrintTicks::*tick, const char16_t* caption, const c
   return {.name = {controlOf(tick)}, .caption = caption, .bind = kForThisPrint, .group = group};
 }
 
-/// One era tick for each paper, told apart by the paper's name.
+/// One era tick for each paper, distinguished by the paper's name.
 consteval Check eraTick(bool PrintTicks::*tick, const char16_t* paper) {
   return tickRow(tick, u"申請年月に元号を追加", paper);
 }

@@ -82,7 +82,7 @@ int recompute(const QStringList& arguments) {
     if (stored.calculation) ++withoutFees;
     return stored.claim;
   };
-  // The best of some rounds in turn: the two are told apart by a few microseconds a claim, a disk is not so
+  // The best of some rounds in turn: the two differ by a few microseconds a claim, a disk is not so
   // even.
   double plain = 0, computed = 0;
   for (int round = 0; round < kRounds; ++round) {

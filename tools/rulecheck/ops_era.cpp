@@ -17,11 +17,11 @@ struct Question {
   QString cutover;
 };
 
-QJsonObject told(const std::optional<QString>& result) {
+QJsonObject reply(const std::optional<QString>& result) {
   return {{"ok", result.has_value()}, {"result", result.value_or(QString())}};
 }
 
-QJsonObject told(bool yes) { return {{"ok", yes}, {"result", yes ? "1" : "0"}}; }
+QJsonObject reply(bool yes) { return {{"ok", yes}, {"result", yes ? "1" : "0"}}; }
 
 /// A field's conversion always gives a text; `ok` tells whether it was a date.
 QJsonObject field(const EraDates& dates, const QString& before, const QString& after) {
@@ -35,12 +35,12 @@ QJsonObject parts(const frame::TodayParts& today) {
 
 QJsonObject heiseiToReiwa(const EraDates& dates, const QString& text) {
   const auto date = dates.platformDate(text);
-  return told(date ? dates.heiseiToReiwa(*date) : std::nullopt);
+  return reply(date ? dates.heiseiToReiwa(*date) : std::nullopt);
 }
 
 QJsonObject age(const EraDates& dates, const QString& text) {
   const auto years = dates.ageFromBirthDate(text);
-  return told(years ? std::optional(QString::number(*years)) : std::nullopt);
+  return reply(years ? std::optional(QString::number(*years)) : std::nullopt);
 }
 
 QJsonObject cutover(const EraDates& dates, const Question& asked) {
@@ -55,22 +55,22 @@ QJsonObject claimMonth(const EraDates& dates, const QString& month) {
   const auto date = dates.claimMonthToDate(month);
   const bool supported = dates.capability() == frame::EraCapability::Supported;
   const QString form = supported ? QStringLiteral("yyyy/MM/dd") : QStringLiteral("yyyy/M/d");
-  return told(date ? std::optional(date->toString(form)) : std::nullopt);
+  return reply(date ? std::optional(date->toString(form)) : std::nullopt);
 }
 
 using Call = std::function<QJsonObject(const EraDates&, const Question&)>;
 
 const QHash<QString, Call>& calls() {
   static const QHash<QString, Call> table = {
-      {"FormatEra", [](auto& dates, auto& asked) { return told(dates.formatEra(asked.text)); }},
-      {"ParseEraDate", [](auto& dates, auto& asked) { return told(dates.parseEraDate(asked.text)); }},
-      {"WesternToReiwa", [](auto& dates, auto& asked) { return told(dates.westernToReiwa(asked.text)); }},
+      {"FormatEra", [](auto& dates, auto& asked) { return reply(dates.formatEra(asked.text)); }},
+      {"ParseEraDate", [](auto& dates, auto& asked) { return reply(dates.parseEraDate(asked.text)); }},
+      {"WesternToReiwa", [](auto& dates, auto& asked) { return reply(dates.westernToReiwa(asked.text)); }},
       {"HeiseiToReiwa", [](auto& dates, auto& asked) { return heiseiToReiwa(dates, asked.text); }},
       {"TodayEraParts", [](auto& dates, auto&) { return parts(dates.todayEraParts()); }},
       {"TodayEraPartsMenu", [](auto& dates, auto&) { return parts(dates.todayEraPartsMenu()); }},
       {"AgeFromBirthDate", [](auto& dates, auto& asked) { return age(dates, asked.text); }},
       {"IsAfterReiwaCutover", [](auto& dates, auto& asked) { return cutover(dates, asked); }},
-      {"isDateOk", [](auto& dates, auto& asked) { return told(dates.isDateOk(asked.text)); }},
+      {"isDateOk", [](auto& dates, auto& asked) { return reply(dates.isDateOk(asked.text)); }},
       {"wareki", [](auto& dates, auto& asked) { return field(dates, asked.text, dates.wareki(asked.text)); }},
       {"seireki",
        [](auto& dates, auto& asked) { return field(dates, asked.text, dates.seireki(asked.text)); }},
