@@ -118,5 +118,26 @@ TEST_F(UnreadableClaims, FeeEdition) {
   EXPECT_EQ(edition->yen(Fee::Hari), 1610);
 }
 
+// The row is there, and its later fees cannot be read.
+TEST_F(UnreadableClaims, FeeEditionThatGoesOnInALostPage) {
+  const QString file = u"料金設定2024.mdb"_s, at = folder.filePath(file), marker = nameOf(1);
+  ASSERT_TRUE(store::createFresh(at, file).ok());
+  QHash<QString, store::Value> row;
+  for (const store::ColumnRow& column : store::tableOfFile(file)->columns)
+    if (column.type == store::ColumnType::Text255)
+      row.insert(QString::fromUtf16(column.name), QString(200, u'1'));
+  row.insert(u"はり"_s, u"1610"_s);
+  row.insert(u"加算往診料4K"_s, marker);
+  ASSERT_TRUE(store::addRows(at, u"料金設定"_s, {row}).ok());
+  StoredFees fees;
+  DamagedPage page(at, marker, store::broken::RowPart::Overflow);
+  const auto edition = fees.load(at);
+  ASSERT_FALSE(edition.ok()) << "fees of zero would be charged";
+  EXPECT_TRUE(edition.fault().message.contains(u"壊れている")) << edition.fault().message.toStdString();
+  page.repair();
+  ASSERT_TRUE(fees.load(at).ok());
+  EXPECT_EQ(fees.load(at)->yen(Fee::Hari), 1610);
+}
+
 }  // namespace
 }  // namespace claims

@@ -55,11 +55,15 @@ inline QHash<QString, Value> pageOfRow(const TableRow& table, QHash<QString, Val
   return row;
 }
 
+/// Which part of a row is damaged: a row that is larger than a page goes on in overflow pages, and what lies
+/// before them can still be read.
+enum class RowPart { Beginning, Overflow };
+
 /// Overwrites the page that holds the row with a text, which no other row has. The rows should fill pages of
 /// their own (pageOfRow()). repair() brings the page back.
 class DamagedPage {
  public:
-  DamagedPage(const QString& path, const QString& text) : m_path(path) {
+  DamagedPage(const QString& path, const QString& text, RowPart part = RowPart::Beginning) : m_path(path) {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray bytes = file.readAll();
@@ -69,7 +73,7 @@ class DamagedPage {
     for (qsizetype at = bytes.indexOf(sought); at >= 0 && m_page.isEmpty();
          at = bytes.indexOf(sought, at + 1)) {
       m_place = at / size * size;
-      if (bytes[m_place] == kTableLeaf) m_page = bytes.mid(m_place, size);
+      if ((bytes[m_place] == kTableLeaf) == (part == RowPart::Beginning)) m_page = bytes.mid(m_place, size);
     }
     EXPECT_FALSE(m_page.isEmpty()) << "no row holds " << text.toStdString();
     write(QByteArray(m_page.size(), '\xFF'));
