@@ -49,7 +49,7 @@ void ConsentExtractScreen::extract() {
     messages().tell(::text::utf16(kWriteDates));
     return focusOn(kFrom);
   }
-  auto* list = dynamic_cast<ListScreen*>(navigator().load(routes::ClaimList::screen));
+  ListScreen* list = listOf(*this, routes::ClaimList::screen);
   if (list == nullptr) return;
   const QString criteria = store::spanCriterion(claim::consentUntil, text(kFrom), text(kUntil));
   if (!list->narrowBy(criteria)) return;

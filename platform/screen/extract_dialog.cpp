@@ -43,8 +43,7 @@ QString yesNoText(const QString& typed) {
 }
 
 void ExtractDialog::extract() {
-  const QString listName = QString::fromUtf16(m_row.list.get());
-  auto* list = dynamic_cast<ListScreen*>(navigator().load(listName));
+  ListScreen* list = listOf(*this, m_row.list);
   const int chosen = chosenItem("Combo1");
   QString word = text("Text1");
   if (list == nullptr || chosen < 0) return;
@@ -52,7 +51,7 @@ void ExtractDialog::extract() {
   const ColumnChoice& choice = m_row.columns[static_cast<size_t>(chosen)];
   if (choice.yesNo()) word = yesNoText(word);
   if (!list->narrowBy(store::likeCriterion(QString::fromUtf16(choice.column()), word))) return;
-  navigator().show(listName);
+  navigator().show(list->objectName());
   close();
 }
 

@@ -5,6 +5,13 @@
 
 namespace screen {
 
+ListScreen* listOf(Screen& dialog, const Words& list) {
+  const QString name = QString::fromUtf16(list.get());
+  auto* found = dynamic_cast<ListScreen*>(dialog.navigator().load(name));
+  if (found == nullptr) qCritical("%s is no list", qUtf8Printable(name));
+  return found;
+}
+
 bool ListScreen::emptySet(const QString& text) {
   if (!source().isOpen() && !openWhole()) return true;
   if (holdsRows()) return false;

@@ -67,6 +67,10 @@ class ListScreen : public Screen {
   void step(void (DataSource::*move)());
 };
 
+/// The list that a dialog works for, loaded where it is not yet. A name that is no list's is a mistake of the
+/// program, reported as critical.
+ListScreen* listOf(Screen& dialog, const Words& list);
+
 /// A column that a dialog offers.
 class ColumnChoice {
  public:

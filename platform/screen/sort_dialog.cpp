@@ -33,13 +33,12 @@ void SortDialog::descending() { sort(QStringLiteral(" DESC")); }
 void SortDialog::cancel() { close(); }
 
 void SortDialog::sort(const QString& direction) {
-  const QString listName = QString::fromUtf16(m_row.list.get());
-  auto* list = dynamic_cast<ListScreen*>(navigator().load(listName));
+  ListScreen* list = listOf(*this, m_row.list);
   const int chosen = chosenItem("Combo1");
   if (list == nullptr || chosen < 0) return;
   const QString column = QString::fromUtf16(m_row.columns[static_cast<size_t>(chosen)].column());
   if (!list->sortBy(column + direction)) return;
-  navigator().show(listName);
+  navigator().show(list->objectName());
   close();
 }
 

@@ -120,7 +120,7 @@ void PatientExtractScreen::typeWord() {
 }
 
 void PatientExtractScreen::extract() {
-  auto* list = dynamic_cast<ListScreen*>(navigator().load(routes::PatientList::screen));
+  ListScreen* list = listOf(*this, routes::PatientList::screen);
   if (list == nullptr) return;
   const QString chosenKind = chosen(kKind);
   const Kind* kind =
