@@ -1,19 +1,21 @@
 #include "claims/core/fee_files.h"
 
+#include <array>
+
+#include "platform/store/tables/fees.h"
+
 namespace claims {
 namespace {
 
-constexpr FeeFileRow kNational[] = {
-    {{2024, 6}, u"料金設定2000.mdb"}, {{2022, 6}, u"料金設定2024.mdb"},  {{2020, 12}, u"料金設定2022.mdb"},
-    {{2018, 6}, u"料金設定2020.mdb"}, {{2016, 10}, u"料金設定2018.mdb"}, {{2013, 5}, u"料金設定2016.mdb"},
-    {{2010, 6}, u"料金設定2013.mdb"}, {{1, 1}, u"料金設定2010.mdb"},
-};
-constexpr FeeFileRow kOsaka[] = {
-    {{2018, 6}, u"料金設定o2000.mdb"},
-    {{2016, 10}, u"料金設定o2018.mdb"},
-    {{1, 1}, u"料金設定o2016.mdb"},
-};
-constexpr char16_t kCurrent[] = u"料金設定2000.mdb";
+template <size_t Count>
+constexpr std::array<FeeFileRow, Count> rowsOf(const fees::File (&files)[Count]) {
+  std::array<FeeFileRow, Count> rows{};
+  for (size_t i = 0; i < Count; ++i) rows[i] = {{files[i].year, files[i].month}, files[i].name};
+  return rows;
+}
+
+constexpr auto kNational = rowsOf(fees::nationalFiles);
+constexpr auto kOsaka = rowsOf(fees::osakaFiles);
 
 }  // namespace
 
@@ -36,7 +38,7 @@ FeeFiles::FeeFiles(QString folder, const frame::DataFolders& folders)
 QString FeeFiles::path(QDate claimMonth, FeeSet set) const {
   const QString file =
       set == FeeSet::National ? pickFeeFile(claimMonth, national) : pickFeeFile(claimMonth, set);
-  return file == kCurrent ? current : programFolder + u'/' + file;
+  return file == fees::nationalFiles[0].name ? current : programFolder + u'/' + file;
 }
 
 }  // namespace claims

@@ -23,9 +23,7 @@ std::span<const FeeFileRow> feeFileRows(FeeSet set = FeeSet::National);
 
 /// The file of a claim month among the given rows.
 QString pickFeeFile(QDate claimMonth, std::span<const FeeFileRow> rows);
-/// pickFeeFile: the file name whose edition a claim month is computed with (料金設定2024.mdb). The name's
-/// year is the year in which the edition ended. 料金設定2019.mdb is never picked: it was tested with the
-/// same date as 2018 and so never stayed chosen; kept.
+/// pickFeeFile: the file name whose edition a claim month is computed with (料金設定2024.mdb).
 QString pickFeeFile(QDate claimMonth, FeeSet set = FeeSet::National);
 
 /// Where fee files lie: the current national edition at its data-folder path, all others beside the program.

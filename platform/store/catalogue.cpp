@@ -1,5 +1,8 @@
 #include "platform/store/catalogue.h"
 
+#include <algorithm>
+#include <array>
+
 #include "platform/store/tables/bookings.h"
 #include "platform/store/tables/claims.h"
 #include "platform/store/tables/dictionaries.h"
@@ -21,18 +24,24 @@ constexpr TableRow kTables[] = {
     row(u"保険申請2000_2.mdb", 14, claim::routeWork), row(u"Keiraku2000.mdb", 3, acupoints::table),
     row(u"CLmoji2000.mdb", 4, phrases::table),        row(u"CL2moji2000.mdb", 5, phrasePairs::table),
     row(u"カルテ2データ2000.mdb", 6, visits::table),  row(u"同意医師2000.mdb", 11, doctors::table),
-    row(u"保険者2000.mdb", 12, insurers::table),      row(u"料金設定2000.mdb", 13, fees::table),
-    row(u"料金設定2010.mdb", -1, fees::table),        row(u"料金設定2013.mdb", -1, fees::table),
-    row(u"料金設定2016.mdb", -1, fees::table),        row(u"料金設定2018.mdb", -1, fees::table),
-    row(u"料金設定2019.mdb", -1, fees::table),        row(u"料金設定2020.mdb", -1, fees::table),
-    row(u"料金設定2022.mdb", -1, fees::table),        row(u"料金設定2024.mdb", -1, fees::table),
-    row(u"料金設定o2000.mdb", -1, fees::table),       row(u"料金設定o2016.mdb", -1, fees::table),
-    row(u"料金設定o2018.mdb", -1, fees::table),
+    row(u"保険者2000.mdb", 12, insurers::table),
 };
+
+/// All tables: those above, then the fee files, of which the first has an entry among the data folders.
+constexpr auto kCatalogue = [] {
+  constexpr size_t kFeeFiles = std::size(fees::nationalFiles) + std::size(fees::osakaFiles) + 1;
+  std::array<TableRow, std::size(kTables) + kFeeFiles> all{};
+  auto end = std::ranges::copy(kTables, all.begin()).out;
+  for (const fees::File& file : fees::nationalFiles)
+    *end++ = row(file.name, &file == fees::nationalFiles ? 13 : -1, fees::table);
+  *end++ = row(fees::unpickedFile.name, -1, fees::table);
+  for (const fees::File& file : fees::osakaFiles) *end++ = row(file.name, -1, fees::table);
+  return all;
+}();
 
 }  // namespace
 
-std::span<const TableRow> catalogue() { return kTables; }
+std::span<const TableRow> catalogue() { return kCatalogue; }
 
 const TableRow* tableOfFile(const QString& fileName) {
   for (const TableRow& row : catalogue())

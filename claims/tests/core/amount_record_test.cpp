@@ -11,8 +11,8 @@ using testing::makeClaim;
 
 QString recordOf(const ClaimRecord& claim) {
   testing::CsvFees fees;
-  const FeeEdition edition = fees.load(QStringLiteral("料金設定2000.mdb")).value();
   const auto flags = monthFlags(claim.get(claim::month), testing::era());
+  const FeeEdition edition = fees.load(pickFeeFile(*flags.month)).value();
   return amountRecord(amounts(claim, edition, flags, Path::Store), areaBoxes(claim));
 }
 

@@ -55,7 +55,7 @@ TEST(EraTable, EveryMarkIsUsedOnce) {
         marks.insert(QString::fromUtf16(version.mark));
         ++versions;
       }
-  EXPECT_EQ(versions, 2);
+  EXPECT_GE(versions, 2);
   EXPECT_EQ(marks.size(), versions);
 }
 

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <vector>
 
+#include "claims/core/amount_item_checks.h"
 #include "claims/core/counters.h"
 #include "claims/core/era.h"
 #include "claims/core/fee_files.h"
@@ -10,31 +11,31 @@
 
 namespace claims::testing {
 
-/// An invented revision of the acupuncture fees from 令和13年6月, as rows next to those of the program: new
+/// An invented revision of the acupuncture fees from 令和60年6月, as rows next to those of the program: new
 /// prices in a fee file of their own, and one new surcharge a visit, with a tick, three record fields and
 /// three boxes.
 class InventedRevision final : public FeeSource {
  public:
-  static constexpr rule::Date kFrom{2031, 6};
-  static constexpr char16_t kMark[] = u"鍼データ集結ver9.1";
-  static constexpr char16_t kFile[] = u"料金設定2031";
+  static constexpr rule::Date kFrom{2078, 6};
+  static constexpr char16_t kMark[] = u"鍼データ集結見本";
+  static constexpr char16_t kFile[] = u"料金設定2078";
   static constexpr store::Column kTick = claim::spareE[31];
-  static constexpr AmountItem kSurcharge = {.label = u"見本加算",
-                                            .counter = counters::visitDays,
-                                            .fee = Fee::KyuElectricFirst,  // priced by no other item
-                                            .tick = kTick,
-                                            .from = kFrom,
-                                            .field = {49},
-                                            .boxes = lineBoxes(66)};
+  static constexpr int kFirstBox = 901;
 
   InventedRevision() {
     const std::span<const FeeFileRow> files = feeFileRows();
-    m_files.push_back({kFrom, u"料金設定2031.mdb"});
+    m_files.push_back({kFrom, u"料金設定2078.mdb"});
     m_files.insert(m_files.end(), files.begin(), files.end());
     m_eras.assign(eras().begin(), eras().end());
     KindRules& rules = m_eras.back().acupuncture;
     m_items.assign(rules.items.begin(), rules.items.end());
-    m_items.push_back(kSurcharge);
+    m_items.push_back({.label = u"見本加算",
+                       .counter = counters::visitDays,
+                       .fee = Fee::KyuElectricFirst,  // priced by no other item
+                       .tick = kTick,
+                       .from = kFrom,
+                       .field = {lastField(rules.items, rules.versions.back()) + 1},
+                       .boxes = lineBoxes(kFirstBox)});
     m_versions.assign(rules.versions.begin(), rules.versions.end());
     m_versions.push_back({kMark, kFrom});
     rules.items = m_items;
@@ -44,6 +45,7 @@ class InventedRevision final : public FeeSource {
 
   EraTable table() const { return m_eras; }
   const KindRules& acupuncture() const { return m_eras.back().acupuncture; }
+  const AmountItem& surcharge() const { return m_items.back(); }
   std::span<const FeeFileRow> files() const { return m_files; }
 
   /// The prices of the revision; all other files are the program's.

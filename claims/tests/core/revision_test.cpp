@@ -41,7 +41,7 @@ TEST_F(Revision, ItsTablesAreSound) {
 }
 
 TEST_F(Revision, TheTickChargesTheSurchargeAtTheNewPrices) {
-  const StoredClaim stored = store(needleClaim(u"令和13年6月", u"1"));
+  const StoredClaim stored = store(needleClaim(u"令和60年6月", u"1"));
   ASSERT_FALSE(stored.calculation);
   // needles 2,000 x 2 (the sudden visit is a plain day too), one patient 4,000, sudden 2,500, 70 x 2 visits
   EXPECT_EQ(stored.amounts.total, 4000 + 4000 + 2500 + 140);
@@ -55,24 +55,26 @@ TEST_F(Revision, TheTickChargesTheSurchargeAtTheNewPrices) {
 }
 
 TEST_F(Revision, TheRecordHasThreeMoreFieldsUnderItsOwnMark) {
-  const QStringList fields = read(store(needleClaim(u"令和13年6月", u"1")));
-  ASSERT_EQ(fields.size(), 52);
+  const QStringList fields = read(store(needleClaim(u"令和60年6月", u"1")));
+  const int first = revision.surcharge().field.first;
+  ASSERT_EQ(fields.size(), first + 3);
   EXPECT_EQ(fields[0], QStringView(InventedRevision::kMark));
   EXPECT_EQ(fields.mid(4, 3), QStringList({"2000", "2", "4000"}));
-  EXPECT_EQ(fields.mid(46), QStringList({"10640", "3192", "7448", "70", "2", "140"}));
+  EXPECT_EQ(fields.mid(46, 3), QStringList({"10640", "3192", "7448"}));
+  EXPECT_EQ(fields.mid(first), QStringList({"70", "2", "140"}));
 }
 
 TEST_F(Revision, WithoutTheTickTheFieldsAreZero) {
   for (const char16_t* tick : {u"", u"0"}) {
-    const StoredClaim stored = store(needleClaim(u"令和13年6月", tick));
+    const StoredClaim stored = store(needleClaim(u"令和60年6月", tick));
     EXPECT_EQ(stored.amounts.total, 10500);
-    EXPECT_EQ(read(stored).mid(49), QStringList({"0", "0", "0"}));
+    EXPECT_EQ(read(stored).mid(revision.surcharge().field.first), QStringList({"0", "0", "0"}));
   }
 }
 
 TEST_F(Revision, EarlierMonthsStayAsTheyWere) {
   for (const char16_t* month :
-       {u"平成28年10月", u"平成30年9月", u"令和6年9月", u"令和6年10月", u"令和13年5月"}) {
+       {u"平成28年10月", u"平成30年9月", u"令和6年9月", u"令和6年10月", u"令和60年5月"}) {
     const ClaimRecord claim = needleClaim(month, u"1");
     const StoredClaim stored = store(claim), before = storeWithoutRevision(claim);
     EXPECT_GT(stored.amounts.total, 0);
@@ -82,23 +84,23 @@ TEST_F(Revision, EarlierMonthsStayAsTheyWere) {
 
 TEST_F(Revision, MassageIsNotTouched) {
   const ClaimRecord claim =
-      makeClaim(u"令和13年6月", u"あマ", u"1割", u"1=g2", {{InventedRevision::kTick.name(), u"1"}});
-  const FeeEdition fees = revision.load(QStringLiteral("料金設定2000.mdb")).value();
-  const MonthFlags flags = monthFlags(QDate(2031, 6, 1));
+      makeClaim(u"令和60年6月", u"あマ", u"1割", u"1=g2", {{InventedRevision::kTick.name(), u"1"}});
+  const MonthFlags flags = monthFlags(QDate(2078, 6, 1));
+  const FeeEdition fees = revision.load(pickFeeFile(*flags.month)).value();
   EXPECT_EQ(amountRecord(amounts(claim, fees, flags, Path::Store, revision.table()), {}),
             amountRecord(amounts(claim, fees, flags, Path::Store), {}));
 }
 
 TEST_F(Revision, ARecordIsReadByTheVersionOfItsMark) {
-  const QString older = store(needleClaim(u"令和13年5月", u"1")).claim.get(claim::hariRecord);
-  const QString newer = store(needleClaim(u"令和13年6月", u"1")).claim.get(claim::hariRecord);
+  const QString older = store(needleClaim(u"令和60年5月", u"1")).claim.get(claim::hariRecord);
+  const QString newer = store(needleClaim(u"令和60年6月", u"1")).claim.get(claim::hariRecord);
   const auto readOlder = readAmountRecord(older, Kind::Acupuncture, revision.table());
   const auto readNewer = readAmountRecord(newer, Kind::Acupuncture, revision.table());
   ASSERT_TRUE(readOlder && readNewer);
-  EXPECT_EQ(readOlder->version->from, rule::kVisitTreatment);
+  EXPECT_EQ(readOlder->version->mark, eras().back().acupuncture.versions.back().mark);
   EXPECT_EQ(readNewer->version->from, InventedRevision::kFrom);
-  EXPECT_FALSE(readOlder->version->records(InventedRevision::kSurcharge));
-  EXPECT_TRUE(readNewer->version->records(InventedRevision::kSurcharge));
+  EXPECT_FALSE(readOlder->version->records(revision.surcharge()));
+  EXPECT_TRUE(readNewer->version->records(revision.surcharge()));
   EXPECT_TRUE(amountRecordFields(newer).isEmpty()) << "a program without the revision does not know it";
   EXPECT_FALSE(readAmountRecord(older, Kind::Massage, revision.table()));
 }

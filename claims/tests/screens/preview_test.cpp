@@ -310,7 +310,7 @@ TEST_P(PreviewCommands, AnInventedSurchargeHasItsLine) {
   const InventedRevision revision;
   const QString last = QStringLiteral("Text1(%1)").arg(GetParam().lines.size());
   EXPECT_FALSE(m_screen->isControlShown(last));
-  m_shown.claim.set(claim::month, qs(u"令和13年6月"));
+  m_shown.claim.set(claim::month, qs(u"令和60年6月"));
   m_shown.claim.set(InventedRevision::kTick, qs(u"1"));
   PreviewScreen screen(previewScreens()[4], m_services, m_run, m_state, revision.table());
   screen.opened({});

@@ -63,4 +63,27 @@ inline constexpr store::Series massageVisit2 = table.series(u"マ訪問施術2",
 inline constexpr store::Series massageVisit3 = table.series(u"マ訪問施術31", 1, 5);
 inline constexpr store::Series massageVisit10 = table.series(u"マ訪問施術32", 1, 5);
 
+/// A file of the table and the first claim month that it holds for.
+struct File {
+  const char16_t* name;
+  int year, month;
+};
+
+/// The national fees, newest first. The first file lies at its data-folder path, all others in the program
+/// folder; the last holds for all earlier months too. The year in a name is that in which the edition ended.
+inline constexpr File nationalFiles[] = {
+    {u"料金設定2000.mdb", 2024, 6}, {u"料金設定2024.mdb", 2022, 6},  {u"料金設定2022.mdb", 2020, 12},
+    {u"料金設定2020.mdb", 2018, 6}, {u"料金設定2018.mdb", 2016, 10}, {u"料金設定2016.mdb", 2013, 5},
+    {u"料金設定2013.mdb", 2010, 6}, {u"料金設定2010.mdb", 1, 1},
+};
+/// The fees of one association in Osaka, newest first.
+inline constexpr File osakaFiles[] = {
+    {u"料金設定o2000.mdb", 2018, 6},
+    {u"料金設定o2018.mdb", 2016, 10},
+    {u"料金設定o2016.mdb", 1, 1},
+};
+/// Kept: shipped, but no claim month picks it. It was tested with the same date as that of 2018 and so never
+/// stayed chosen.
+inline constexpr File unpickedFile = {u"料金設定2019.mdb", 0, 0};
+
 }  // namespace fees

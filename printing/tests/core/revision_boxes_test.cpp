@@ -22,9 +22,9 @@ using claims::testing::InventedRevision;
 constexpr char kForm[] =
     "form HARI_910\n"
     "base HARI_900\n"
-    "text dain66 20 250 20 5 pt 9 right\n"
-    "text dain67 45 250 20 5 pt 9 right\n"
-    "text dain68 70 250 20 5 pt 9 right\n";
+    "text dain901 20 250 20 5 pt 9 right\n"
+    "text dain902 45 250 20 5 pt 9 right\n"
+    "text dain903 70 250 20 5 pt 9 right\n";
 
 class RevisionBoxes : public ::testing::Test {
  protected:
@@ -44,7 +44,7 @@ class RevisionBoxes : public ::testing::Test {
     SpyEngine engine;
     ReportFields fields(engine);
     fillClaim900(fields, source, claims::testing::era(), table);
-    return engine.sheet().filter(QRegularExpression(QStringLiteral("^dain6[6-8]=|^dain46=")));
+    return engine.sheet().filter(QRegularExpression(QStringLiteral("^dain90[1-3]=|^dain46=")));
   }
 
   InventedRevision revision;
@@ -52,12 +52,12 @@ class RevisionBoxes : public ::testing::Test {
 
 TEST_F(RevisionBoxes, TheSurchargeGoesToItsBoxes) {
   // needles 2,000 x 2, one patient 4,000, sudden 2,500, the surcharge 70 x 2
-  EXPECT_EQ(boxes(sourceOf(u"令和13年6月"), revision.table()),
-            QStringList({"dain46=10,640", "dain66=70", "dain67=2", "dain68=140"}));
+  EXPECT_EQ(boxes(sourceOf(u"令和60年6月"), revision.table()),
+            QStringList({"dain46=10,640", "dain901=70", "dain902=2", "dain903=140"}));
 }
 
 TEST_F(RevisionBoxes, AnEarlierClaimPrintsAsBefore) {
-  const PrintSource source = sourceOf(u"令和13年5月");
+  const PrintSource source = sourceOf(u"令和60年5月");
   const QStringList before = boxes(source, claims::eras());
   ASSERT_EQ(before.size(), 1);
   EXPECT_EQ(boxes(source, revision.table()), before);
@@ -75,7 +75,7 @@ TEST_F(RevisionBoxes, TheFormOfTheRevisionPrintsThem) {
   ASSERT_EQ(engine.PR_LoadReport(0, 0, QStringLiteral("HARI_910.PRP")), 0)
       << engine.loadFault().toStdString();
   ReportFields fields(engine);
-  fillClaim900(fields, sourceOf(u"令和13年6月"), claims::testing::era(), revision.table());
+  fillClaim900(fields, sourceOf(u"令和60年6月"), claims::testing::era(), revision.table());
   engine.PR_PlayReport();
   engine.PR_EndDoc();
   QProcess reader;
