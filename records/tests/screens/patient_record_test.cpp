@@ -44,6 +44,7 @@ TEST_F(PatientScreenTest, NewPatientIsAskedForAndTheUserIsRemindedToStore) {
           u"　　　新しい患者を追加しますか？"_s,
           u"記入後には、登録ボタンを押してからカルテへ移動してください。登録ボタンをおさないとカルテは開きません。"_s}));
   EXPECT_EQ(screen.text(u"Text2"_s), u"20240615001"_s);
+  EXPECT_EQ(screen.focused(), u"txtFields(1)"_s) << "a new patient begins with 患者ID";
 }
 
 TEST_F(PatientScreenTest, RefusedNewPatientChangesNothing) {
